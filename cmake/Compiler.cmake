@@ -1,0 +1,19 @@
+# Compiler options shared by every target, as one interface library.
+add_library(ferna_options INTERFACE)
+target_include_directories(ferna_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(ferna_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+    # The same bits from every compiler and every build type: no fused multiply-add, no fast-math.
+    -ffp-contract=off)
+if(FERNA_WERROR)
+    target_compile_options(ferna_options INTERFACE -Werror)
+endif()
+target_compile_definitions(ferna_options INTERFACE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
+    FERNA_VERSION="${PROJECT_VERSION}")
+if(FERNA_SANITIZE)
+    target_compile_options(ferna_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(ferna_options INTERFACE -fsanitize=address,undefined)
+    target_compile_definitions(ferna_options INTERFACE FERNA_SANITIZE)
+endif()

@@ -1,0 +1,32 @@
+#include "runtime/dialogs.h"
+
+namespace ferna {
+
+void ScriptedDialogs::message(const QString& text, const QString& title, MessageStyle style) {
+    messages.push_back({text, title, style});
+}
+
+bool ScriptedDialogs::confirm(const QString& text, const QString& title) {
+    return input(text, title, {}, {}) == u"tak";
+}
+
+QString ScriptedDialogs::input(const QString& prompt, const QString& title, const QString& preset,
+                               std::optional<QPoint> /*position*/) {
+    questions.push_back({prompt, title, MessageStyle::Question});
+    return nextAnswer().value_or(preset);
+}
+
+std::optional<QString> ScriptedDialogs::saveFile(const SaveQuestion& question) {
+    questions.push_back({question.preset, question.title, MessageStyle::Question});
+    return nextAnswer();
+}
+
+std::optional<QString> ScriptedDialogs::nextAnswer() {
+    if (answers.empty())
+        return std::nullopt;
+    QString answer = answers.front();
+    answers.pop_front();
+    return answer;
+}
+
+} // namespace ferna

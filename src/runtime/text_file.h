@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace ferna {
+
+/// Text files of the program: code page 1250, lines ended by carriage return and line feed.
+
+/// The lines of a file. A line feed alone ends a line too; a last line end starts no further line.
+/// Errors 53, 70, 75 (missing, forbidden, a folder), 57 (unreadable, or no text in code page 1250:
+/// the detail names file and line).
+QStringList readLines(const QString& path);
+
+/// Collects lines and writes them as one file. Nothing is on the disk before `commit`, and `commit`
+/// writes to a temporary name and renames, so that a crash leaves the old file or the new one.
+class TextFileWriter {
+public:
+    /// One line; an empty one by default.
+    void line(QStringView text = {});
+
+    /// What has been written so far, as bytes.
+    const QByteArray& bytes() const { return bytes_; }
+
+    /// Errors 70, 75, 76, 61, 57 with the file's name.
+    void commit(const QString& path) const;
+
+private:
+    QByteArray bytes_;
+};
+
+/// Writes bytes under a temporary name in the same folder and renames. Errors as `commit`.
+void writeFileWhole(const QString& path, const QByteArray& bytes);
+
+/// The bytes of a file. Errors 53, 70, 75, 57.
+QByteArray readFileWhole(const QString& path);
+
+} // namespace ferna
