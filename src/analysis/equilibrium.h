@@ -1,0 +1,34 @@
+#pragma once
+
+#include "analysis/stan_przypadku.h"
+
+namespace ferna {
+
+// For a candidate neutral line: the compressed zone, the distances of the anchors, the stress scale
+// that satisfies the equilibrium of forces, and the two moment errors that are left. Closed forms,
+// in plain doubles and in this order of operations: the search depends on their last bits. None of
+// them allocates. A division by zero is error 11, a value that is not finite error 6.
+
+/// Most evaluations of `Rownowaga_c` in one attempt of the search.
+inline constexpr int evaluationLimit = 1'000'000;
+
+/// Thrown by `Rownowaga_c` when an attempt has used up its evaluations.
+struct EvaluationLimitReached {};
+
+/// Shape, integral and centroid of the compressed zone, and the four crossings of the line with the
+/// edges (cm). Reads C_linii, Sin_beta, Nachylenie, Pol_a, Pol_b.
+void Pole_strefy(Stan_przypadku& s);
+
+/// Distances of the anchors from the line and their sums over the tension side. An anchor on the
+/// line adds nothing. Reads Sin_beta, Cos_beta, C_linii, Xn, Yn; writes `Odl_kotwy`.
+void Odleglosci_srub(Stan_przypadku& s, Plyta_i_kotwy& plate);
+
+/// Both of the above, then the stress scale k from the equilibrium of forces, the resultants and
+/// the moment error about the line, `Reszta_c`, for the current case.
+void Rownowaga_c(Stan_przypadku& s, Stan& stan);
+
+/// The moment error along the line, `Reszta_beta`, at the present line; k and the concrete
+/// resultant stay those of the last `Rownowaga_c`.
+void Rownowaga_beta(Stan_przypadku& s, Stan& stan);
+
+} // namespace ferna

@@ -1,0 +1,184 @@
+#include "analysis/search.h"
+
+namespace ferna {
+
+namespace {
+
+// Tolerances of the moment errors, kG cm, and the smallest steps.
+constexpr Double coarseTolerance = 1000;
+constexpr Double fineTolerance = 100;
+constexpr Double smallestStepC = 0.01;           // cm
+constexpr Double smallestStepBetaDegrees = 0.01; // degrees
+constexpr Integer stepsWrapAt = 32000;
+constexpr Integer stepsWrapTo = 10;
+
+bool movesTowardsZero(Double residual, Double previous) {
+    return (residual > previous && residual < 0) || (residual <= previous && residual > 0);
+}
+
+/// The share of the last step by which a change of sign is behind its end.
+Double stepBack(Double step, Double residual, Double previous) {
+    return divided(step * std::fabs(residual), std::fabs(residual) + std::fabs(previous));
+}
+
+/// Cold start: marches until the error is negative; where it stops falling, steps back and refines.
+void marchToNegative(Stan_przypadku& s, Stan& stan) {
+    Rownowaga_c(s, stan);
+    for (;;) {
+        s.C_linii += s.Krok_c;
+        s.Reszta_c_poprz = s.Reszta_c;
+        Rownowaga_c(s, stan);
+        if (s.Reszta_c < 0)
+            return;
+        if (s.Reszta_c < s.Reszta_c_poprz)
+            continue;
+        s.C_linii -= s.Krok_c;
+        s.Krok_c = 0.1 * s.Krok_c;
+    }
+}
+
+/// Marches until the error changes its sign, reversing at a tenth of the step where it moves away.
+void marchToSignChange(Stan_przypadku& s, Stan& stan) {
+    for (;;) {
+        if (++s.Kroki_c >= stepsWrapAt)
+            s.Kroki_c = stepsWrapTo;
+        s.Reszta_c_poprz = s.Reszta_c;
+        s.C_linii += s.Krok_c;
+        Rownowaga_c(s, stan);
+        if (s.Reszta_c_poprz * s.Reszta_c < 0)
+            return;
+        if (movesTowardsZero(s.Reszta_c, s.Reszta_c_poprz))
+            continue;
+        if (s.Kroki_c > 2) {
+            s.Kroki_c = 0;
+            s.C_linii -= s.Krok_c;
+            s.Nawroty = 0;
+            s.Krok_c = 0.1 * s.Krok_c;
+            continue;
+        }
+        if (++s.Nawroty > 1) {
+            s.Nawroty = 0;
+            s.Krok_c = 0.1 * s.Krok_c;
+            continue;
+        }
+        s.Krok_c = -0.1 * s.Krok_c;
+        s.C_linii += s.Krok_c;
+        s.Kroki_c = 0;
+    }
+}
+
+/// Interpolates at the change of sign. True where the search ends: by the error of the last line
+/// that was evaluated (the interpolated one is not), or by the step.
+bool interpolateC(Stan_przypadku& s, Double oneDegree) {
+    s.Nawroty = 0;
+    s.C_linii -= stepBack(s.Krok_c, s.Reszta_c, s.Reszta_c_poprz);
+    const Double tolerance = std::fabs(s.Krok_beta) > oneDegree ? coarseTolerance : fineTolerance;
+    if (std::fabs(s.Reszta_c) < tolerance)
+        return true;
+    s.Krok_c = 0.1 * s.Krok_c;
+    return std::fabs(s.Krok_c) < smallestStepC;
+}
+
+/// Interpolates the angle at the change of sign. True where the search ends.
+bool interpolateBeta(Stan_przypadku& s, Stan& stan) {
+    s.Beta -= stepBack(s.Krok_beta, s.Reszta_beta, s.Reszta_beta_poprz);
+    Szukaj_c(s, stan);
+    if (!s.Jest_rozw) // cannot be: the angle lies between two admissible ones
+        throw RunTimeError(error::Internal);
+    Rownowaga_beta(s, stan);
+    if (std::fabs(s.Reszta_beta) < fineTolerance)
+        return true;
+    s.Krok_beta = 0.1 * s.Krok_beta;
+    return std::fabs(s.Krok_beta) < smallestStepBetaDegrees / stan.opcje.Stopnie_na_radian;
+}
+
+} // namespace
+
+void Szukaj_c(Stan_przypadku& s, Stan& stan) {
+    s.Reszta_c_poprz = 0;
+    s.Nawroty = 0;
+    s.Sin_beta = std::sin(s.Beta);
+    s.Cos_beta = std::cos(s.Beta);
+    s.Nachylenie = divided(-s.Cos_beta, s.Sin_beta);
+    if (s.Beta < 0 || s.Beta > Pi / 2) {
+        s.Jest_rozw = false;
+        return;
+    }
+    s.Jest_rozw = true;
+
+    const Double oneDegree = 1 / stan.opcje.Stopnie_na_radian;
+    if (s.Drugie_wejscie == 1) { // warm start; Kroki_c counts on
+        s.C_linii -= s.Plyta_L / 20;
+        Rownowaga_c(s, stan);
+        s.Krok_c = 1;
+    } else {
+        marchToNegative(s, stan);
+        if (interpolateC(s, oneDegree))
+            return;
+        s.Kroki_c = 0;
+    }
+    for (;;) {
+        marchToSignChange(s, stan);
+        if (interpolateC(s, oneDegree))
+            return;
+        s.Kroki_c = 0;
+    }
+}
+
+void Szukaj_beta(Stan_przypadku& s, Stan& stan, Dialogs& dialogs) {
+    s.Reszta_c_poprz = 0;
+    Rownowaga_beta(s, stan);
+    s.Nawroty = 0;
+    for (;;) {
+        s.Reszta_beta_poprz = s.Reszta_beta;
+        s.Beta += s.Krok_beta;
+        Szukaj_c(s, stan);
+        if (!s.Jest_rozw) {
+            Ponow_probe(s, stan, dialogs);
+            return;
+        }
+        Rownowaga_beta(s, stan);
+        if (s.Reszta_beta_poprz * s.Reszta_beta < 0) {
+            if (interpolateBeta(s, stan))
+                return;
+            continue;
+        }
+        if (movesTowardsZero(s.Reszta_beta, s.Reszta_beta_poprz))
+            continue;
+        // Szukaj_c has just zeroed the shared counter, so every step away turns the march back.
+        if (++s.Nawroty > 1) {
+            s.Nawroty = 0;
+            s.Krok_beta = 0.1 * s.Krok_beta;
+            continue;
+        }
+        s.Krok_beta = -s.Krok_beta;
+        s.Beta += s.Krok_beta;
+    }
+}
+
+void Ponow_probe(Stan_przypadku& s, Stan& stan, Dialogs& dialogs) {
+    s.Jest_rozw = false;
+    Obciazenia& loads = stan.obciazenia;
+    if (loads.Pierwsza_proba(loads.Nr_przyp)) {
+        loads.Pierwsza_proba(loads.Nr_przyp) = false;
+        if (std::fabs(loads.Moment_M2_kGcm) < std::fabs(loads.Moment_M1_kGcm))
+            loads.Moment_M2_kGcm = 1.1 * loads.Moment_M2_kGcm;
+        else
+            loads.Moment_M1_kGcm = 1.1 * loads.Moment_M1_kGcm;
+        return;
+    }
+    dialogs.message(QStringLiteral("Brak ścisłego rozwiazania!\nRozwiązanie przybliżone."),
+                    programTitle, MessageStyle::Plain);
+    if (!s.Dane_skorygowane) {
+        s.Dane_skorygowane = true;
+        const int last = stan.plyta.Liczba_srub;
+        stan.plyta.X_kotwy(last) = CSng(stan.plyta.X_kotwy(last) * 0.995);
+        stan.plyta.Y_kotwy(last) = CSng(stan.plyta.Y_kotwy(last) * 0.995);
+        return;
+    }
+    dialogs.message(QStringLiteral("BRAK ROZWIĄZANIA\nZmodyfikuj nieco dane"), programTitle,
+                    MessageStyle::Plain);
+    s.Przerwij_obliczenia = true;
+}
+
+} // namespace ferna

@@ -1,0 +1,188 @@
+#include "design/user_steels.h"
+#include "support/decimal_comma.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+using namespace ferna;
+using ferna::testing::WithDecimalSign;
+
+namespace {
+
+const QString title = QStringLiteral("Błąd w opisie stali użytkownika");
+
+struct AnchorSteelDialog : ::testing::Test {
+    WithDecimalSign comma{u','};
+    Stan stan;
+    ScriptedDialogs dialogs;
+    // fd, largest diameter, Rm, Re
+    AnchorSteelFields fields{QStringLiteral("10.9"),
+                             {QStringLiteral("640"), QStringLiteral("36"), QStringLiteral("1000"),
+                              QStringLiteral("900,5")}};
+
+    AnchorSteelDialog() {
+        stan.plyta.Fi_max = 24;
+        stan.materialy.Stal_Re = 355; // of the last acceptance
+        stan.materialy.Stal_Rm = 490;
+    }
+
+    std::optional<SteelField> ok() { return acceptAnchorSteel(stan, fields, dialogs); }
+
+    void expectRefused(const char16_t* text, SteelField focus) {
+        dialogs.messages.clear();
+        EXPECT_EQ(ok(), focus);
+        ASSERT_EQ(dialogs.messages.size(), 1U);
+        EXPECT_EQ(dialogs.messages[0].text, QString::fromUtf16(text));
+        EXPECT_EQ(dialogs.messages[0].title, title);
+        EXPECT_EQ(stan.materialy.Stal_anulowana, True);
+    }
+};
+
+TEST_F(AnchorSteelDialog, AcceptedItReplacesTheStrengths) {
+    EXPECT_EQ(ok(), std::nullopt);
+    EXPECT_TRUE(dialogs.messages.empty());
+    const Materialy& m = stan.materialy;
+    EXPECT_EQ(m.Stal_nazwa, QStringLiteral("10.9"));
+    EXPECT_EQ(m.Fd_kotwy, 640);
+    EXPECT_EQ(m.Stal_fd, 640);
+    EXPECT_EQ(m.Stal_fi_max, 36);
+    EXPECT_EQ(m.Stal_Re, 900.5F);
+    EXPECT_EQ(m.Stal_Rm, 1000);
+    EXPECT_EQ(m.Fd2_kotwy, CSng(0.85 * 900.5));
+    EXPECT_EQ(m.Fv_kotwy, 450);
+    EXPECT_EQ(m.Stal_anulowana, False);
+    EXPECT_TRUE(m.Stal_uzytkownika);
+}
+
+TEST_F(AnchorSteelDialog, RefusesInItsOrder) {
+    fields = {QString(),
+              {QStringLiteral("0"), QStringLiteral("8"), QStringLiteral("0"), QStringLiteral("0")}};
+    expectRefused(u"Podaj nazwę materiału", SteelField::Text1);
+    fields.Text1 = QStringLiteral("X");
+    expectRefused(u"Nieoczekiwana max. średnica", SteelField::Text2_1);
+    fields.Text2[1] = QStringLiteral("120");
+    expectRefused(u"Nieoczekiwana max. średnica", SteelField::Text2_1);
+    fields.Text2[1] = QStringLiteral("23");
+    expectRefused(u"Conajmniej jedna śruba jest grubsza!", SteelField::Text2_1);
+    fields.Text2[1] = QStringLiteral("24");
+    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1); // fd is 0
+    fields.Text2[0] = QStringLiteral("300");
+    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Text2_0); // Re is 0
+}
+
+TEST_F(AnchorSteelDialog, TheRangeOfDiametersIncludesItsEnds) {
+    stan.plyta.Fi_max = 9;
+    fields.Text2[1] = QStringLiteral("9");
+    EXPECT_EQ(ok(), std::nullopt);
+    fields.Text2[1] = QStringLiteral("119");
+    EXPECT_EQ(ok(), std::nullopt);
+}
+
+TEST_F(AnchorSteelDialog, AYieldPointEqualToTheStrengthPasses) {
+    fields.Text2[2] = fields.Text2[3] = QStringLiteral("700");
+    EXPECT_EQ(ok(), std::nullopt);
+    fields.Text2[2] = QStringLiteral("699,9");
+    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Text2_0);
+}
+
+TEST_F(AnchorSteelDialog, AStrengthEqualToTheYieldPointDoesNotPass) {
+    fields.Text2[0] = QStringLiteral("900,5");
+    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Text2_0);
+    fields.Text2[0] = QStringLiteral("900,4");
+    EXPECT_EQ(ok(), std::nullopt);
+}
+
+TEST_F(AnchorSteelDialog, ARememberedZeroRefusesWhateverIsTyped) {
+    stan.materialy.Stal_Re = 0;
+    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1);
+    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1); // it never gets further
+    stan.materialy.Stal_Re = 1;
+    EXPECT_EQ(ok(), std::nullopt);
+}
+
+TEST_F(AnchorSteelDialog, ATextThatIsNoNumberKeepsTheDialogOpen) {
+    for (QString& field : fields.Text2) {
+        const QString before = field;
+        field = QStringLiteral("1,2,3");
+        dialogs.messages.clear();
+        EXPECT_TRUE(ok());
+        ASSERT_EQ(dialogs.messages.size(), 1U);
+        EXPECT_EQ(dialogs.messages[0].text, title);
+        EXPECT_EQ(dialogs.messages[0].title, title);
+        field = before;
+    }
+    fields.Text2[1] = QStringLiteral("40000");
+    dialogs.messages.clear();
+    EXPECT_TRUE(ok());
+    EXPECT_EQ(dialogs.messages.at(0).text, title);
+}
+
+TEST_F(AnchorSteelDialog, ShowsTheValuesLastRemembered) {
+    ASSERT_EQ(ok(), std::nullopt);
+    const AnchorSteelFields again = rememberedAnchorSteel(stan.materialy);
+    EXPECT_EQ(again.Text1, fields.Text1);
+    EXPECT_EQ(again.Text2, fields.Text2);
+}
+
+TEST_F(AnchorSteelDialog, CancelLeavesNoSteel) {
+    ASSERT_EQ(ok(), std::nullopt);
+    cancelSteel(stan);
+    EXPECT_EQ(stan.materialy.Stal_anulowana, True);
+}
+
+struct PlateSteelDialog : ::testing::Test {
+    WithDecimalSign comma{u','};
+    Stan stan;
+    ScriptedDialogs dialogs;
+    PlateSteelFields fields{QStringLiteral("S235"),
+                            {QStringLiteral("215,5"), QStringLiteral("40")}};
+
+    std::optional<SteelField> ok() { return acceptPlateSteel(stan, fields, dialogs); }
+
+    void expectRefused(const char16_t* text, SteelField focus) {
+        dialogs.messages.clear();
+        EXPECT_EQ(ok(), focus);
+        ASSERT_EQ(dialogs.messages.size(), 1U);
+        EXPECT_EQ(dialogs.messages[0].text, QString::fromUtf16(text));
+        EXPECT_EQ(dialogs.messages[0].title, title);
+        EXPECT_EQ(stan.materialy.Stal_anulowana, True);
+    }
+};
+
+TEST_F(PlateSteelDialog, AcceptedItIsTheSteelOfThePlate) {
+    EXPECT_EQ(ok(), std::nullopt);
+    const Materialy& m = stan.materialy;
+    EXPECT_EQ(m.Blacha_nazwa, QStringLiteral("S235"));
+    EXPECT_EQ(m.Blacha_fd, 215.5F);
+    EXPECT_EQ(m.Fd_blachy, 215.5F);
+    EXPECT_EQ(m.Blacha_t_max, 40);
+    EXPECT_EQ(m.Max_grubosc, 40);
+    EXPECT_EQ(m.Stal_anulowana, False);
+    EXPECT_EQ(m.Blacha_uzytkownika, True);
+    EXPECT_EQ(rememberedPlateSteel(m).Text2, fields.Text2);
+}
+
+TEST_F(PlateSteelDialog, RefusesInItsOrder) {
+    fields = {QString(), {QStringLiteral("0"), QStringLiteral("8")}};
+    expectRefused(u"Podaj nazwę materiału", SteelField::Text1);
+    fields.Text1 = QStringLiteral("X");
+    expectRefused(u"Nieoczekiwana max. grubość", SteelField::Text2_1);
+    EXPECT_EQ(stan.materialy.Max_grubosc, 0);
+    fields.Text2[1] = QStringLiteral("120");
+    expectRefused(u"Nieoczekiwana max. grubość", SteelField::Text2_1);
+    fields.Text2[1] = QStringLiteral("119");
+    expectRefused(u"Musisz określić fd", SteelField::Text2_0);
+    EXPECT_EQ(stan.materialy.Max_grubosc, 119);
+    fields.Text2[0] = QStringLiteral("-5");
+    expectRefused(u"Musisz określić fd", SteelField::Text2_0);
+    EXPECT_EQ(stan.materialy.Fd_blachy, -5) << "a refusal leaves what was set";
+    EXPECT_EQ(stan.materialy.Blacha_uzytkownika, False);
+}
+
+TEST_F(PlateSteelDialog, ATextThatIsNoNumberKeepsTheDialogOpen) {
+    fields.Text2[0] = QStringLiteral("fd");
+    EXPECT_TRUE(ok());
+    EXPECT_EQ(dialogs.messages.at(0).text, title);
+}
+
+} // namespace
