@@ -1,0 +1,117 @@
+#include "plate/plate_form.h"
+
+#include "plate/plate_tables.h"
+#include "runtime/format.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ferna {
+
+namespace {
+
+constexpr std::array<PlateTab, PlateChecks> tabs{{
+    {1, "cmdOblicz1", "Text1_0", 1},
+    {8, "cmdOblicz52", "Text1_5", 7},
+    {7, "cmdOblicz51", "Text1_4", 6},
+    {4, "cmdOblicz4", "cmbProfil", 0},
+    {2, "cmdOblicz2", "Text2_1", 2},
+    {6, "cmdOblicz33", "Text1_3", 5},
+    {5, "cmdOblicz32", "Text1_2", 4},
+    {3, "cmdOblicz31", "Text1_1", 3},
+}};
+
+PlateFields firstFields(const Stan& stan) {
+    const Integer d = stan.plyta.Fi_kotwy(stan.wyniki.Nr_kotwy_max);
+    const QString force = Format(std::fabs(stan.wyniki.Sila_kotwy_max), u"### ##0.0");
+    const QString stress = Format(stan.wyniki.Sigma_b_max, u"##0.0");
+    const QString zero = QStringLiteral("0");
+    const QString blank = QStringLiteral(" ");
+    PlateFields fields;
+    fields.Text1 = {general(6 * d), zero, zero, zero, blank, blank};
+    fields.Text2 = {general(3 * d), general(6 * d), zero, zero, zero, {}, {}, {}, {}};
+    fields.Text3 = {force, stress, stress, stress, stress, stress, force, force, stress};
+    fields.Text4 = zero;
+    return fields;
+}
+
+PlateFace firstFace() {
+    PlateFace face;
+    face.Label8.fill(QStringLiteral("Wymagana ..."));
+    face.Label8_visible.fill(true);
+    face.Label8_visible[0] = false;
+    face.Label8_visible[1] = false;
+    face.cmdOblicz_enabled.fill(true);
+    return face;
+}
+
+void showThickness(PlateFace& face, bool shown) {
+    face.Text4_visible = shown;
+    face.Label10_visible = shown;
+}
+
+/// Check 4 and the fragment checks 3, 5 and 6 exclude each other.
+void giveBackExcluded(const Stan& stan, PlateFace& face, int check) {
+    const auto stands = [&](int n) { return stan.raport.Spr_blachy(n) != 0; };
+    const bool fragment = check == 3 || check == 5 || check == 6;
+    if (check == 4) {
+        for (const std::size_t n : {3U, 5U, 6U})
+            face.cmdOblicz_enabled[n - 1] = true;
+    } else if (fragment && !stands(3) && !stands(5) && !stands(6)) {
+        face.cmdOblicz_enabled[4 - 1] = true;
+    }
+}
+
+} // namespace
+
+const PlateTab& plateTab(int tab) {
+    if (tab < 0 || tab >= PlateChecks)
+        throw RunTimeError(error::Subscript);
+    return tabs[static_cast<std::size_t>(tab)];
+}
+
+PlateForm openPlateForm(Stan& stan) {
+    stan.raport.Liczba_wierszy_blachy = 0;
+    stan.materialy.Blacha_uzytkownika = False;
+    // The checks 5 to 8 keep what an earlier opening left.
+    for (int n = 1; n <= 4; ++n)
+        stan.raport.Spr_blachy(n) = 0;
+    PlateForm form;
+    form.fields = firstFields(stan);
+    form.face = firstFace();
+    return form;
+}
+
+void askPlateSteel(Stan& stan, Dialogs& dialogs, PlateSteelHost& host) {
+    host.KGM8b(stan);
+    if (stan.materialy.Stal_anulowana != False)
+        dialogs.message(QStringLiteral("Musisz okreslić stal dla blachy"), programTitle,
+                        MessageStyle::Stop);
+}
+
+void leaveGradeList(Stan& stan, PlateForm& form, Dialogs& dialogs, PlateSteelHost& host) {
+    if (form.fields.cmbStalb < 0)
+        return;
+    if (form.fields.cmbStalb + 1 == userPlateSteel) {
+        if (stan.materialy.Blacha_uzytkownika == False)
+            askPlateSteel(stan, dialogs, host);
+        return;
+    }
+    form.Nr_stali_blachy = CInt(form.fields.cmbStalb + 1);
+    for (int n = 1; n <= PlateChecks; ++n)
+        stan.raport.Spr_blachy(n) = 0;
+    form.face.Label8_visible.fill(false);
+}
+
+void cmdAnulujto(Stan& stan, PlateForm& form, int i) {
+    stan.raport.Spr_blachy(i + 1) = 0;
+    form.face.Label8_visible.at(static_cast<std::size_t>(i)) = false;
+    Integer m = 0;
+    for (int n = 1; n <= PlateChecks; ++n)
+        m = std::max(m, stan.raport.Spr_blachy(n));
+    form.fields.Text4 = general(m);
+    showThickness(form.face, m > 0);
+    giveBackExcluded(stan, form.face, i + 1);
+}
+
+} // namespace ferna
