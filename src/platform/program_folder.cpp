@@ -1,0 +1,64 @@
+#include "platform/program_folder.h"
+
+#include "design/language.h"
+#include "runtime/text_file.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace ferna {
+
+namespace {
+
+bool holdsTheData(const QString& folder) {
+    return QFileInfo(folder + u'/' + catalogueFile(0)).isFile();
+}
+
+/// What the installation brings along for the program folder.
+QStringList deliveredFiles(const QString& folder) {
+    return QDir(folder).entryList({QStringLiteral("*.txt"), QStringLiteral("*.cfg"),
+                                   QStringLiteral("*.bmp"), QStringLiteral("*.qch"),
+                                   QStringLiteral("*.qhc")},
+                                  QDir::Files);
+}
+
+} // namespace
+
+QString deliveredDataFolder() {
+    const QDir beside(QCoreApplication::applicationDirPath());
+    for (const QString& folder :
+         {beside.path(), QDir::cleanPath(beside.filePath(QStringLiteral("../share/ferna")))})
+        if (holdsTheData(folder))
+            return folder;
+    throw RunTimeError(error::PathNotFound, beside.filePath(catalogueFile(0))
+                                                + QStringLiteral(" (brak danych programu)"));
+}
+
+QString enterProgramFolder() {
+    return enterProgramFolder(QCoreApplication::applicationDirPath(), deliveredDataFolder(),
+                              QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+}
+
+QString enterProgramFolder(const QString& beside, const QString& delivered, const QString& own) {
+    QString folder = beside;
+    if (!holdsTheData(beside) || !QFileInfo(beside).isWritable()) {
+        folder = own;
+        if (!QDir().mkpath(folder))
+            throw RunTimeError(error::PathNotFound, folder);
+        for (const QString& file : deliveredFiles(delivered))
+            if (!QFileInfo::exists(folder + u'/' + file))
+                writeFileWhole(folder + u'/' + file, readFileWhole(delivered + u'/' + file));
+    }
+    QDir::setCurrent(folder);
+    return folder;
+}
+
+void restoreDelivered(const QString& path, const QString& pristine) {
+    if (QFileInfo::exists(path))
+        writeFileWhole(path + QStringLiteral(".uszkodzony"), readFileWhole(path));
+    writeFileWhole(path, readFileWhole(pristine));
+}
+
+} // namespace ferna

@@ -1,0 +1,93 @@
+#include "platform/renderer_start.h"
+
+#include "platform/renderer_files.h"
+#include "runtime/format.h"
+#include "runtime/text_file.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+
+namespace ferna {
+
+namespace {
+
+#ifdef Q_OS_WIN
+const QString rendererName = QStringLiteral("Wyd_drk.exe");
+#else
+const QString rendererName = QStringLiteral("Wyd_drk");
+#endif
+
+constexpr int cancelledByUser = 3; // in a dialog of the renderer's own
+
+QString modeText(RenderMode mode) {
+    switch (mode) {
+    case RenderMode::Clipboard:
+        return QStringLiteral("3, 1.0, 0.5, 1.0, ");
+    case RenderMode::ScreenPicture:
+        return QStringLiteral("-2, 1.0, 0.5, 1.0, ");
+    case RenderMode::Print:
+        return QStringLiteral("-1, 1.0, 0.5, 1.0, ");
+    case RenderMode::PrintChosen:
+        return QStringLiteral("1, 1.0, 0.5, 1.0, ");
+    case RenderMode::Emf:
+        return QStringLiteral(" 2, 1.0, 0.5, 1.0, ");
+    }
+    throw RunTimeError(error::InvalidCall);
+}
+
+/// The renderer's own last words, for the message.
+QString wordsOf(QProcess& process) {
+    const QString words = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
+    return words.isEmpty() ? words : QStringLiteral(": ") + words;
+}
+
+} // namespace
+
+QString jobLine(RenderMode mode, Integer Nr_strony) {
+    return modeText(mode) + general(Nr_strony);
+}
+
+void writeJob(const QString& folder, RenderMode mode, Integer Nr_strony) {
+    TextFileWriter job;
+    job.line(jobLine(mode, Nr_strony));
+    job.line(QDir::toNativeSeparators(folder + u'/' + wyd::bodyFile));
+    job.line(QDir::toNativeSeparators(folder + u'/' + wyd::frameFile));
+    job.commit(folder + u'/' + wyd::jobFile);
+}
+
+QString rendererPath(const QString& folder) {
+    const QString own = folder + u'/' + rendererName;
+    return QFileInfo(own).isExecutable()
+               ? own
+               : QCoreApplication::applicationDirPath() + u'/' + rendererName;
+}
+
+void runRenderer(const QString& folder, const QStringList& options) {
+    const QString renderer = rendererPath(folder);
+    if (!QFileInfo::exists(renderer))
+        throw RunTimeError(error::FileNotFound,
+                           QDir::toNativeSeparators(renderer)
+                               + QStringLiteral(" (program rysujący strony raportu)"));
+    QProcess process;
+    process.setWorkingDirectory(folder);
+    process.start(renderer, QStringList(options)
+                                << QDir::toNativeSeparators(folder + u'/' + wyd::jobFile));
+    if (!process.waitForStarted(-1))
+        throw RunTimeError(error::NoObject,
+                           rendererName + QStringLiteral(": ") + process.errorString());
+    process.waitForFinished(-1);
+    if (process.exitStatus() != QProcess::NormalExit)
+        throw RunTimeError(error::NoObject,
+                           rendererName + QStringLiteral(" przerwał pracę") + wordsOf(process));
+    if (process.exitCode() == cancelledByUser)
+        return;
+    if (process.exitCode() != 0)
+        throw RunTimeError(error::NoObject, QStringLiteral("%1 zakończył pracę z kodem %2%3")
+                                                .arg(rendererName)
+                                                .arg(process.exitCode())
+                                                .arg(wordsOf(process)));
+}
+
+} // namespace ferna

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "design/stan.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace ferna {
+
+/// What the renderer is asked for, by the mode it is told in the job file.
+enum class RenderMode {
+    Clipboard,     ///< screen picture on the clipboard
+    ScreenPicture, ///< screen picture as a metafile in the program folder
+    Print,         ///< default printer
+    PrintChosen,   ///< printer of the user's choice
+    Emf            ///< metafiles under a name that the user is asked for
+};
+
+/// The job file's first line: mode, three constants of the renderer, first page number.
+QString jobLine(RenderMode mode, Integer Nr_strony);
+
+/// Writes the job file into the program folder. Errors of `writeFileWhole`.
+void writeJob(const QString& folder, RenderMode mode, Integer Nr_strony);
+
+/// Starts the renderer on the job file and waits for its end, however long it takes. Error 53 where
+/// it is missing, 429 where it cannot be started, crashes or fails; the detail names what and why.
+/// A dialog that the user cancelled is no error. `options` go in front of the job file.
+void runRenderer(const QString& folder, const QStringList& options = {});
+
+/// The renderer's executable for a program folder: there, else beside this program.
+QString rendererPath(const QString& folder);
+
+} // namespace ferna

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "design/stan.h"
+#include "runtime/dialogs.h"
+
+#include <QDateTime>
+
+#include <array>
+
+namespace ferna {
+
+/// The lines of the report that belong to the results form. Together with the shared lines of the
+/// state they are the whole report: every output walks them and adds only its layout.
+struct Raport {
+    IndexedArray<QString, 8> Wiersze_naglowka; ///< title block, from 1
+    IndexedArray<QString, 10> Wiersze_danych;  ///< general data, 1..4
+    IndexedArray<QString, 3> Wiersze_stale;    ///< fixed lines
+    IndexedArray<QString, 5> Wiersze_strefy;   ///< neutral-axis line, by case - 1
+    QString Nazwa_stopy;                       ///< label of the footing, at most 32 characters
+};
+
+/// Asks for the label of the footing and keeps its first 32 characters; cancel gives an empty one.
+void Nazwa_zadania(Raport& raport, Dialogs& dialogs);
+
+/// Asks for the label and rebuilds the title block. `norm0`: the first option of the norm control
+/// is set. `now` is the date and time of the block.
+void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now, Dialogs& dialogs);
+
+/// Fills the heading of the anchors, the fixed lines, the data lines and the load table, in the
+/// catalogue's language.
+void Wypelnij_wiersze(Raport& raport, Stan& stan);
+
+/// The neutral-axis line of a case: the catalogue's words and the ends of the line on the plate,
+/// mm.
+QString Wiersz_strefy(const Stan& stan, int c);
+
+/// The three summary lines of a calculation with more than one case.
+std::array<QString, 3> Wiersze_podsumowania(const Stan& stan);
+
+/// The subscript of omega in the lines of exceeded concrete stress, by the norm.
+QChar omegaSubscript(const Stan& stan);
+
+/// Catalogue line 16 and the number of the case.
+QString caseTitle(const Stan& stan, int c);
+
+/// True where the whole plate was compressed in the case: no sketch, no neutral-axis line.
+inline bool wholePlate(const Stan& stan, int c) {
+    return stan.wyniki.Przyp_policzony(c) == True;
+}
+
+/// Walks the result lines of the cases in their order, each case behind the last line of the one
+/// before. The ratios of exceeded concrete stress are counted over the whole report.
+class ResultLines {
+public:
+    explicit ResultLines(const Stan& stan) : stan_(stan) {}
+
+    /// `plain(text)` for a line as it stands, `exceedance(text, ratio)` for one that goes on with
+    /// omega and the ratio. A line with another mark is passed over.
+    template <typename Plain, typename Exceedance>
+    void ofCase(int c, const Plain& plain, const Exceedance& exceedance) {
+        for (; line_ <= stan_.wyniki.Ostatni_wiersz(c); ++line_) {
+            const QString& text = stan_.wyniki.Wiersze_wynikow(line_);
+            if (stan_.wyniki.Znak_wiersza(line_) == 0)
+                plain(text);
+            else if (stan_.wyniki.Znak_wiersza(line_) == 1)
+                exceedance(text, stan_.wyniki.Tekst_przekroczenia(ratio_++));
+        }
+    }
+
+    /// The line behind the last one walked.
+    int nextLine() const { return line_; }
+
+private:
+    const Stan& stan_;
+    int line_ = 1;
+    int ratio_ = 1;
+};
+
+} // namespace ferna

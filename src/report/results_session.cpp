@@ -1,0 +1,140 @@
+#include "report/results_session.h"
+
+#include "design/configuration.h"
+#include "platform/renderer_files.h"
+#include "report/document_writer.h"
+#include "report/rtf_writer.h"
+#include "report/text_writer.h"
+#include "report/wyd_writer.h"
+#include "report/zone_sketch.h"
+#include "runtime/format.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace ferna {
+
+ResultsSession::ResultsSession(Stan& stan, Dialogs& dialogs, QString folder, bool norm0,
+                               std::function<QDateTime()> now, std::function<void()> render)
+    : stan_(stan), dialogs_(dialogs), folder_(std::move(folder)), norm0_(norm0),
+      now_(std::move(now)), render_(std::move(render)) {}
+
+void ResultsSession::saveSketches() {
+    writeFileWhole(inFolder(QStringLiteral("ferogol.bmp")),
+                   readFileWhole(inFolder(QStringLiteral("Ferogo2.bmp"))));
+    for (int c = 1; c <= stan_.obciazenia.Liczba_przyp; ++c)
+        if (!wholePlate(stan_, c))
+            Rysuj_strefe(raport_, stan_, c, inFolder(zoneSketchFile(c)));
+}
+
+void ResultsSession::open() {
+    Wypelnij_wiersze(raport_, stan_);
+    saveSketches();
+    retitle();
+}
+
+QByteArray ResultsSession::screenPicture() {
+    const QString picture = inFolder(wyd::screenPicture);
+    QFile::remove(picture);
+    Buduj_wyd(stan_, raport_, folder_);
+    writeJob(folder_, RenderMode::ScreenPicture, stan_.opcje.Nr_strony);
+    render_();
+    QByteArray bytes = readFileWhole(picture);
+    QFile::remove(picture);
+    return bytes;
+}
+
+void ResultsSession::print(RenderMode mode) {
+    retitle();
+    writeJob(folder_, mode, stan_.opcje.Nr_strony);
+    Buduj_wyd(stan_, raport_, folder_);
+    render_();
+}
+
+void ResultsSession::printOnChosenPrinter() {
+    try {
+        print(RenderMode::PrintChosen);
+    } catch (const RunTimeError&) {
+        dialogs_.message(QStringLiteral("Problem z wyborem drukarki"), QStringLiteral("Ferna Pr"),
+                         MessageStyle::Stop);
+    }
+}
+
+void ResultsSession::askPageNumber() {
+    stan_.opcje.Nr_strony = CInt(dialogs_.input(QStringLiteral("Podaj nr strony"), programTitle,
+                                                general(stan_.opcje.Nr_strony)));
+}
+
+void ResultsSession::askProjectName() {
+    stan_.opcje.Nazwa_projektu = dialogs_.input(QStringLiteral("Podaj nazwe projektu"),
+                                                programTitle, stan_.opcje.Nazwa_projektu);
+}
+
+void ResultsSession::retitle() {
+    Naglowek(raport_, stan_, norm0_, now_(), dialogs_);
+}
+
+QString ResultsSession::askWhereToSave(const SaveQuestion& question) {
+    const std::optional<QString> chosen = dialogs_.saveFile(question);
+    const bool reported = reportsCancel_;
+    reportsCancel_ = true;
+    if (!chosen && reported)
+        throw RunTimeError(error::Cancelled);
+    return chosen.value_or(QDir::current().filePath(question.preset));
+}
+
+void ResultsSession::saveText() {
+    const QString path =
+        askWhereToSave({QStringLiteral("Podaj nazwę pliku tekstowego"), QStringLiteral("Wyniki"),
+                        QStringLiteral(".txt"),
+                        QStringLiteral("plik wyników (*.txt)|*.txt|wszystkie pliki (*.*)|*.*")});
+    try {
+        textReport(stan_, raport_).commit(path);
+    } catch (const RunTimeError&) { // ends silently
+    }
+    QDir::setCurrent(folder_);
+}
+
+void ResultsSession::saveRtf() {
+    const QString path = askWhereToSave(rtfQuestion());
+    try {
+        saveRtfReport(stan_, raport_, now_(), path);
+    } catch (const RunTimeError&) { // ends silently
+    }
+    QDir::setCurrent(folder_);
+}
+
+std::unique_ptr<WordProcessor> ResultsSession::buildDocument() const {
+    std::unique_ptr<WordProcessor> document = openWord_();
+    ferna::buildDocument(*document, stan_, raport_, folder_);
+    return document;
+}
+
+void ResultsSession::saveDocument(std::unique_ptr<WordProcessor> document) {
+    const QString path = askWhereToSave(documentQuestion());
+    try {
+        ferna::saveDocument(*document, path);
+    } catch (const RunTimeError&) { // ends silently
+        QDir::setCurrent(folder_);
+        return;
+    }
+    dialogs_.message(documentAdvice(), documentAdviceTitle(), MessageStyle::Plain);
+    QDir::setCurrent(folder_);
+}
+
+void ResultsSession::leave() {
+    raport_.Nazwa_stopy.clear();
+    takeNextPage(stan_, readRendererReply(inFolder(wyd::replyFile)));
+}
+
+QString ResultsSession::pagePanel() const {
+    return QStringLiteral(" Strona ") + general(stan_.opcje.Nr_strony);
+}
+
+QString ResultsSession::statePanel() const {
+    return stan_.wyniki.Kotwy_OK != False && stan_.wyniki.Beton_OK
+               ? QStringLiteral("OK")
+               : QStringLiteral(" Przekroczone naprezenia !! ");
+}
+
+} // namespace ferna

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "report/report_lines.h"
+#include "runtime/text_file.h"
+
+namespace ferna {
+
+/// Writes a report as drawing commands for the renderer: millimetres on the page, x to the right
+/// and y downward from the top left corner of the frame; numbers always carry a point.
+class WydWriter {
+public:
+    WydWriter(const Stan& stan, const Raport& raport, QString folder)
+        : stan_(stan), raport_(raport), folder_(std::move(folder)) {}
+
+    /// The page frame with the title block.
+    void Naglowek_wyd();
+    /// The frame and the whole body behind it.
+    void body();
+
+    /// Page test for a body line at `Poz_y`: from 225 on a new page begins, with its frame, at 40.
+    void KoniecZ98();
+    /// Page test before a block of `wysokosc` mm at y: at 236 or beyond, or where it would end past
+    /// 290, a new page begins and y and y2 become 40.
+    void KoniecZ98R(Single& y, Single& y2, Integer wysokosc);
+
+    TextFileWriter& file() { return file_; }
+    /// Names of the pictures that the records place, all in the folder.
+    const QStringList& pictures() const { return pictures_; }
+    Single Poz_y = 0;          ///< running y of the body, mm
+    Single Poz_y_blachy = 0;   ///< y of the plate section's blocks, mm
+    Integer Licznik_stron = 0; ///< pages begun by the page tests
+
+private:
+    void bodyLine(const QString& text, QStringView yPattern = u"#0.0");
+    void underlinedLine(const QString& text);
+    void placed(const QString& name);
+    void picture(QLatin1String x, Single y, QStringView yPattern, QLatin1String size,
+                 const QString& name);
+    void newPage();
+    void generalData();
+    void loadCase(ResultLines& results, int c);
+    void exceedanceLine(const QString& text, const QString& ratio);
+    void summary();
+    void plateSection();
+    void anchorSection();
+
+    const Stan& stan_;
+    const Raport& raport_;
+    QString folder_;
+    TextFileWriter file_;
+    QStringList pictures_;
+};
+
+/// Writes both command files into the program folder from the report as it stands, and saves the
+/// anchor sketch where there is an anchor section. Errors of `writeFileWhole`.
+void Buduj_wyd(const Stan& stan, const Raport& raport, const QString& folder);
+
+} // namespace ferna

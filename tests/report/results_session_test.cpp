@@ -1,0 +1,187 @@
+#include "platform/renderer_files.h"
+#include "report/results_session.h"
+#include "support/column_base.h"
+#include "support/decimal_comma.h"
+#include "support/folder.h"
+#include "support/printing.h"
+#include "support/run_time_errors.h"
+
+#include <gtest/gtest.h>
+
+using namespace ferna;
+using namespace ferna::testing;
+
+namespace {
+
+class Results : public ::testing::Test {
+protected:
+    ColumnBase base;
+    Folder folder;
+    int rendered = 0;
+    QByteArray picture = "picture";
+    std::unique_ptr<ResultsSession> session;
+
+    void SetUp() override {
+        folder.write(QStringLiteral("Ferogo2.bmp"), "principle");
+        folder.write(wyd::replyFile, "1, 7\r\n");
+        base.fourAnchors(250, 150).loads(320, 60, 5).loads(900, 5, 0);
+        ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+        session = std::make_unique<ResultsSession>(
+            base.stan, base.dialogs, folder.path(QStringLiteral(".")), true,
+            [] { return QDateTime(QDate(2024, 3, 9), QTime(14, 5)); },
+            [this] {
+                ++rendered;
+                if (!picture.isNull())
+                    folder.write(wyd::screenPicture, picture);
+            });
+    }
+};
+
+TEST_F(Results, OpenWithASketchOfEachCaseThatHasANeutralLine) {
+    base.dialogs.answers.push_back(QStringLiteral("F-1"));
+    session->open();
+    EXPECT_EQ(folder.read(QStringLiteral("ferogol.bmp")), QByteArray("principle"));
+    EXPECT_TRUE(folder.names().contains(QStringLiteral("fernasz1.bmp")));
+    EXPECT_FALSE(folder.names().contains(QStringLiteral("fernasz2.bmp")));
+    EXPECT_EQ(session->labelPanel(), QStringLiteral("F-1"));
+    EXPECT_EQ(session->pagePanel(), QStringLiteral(" Strona 1"));
+    EXPECT_EQ(session->statePanel(), QStringLiteral("OK"));
+}
+
+TEST_F(Results, TakeThePictureAndDeleteItsFile) {
+    session->open();
+    EXPECT_EQ(session->screenPicture(), picture);
+    EXPECT_FALSE(folder.names().contains(wyd::screenPicture));
+    EXPECT_TRUE(folder.read(wyd::jobFile).startsWith("-2, 1.0, 0.5, 1.0, 1\r\n"));
+}
+
+TEST_F(Results, TellThatTheRendererLeftNoPictureAndNeverShowAnOldOne) {
+    session->open();
+    folder.write(wyd::screenPicture, "old");
+    picture = QByteArray();
+    EXPECT_EQ(errorNumberOf([&] { session->screenPicture(); }), error::FileNotFound);
+}
+
+TEST_F(Results, AskForTheLabelBeforeEachPrint) {
+    session->open();
+    base.dialogs.answers.push_back(QStringLiteral("F-2"));
+    session->print(RenderMode::Print);
+    EXPECT_EQ(session->labelPanel(), QStringLiteral("F-2"));
+    EXPECT_TRUE(folder.read(wyd::jobFile).startsWith("-1, 1.0, 0.5, 1.0, 1\r\n"));
+    EXPECT_EQ(rendered, 1);
+}
+
+TEST_F(Results, MakeOneMessageOfAnyFailureOnAChosenPrinter) {
+    session->open();
+    session = std::make_unique<ResultsSession>(
+        base.stan, base.dialogs, folder.path(QStringLiteral(".")), true,
+        [] { return QDateTime::currentDateTime(); }, [] { throw RunTimeError(error::NoObject); });
+    session->printOnChosenPrinter();
+    EXPECT_EQ(base.messages().last(), QStringLiteral("Problem z wyborem drukarki"));
+    EXPECT_EQ(base.dialogs.messages.back().title, QStringLiteral("Ferna Pr"));
+}
+
+TEST_F(Results, RejectTheEmptyAnswerOfACancelledPagePrompt) {
+    base.dialogs.answers.push_back(QString());
+    EXPECT_EQ(errorNumberOf([&] { session->askPageNumber(); }), error::TypeMismatch);
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 1);
+    base.dialogs.answers.push_back(QStringLiteral("12"));
+    session->askPageNumber();
+    EXPECT_EQ(session->pagePanel(), QStringLiteral(" Strona 12"));
+}
+
+TEST_F(Results, SaveUnderThePresetNameAtTheFirstCancelAndStopAtTheSecond) {
+    session->open();
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path(QStringLiteral(".")));
+    session->saveText();
+    EXPECT_TRUE(folder.names().contains(QStringLiteral("Wyniki")));
+    EXPECT_EQ(errorNumberOf([&] { session->saveText(); }), error::Cancelled);
+    QDir::setCurrent(before);
+}
+
+TEST_F(Results, EndSilentlyWhereTheTextCannotBeWritten) {
+    session->open();
+    base.dialogs.answers.push_back(folder.path(QStringLiteral("no/such/folder.txt")));
+    const std::size_t messages = base.dialogs.messages.size();
+    session->saveText();
+    EXPECT_EQ(base.dialogs.messages.size(), messages);
+}
+
+TEST_F(Results, TakeThePageNumberOfTheReplyOnTheWayBack) {
+    session->open();
+    session->leave();
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 7);
+    EXPECT_TRUE(session->labelPanel().isEmpty());
+    folder.write(wyd::replyFile, "0, 9\r\n");
+    session->leave();
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 7);
+}
+
+TEST_F(Results, TellInTheStatusBarThatAnAnchorIsExceeded) {
+    base.stan.wyniki.Kotwy_OK = False;
+    EXPECT_EQ(session->statePanel(), QStringLiteral(" Przekroczone naprezenia !! "));
+}
+
+TEST(JobFile, CarriesModePageNumberAndThePathsOfTheCommandFiles) {
+    EXPECT_EQ(jobLine(RenderMode::Clipboard, 12), QStringLiteral("3, 1.0, 0.5, 1.0, 12"));
+    EXPECT_EQ(jobLine(RenderMode::ScreenPicture, 0), QStringLiteral("-2, 1.0, 0.5, 1.0, 0"));
+    EXPECT_EQ(jobLine(RenderMode::Print, -3), QStringLiteral("-1, 1.0, 0.5, 1.0, -3"));
+    EXPECT_EQ(jobLine(RenderMode::PrintChosen, 1), QStringLiteral("1, 1.0, 0.5, 1.0, 1"));
+    EXPECT_EQ(jobLine(RenderMode::Emf, 1), QStringLiteral(" 2, 1.0, 0.5, 1.0, 1"));
+    const Folder folder;
+    writeJob(folder.path(QStringLiteral("")), RenderMode::Print, 5);
+    const QByteArray job = folder.read(wyd::jobFile);
+    EXPECT_EQ(job.count("\r\n"), 3);
+    EXPECT_TRUE(job.contains("FERNAPr.wyd\r\n"));
+    EXPECT_TRUE(job.endsWith("FERNAPr1.wyd\r\n"));
+}
+
+class RendererStart : public ::testing::Test {
+protected:
+    Folder folder;
+
+    void renderer(const QByteArray& script) {
+        QFile file(folder.write(QStringLiteral("Wyd_drk"), "#!/bin/sh\n" + script + '\n'));
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+
+    QString failure() {
+        try {
+            runRenderer(folder.path(QStringLiteral(".")));
+        } catch (const RunTimeError& error) {
+            return error.text();
+        }
+        return {};
+    }
+};
+
+TEST_F(RendererStart, NamesAMissingRenderer) {
+    EXPECT_TRUE(failure().contains(QStringLiteral("Wyd_drk")));
+    EXPECT_TRUE(failure().contains(QStringLiteral("Nie znaleziono pliku")));
+}
+
+TEST_F(RendererStart, HandsOverTheJobFileAndWaits) {
+    renderer("cp \"$1\" seen");
+    folder.write(wyd::jobFile, "job");
+    EXPECT_EQ(failure(), QString());
+    EXPECT_EQ(folder.read(QStringLiteral("seen")), QByteArray("job"));
+}
+
+TEST_F(RendererStart, TellsTheWordsOfAFailedRenderer) {
+    renderer("echo brak pliku Ferrob.bmp >&2; exit 1");
+    EXPECT_TRUE(failure().contains(QStringLiteral("kodem 1")));
+    EXPECT_TRUE(failure().contains(QStringLiteral("brak pliku Ferrob.bmp")));
+}
+
+TEST_F(RendererStart, TakesACancelledDialogForNoError) {
+    renderer("exit 3");
+    EXPECT_EQ(failure(), QString());
+}
+
+TEST_F(RendererStart, TellsThatTheRendererCrashed) {
+    renderer("kill -SEGV $$");
+    EXPECT_TRUE(failure().contains(QStringLiteral("przerwał pracę")));
+}
+
+} // namespace

@@ -1,0 +1,103 @@
+#include "report/zone_sketch.h"
+#include "support/column_base.h"
+#include "support/folder.h"
+#include "support/printing.h"
+
+#include <gtest/gtest.h>
+
+using namespace ferna;
+using namespace ferna::testing;
+
+namespace {
+
+/// A plate of 600 x 400 mm with a zone given by hand.
+Stan zoneBy(Integer shape, Integer signs, Single a, Single b, Single c, Single d) {
+    Stan stan;
+    stan.plyta.Dlugosc_plyty = 60;
+    stan.plyta.Szerokosc_plyty = 40;
+    stan.obciazenia.Klasa_znaku(1) = signs;
+    stan.wyniki.Typ_strefy_przyp(1) = shape;
+    stan.wyniki.Przec_a(1) = a;
+    stan.wyniki.Przec_b(1) = b;
+    stan.wyniki.Przec_c(1) = c;
+    stan.wyniki.Przec_d(1) = d;
+    return stan;
+}
+
+QImage sketchOf(const Stan& stan) {
+    PictureBox picture(QSize(630, 420)); // a millimetre is a pixel
+    drawZone(picture, stan, 1);
+    return picture.image();
+}
+
+/// Share of hatched pixels around a point in mm.
+double greyAround(const QImage& image, double x, double y) {
+    int grey = 0;
+    constexpr int reach = 12;
+    for (int i = -reach; i <= reach; ++i)
+        for (int j = -reach; j <= reach; ++j) {
+            const QColor colour = image.pixelColor(qRound(315 + x) + i, qRound(210 - y) + j);
+            grey += colour.saturation() < 40 && colour.value() > 150 && colour.value() < 235;
+        }
+    return grey / double((2 * reach + 1) * (2 * reach + 1));
+}
+
+bool isRed(const QColor& colour) {
+    return colour.red() > 200 && colour.green() < 100 && colour.blue() < 100;
+}
+
+TEST(ZoneSketch, HatchesTheTriangleAtTheCompressedCorner) {
+    const QImage image = sketchOf(zoneBy(1, 1, 5, 20, 30, -5));
+    EXPECT_GT(greyAround(image, 250, 150), 0.15);
+    EXPECT_EQ(greyAround(image, -200, -100), 0);
+}
+
+TEST(ZoneSketch, HatchesTheMirroredCornersOfTheOtherSignClasses) {
+    EXPECT_GT(greyAround(sketchOf(zoneBy(1, 2, 5, -20, 30, 5)), 250, -150), 0.15);
+    EXPECT_GT(greyAround(sketchOf(zoneBy(1, 3, -5, 20, -30, -5)), -250, 150), 0.15);
+}
+
+TEST(ZoneSketch, HatchesTheTrapeziumsAndThePlateLessATriangle) {
+    EXPECT_GT(greyAround(sketchOf(zoneBy(2, 1, -30, 2, 30, -3)), 100, 120), 0.15);
+    EXPECT_GT(greyAround(sketchOf(zoneBy(3, 1, 2, 20, -3, -20)), 200, -100), 0.15);
+    const QImage image = sketchOf(zoneBy(4, 1, -30, -5, -10, -20));
+    EXPECT_GT(greyAround(image, 250, 150), 0.15);
+    EXPECT_GT(greyAround(image, 100, -120), 0.15);
+    EXPECT_EQ(greyAround(image, -280, -180), 0);
+}
+
+TEST(ZoneSketch, KeepsTheDepartureOfTheTriangleOfTheFourthClass) {
+    // The ends of the hatch lines run past the corner to (-L/2, -B/2) mirrored values: the region
+    // beyond the axis towards (+L/2, -B/2) is crossed by lines too.
+    const Stan stan = zoneBy(1, 4, -5, -20, -30, 5);
+    const QImage image = sketchOf(stan);
+    const QImage ordinary = sketchOf(zoneBy(1, 1, 5, 20, 30, -5)).mirrored(true, true);
+    EXPECT_NE(image, ordinary);
+}
+
+TEST(ZoneSketch, LeavesTheHatchOnTheAxisForAShapeOutsideTheTable) {
+    const QImage image = sketchOf(zoneBy(9, 1, 5, 20, 30, -5));
+    EXPECT_EQ(greyAround(image, 270, 170), 0);
+    EXPECT_EQ(greyAround(image, -200, -100), 0);
+}
+
+TEST(ZoneSketch, MarksThePointsOfTheAxisInRed) {
+    const QImage image = sketchOf(zoneBy(1, 1, 5, 20, 30, -5));
+    EXPECT_TRUE(isRed(image.pixelColor(315 + 50, 210 - 195)));
+    EXPECT_TRUE(isRed(image.pixelColor(315 + 295, 210 + 50)));
+}
+
+TEST(ZoneSketch, IsSavedAtPrintQualityWithTheLineOfItsCase) {
+    Stan stan = zoneBy(3, 1, -1.23F, 20, 4.56F, -20);
+    numberedCatalogue(stan);
+    Raport raport;
+    const Folder folder;
+    Rysuj_strefe(raport, stan, 1, folder.path(zoneSketchFile(1)));
+    const QImage saved(folder.path(QStringLiteral("fernasz1.bmp")));
+    constexpr double printedInches = 41.1 / 25.4;
+    EXPECT_GE(saved.width() / printedInches, 300);
+    EXPECT_NEAR(saved.width() * 1000.0 / saved.dotsPerMeterX(), 41.1, 0.2) << "its natural width";
+    EXPECT_EQ(raport.Wiersze_strefy(0), QStringLiteral("<45>-13,200), B(45,-200)"));
+}
+
+} // namespace
