@@ -1,0 +1,32 @@
+#include "batch/anchor_section.h"
+
+#include "selection/selection_form.h"
+
+namespace ferna::batch {
+
+AnchorTask readAnchorTask(const Json& value, const std::string& path) {
+    const TaskObject object(value, path, {"rodzaj", "g"});
+    object.require("g");
+    return {object.oneOf("rodzaj", {"F", "P"}) == "P" ? 1 : 0,
+            object.wholeFieldText("g").value_or(QString())};
+}
+
+SectionResult runAnchorTask(const AnchorTask& task, Stan& stan, ScriptedDialogs& dialogs) {
+    if (!anchorSelectionOffered(stan))
+        return {};
+    dialogs.answers.push_back(task.typed);
+    SelectionForm form;
+    if (loadSelection(stan, form, dialogs)) {
+        bringToFront(form, task.tab);
+        acceptSelection(stan, form);
+    }
+    Json lines = Json::array();
+    for (int i = 1; i <= stan.raport.Liczba_wierszy_kotwy; ++i)
+        lines.push_back(stan.raport.Wiersze_kotwy(i).toStdString());
+    return {{{"Wiersze_kotwy", lines},
+             {"Typ_szkicu_kotwy", stan.raport.Typ_szkicu_kotwy},
+             {"Nosnosc", Double{form.Nosnosc}}},
+            {}};
+}
+
+} // namespace ferna::batch

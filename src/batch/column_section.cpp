@@ -1,0 +1,129 @@
+#include "batch/column_section.h"
+
+#include "statics/load_scheme.h"
+
+namespace ferna::batch {
+
+namespace {
+
+/// A value of a load and the field of the dialog that it fills.
+struct ValueKey {
+    const char* key;
+    bool inText2;
+    std::size_t index;
+};
+
+using ValueKeys = std::vector<ValueKey>;
+
+const ValueKeys verticalValues{{"P", false, 0}, {"ex", true, 0}, {"ey", true, 1}};
+const ValueKeys forceValues{{"H", false, 0}, {"h", true, 0}};
+const ValueKeys distributedValues{
+    {"p1", false, 0}, {"p2", false, 1}, {"h1", true, 0}, {"h2", true, 1}};
+const ValueKeys momentValues{{"M", false, 0}};
+
+/// A load with exactly the values of its direction and kind.
+TaskObject loadObject(const Json& value, const std::string& path, int direction, int kind) {
+    if (direction == 0)
+        return {value, path, {"kierunek", "rodzaj", "P", "ex", "ey"}};
+    if (kind == 0)
+        return {value, path, {"kierunek", "rodzaj", "H", "h"}};
+    if (kind == 1)
+        return {value, path, {"kierunek", "rodzaj", "p1", "p2", "h1", "h2"}};
+    return {value, path, {"kierunek", "rodzaj", "M"}};
+}
+
+const ValueKeys& valuesOf(int direction, int kind) {
+    if (direction == 0)
+        return verticalValues;
+    return kind == 0 ? forceValues : kind == 1 ? distributedValues : momentValues;
+}
+
+ColumnTask::Load readLoad(const Json& value, const std::string& path) {
+    const TaskObject any(
+        value, path,
+        {"kierunek", "rodzaj", "P", "ex", "ey", "H", "h", "p1", "p2", "h1", "h2", "M"});
+    const std::string direction = any.oneOf("kierunek", {"pionowe", "ZX", "ZY"});
+    ColumnTask::Load load{};
+    load.optTypObciaz = direction == "pionowe" ? 0 : direction == "ZX" ? 1 : 2;
+    // A vertical load is always a force: the form hides the other kinds.
+    const std::string kind = load.optTypObciaz == 0
+                                 ? any.oneOf("rodzaj", {"sila"})
+                                 : any.oneOf("rodzaj", {"sila", "ciagle", "moment"});
+    load.optTypsily = kind == "sila" ? 0 : kind == "ciagle" ? 1 : 2;
+    const TaskObject object = loadObject(value, path, load.optTypObciaz, load.optTypsily);
+    for (const ValueKey& key : valuesOf(load.optTypObciaz, load.optTypsily))
+        (key.inText2 ? load.Text2 : load.Text1)[key.index] = object.fieldText(key.key);
+    return load;
+}
+
+void declare(const ColumnTask::Load& load, Stan_statyki& loads, StaticsForm& form) {
+    chooseDirection(form, load.optTypObciaz);
+    chooseKind(form, load.optTypsily);
+    LoadDialog dialog = openLoadDialog(form);
+    for (const std::size_t i : {0U, 1U}) {
+        dialog.Text1[i] = load.Text1[i].value_or(dialog.Text1[i]);
+        dialog.Text2[i] = load.Text2[i].value_or(dialog.Text2[i]);
+    }
+    acceptLoad(loads, form, dialog);
+}
+
+/// The load table as the fields of a task.
+class FieldTable : public LoadTable {
+public:
+    explicit FieldTable(InputFields& fields) : fields_(fields) {}
+
+    void setCount(const QString& /*text*/) override {}
+    void setRow(int r, const std::array<QString, 5>& texts) override {
+        const auto row = static_cast<std::size_t>(r);
+        fields_.Text6.at(row) = texts[0];
+        fields_.Text7.at(row) = texts[1];
+        fields_.Text8.at(row) = texts[2];
+        fields_.Text5.at(row) = texts[3];
+        fields_.Text10.at(row) = texts[4];
+    }
+    void showRow(int /*r*/) override {}
+
+private:
+    InputFields& fields_;
+};
+
+Json resultJson(const StaticsForm& form) {
+    Json list = Json::array();
+    for (const QString& line : form.lstObciazen)
+        list.push_back(line.toStdString());
+    Json result;
+    const char* const names[] = {"N", "M1", "M2", "Vx", "Vy"};
+    for (std::size_t i = 0; i < std::size(names); ++i)
+        result[names[i]] = form.Text1[i].toStdString();
+    result["lista"] = list;
+    return result;
+}
+
+} // namespace
+
+ColumnTask readColumnTask(const Json& value, const std::string& path) {
+    if (!value.is_array())
+        throw TaskError(path, "expected an array of loads");
+    ColumnTask task;
+    for (std::size_t i = 0; i < value.size(); ++i)
+        task.loads.push_back(readLoad(value[i], path + '[' + std::to_string(i) + ']'));
+    return task;
+}
+
+SectionResult runColumnTask(const ColumnTask& task, Stan& stan, InputFields& fields) {
+    Stan_statyki loads;
+    StaticsForm form = openStatics(loads);
+    FieldTable table(fields);
+    SectionResult result;
+    try {
+        for (const ColumnTask::Load& load : task.loads)
+            declare(load, loads, form);
+        saveTotals(stan, form.Text1, table);
+    } catch (const RunTimeError& failure) {
+        result.Blad = errorJson(failure);
+    }
+    result.value = resultJson(form);
+    return result;
+}
+
+} // namespace ferna::batch

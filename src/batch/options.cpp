@@ -1,0 +1,97 @@
+#include "batch/options.h"
+
+#include "batch/report_files.h"
+
+#include <QCommandLineParser>
+
+namespace ferna::batch {
+
+namespace {
+
+Leave badCall(const QString& what) {
+    return {"ferna-wsad: " + what.toStdString() + '\n', 2};
+}
+
+} // namespace
+
+std::variant<Options, Leave> readOptions(const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QStringLiteral("Computes column bases without windows: one task file, or a stream of "
+                       "tasks, one a line.\nExit codes: 0 computed; 1 refused or not solved; 2 bad "
+                       "call or unreadable task."));
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Show this help."));
+    const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
+                                     QStringLiteral("Show the version."));
+    const QCommandLineOption catalogue(
+        QStringLiteral("katalog"),
+        QStringLiteral("Language catalogue to use in place of the task's language."),
+        QStringLiteral("FILE"));
+    const QCommandLineOption decimal(QStringLiteral("dziesietny"),
+                                     QStringLiteral("Decimal sign of the report, a comma or a "
+                                                    "point; the locale's without it."),
+                                     QStringLiteral(",|."));
+    const QCommandLineOption report(QStringLiteral("raport"),
+                                    QStringLiteral("Write the report, its format by the file's "
+                                                   "ending (%1); may be given several times.")
+                                        .arg(reportEndings().join(QStringLiteral(", "))),
+                                    QStringLiteral("FILE"));
+    const QCommandLineOption result(
+        QStringLiteral("wynik"), QStringLiteral("Write the result here, not to standard output."),
+        QStringLiteral("FILE.json"));
+    const QCommandLineOption lines(
+        QStringLiteral("linie"),
+        QStringLiteral("Read tasks from standard input, one a line; results in the same order."));
+    const QCommandLineOption threads(QStringLiteral("watki"),
+                                     QStringLiteral("Threads of a stream, 1 to 256."),
+                                     QStringLiteral("N"), QStringLiteral("1"));
+    parser.addOptions({help, version, catalogue, decimal, report, result, lines, threads});
+    parser.addPositionalArgument(QStringLiteral("TASK.json"), QStringLiteral("The task."));
+
+    if (!parser.parse(QStringList{QStringLiteral("ferna-wsad")} + arguments))
+        return badCall(parser.errorText());
+    if (parser.isSet(help))
+        return Leave{parser.helpText().toStdString(), 0};
+    if (parser.isSet(version))
+        return Leave{"ferna-wsad " FERNA_VERSION "\n", 0};
+
+    Options options;
+    options.catalogue = parser.value(catalogue);
+    if (parser.isSet(decimal)) {
+        const QString sign = parser.value(decimal);
+        if (sign != u"," && sign != u".")
+            return badCall(
+                QStringLiteral("--dziesietny: expected , or . and not \"%1\"").arg(sign));
+        options.decimalSign = sign.front();
+    }
+    options.reports = parser.values(report);
+    for (const QString& file : options.reports)
+        if (!isReportFile(file))
+            return badCall(QStringLiteral("--raport %1: expected a file ending in %2")
+                               .arg(file, reportEndings().join(QStringLiteral(", "))));
+    options.result = parser.value(result);
+    options.lines = parser.isSet(lines);
+    bool isNumber = false;
+    options.threads = parser.value(threads).toInt(&isNumber);
+    if (!isNumber || options.threads < 1 || options.threads > 256)
+        return badCall(
+            QStringLiteral("--watki: expected a whole number from 1 to 256 and not \"%1\"")
+                .arg(parser.value(threads)));
+    const QStringList tasks = parser.positionalArguments();
+    if (options.lines) {
+        if (!tasks.isEmpty() || !options.reports.isEmpty() || !options.result.isEmpty())
+            return badCall(
+                QStringLiteral("--linie reads standard input and writes standard output; "
+                               "it takes no task file, --raport or --wynik"));
+        return options;
+    }
+    if (parser.isSet(threads))
+        return badCall(QStringLiteral("--watki goes with --linie"));
+    if (tasks.size() != 1)
+        return badCall(QStringLiteral("expected one task file (see --help)"));
+    options.task = tasks.front();
+    return options;
+}
+
+} // namespace ferna::batch

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QChar>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace ferna::batch {
+
+/// What the command line asks for.
+struct Options {
+    QString catalogue;                ///< --katalog
+    std::optional<QChar> decimalSign; ///< --dziesietny; the locale's without it
+    QStringList reports;              ///< --raport, in order
+    QString result;                   ///< --wynik; standard output without it
+    bool lines = false;               ///< --linie
+    int threads = 1;                  ///< --watki
+    QString task;                     ///< the task file of a single run
+};
+
+/// Text to print and the exit code to leave with.
+struct Leave {
+    std::string text;
+    int exitCode;
+};
+
+/// Reads the arguments behind the program's name.
+std::variant<Options, Leave> readOptions(const QStringList& arguments);
+
+} // namespace ferna::batch

@@ -1,0 +1,168 @@
+#include "batch/plate_section.h"
+
+#include "plate/plate_checks.h"
+#include "plate/plate_tables.h"
+
+namespace ferna::batch {
+
+namespace {
+
+/// A key of a check and the field that it fills.
+struct FieldKey {
+    const char* key;
+    bool whole; ///< read as a whole number
+    QString& (*field)(PlateFields&);
+};
+
+template <std::size_t i>
+QString& Text1(PlateFields& fields) {
+    return fields.Text1[i];
+}
+template <std::size_t i>
+QString& Text2(PlateFields& fields) {
+    return fields.Text2[i];
+}
+template <std::size_t i>
+QString& Text3(PlateFields& fields) {
+    return fields.Text3[i];
+}
+
+using FieldKeys = std::vector<FieldKey>;
+
+/// The fields of each check 1..8; check 4 has its list of profiles besides.
+const std::array<FieldKeys, PlateChecks> fieldKeys{
+    FieldKeys{{"bs", false, Text1<0>}, {"ca", false, Text2<0>}, {"S", false, Text3<0>}},
+    FieldKeys{{"ca", false, Text2<1>}, {"sigma_k", false, Text3<1>}, {"sigma_p", false, Text3<8>}},
+    FieldKeys{{"l", true, Text1<1>}, {"b", true, Text2<2>}, {"sigma", false, Text3<3>}},
+    FieldKeys{{"sigma", false, Text3<2>}},
+    FieldKeys{{"l", true, Text1<2>}, {"b", true, Text2<3>}, {"sigma", false, Text3<4>}},
+    FieldKeys{{"l", true, Text1<3>}, {"b", true, Text2<4>}, {"sigma", false, Text3<5>}},
+    FieldKeys{{"b", true, Text1<4>},
+              {"a", true, Text2<5>},
+              {"c", true, Text2<6>},
+              {"S", false, Text3<6>}},
+    FieldKeys{{"b", true, Text1<5>},
+              {"a", true, Text2<8>},
+              {"c", true, Text2<7>},
+              {"S", false, Text3<7>}},
+};
+
+TaskObject checkObject(const Json& value, const std::string& path, int check) {
+    switch (check) {
+    case 1:
+        return {value, path, {"bs", "ca", "S"}};
+    case 2:
+        return {value, path, {"ca", "sigma_k", "sigma_p"}};
+    case 4:
+        return {value, path, {"Nr_profilu", "sigma"}};
+    case 7:
+    case 8:
+        return {value, path, {"b", "a", "c", "S"}};
+    default:
+        return {value, path, {"l", "b", "sigma"}};
+    }
+}
+
+PlateTask::Check readCheck(const Json& value, const std::string& path, int check) {
+    const TaskObject object = checkObject(value, path, check);
+    struct Typed {
+        QString& (*field)(PlateFields&);
+        QString text;
+    };
+    std::vector<Typed> typed;
+    for (const FieldKey& key : fieldKeys[static_cast<std::size_t>(check - 1)])
+        if (const auto text =
+                key.whole ? object.wholeFieldText(key.key) : object.fieldText(key.key))
+            typed.push_back({key.field, *text});
+    std::optional<int> profile;
+    if (check == 4)
+        profile = object.listNumber("Nr_profilu", 1, static_cast<int>(profileNames().size()));
+    return {check, [typed, profile](PlateFields& fields) {
+                for (const Typed& one : typed)
+                    one.field(fields) = one.text;
+                if (profile)
+                    fields.cmbProfil = *profile - 1;
+            }};
+}
+
+/// The dialog of the user's plate steel, filled from the task; a refusal is followed by a cancel.
+class TypedPlateSteel : public PlateSteelHost {
+public:
+    TypedPlateSteel(const PlateSteelFields& fields, Dialogs& dialogs)
+        : fields_(fields), dialogs_(dialogs) {}
+
+    void KGM8b(Stan& stan) override {
+        if (acceptPlateSteel(stan, fields_, dialogs_))
+            cancelSteel(stan);
+    }
+
+private:
+    const PlateSteelFields& fields_;
+    Dialogs& dialogs_;
+};
+
+Json linesJson(const Stan_raportu& report) {
+    Json lines = Json::array();
+    if (report.Liczba_wierszy_blachy > 0)
+        for (int i = 0; i <= report.Liczba_wierszy_blachy; ++i)
+            lines.push_back(report.Wiersze_blachy(i).toStdString());
+    return lines;
+}
+
+Json resultJson(const Stan& stan, const PlateForm& form) {
+    Json results = Json::array();
+    for (int n = 1; n <= PlateChecks; ++n)
+        results.push_back(stan.raport.Spr_blachy(n));
+    return {{"Spr_blachy", results},
+            {"Fd_blachy", Double{stan.materialy.Fd_blachy}},
+            {"Grubosc", form.fields.Text4.toStdString()},
+            {"Wiersze_blachy", linesJson(stan.raport)}};
+}
+
+} // namespace
+
+PlateTask readPlateTask(const Json& value, const std::string& path) {
+    const TaskObject object(
+        value, path,
+        {"Nr_stali_blachy", "Blacha_nazwa", "Blacha_fd", "Blacha_t_max", "Grubosc", "Sprawdzenia"});
+    const QString zero = QStringLiteral("0");
+    PlateTask task;
+    task.cmbStalb = object.listNumber("Nr_stali_blachy", 1, userPlateSteel).value_or(0) - 1;
+    task.steel = {object.text("Blacha_nazwa"),
+                  {object.fieldText("Blacha_fd").value_or(zero),
+                   object.wholeFieldText("Blacha_t_max").value_or(zero)}};
+    if (object.has("Grubosc") && !object.at("Grubosc").is_null())
+        task.Grubosc = object.fieldText("Grubosc");
+    if (!object.has("Sprawdzenia"))
+        return task;
+    const TaskObject checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
+                            {"1", "2", "3", "4", "5", "6", "7", "8"});
+    for (const auto& item : object.at("Sprawdzenia").items())
+        task.checks.push_back(
+            readCheck(item.value(), checks.pathOf(item.key()), std::stoi(item.key())));
+    return task;
+}
+
+PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dialogs) {
+    PlateSectionResult result;
+    PlateForm form;
+    TypedPlateSteel host(task.steel, dialogs);
+    const PlateWork work{stan, form, dialogs, host};
+    try {
+        form = openPlateForm(stan);
+        form.fields.cmbStalb = task.cmbStalb;
+        leaveGradeList(stan, form, dialogs, host);
+        for (const PlateTask::Check& check : task.checks) {
+            check.type(form.fields);
+            computePlateCheck(work, check.check);
+        }
+        form.fields.Text4 = task.Grubosc.value_or(form.fields.Text4);
+        result.section = writePlateSection(stan, form, dialogs);
+    } catch (const RunTimeError& failure) {
+        result.Blad = errorJson(failure);
+    }
+    result.value = resultJson(stan, form);
+    return result;
+}
+
+} // namespace ferna::batch

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "batch/section_json.h"
+#include "design/user_steels.h"
+#include "plate/plate_form.h"
+#include "plate/plate_report_lines.h"
+
+#include <functional>
+#include <vector>
+
+namespace ferna::batch {
+
+/// The key "Blacha" of a task: what the engineer types and presses in the plate form, in order.
+struct PlateTask {
+    struct Check {
+        int check; ///< 1..8
+        std::function<void(PlateFields&)> type;
+    };
+    int cmbStalb = -1;
+    PlateSteelFields steel; ///< typed into the dialog of the user's plate steel
+    std::vector<Check> checks;
+    std::optional<QString> Grubosc; ///< typed over the accepted thickness
+};
+
+struct PlateSectionResult : SectionResult {
+    std::optional<PlateSection> section; ///< empty where nothing entered the report
+};
+
+/// Throws TaskError.
+PlateTask readPlateTask(const Json& value, const std::string& path = "Blacha");
+
+/// Opens the form on the results in the state, chooses the grade and leaves its list, runs the
+/// checks in their order, types the thickness and confirms. A run-time error ends the run where it
+/// stands. The result has "Spr_blachy", "Fd_blachy", "Grubosc" and "Wiersze_blachy".
+PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dialogs);
+
+} // namespace ferna::batch

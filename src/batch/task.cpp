@@ -1,0 +1,130 @@
+#include "batch/task.h"
+
+#include "design/material_tables.h"
+#include "input/anchor_layout.h"
+#include "runtime/format.h"
+
+namespace ferna::batch {
+
+namespace {
+
+std::string element(const char* key, std::size_t index) {
+    return std::string(key) + '[' + std::to_string(index) + ']';
+}
+
+void readOptions(ObjectReader& task, Task& out) {
+    Opcje_zadania& options = out.stan.opcje;
+    out.fields.txtNaz_proj = task.text("Nazwa_projektu", {});
+    out.Nazwa_stopy = task.text("Nazwa_stopy", {});
+    out.fields.txtNr_strony = general(task.integer("Nr_strony", 1));
+    options.Nr_normy = task.integer("Nr_normy", 0, 0, 1);
+    options.Nr_jezyka = task.integer("Nr_jezyka", 0, 0, 4);
+    options.Tryb_RTF = task.integer("Tryb_RTF", 1, 0, 2);
+    out.fields.optHsruby_0 = task.integer("Hsily_wszystkie", 0, 0, 1) == 0;
+    options.Tryb_wsp_n = task.integer("Tryb_wsp_n", 0, 0, 1);
+    options.Nr_betonu = task.integer("Nr_betonu", 1, 1, 5);
+    out.fields.Option1_0 = task.integer("Stopa_betonowa", 0, 0, 1) == 0;
+    out.fields.cmbStal = task.integer("Nr_stali", 2, 1, userSteel) - 1;
+}
+
+/// n as the field of the form shows it: computed and written with two decimals, or as typed.
+void readRatio(ObjectReader& task, Task& out) {
+    const Opcje_zadania& options = out.stan.opcje;
+    if (options.Tryb_wsp_n == 1) {
+        out.fields.Text2 = general(task.requiredNumber("Wsp_n_val"));
+        return;
+    }
+    task.number("Wsp_n_val", 0);
+    const Single n = ratioN(concrete(options.Nr_normy, options.Nr_betonu).Eb_betonu);
+    out.fields.Text2 = Format(n, u"###.##");
+}
+
+/// Both the remembered values and what is typed into the dialog.
+void readSteel(ObjectReader& task, Task& out) {
+    if (!task.has("Stal"))
+        return;
+    ObjectReader steel(task.at("Stal"), "Stal");
+    const auto single = [&steel](const char* key) {
+        const double value = steel.number(key, 0);
+        if (!std::isfinite(static_cast<Single>(value)))
+            throw TaskError(steel.pathOf(key), "expected a number that fits 32 bits");
+        return CSng(value);
+    };
+    Materialy& materials = out.stan.materialy;
+    materials.Stal_nazwa = steel.text("Stal_nazwa", {});
+    materials.Stal_fd = single("Stal_fd");
+    materials.Stal_fi_max = steel.integer("Stal_fi_max", 0);
+    materials.Stal_Re = single("Stal_Re");
+    materials.Stal_Rm = single("Stal_Rm");
+    steel.finish();
+    out.steel = rememberedAnchorSteel(materials);
+}
+
+void readAnchors(ObjectReader& task, Task& out) {
+    const Json& anchors = arrayOf(task.required("Kotwy"), "Kotwy");
+    if (anchors.size() > MaxAnchors)
+        throw TaskError("Kotwy", "expected at most " + std::to_string(MaxAnchors)
+                                     + " anchors, found " + std::to_string(anchors.size()));
+    Plyta_i_kotwy& plate = out.stan.plyta;
+    for (std::size_t i = 0; i < anchors.size(); ++i) {
+        const std::string path = element("Kotwy", i);
+        ObjectReader anchor(anchors[i], path);
+        const auto coordinate = [&](const char* key) -> Integer {
+            const double mm = anchor.requiredNumber(key);
+            if (!(std::fabs(mm) <= 32767))
+                throw TaskError(anchor.pathOf(key),
+                                "expected a coordinate in mm that fits 16 bits");
+            return CInt(mm);
+        };
+        const Integer x = coordinate("x");
+        const Integer y = coordinate("y");
+        plate.Liczba_srub = CInt(static_cast<int>(i) + 1);
+        storeAnchorAt(plate, plate.Liczba_srub, x, y, anchor.requiredInteger("fi"));
+        anchor.finish();
+    }
+    Lista_srub(out.stan);
+}
+
+void readCases(ObjectReader& task, Task& out) {
+    const Json& cases = arrayOf(task.required("Przypadki"), "Przypadki");
+    const std::size_t most = out.column ? MaxCases - 1 : MaxCases;
+    if (cases.empty() || cases.size() > most)
+        throw TaskError("Przypadki", "expected 1 to " + std::to_string(most)
+                                         + (out.column ? " cases and a column" : " cases")
+                                         + ", found " + std::to_string(cases.size()));
+    InputFields& fields = out.fields;
+    for (std::size_t r = 0; r < cases.size(); ++r) {
+        ObjectReader loads(cases[r], element("Przypadki", r));
+        fields.Text6[r] = general(loads.requiredNumber("N"));
+        fields.Text7[r] = general(loads.requiredNumber("M1"));
+        fields.Text8[r] = general(loads.requiredNumber("M2"));
+        fields.Text5[r] = general(loads.requiredNumber("Vx"));
+        fields.Text10[r] = general(loads.requiredNumber("Vy"));
+        loads.finish();
+    }
+    out.stan.obciazenia.Liczba_przyp = CInt(static_cast<int>(cases.size()));
+}
+
+} // namespace
+
+Task readTask(const Json& json) {
+    Task out;
+    ObjectReader task(json, "");
+    readOptions(task, out);
+    readRatio(task, out);
+    readSteel(task, out);
+    out.fields.Text3 = general(task.requiredInteger("Dlug_plyty_mm"));
+    out.fields.Text4 = general(task.requiredInteger("Szer_plyty_mm"));
+    if (task.has("Slup"))
+        out.column = readColumnTask(task.at("Slup"));
+    if (task.has("Blacha"))
+        out.plate = readPlateTask(task.at("Blacha"));
+    if (task.has("Kotwa"))
+        out.anchor = readAnchorTask(task.at("Kotwa"));
+    readAnchors(task, out);
+    readCases(task, out);
+    task.finish();
+    return out;
+}
+
+} // namespace ferna::batch

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "batch/anchor_section.h"
+#include "batch/column_section.h"
+#include "batch/object_reader.h"
+#include "batch/plate_section.h"
+#include "design/input_fields.h"
+#include "design/user_steels.h"
+
+#include <string>
+#include <string_view>
+
+namespace ferna::batch {
+
+/// One column base as a task describes it: the state as an engineer would have set it before
+/// pressing "Oblicz", and the fields of the main form as typed.
+struct Task {
+    Stan stan;
+    InputFields fields;
+    AnchorSteelFields steel; ///< typed into the dialog of the user's steel
+    QString Nazwa_stopy;
+    std::optional<ColumnTask> column; ///< "Slup"
+    std::optional<PlateTask> plate;   ///< "Blacha"
+    std::optional<AnchorTask> anchor; ///< "Kotwa"
+};
+
+/// Text to JSON. Throws TaskError where it is no JSON or a key stands twice in an object.
+Json parsed(std::string_view text);
+
+/// JSON to a task. Throws TaskError for what the companion refuses: unknown keys, wrong types,
+/// missing keys, list numbers outside their lists, more than 20 anchors or 6 cases, whole numbers
+/// beyond 16 bits. Everything else goes to the calculation as if typed. Numbers become field texts
+/// with the decimal sign of the process.
+Task readTask(const Json& json);
+
+/// The line (from 1) of a task's text on which the value of a key path stands, 1 where it is not
+/// found.
+int lineOf(std::string_view text, const std::string& path);
+
+} // namespace ferna::batch

@@ -1,0 +1,116 @@
+#include "batch/task_run.h"
+
+#include "design/calculation.h"
+#include "design/language.h"
+#include "input/plate_drawing.h"
+#include "report/sketch_files.h"
+#include "report/zone_sketch.h"
+
+namespace ferna::batch {
+
+namespace {
+
+/// The surroundings of a calculation without windows: the steel dialog is answered from the task.
+class HeadlessHost : public CalculationHost {
+public:
+    HeadlessHost(ComputedTask& done, const RunOptions& options) : done_(done), options_(options) {}
+
+    void KGM8(Stan& stan) override {
+        if (acceptAnchorSteel(stan, done_.task.steel, done_.dialogs))
+            cancelSteel(stan);
+    }
+
+    void drawPlate(Stan& stan, const InputFields& fields) override {
+        if (!options_.pictures.isEmpty())
+            savePlatePicture(stan, fields, done_.dialogs,
+                             options_.pictures + QStringLiteral("/Ferrob.bmp"));
+    }
+
+    void caseEnded(int c) override {
+        CaseTrace& trace = done_.traces.at(static_cast<std::size_t>(c));
+        const Wyniki& results = done_.task.stan.wyniki;
+        trace.firstLine = CInt(lastLine_ + 1);
+        trace.lastLine = lastLine_ = results.Nr_wiersza;
+        trace.wholePlate = results.Przyp_policzony(c) == True;
+        trace.Beta = done_.solver.Beta;
+        trace.C_linii = done_.solver.C_linii;
+        trace.Wsp_k = done_.solver.Wsp_k;
+    }
+
+private:
+    ComputedTask& done_;
+    const RunOptions& options_;
+    Integer lastLine_ = 0;
+};
+
+/// Keeps the result of a section. False where a run-time error stopped it.
+bool keep(ComputedTask& done, const char* key, SectionResult result) {
+    done.sections[key] = std::move(result.value);
+    done.failure = std::move(result.Blad);
+    return done.failure.is_null();
+}
+
+/// The sections that follow the results, in the order of the menu.
+void runSections(ComputedTask& done, const RunOptions& options) {
+    Stan& stan = done.task.stan;
+    if (done.task.plate) {
+        const PlateSectionResult result = runPlateTask(*done.task.plate, stan, done.dialogs);
+        if (result.section && !options.pictures.isEmpty())
+            for (const PlateSketch& sketch : result.section->sketches)
+                savePlateSketch(options.pictures, sketch.image, QString::fromLatin1(sketch.file));
+        if (!keep(done, "Blacha", result))
+            return;
+    }
+    if (done.task.anchor)
+        keep(done, "Kotwa", runAnchorTask(*done.task.anchor, stan, done.dialogs));
+}
+
+void prepareReport(ComputedTask& done, const RunOptions& options) {
+    Stan& stan = done.task.stan;
+    Wypelnij_wiersze(done.raport, stan);
+    for (int c = 1; c <= stan.obciazenia.Liczba_przyp; ++c) {
+        if (wholePlate(stan, c))
+            continue;
+        if (options.pictures.isEmpty())
+            done.raport.Wiersze_strefy(c - 1) = Wiersz_strefy(stan, c);
+        else
+            Rysuj_strefe(done.raport, stan, c, options.pictures + u'/' + zoneSketchFile(c));
+    }
+    done.dialogs.answers.push_back(done.task.Nazwa_stopy);
+    Naglowek(done.raport, stan, stan.opcje.Nr_normy == 0, options.now, done.dialogs);
+    done.reportReady = true;
+}
+
+} // namespace
+
+ComputedTask run(Task task, const RunOptions& options) {
+    ComputedTask done;
+    done.task = std::move(task);
+    done.now = options.now;
+    Stan& stan = done.task.stan;
+    Czytaj_teksty(stan, options.catalogue.isEmpty()
+                            ? options.dataFolder + u'/' + catalogueFile(stan.opcje.Nr_jezyka)
+                            : options.catalogue);
+    if (done.task.column
+        && !keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields)))
+        return done;
+    HeadlessHost host(done, options);
+    try {
+        const CalculationEnd end = Oblicz(stan, done.solver, done.task.fields, done.dialogs, host);
+        done.computed = end != CalculationEnd::Refused;
+        if (end == CalculationEnd::Computed) {
+            prepareReport(done, options);
+            runSections(done, options);
+        }
+    } catch (const RunTimeError& failure) {
+        done.failure = errorJson(failure);
+        done.computed = false;
+    }
+    return done;
+}
+
+bool solved(const ComputedTask& done) {
+    return done.reportReady && done.failure.is_null();
+}
+
+} // namespace ferna::batch
