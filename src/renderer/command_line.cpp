@@ -1,0 +1,83 @@
+#include "renderer/command_line.h"
+
+namespace ferna::renderer {
+
+namespace {
+
+constexpr int smallestDpi = 20;
+constexpr int largestDpi = 1200;
+
+/// Reads one argument after the other.
+class CallParser {
+public:
+    explicit CallParser(const QStringList& arguments) : arguments_(arguments) {}
+
+    /// The fault; empty where there is none.
+    QString parse(Call& call) {
+        while (next_ < arguments_.size()) {
+            const QString argument = arguments_[next_++];
+            const QString fault =
+                argument.startsWith(u"--") ? option(argument.mid(2), call) : job(argument, call);
+            if (!fault.isEmpty())
+                return fault;
+        }
+        return call.jobPath.isEmpty() ? QStringLiteral("brak pliku zlecenia") : QString();
+    }
+
+private:
+    static QString job(const QString& argument, Call& call) {
+        if (!call.jobPath.isEmpty())
+            return QStringLiteral("zbędny argument \"%1\"").arg(argument);
+        if (argument.isEmpty())
+            return QStringLiteral("pusta nazwa pliku zlecenia");
+        call.jobPath = argument;
+        return {};
+    }
+
+    QString option(const QString& name, Call& call) {
+        const OutputFormat* format = outputFormat(name);
+        if (format == nullptr && name != u"dpi")
+            return QStringLiteral("nieznana opcja \"--%1\"").arg(name);
+        if (next_ >= arguments_.size() || arguments_[next_].isEmpty())
+            return QStringLiteral("brak wartości opcji \"--%1\"").arg(name);
+        const QString value = arguments_[next_++];
+        if (format == nullptr)
+            return dpi(value, call);
+        if (call.format != nullptr)
+            return QStringLiteral("więcej niż jedna postać wyniku");
+        call.format = format;
+        call.outputPath = value;
+        return {};
+    }
+
+    static QString dpi(const QString& value, Call& call) {
+        bool good = false;
+        call.dpi = value.toInt(&good);
+        return good && call.dpi >= smallestDpi && call.dpi <= largestDpi
+                   ? QString()
+                   : QStringLiteral("rozdzielczość \"%1\" zamiast liczby od %2 do %3")
+                         .arg(value)
+                         .arg(smallestDpi)
+                         .arg(largestDpi);
+    }
+
+    const QStringList& arguments_;
+    qsizetype next_ = 0;
+};
+
+} // namespace
+
+std::optional<Call> parseCall(const QStringList& arguments, QString& fault) {
+    Call call;
+    fault = CallParser(arguments).parse(call);
+    return fault.isEmpty() ? std::optional(call) : std::nullopt;
+}
+
+QString usage() {
+    QString formats;
+    for (const OutputFormat& format : outputFormats())
+        formats += QStringLiteral(" | --%1 PLIK").arg(QLatin1String(format.option));
+    return QStringLiteral("Wywołanie: Wyd_drk [%1] [--dpi N] ZLECENIE").arg(formats.mid(3));
+}
+
+} // namespace ferna::renderer

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "renderer/outputs.h"
+
+#include <QStringList>
+
+#include <optional>
+
+namespace ferna::renderer {
+
+/// A call of the program.
+struct Call {
+    QString jobPath;
+    const OutputFormat* format = nullptr; ///< null: the job's mode decides
+    QString outputPath;                   ///< of the format
+    int dpi = 150;
+};
+
+/// The call, without the program's name; empty where it is none, `fault` saying why in Polish.
+std::optional<Call> parseCall(const QStringList& arguments, QString& fault);
+
+/// The call in one Polish line.
+QString usage();
+
+} // namespace ferna::renderer

@@ -1,0 +1,103 @@
+#include "renderer/delivery.h"
+
+#include "platform/metafile.h"
+#include "renderer/emf_writer.h"
+#include "renderer/printing.h"
+#include "runtime/run_time_error.h"
+#include "runtime/text_file.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPainter>
+
+namespace ferna::renderer {
+
+namespace {
+
+/// The metafile on the clipboard, and a bitmap for programs that know no metafiles.
+void toClipboard(const Report& report) {
+    constexpr double pixelsPerMm = 6;
+    const QByteArray bytes = emfOfAllPages(report);
+    const Metafile file = Metafile::fromBytes(bytes);
+    QImage image((file.sizeMm() * pixelsPerMm).toSize(), QImage::Format_RGB32);
+    QPainter painter(&image);
+    file.paint(painter, QRectF(image.rect()));
+    painter.end();
+    auto* data = new QMimeData; // the clipboard takes it over
+    data->setData(QStringLiteral("image/x-emf"), bytes);
+    data->setImageData(image);
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    clipboard->setMimeData(data);
+    if (!clipboard->ownsClipboard())
+        throw RunTimeError(error::DeviceIO, QStringLiteral("nie można zająć schowka"));
+}
+
+/// True where none of the files exists yet or the user wants them replaced.
+bool mayWrite(const QStringList& names) {
+    QStringList existing;
+    for (const QString& name : names)
+        if (QFileInfo::exists(name))
+            existing += QFileInfo(name).fileName();
+    return existing.isEmpty()
+           || QMessageBox::question(nullptr, QStringLiteral("Zapisz jako EMF"),
+                                    QStringLiteral("Zastąpić istniejące pliki: %1?")
+                                        .arg(existing.join(QStringLiteral(", "))))
+                  == QMessageBox::Yes;
+}
+
+/// Asks for a name until it is a new one, may be replaced, or the dialog is cancelled.
+void saveAsEmf(const Report& report, const Call& call, const Job& job) {
+    const OutputFormat& emf = *outputFormat(QStringLiteral("emf"));
+    QFileDialog dialog(nullptr, QStringLiteral("Zapisz jako EMF"), job.folder,
+                       QStringLiteral("Metapliki (*.emf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("emf"));
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked for the names of the pages
+    dialog.selectFile(QStringLiteral("Raport.emf"));
+    QString name;
+    do {
+        if (dialog.exec() != QDialog::Accepted)
+            throw RunTimeError(error::Cancelled, QStringLiteral("okno zapisu pliku EMF"));
+        name = dialog.selectedFiles().constFirst();
+    } while (!mayWrite(fileNames(report, emf, name)));
+    writeReport(report, emf, name, call.dpi);
+}
+
+} // namespace
+
+bool needsScreen(const Call& call, const Job& job) {
+    return call.format == nullptr
+           && (job.mode == Mode::ChosenPrinter || job.mode == Mode::SaveEmf
+               || job.mode == Mode::Clipboard);
+}
+
+void deliver(const Report& report, const Call& call, const Job& job) {
+    if (call.format != nullptr) {
+        writeReport(report, *call.format, call.outputPath, call.dpi);
+        return;
+    }
+    switch (job.mode) {
+    case Mode::ScreenFile:
+        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report));
+        break;
+    case Mode::DefaultPrinter:
+        printOnDefault(report);
+        break;
+    case Mode::ChosenPrinter:
+        printOnChosen(report);
+        break;
+    case Mode::SaveEmf:
+        saveAsEmf(report, call, job);
+        break;
+    case Mode::Clipboard:
+        toClipboard(report);
+        break;
+    }
+}
+
+} // namespace ferna::renderer

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "renderer/command_line.h"
+#include "renderer/job.h"
+
+namespace ferna::renderer {
+
+/// True where the call opens a dialog or uses the clipboard, so that it needs a screen.
+bool needsScreen(const Call& call, const Job& job);
+
+/// Hands a report over as the call or the job's mode asks. Errors of the ways: 57, 70, 75, 76, 61,
+/// 32755 where a dialog is cancelled.
+void deliver(const Report& report, const Call& call, const Job& job);
+
+} // namespace ferna::renderer

@@ -1,0 +1,230 @@
+#include "renderer/drawing_list.h"
+
+#include "platform/drawing.h"
+#include "renderer/text_measure.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace ferna::renderer {
+
+namespace {
+
+/// How many records from `first` on repeat the frame: those up to the record that closes it, or,
+/// where that one is missing, as many as agree with the frame file.
+std::size_t repeatedFrame(const std::vector<Record>& records, std::size_t first, std::size_t end,
+                          const std::vector<Record>& frame) {
+    for (std::size_t i = first; i < end; ++i)
+        if (std::holds_alternative<FrameEndRecord>(records[i].content))
+            return i + 1 - first;
+    std::size_t same = 0;
+    while (first + same < end && same < frame.size()
+           && records[first + same].content == frame[same].content)
+        ++same;
+    return same;
+}
+
+std::size_t segmentEnd(const std::vector<Record>& records, std::size_t first) {
+    while (first < records.size() && !std::holds_alternative<NewPageRecord>(records[first].content))
+        ++first;
+    return first;
+}
+
+/// The box of both; other than Qt's, one without width or height counts too.
+QRectF united(const QRectF& a, const QRectF& b) {
+    return {QPointF(qMin(a.left(), b.left()), qMin(a.top(), b.top())),
+            QPointF(qMax(a.right(), b.right()), qMax(a.bottom(), b.bottom()))};
+}
+
+} // namespace
+
+QRectF Chain::box() const {
+    QRectF all;
+    for (const Text& text : texts)
+        all |= text.box();
+    return all;
+}
+
+bool Chain::leavesInk() const {
+    return std::any_of(texts.begin(), texts.end(), [](const Text& t) { return t.leavesInk(); });
+}
+
+bool TextLine::leavesInk() const {
+    return std::any_of(chains.begin(), chains.end(), [](const Chain& c) { return c.leavesInk(); });
+}
+
+bool TextLine::underlined() const {
+    return !chains.empty() && chains.front().texts.front().underline;
+}
+
+void Block::translate(double dy) {
+    rect.translate(0, dy);
+    picture.rect.translate(0, dy);
+    for (Line& line : lines)
+        line.line.translate(0, dy);
+    for (Text& text : texts)
+        text.baseline.ry() += dy;
+}
+
+void Block::scale(double factor) {
+    const auto scaled = [&](QPointF p) { return rect.topLeft() + (p - rect.topLeft()) * factor; };
+    picture.rect.setSize(picture.rect.size() * factor);
+    for (Line& line : lines)
+        line.line = QLineF(scaled(line.line.p1()), scaled(line.line.p2()));
+    for (Text& text : texts)
+        scaleText(text, scaled(text.baseline), factor);
+    rect.setSize(rect.size() * factor);
+}
+
+Segment RecordInterpreter::frame(const std::vector<Record>& records) {
+    for (const Record& record : records)
+        interpret(record);
+    return std::exchange(segment_, {});
+}
+
+std::vector<Segment> RecordInterpreter::body(const std::vector<Record>& records,
+                                             const std::vector<Record>& frameRecords) {
+    std::vector<Segment> segments;
+    std::size_t first = 0;
+    for (;;) {
+        const std::size_t end = segmentEnd(records, first);
+        const std::size_t bodyFirst = first + repeatedFrame(records, first, end, frameRecords);
+        for (std::size_t i = first; i < end; ++i) {
+            if (i == bodyFirst)
+                segment_ = {};
+            interpret(records[i]);
+        }
+        if (bodyFirst == end)
+            segment_ = {};
+        newLine_ = true;
+        segments.push_back(std::exchange(segment_, {}));
+        if (end == records.size())
+            return segments;
+        first = end + 1;
+    }
+}
+
+void RecordInterpreter::interpret(const Record& record) {
+    if (const auto* move = std::get_if<PenRecord>(&record.content)) {
+        pen(*move);
+        return;
+    }
+    figureOpen_ = false;
+    if (const auto* words = std::get_if<TextRecord>(&record.content))
+        text(*words);
+    else if (const auto* bitmap = std::get_if<PictureRecord>(&record.content))
+        picture(*bitmap, record.line);
+}
+
+void RecordInterpreter::text(const TextRecord& record) {
+    if (record.height)
+        height_ = qMax(1, static_cast<int>(std::lround(*record.height * drawing::unitsPerMm)));
+    underline_ = record.underline.value_or(underline_);
+    weight_ = record.weight.value_or(weight_);
+    font_ = record.font.value_or(font_);
+    if (record.y && !record.y->relative) {
+        newLine_ = newLine_ || record.y->value != lineY_;
+        lineY_ = y_ = record.y->value;
+    } else if (record.y) {
+        y_ += record.y->value;
+    }
+    if (newLine_ || segment_.lines.empty())
+        segment_.lines.push_back({lineY_, {}});
+    newLine_ = false;
+
+    Text text;
+    text.text = lettersOf(record.text, font_);
+    text.baseline = QPointF(record.x.value_or(x_), y_);
+    text.height = height_;
+    text.weight = weight_;
+    text.underline = underline_;
+    measure(text);
+    x_ = text.baseline.x() + text.widthMm();
+
+    std::vector<Chain>& chains = segment_.lines.back().chains;
+    if (record.x || record.pageNumber || chains.empty())
+        chains.push_back({{}, record.pageNumber});
+    chains.back().texts.push_back(std::move(text));
+}
+
+void RecordInterpreter::picture(const PictureRecord& record, int line) {
+    const auto keep = [](std::optional<double>& present, const std::optional<double>& given) {
+        if (given)
+            present = given;
+        return present.has_value();
+    };
+    const bool whole = keep(pictureX_, record.x) & keep(pictureY_, record.y)
+                       & keep(pictureWidth_, record.width) & keep(pictureHeight_, record.height);
+    if (!whole) {
+        complaints_.add(path_, line, QStringLiteral("rysunek bez miejsca albo wymiarów"));
+        return;
+    }
+    Block block;
+    block.rect = {*pictureX_, *pictureY_, *pictureWidth_, *pictureHeight_};
+    block.picture = {block.rect, image(record.path, line)};
+    if (block.picture.image.isNull())
+        standIn(block, QFileInfo(QDir::fromNativeSeparators(record.path)).fileName());
+    segment_.blocks.push_back(std::move(block));
+}
+
+QImage RecordInterpreter::image(const QString& path, int line) {
+    const QString full =
+        QFileInfo(path_).absoluteDir().absoluteFilePath(QDir::fromNativeSeparators(path));
+    const auto known = images_.constFind(full);
+    if (known != images_.constEnd())
+        return *known;
+    const QImage image(full);
+    if (image.isNull())
+        complaints_.add(path_, line,
+                        (QFileInfo::exists(full) ? QStringLiteral("nie można wczytać rysunku %1")
+                                                 : QStringLiteral("brak pliku rysunku %1"))
+                            .arg(QDir::toNativeSeparators(full)));
+    // A transparent picture stands on the white sheet.
+    QImage opaque(image.size(), QImage::Format_RGB32);
+    if (image.hasAlphaChannel()) {
+        opaque.fill(Qt::white);
+        QPainter(&opaque).drawImage(0, 0, image);
+    } else {
+        opaque = image.convertToFormat(QImage::Format_RGB32);
+    }
+    images_.insert(full, opaque);
+    return opaque;
+}
+
+void RecordInterpreter::standIn(Block& block, const QString& file) {
+    const QRectF r = block.rect;
+    const QPointF corners[] = {r.topLeft(), r.topRight(), r.bottomRight(), r.bottomLeft()};
+    for (std::size_t i = 0; i < 4; ++i)
+        block.lines.push_back({QLineF(corners[i], corners[(i + 1) % 4]), lineWidthMm_});
+    Text text;
+    text.text = QStringLiteral("brak rysunku ") + file;
+    text.height = 280;
+    measure(text);
+    const double room = r.width() - 2;
+    if (text.widthMm() > room && room > 0)
+        scaleText(text, {}, room / text.widthMm());
+    text.baseline = QPointF(r.left() + (r.width() - text.widthMm()) / 2, r.center().y());
+    block.texts.push_back(std::move(text));
+}
+
+void RecordInterpreter::pen(const PenRecord& record) {
+    const QPointF target(record.x.value_or(pen_.x()), record.y.value_or(pen_.y()));
+    penDraws_ = record.draws.value_or(penDraws_);
+    if (penDraws_) {
+        if (!figureOpen_ || segment_.blocks.empty())
+            segment_.blocks.emplace_back();
+        figureOpen_ = true;
+        Block& figure = segment_.blocks.back();
+        const QLineF stroke(pen_, target);
+        const QRectF box = QRectF(stroke.p1(), stroke.p2()).normalized();
+        figure.rect = figure.lines.empty() ? box : united(figure.rect, box);
+        figure.lines.push_back({stroke, lineWidthMm_});
+    }
+    pen_ = target;
+}
+
+} // namespace ferna::renderer

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "renderer/page.h"
+#include "renderer/records.h"
+
+#include <QHash>
+
+namespace ferna::renderer {
+
+/// Texts that go on one behind the other from one explicit x.
+struct Chain {
+    std::vector<Text> texts;
+    bool pageNumber = false; ///< the frame's text that changes from page to page
+
+    double left() const { return texts.front().baseline.x(); }
+    QRectF box() const;
+    bool leavesInk() const;
+};
+
+/// All texts of one baseline, subscripts included.
+struct TextLine {
+    double y = 0;
+    std::vector<Chain> chains;
+
+    bool leavesInk() const;
+    bool underlined() const;
+};
+
+/// A picture, or straight lines drawn in one go.
+struct Block {
+    QRectF rect;
+    Picture picture; ///< its image is null for straight lines
+    std::vector<Line> lines;
+    std::vector<Text> texts; ///< the name in place of a missing picture
+
+    void translate(double dy);
+    /// Made smaller about its top left corner.
+    void scale(double factor);
+};
+
+/// What stands on a sheet of unlimited height between two explicit new pages.
+struct Segment {
+    std::vector<TextLine> lines;
+    std::vector<Block> blocks;
+};
+
+/// Turns records into positioned primitives. `lineWidthMm` is that of drawn lines. A picture that
+/// cannot be read is named in `complaints` and an outline with its name stands in its place.
+class RecordInterpreter {
+public:
+    RecordInterpreter(QString path, double lineWidthMm, Complaints& complaints)
+        : path_(std::move(path)), lineWidthMm_(lineWidthMm), complaints_(complaints) {}
+
+    /// The frame file: one segment.
+    Segment frame(const std::vector<Record>& records);
+    /// The body file: a segment up to each new page. The frame that the body repeats at the start
+    /// of each segment sets the text settings and is not drawn.
+    std::vector<Segment> body(const std::vector<Record>& records,
+                              const std::vector<Record>& frameRecords);
+
+private:
+    void interpret(const Record& record);
+    void text(const TextRecord& record);
+    void picture(const PictureRecord& record, int line);
+    void pen(const PenRecord& record);
+    void standIn(Block& block, const QString& file);
+    QImage image(const QString& path, int line);
+
+    QString path_;
+    double lineWidthMm_;
+    Complaints& complaints_;
+    Segment segment_;
+    QHash<QString, QImage> images_;
+
+    // The settings that stay in force.
+    double x_ = 0, lineY_ = 0, y_ = 0; ///< behind the last text; its line; with subscript
+    int height_ = 350, weight_ = 400, font_ = 5;
+    bool underline_ = false;
+    QPointF pen_;
+    bool penDraws_ = false;
+    bool figureOpen_ = false; ///< the last block is a figure that a pen record goes on with
+    bool newLine_ = true;
+    std::optional<double> pictureX_, pictureY_, pictureWidth_, pictureHeight_;
+};
+
+} // namespace ferna::renderer

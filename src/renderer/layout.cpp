@@ -1,0 +1,94 @@
+#include "renderer/layout.h"
+
+#include "renderer/fitting.h"
+#include "renderer/grouping.h"
+#include "renderer/page_flow.h"
+#include "renderer/text_measure.h"
+#include "runtime/run_time_error.h"
+
+#include <QDir>
+
+namespace ferna::renderer {
+
+namespace {
+
+constexpr double mmPerPoint = 25.4 / 72;
+constexpr double projectLine = 19; // mm, where the frame has the project's name
+
+/// "Strona 12" becomes "Strona " and the page's own number.
+void number(Chain& chain, int page) {
+    Text& text = chain.texts.front();
+    qsizetype end = text.text.size();
+    while (end > 0 && text.text[end - 1].isDigit())
+        --end;
+    if (end > 0 && end < text.text.size() && text.text[end - 1] == u'-')
+        --end;
+    text.text.truncate(end);
+    if (!text.text.isEmpty() && !text.text.endsWith(u' '))
+        text.text += u' ';
+    text.text += QString::number(page);
+    measure(text);
+}
+
+/// The frame with its page number, as every page starts.
+Page framed(const Segment& frame, int page) {
+    Segment own = frame;
+    for (TextLine& line : own.lines)
+        for (Chain& chain : line.chains)
+            if (chain.pageNumber)
+                number(chain, page);
+    fitFrame(own);
+    Page result;
+    result.number = page;
+    for (const TextLine& line : own.lines)
+        addTo(result, line);
+    for (const Block& block : own.blocks)
+        addTo(result, block);
+    return result;
+}
+
+QString titleOf(const Segment& frame) {
+    for (const TextLine& line : frame.lines)
+        if (line.leavesInk())
+            return line.chains.front().texts.front().text.trimmed();
+    return {};
+}
+
+QString projectOf(const Segment& frame) {
+    constexpr double near = 0.05; // mm
+    for (const TextLine& line : frame.lines)
+        if (qAbs(line.y - projectLine) < near)
+            return line.chains.front().texts.front().text.trimmed();
+    return {};
+}
+
+} // namespace
+
+std::vector<Page> layOut(Segment frame, std::vector<Segment> body, int firstPage) {
+    PageFlow flow([&frame, firstPage](int index) { return framed(frame, firstPage + index); });
+    for (Segment& segment : body) {
+        flow.newPage();
+        for (Group& group : groupsOf(std::move(segment)))
+            flow.place(std::move(group));
+    }
+    return flow.takePages();
+}
+
+Report compose(const Job& job, Complaints& complaints) {
+    const std::vector<Record> frameRecords = readRecordFile(job.framePath, complaints);
+    if (frameRecords.empty())
+        throw RunTimeError(error::DeviceIO, QDir::toNativeSeparators(job.framePath)
+                                                + QStringLiteral(": brak poleceń ramki strony"));
+    const std::vector<Record> bodyRecords = readRecordFile(job.bodyPath, complaints);
+    const double width = job.lineWidthPt * mmPerPoint;
+    Segment frame = RecordInterpreter(job.framePath, width, complaints).frame(frameRecords);
+    std::vector<Segment> body =
+        RecordInterpreter(job.bodyPath, width, complaints).body(bodyRecords, frameRecords);
+    Report report;
+    report.title = titleOf(frame);
+    report.project = projectOf(frame);
+    report.pages = layOut(std::move(frame), std::move(body), job.firstPage);
+    return report;
+}
+
+} // namespace ferna::renderer

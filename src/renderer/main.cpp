@@ -1,0 +1,96 @@
+#include "platform/drawing.h"
+#include "renderer/delivery.h"
+#include "renderer/layout.h"
+#include "runtime/run_time_error.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QFontInfo>
+#include <QLibraryInfo>
+#include <QTranslator>
+
+#include <cstdio>
+#include <memory>
+
+using namespace ferna;
+using namespace ferna::renderer;
+
+namespace {
+
+enum ExitCode { Done = 0, Failed = 1, BadCall = 2, CancelledByUser = 3 };
+
+void say(const QString& line) {
+    std::fputs(("Wyd_drk: " + line.toUtf8() + '\n').constData(), stderr);
+}
+
+/// Qt's own remarks stay out of standard error: a failure is one clear line there.
+void quiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type == QtFatalMsg)
+        say(text);
+}
+
+/// Starts Qt: with widgets on the user's screen, or without either.
+std::unique_ptr<QGuiApplication> startQt(int& argc, char** argv, bool screen) {
+    qInstallMessageHandler(quiet);
+    if (!screen) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        return std::make_unique<QGuiApplication>(argc, argv);
+    }
+    if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+        && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        throw RunTimeError(error::DeviceIO, QStringLiteral("ten tryb zlecenia wymaga ekranu"));
+    auto application = std::make_unique<QApplication>(argc, argv);
+    auto* polish = new QTranslator(application.get()); // Qt's own texts in the dialogs
+    if (polish->load(QStringLiteral("qtbase_pl"),
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(polish);
+    return application;
+}
+
+void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage) {
+    const std::unique_ptr<QGuiApplication> application =
+        startQt(argc, argv, needsScreen(call, job));
+    const QString face = QFontInfo(drawing::fontOf(1)).family();
+    if (face != drawing::textFace)
+        say(QStringLiteral("brak czcionki %1, zamiast niej %2").arg(drawing::textFace, face));
+    Complaints complaints;
+    const Report report = compose(job, complaints);
+    for (const QString& line : complaints.lines())
+        say(line);
+    deliver(report, call, job);
+    nextPage = job.firstPage + static_cast<int>(report.pages.size());
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    QString fault;
+    const std::optional<Call> call = parseCall(arguments, fault);
+    if (!call) {
+        say(fault + QStringLiteral(". ") + usage());
+        return BadCall;
+    }
+    const QString folder = folderOf(call->jobPath);
+    try {
+        // The reply of a failure comes first: it stands also where the run is cut short.
+        int page = 1;
+        if (QFileInfo(folder).isDir())
+            writeReply(folder, false, page);
+        const Job job = readJob(call->jobPath);
+        page = job.firstPage;
+        writeReply(folder, false, page);
+        run(argc, argv, *call, job, page);
+        writeReply(folder, true, page);
+        return Done;
+    } catch (const RunTimeError& failure) {
+        if (failure.number() == error::Cancelled)
+            return CancelledByUser;
+        say(failure.text());
+    } catch (const std::exception& failure) {
+        say(QString::fromLocal8Bit(failure.what()));
+    }
+    return Failed;
+}

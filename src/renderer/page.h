@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QImage>
+#include <QLineF>
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <QString>
+#include <QStringList>
+
+#include <vector>
+
+namespace ferna::renderer {
+
+/// Positioned primitives. Millimetres from the top left corner of the frame, y downward.
+
+struct Text {
+    QString text;
+    QPointF baseline; ///< left end of the baseline
+    int height = 320; ///< of the letters, 0.01 mm
+    int weight = 400; ///< 400 normal, 700 bold
+    bool underline = false;
+    std::vector<int> advances; ///< of every UTF-16 unit, 0.01 mm
+
+    double heightMm() const;
+    double widthMm() const;
+    /// The box of letters, accents, descenders and underline.
+    QRectF box() const;
+    /// Empty where the text is not underlined.
+    QLineF underlineRule() const;
+    double underlineWidthMm() const;
+    /// False for a text of blanks without an underline.
+    bool leavesInk() const;
+};
+
+struct Line {
+    QLineF line;
+    double width = 0; ///< mm
+};
+
+struct Picture {
+    QRectF rect;
+    QImage image;
+};
+
+struct Page {
+    int number = 0;
+    std::vector<Picture> pictures; ///< drawn first
+    std::vector<Line> lines;
+    std::vector<Text> texts;
+};
+
+/// A report laid out.
+struct Report {
+    QString title;   ///< first title line of the frame
+    QString project; ///< its line with the project's name
+    std::vector<Page> pages;
+};
+
+/// A4 portrait, mm.
+inline constexpr QSizeF sheet{210, 297};
+/// The frame's corner on the sheet, mm.
+inline constexpr QPointF frameCorner{20, 5};
+
+} // namespace ferna::renderer

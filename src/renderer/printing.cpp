@@ -1,0 +1,104 @@
+#include "renderer/printing.h"
+
+#include "platform/drawing.h"
+#include "renderer/page_painter.h"
+#include "renderer/print_queue.h"
+#include "runtime/run_time_error.h"
+
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+
+#include <algorithm>
+#include <numeric>
+
+namespace ferna::renderer {
+
+namespace {
+
+constexpr double mmPerInch = 25.4;
+
+[[noreturn]] void cannotPrint(const QString& detail) {
+    throw RunTimeError(error::DeviceIO, detail);
+}
+
+void setUp(QPrinter& printer, const Report& report) {
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageOrientation(QPageLayout::Portrait);
+    printer.setFullPage(true);
+    printer.setDocName(report.project.isEmpty() ? report.title : report.project);
+    printer.setCreator(QStringLiteral("Wyd_drk"));
+}
+
+} // namespace
+
+std::vector<std::size_t> pagesToPrint(const QPrinter& printer, std::size_t pages) {
+    std::size_t first = 1;
+    std::size_t last = pages;
+    if (printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0) {
+        first = static_cast<std::size_t>(printer.fromPage());
+        last = qMin(pages, static_cast<std::size_t>(qMax(printer.fromPage(), printer.toPage())));
+    }
+    std::vector<std::size_t> chosen;
+    for (std::size_t page = first; page <= last; ++page)
+        chosen.push_back(page - 1);
+    if (printer.pageOrder() == QPrinter::LastPageFirst)
+        std::reverse(chosen.begin(), chosen.end());
+    return chosen;
+}
+
+void printOn(QPrinter& printer, const Report& report) {
+    const QString name = printer.printerName();
+    const bool toFile = !printer.outputFileName().isEmpty();
+    if (!toFile) {
+        const QString refusal = queueRefusal(name);
+        if (!refusal.isEmpty())
+            cannotPrint(QStringLiteral("drukarka %1: %2").arg(name, refusal));
+    }
+    const std::vector<std::size_t> chosen = pagesToPrint(printer, report.pages.size());
+    if (chosen.empty())
+        cannotPrint(QStringLiteral("wybrany zakres nie zawiera żadnej z %1 stron raportu")
+                        .arg(report.pages.size()));
+    const int jobsBefore = toFile ? 0 : lastJobOf(name);
+    QPainter painter;
+    if (!painter.begin(&printer))
+        cannotPrint(QStringLiteral("nie można rozpocząć wydruku na drukarce %1").arg(name));
+    const double scale = printer.resolution() / mmPerInch / drawing::unitsPerMm;
+    bool first = true;
+    for (const std::size_t page : chosen) {
+        if (!std::exchange(first, false) && !printer.newPage())
+            cannotPrint(QStringLiteral("drukarka %1 nie przyjęła kolejnej strony").arg(name));
+        painter.resetTransform();
+        painter.scale(scale, scale);
+        paintPage(painter, report.pages[page]);
+    }
+    const bool ended = painter.end();
+    if (!ended || printer.printerState() == QPrinter::Error
+        || (!toFile && jobsBefore >= 0 && lastJobOf(name) <= jobsBefore))
+        cannotPrint(QStringLiteral("drukarka %1 nie przyjęła wydruku").arg(name));
+}
+
+void printOnDefault(const Report& report) {
+    const QPrinterInfo info = QPrinterInfo::defaultPrinter();
+    if (info.isNull())
+        cannotPrint(QStringLiteral("nie ma drukarki domyślnej"));
+    QPrinter printer(info, QPrinter::HighResolution);
+    setUp(printer, report);
+    printOn(printer, report);
+}
+
+void printOnChosen(const Report& report) {
+    QPrinter printer(QPrinter::HighResolution);
+    setUp(printer, report);
+    QPrintDialog dialog(&printer);
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+    dialog.setMinMax(1, static_cast<int>(report.pages.size()));
+    if (dialog.exec() != QDialog::Accepted)
+        throw RunTimeError(error::Cancelled, QStringLiteral("okno wyboru drukarki"));
+    printer.setFullPage(true);
+    printOn(printer, report);
+}
+
+} // namespace ferna::renderer

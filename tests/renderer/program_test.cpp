@@ -1,0 +1,201 @@
+#include "platform/metafile.h"
+#include "renderer/outputs.h"
+#include "renderer/page_checks.h"
+#include "renderer/program_run.h"
+#include "renderer/sample_report.h"
+#include "runtime/text_file.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+
+using namespace ferna;
+using ferna::testing::Outcome;
+using ferna::testing::pdfText;
+using ferna::testing::runProgram;
+using ferna::testing::runRenderer;
+using ferna::testing::SampleReport;
+
+namespace {
+
+class Renderer : public ::testing::Test {
+protected:
+    /// A report of at least two pages.
+    QString job(const QString& mode = QStringLiteral("-2"), int firstPage = 12) {
+        sample.anchorSection(sample.calculation(20, 2, 3));
+        return sample.write(mode, firstPage);
+    }
+    QString reply() const {
+        const QStringList lines = readLines(sample.path(QStringLiteral("W_X.txt")));
+        return lines.size() == 1 ? lines[0] : QStringLiteral("%1 lines").arg(lines.size());
+    }
+    QString path(const char* name) const { return sample.path(QString::fromUtf8(name)); }
+    bool exists(const char* name) const { return QFile::exists(path(name)); }
+
+    QTemporaryDir folder;
+    SampleReport sample{folder.path()};
+};
+
+TEST_F(Renderer, LeavesTheScreenPictureAndTheReply) {
+    const Outcome run = runRenderer({job()});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.errors, QString());
+    const Metafile picture = Metafile::fromFile(path("$a1.emf"));
+    EXPECT_EQ(picture.sizeMm(), QSizeF(210, 2 * 297));
+    EXPECT_EQ(reply(), QStringLiteral(" 1 , 14 "));
+}
+
+TEST_F(Renderer, TheReplyOfANegativePageNumberKeepsItsSign) {
+    EXPECT_EQ(runRenderer({job(QStringLiteral("-2"), -5)}).exitCode, 0);
+    EXPECT_EQ(reply(), QStringLiteral(" 1 ,-3 "));
+}
+
+TEST_F(Renderer, TheReplyNeverLeavesThe16BitsOfAPageNumber) {
+    EXPECT_EQ(runRenderer({job(QStringLiteral("-2"), 32767)}).exitCode, 0);
+    EXPECT_EQ(reply(), QStringLiteral(" 1 , 32767 "));
+}
+
+TEST_F(Renderer, WritesAPdfWithItsTextOnTheRightPages) {
+    const Outcome run = runRenderer({QStringLiteral("--pdf"), path("raport.pdf"), job()});
+    EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    const QString first = pdfText(path("raport.pdf"), 1);
+    const QString second = pdfText(path("raport.pdf"), 2);
+    EXPECT_TRUE(first.contains(QStringLiteral("Długość płyty x =")));
+    EXPECT_TRUE(first.contains(QStringLiteral("Strona 12")));
+    EXPECT_TRUE(first.contains(QStringLiteral("Hala magazynowa – Żółkiew, oś B/7")));
+    EXPECT_TRUE(second.contains(QStringLiteral("Strona 13")));
+    EXPECT_TRUE(second.contains(QStringLiteral("docisku min. ωd = 1,063")));
+    EXPECT_TRUE(second.contains(QStringLiteral("Dobrana kotwa")));
+    EXPECT_FALSE(first.contains(QStringLiteral("Dobrana kotwa")));
+    EXPECT_EQ(reply(), QStringLiteral(" 1 , 14 "));
+
+    const QString info = runProgram(QStringLiteral("pdfinfo"), {path("raport.pdf")}).output;
+    EXPECT_TRUE(info.contains(QStringLiteral("Zakotwienie słupów stalowych")));
+    EXPECT_TRUE(info.contains(QStringLiteral("Żółkiew"))) << "the project's name";
+    EXPECT_TRUE(info.contains(QStringLiteral("Pages:           2")));
+    EXPECT_TRUE(info.contains(QStringLiteral("(A4)")));
+    const QStringList fonts =
+        runProgram(QStringLiteral("pdffonts"), {path("raport.pdf")}).output.split(u'\n');
+    ASSERT_GE(fonts.size(), 3);
+    EXPECT_TRUE(fonts[2].contains(QStringLiteral("Liberation")));
+    EXPECT_TRUE(fonts[2].contains(QStringLiteral("TrueType")));
+    EXPECT_TRUE(fonts[2].simplified().contains(QStringLiteral("yes"))) << "embedded";
+}
+
+TEST_F(Renderer, WritesOneFileAPageOfTheOtherFormats) {
+    const QString file = job();
+    for (const char* format : {"svg", "png", "emf"}) {
+        const QString name = QStringLiteral("raport.") + QLatin1String(format);
+        const Outcome run =
+            runRenderer({QStringLiteral("--") + QLatin1String(format), sample.path(name), file});
+        EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
+        EXPECT_FALSE(QFile::exists(sample.path(name)));
+        for (const char* page : {"-1.", "-2."})
+            EXPECT_TRUE(QFile::exists(sample.path(QStringLiteral("raport") + QLatin1String(page)
+                                                  + QLatin1String(format))));
+    }
+    EXPECT_EQ(Metafile::fromFile(path("raport-2.emf")).sizeMm(), QSizeF(210, 297));
+    EXPECT_EQ(QImage(path("raport-1.png")).size(), QSize(1240, 1754)) << "150 dpi";
+    EXPECT_TRUE(QString::fromUtf8(readFileWhole(path("raport-1.svg")))
+                    .contains(QStringLiteral("Szerokość płyty y =")));
+}
+
+TEST_F(Renderer, AOnePageReportKeepsTheGivenName) {
+    sample.line(85, QStringLiteral("jeden"));
+    const QString file = sample.write(QStringLiteral("-2"), 1);
+    EXPECT_EQ(runRenderer({QStringLiteral("--png"), path("a.png"), QStringLiteral("--dpi"),
+                           QStringLiteral("100"), file})
+                  .exitCode,
+              0);
+    EXPECT_EQ(QImage(path("a.png")).size(), QSize(827, 1169));
+    EXPECT_FALSE(exists("a-1.png"));
+}
+
+TEST_F(Renderer, NamesAMalformedRecordAndDrawsTheRest) {
+    sample.line(85, QStringLiteral("przed"));
+    sample.raw(QStringLiteral("14,x,0.,1"));
+    sample.line(89.5, QStringLiteral("po"));
+    const Outcome run = runRenderer(
+        {QStringLiteral("--pdf"), path("a.pdf"), sample.write(QStringLiteral("-2"), 1)});
+    EXPECT_EQ(run.exitCode, 0);
+    // The frame has 11 line records, 8 texts of two lines and its end.
+    EXPECT_EQ(
+        run.errors,
+        QStringLiteral("Wyd_drk: %1, wiersz 31: \"x\" to nie liczba\n").arg(path("FERNAPr.wyd")));
+    EXPECT_TRUE(pdfText(path("a.pdf"), 1).contains(QStringLiteral("po")));
+}
+
+TEST_F(Renderer, AFailureNamesTheFileInOneLineAndLeavesAReply) {
+    const QString file = job();
+    ASSERT_TRUE(QFile::remove(path("FERNAPr.wyd")));
+    const Outcome run = runRenderer({file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors.count(u'\n'), 1);
+    EXPECT_TRUE(run.errors.contains(path("FERNAPr.wyd"))) << run.errors.toStdString();
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
+    EXPECT_FALSE(exists("$a1.emf"));
+}
+
+TEST_F(Renderer, AMissingJobLeavesAReplyToo) {
+    const Outcome run = runRenderer({path("W_KK.txt")});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains(path("W_KK.txt")));
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 1 "));
+}
+
+TEST_F(Renderer, AnOutputThatCannotBeWrittenIsNamed) {
+    const Outcome run = runRenderer({QStringLiteral("--pdf"), path("brak/raport.pdf"), job()});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains(path("brak/raport.pdf"))) << run.errors.toStdString();
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
+}
+
+TEST_F(Renderer, AnUnknownModeIsAFailure) {
+    const Outcome run = runRenderer({job(QStringLiteral("7"))});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains(QStringLiteral("nieznany tryb 7")));
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 1 "));
+}
+
+TEST_F(Renderer, ABadCallSaysHowToCall) {
+    const QString file = job();
+    const QList<QStringList> calls{{},
+                                   {file, QStringLiteral("zbędny")},
+                                   {QStringLiteral("--doc"), path("a.doc"), file},
+                                   {file, QStringLiteral("--pdf")},
+                                   {QStringLiteral("--dpi"), QStringLiteral("5"), file}};
+    for (const QStringList& call : calls) {
+        const Outcome run = runRenderer(call);
+        EXPECT_EQ(run.exitCode, 2) << call.join(u' ').toStdString();
+        EXPECT_EQ(run.errors.count(u'\n'), 1);
+        EXPECT_TRUE(run.errors.contains(QStringLiteral("Wywołanie: Wyd_drk")));
+    }
+    EXPECT_FALSE(exists("W_X.txt"));
+}
+
+TEST_F(Renderer, AModeWithADialogNeedsAScreen) {
+    QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        bare.remove(QLatin1String(name));
+    for (const char* mode : {"1", " 2", "3"}) {
+        sample = SampleReport(folder.path());
+        const Outcome run = runRenderer({job(QLatin1String(mode))}, bare);
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_TRUE(run.errors.contains(QStringLiteral("wymaga ekranu")));
+        EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
+    }
+}
+
+TEST(PageFileNames, NumberStandsBeforeTheSuffix) {
+    const auto& emf = *renderer::outputFormat(QStringLiteral("emf"));
+    EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/Name.emf"), emf, 0, 1),
+              QStringLiteral("/r/Name.emf"));
+    EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/Name.emf"), emf, 0, 3),
+              QStringLiteral("/r/Name-1.emf"));
+    EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/Name.EMF"), emf, 2, 3),
+              QStringLiteral("/r/Name-3.EMF"));
+    EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/v1.2"), emf, 1, 3),
+              QStringLiteral("/r/v1.2-2.emf"));
+}
+
+} // namespace
