@@ -1,0 +1,126 @@
+#include "design/configuration.h"
+#include "design/start_up.h"
+#include "input/forms/Ferna3.h"
+#include "plate/forms/Grub_bla.h"
+#include "platform/forms/Help_window.h"
+#include "platform/program_folder.h"
+#include "platform/renderer_files.h"
+#include "report/forms/FernaWyn.h"
+#include "runtime/widgets/qt_dialogs.h"
+#include "selection/forms/Dobor_fer.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+using namespace ferna;
+
+/// Tells why the last task cannot be restored. True where the engineer wants the delivered
+/// settings.
+bool wantsDeliveredSettings(const RunTimeError& failure) {
+    QMessageBox box(
+        QMessageBox::Critical, programTitle,
+        QStringLiteral("Błąd wykonania '%1':\n%2").arg(failure.number()).arg(failure.text()));
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        QStringLiteral("Program może zacząć pracę z ustawieniami początkowymi. Uszkodzony plik "
+                       "Ferna.cfg zostanie zachowany jako Ferna.cfg.uszkodzony."));
+    const QPushButton* const restore =
+        box.addButton(QStringLiteral("&Ustawienia początkowe"), QMessageBox::AcceptRole);
+    QPushButton* const end =
+        box.addButton(QStringLiteral("&Zakończ program"), QMessageBox::RejectRole);
+    box.setDefaultButton(end);
+    box.setEscapeButton(end);
+    box.exec();
+    return box.clickedButton() == restore;
+}
+
+/// Reads the last task; a configuration that cannot be read is told, and may be replaced.
+bool restoreLastTask(Stan& stan, const QString& folder) {
+    try {
+        startUp(stan, folder);
+        return true;
+    } catch (const RunTimeError& failure) {
+        if (!wantsDeliveredSettings(failure))
+            return false;
+    }
+    restoreDelivered(folder + QStringLiteral("/Ferna.cfg"), QStringLiteral(":/dane/Ferna.cfg"));
+    startUp(stan, folder);
+    return true;
+}
+
+constexpr int helpContext = 100;
+
+/// The forms of the program and how one leads to another.
+class Program {
+public:
+    Program(Stan& stan, QString folder)
+        : stan_(stan), folder_(std::move(folder)),
+          input_(stan_, folder_, dialogs_, [this] { openResults(); }) {}
+
+    int run() {
+        input_.load();
+        input_.show();
+        return QApplication::exec();
+    }
+
+private:
+    void openResults() {
+        auto session = std::make_unique<ResultsSession>(
+            stan_, dialogs_, folder_, input_.firstNorm(),
+            [] { return QDateTime::currentDateTime(); }, [this] { runRenderer(folder_); });
+        results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
+        input_.hide();
+        results_->open();
+    }
+
+    FernaWyn::Links links() {
+        return {
+            .plateForm =
+                [this](QWidget* parent) { Grub_bla(stan_, folder_, dialogs_, parent).exec(); },
+            .anchorForm =
+                [this](QWidget* parent) { Dobor_fer(stan_, folder_, dialogs_, parent).exec(); },
+            .help = [this] { openHelp(folder_, helpContext); },
+            .back = [this] { input_.show(); },
+            .endProgram =
+                [this] {
+                    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"),
+                               folder_ + u'/' + wyd::replyFile);
+                    QCoreApplication::exit(0);
+                },
+        };
+    }
+
+    Stan& stan_;
+    QString folder_;
+    QtDialogs dialogs_;
+    Ferna3 input_;
+    std::unique_ptr<FernaWyn> results_;
+};
+
+int runProgram() {
+    const QString folder = enterProgramFolder();
+    Stan stan;
+    if (!restoreLastTask(stan, folder))
+        return 1;
+    return Program(stan, folder).run();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("ferna"));
+    QApplication::setApplicationVersion(QStringLiteral(FERNA_VERSION));
+    QApplication::setQuitOnLastWindowClosed(false);
+    try {
+        return runProgram();
+    } catch (const ferna::RunTimeError& failure) {
+        QMessageBox::critical(
+            nullptr, ferna::programTitle,
+            QStringLiteral("Błąd wykonania '%1':\n%2").arg(failure.number()).arg(failure.text()));
+        return 1;
+    }
+}

@@ -1,0 +1,415 @@
+#include "input/forms/Ferna3.h"
+
+#include "design/configuration.h"
+#include "design/language.h"
+#include "design/material_tables.h"
+#include "design/start_up.h"
+#include "input/forms/FernaPon.h"
+#include "input/forms/Fernafi.h"
+#include "input/forms/KGM8.h"
+#include "input/forms/Nowa_Sruba.h"
+#include "input/load_table.h"
+#include "input/material_fields.h"
+#include "input/plate_drawing.h"
+#include "runtime/format.h"
+#include "runtime/widgets/codepage_note.h"
+#include "runtime/widgets/environment_stop.h"
+#include "runtime/widgets/form_tools.h"
+#include "statics/forms/StatykaS.h"
+#include "ui_Ferna3.h"
+
+#include <QCloseEvent>
+#include <QGroupBox>
+#include <QShortcut>
+#include <QTimer>
+
+namespace ferna {
+
+namespace {
+
+constexpr int generalTab = 1;
+constexpr int anchorTab = 3;
+
+} // namespace
+
+Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
+               std::function<void()> openResults)
+    : stan_(stan), folder_(folder), dialogs_(dialogs), openResults_(std::move(openResults)),
+      ui_(std::make_unique<Ui::Ferna3>()) {
+    ui_->setupUi(this);
+    setWindowFlags(Qt::Window);
+    collectFields();
+    for (QGroupBox* group : findChildren<QGroupBox*>())
+        stopTabAtTheChoice(group);
+    showCodepageNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu);
+    ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
+    for (QWidget* field : {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->cmbBeton),
+                           static_cast<QWidget*>(ui_->cmbStal)})
+        field->installEventFilter(this);
+    for (int tab = 0; tab < ui_->SSTab1->count(); ++tab) {
+        auto* const shortcut =
+            new QShortcut(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + tab)), this);
+        connect(shortcut, &QShortcut::activated, this,
+                [this, tab] { ui_->SSTab1->setCurrentIndex(tab); });
+    }
+    connectGuarded(ui_->SSTab1, &QTabWidget::currentChanged, this, [this] { tabChanged(); });
+    connect(ui_->SSTab1, &QTabWidget::tabBarClicked, this, [this](int tab) {
+        if (tab == ui_->SSTab1->currentIndex())
+            focusFirstField();
+    });
+    connectOptions();
+    connectAnchorCommands();
+    connectCommand(ui_->cmdStatyka,
+                   [this] { StatykaS(stan_, statyka_, *this, dialogs_, this).exec(); });
+    connectCommand(ui_->cmdOblicz, [this] { calculate(); });
+    connectCommand(ui_->cmdKoniec, [this] { leaveProgram(); });
+}
+
+Ferna3::~Ferna3() = default;
+
+void Ferna3::collectFields() {
+    for (int r = 0; r < MaxCases; ++r) {
+        auto& row = loads_.at(static_cast<std::size_t>(r));
+        std::size_t column = 0;
+        for (const char* name : {"Text6_%1", "Text7_%1", "Text8_%1", "Text5_%1", "Text10_%1"}) {
+            QLineEdit* const field = findChild<QLineEdit*>(QString::fromLatin1(name).arg(r));
+            QSizePolicy policy = field->sizePolicy();
+            policy.setRetainSizeWhenHidden(true);
+            field->setSizePolicy(policy);
+            row.at(column++) = field;
+        }
+    }
+}
+
+void Ferna3::connectOptions() {
+    const auto onClick = [this](const char* name, int count, auto handler) {
+        for (int i = 0; i < count; ++i)
+            connectGuarded(findChild<QRadioButton*>(QString::fromLatin1(name).arg(i)),
+                           &QRadioButton::clicked, this, [handler, i] { handler(CInt(i)); });
+    };
+    onClick("Jezyk_%1", 5, [this](Integer i) { chooseLanguage(i); });
+    onClick("optRTF_%1", 3, [this](Integer i) { stan_.opcje.Tryb_RTF = i; });
+    onClick("optHsruby_%1", 2, [this](Integer i) { stan_.opcje.Hsily_wszystkie = i; });
+    onClick("Norma_%1", 2, [this](Integer i) {
+        chooseNorm(stan_, i);
+        fillConcretes();
+    });
+    onClick("Wsp_n_%1", 2, [this](Integer i) { chooseRatioMode(i); });
+}
+
+void Ferna3::connectAnchorCommands() {
+    connectCommand(ui_->cmdDodaj1s, [this] { addAnchorsBy(Adding::One); });
+    connectCommand(ui_->cmdDodaj2x, [this] { addAnchorsBy(Adding::PairAboutX); });
+    connectCommand(ui_->cmdDodaj2y, [this] { addAnchorsBy(Adding::PairAboutY); });
+    connectCommand(ui_->cmdDodaj4, [this] { addAnchorsBy(Adding::Four); });
+    connectCommand(ui_->cmdUsun1s, [this] {
+        if (removeOneAnchor(stan_, dialogs_))
+            showAnchors();
+    });
+    connectCommand(ui_->cmdUsunws, [this] {
+        if (removeAllAnchors(stan_, dialogs_))
+            showAnchors();
+    });
+    connectCommand(ui_->cmdZmien1fi,
+                   [this] { changeDiameterOf(askForAnchorToChange(stan_, dialogs_)); });
+    connectCommand(ui_->cmdZmienwfi,
+                   [this] { changeDiameterOf(allAnchorsToChange(stan_, dialogs_)); });
+}
+
+// A button pressed by its mnemonic or by Enter does not take the focus by itself. It is given the
+// focus, so that the field that had it is left, and what that brings runs before the command.
+void Ferna3::connectCommand(QPushButton* button, const std::function<void()>& handler) {
+    connectGuarded(button, &QPushButton::clicked, this, [this, button, handler] {
+        button->setFocus(Qt::ShortcutFocusReason);
+        settleLeftFields();
+        handler();
+    });
+}
+
+bool Ferna3::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusOut && !returning_) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        const bool staysInTheForm = reason != Qt::ActiveWindowFocusReason
+                                    && reason != Qt::PopupFocusReason
+                                    && reason != Qt::MenuBarFocusReason;
+        if (staysInTheForm) {
+            left_.removeAll(watched);
+            left_ += static_cast<QWidget*>(watched);
+            QTimer::singleShot(0, this, &Ferna3::settleWhenFree);
+        }
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+// Leaving a field may open a dialog. Opened in the middle of a click it would swallow the release
+// of the mouse button; while a button is down its command would run behind the dialog's back.
+void Ferna3::settleWhenFree() {
+    constexpr int lookAgain = 20; // ms
+    const auto* const button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (QGuiApplication::mouseButtons() != Qt::NoButton || (button && button->isDown())
+        || QApplication::activePopupWidget() != nullptr)
+        QTimer::singleShot(lookAgain, this, &Ferna3::settleWhenFree);
+    else
+        guarded(this, [this] { settleLeftFields(); });
+}
+
+// A field that cannot be left keeps the focus: what is typed there has to be put right.
+void Ferna3::settleLeftFields() {
+    while (!left_.isEmpty()) {
+        QWidget* const field = left_.takeFirst();
+        if (field == focusWidget()) // back from its own list
+            continue;
+        try {
+            leave(field);
+        } catch (const RunTimeError&) {
+            left_.clear();
+            returnTo(field);
+            throw;
+        }
+    }
+}
+
+void Ferna3::returnTo(QWidget* field) {
+    returning_ = true;
+    field->setFocus(Qt::OtherFocusReason);
+    returning_ = false;
+}
+
+void Ferna3::leave(QWidget* field) {
+    if (field == ui_->Text1)
+        leaveText1();
+    else if (field == ui_->cmbBeton)
+        leaveConcrete();
+    else if (field == ui_->cmbStal)
+        leaveSteel();
+}
+
+void Ferna3::load() {
+    const Opcje_zadania& task = stan_.opcje;
+    ui_->cmbStal->addItems(steelNames());
+    findChild<QRadioButton*>(QStringLiteral("Jezyk_%1").arg(task.Nr_jezyka))->setChecked(true);
+    Jezyk_wczytany = task.Nr_jezyka;
+    findChild<QRadioButton*>(QStringLiteral("optRTF_%1").arg(task.Tryb_RTF))->setChecked(true);
+    findChild<QRadioButton*>(QStringLiteral("Norma_%1").arg(task.Nr_normy))->setChecked(true);
+    findChild<QRadioButton*>(QStringLiteral("Wsp_n_%1").arg(task.Tryb_wsp_n))->setChecked(true);
+    const InputFields start = startFields(stan_);
+    ui_->cmbStal->setCurrentIndex(start.cmbStal);
+    fillConcretes();
+    (start.optHsruby_0 ? ui_->optHsruby_0 : ui_->optHsruby_1)->setChecked(true);
+    ui_->txtNaz_proj->setText(start.txtNaz_proj);
+    ui_->Text2->setText(start.Text2);
+    for (std::size_t r = 0; r < MaxCases; ++r) {
+        const std::array texts{start.Text6[r], start.Text7[r], start.Text8[r], start.Text5[r],
+                               start.Text10[r]};
+        for (std::size_t column = 0; column < texts.size(); ++column)
+            loads_[r][column]->setText(texts[column]);
+    }
+    ui_->Text3->setText(start.Text3);
+    ui_->Text4->setText(start.Text4);
+    leaveText1();
+    Rysuj_P3();
+    ui_->SSTab1->setCurrentIndex(generalTab);
+    centreOnScreen(this);
+}
+
+InputFields Ferna3::fields() const {
+    InputFields out;
+    out.txtNaz_proj = ui_->txtNaz_proj->text();
+    out.txtNr_strony = ui_->txtNr_strony->text();
+    out.Text2 = ui_->Text2->text();
+    out.Text3 = ui_->Text3->text();
+    out.Text4 = ui_->Text4->text();
+    out.cmbStal = ui_->cmbStal->currentIndex();
+    out.Option1_0 = ui_->Option1_0->isChecked();
+    out.optHsruby_0 = ui_->optHsruby_0->isChecked();
+    for (std::size_t r = 0; r < MaxCases; ++r) {
+        out.Text6[r] = loads_[r][0]->text();
+        out.Text7[r] = loads_[r][1]->text();
+        out.Text8[r] = loads_[r][2]->text();
+        out.Text5[r] = loads_[r][3]->text();
+        out.Text10[r] = loads_[r][4]->text();
+    }
+    return out;
+}
+
+bool Ferna3::firstNorm() const {
+    return ui_->Norma_0->isChecked();
+}
+
+void Ferna3::setCount(const QString& text) {
+    ui_->Text1->setText(text);
+}
+
+void Ferna3::setRow(int r, const std::array<QString, 5>& texts) {
+    auto& row = loads_.at(static_cast<std::size_t>(r));
+    for (std::size_t column = 0; column < row.size(); ++column)
+        row[column]->setText(texts[column]);
+}
+
+void Ferna3::showRow(int r) {
+    for (QLineEdit* field : loads_.at(static_cast<std::size_t>(r)))
+        field->setVisible(true);
+}
+
+void Ferna3::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    ui_->txtNr_strony->setText(general(stan_.opcje.Nr_strony));
+    ui_->SSTab1->setCurrentIndex(generalTab);
+    focusFirstField();
+}
+
+// Closing by the frame ends the program without writing the configuration.
+void Ferna3::closeEvent(QCloseEvent* event) {
+    event->accept();
+    QCoreApplication::exit(0);
+}
+
+// With a number of cases that cannot be taken the change of tab is abandoned.
+void Ferna3::tabChanged() {
+    left_.removeAll(ui_->Text1); // taken here
+    try {
+        leaveText1();
+    } catch (const RunTimeError&) {
+        const QSignalBlocker quiet(ui_->SSTab1);
+        ui_->SSTab1->setCurrentIndex(generalTab);
+        returnTo(ui_->Text1);
+        left_.clear();
+        throw;
+    }
+    guarded(this, [this] { settleLeftFields(); });
+    focusFirstField();
+    if (ui_->SSTab1->currentIndex() == anchorTab)
+        Rysuj_P3();
+}
+
+void Ferna3::focusFirstField() {
+    const std::array<QWidget*, 4> first{ui_->txtNaz_proj, ui_->Text1, loads_[0][0], ui_->cmdDodaj4};
+    first.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex()))->setFocus();
+}
+
+void Ferna3::leaveText1() {
+    QString text = ui_->Text1->text();
+    takeCaseCount(stan_, text);
+    ui_->Text1->setText(text);
+    showRows();
+}
+
+void Ferna3::showRows() {
+    for (int r = 0; r < MaxCases; ++r)
+        for (QLineEdit* field : loads_.at(static_cast<std::size_t>(r)))
+            field->setVisible(r < stan_.obciazenia.Liczba_przyp);
+}
+
+void Ferna3::fillConcretes() {
+    ui_->cmbBeton->clear();
+    ui_->cmbBeton->addItems(concreteNames(stan_.opcje.Nr_normy));
+    const int index = stan_.opcje.Nr_betonu - 1;
+    ui_->cmbBeton->setCurrentIndex(index < ui_->cmbBeton->count() ? index : -1);
+}
+
+void Ferna3::leaveConcrete() {
+    if (ui_->cmbBeton->currentIndex() < 0)
+        return;
+    chooseConcrete(stan_, ui_->cmbBeton->currentIndex());
+    if (ui_->Wsp_n_0->isChecked()) {
+        computeRatio(stan_);
+        showRatio();
+    } else {
+        askForRatio();
+    }
+}
+
+void Ferna3::leaveSteel() {
+    if (ui_->cmbStal->currentIndex() >= 0)
+        stan_.opcje.Nr_stali = CInt(ui_->cmbStal->currentIndex() + 1);
+}
+
+void Ferna3::showRatio() {
+    ui_->Text2->setText(ratioText(stan_));
+}
+
+void Ferna3::chooseLanguage(Integer number) {
+    stan_.opcje.Nr_jezyka = number;
+    if (number == Jezyk_wczytany)
+        return;
+    Czytaj_teksty(stan_, folder_ + u'/' + catalogueFile(number));
+    Jezyk_wczytany = number;
+}
+
+void Ferna3::chooseRatioMode(Integer k) {
+    if (k == stan_.opcje.Tryb_wsp_n)
+        return;
+    if (k == 0) {
+        computeRatio(stan_);
+        showRatio();
+    } else {
+        askForRatio();
+    }
+    stan_.opcje.Tryb_wsp_n = k;
+}
+
+void Ferna3::askForRatio() {
+    FernaPon(stan_, dialogs_, this).exec();
+    showRatio();
+}
+
+void Ferna3::addAnchorsBy(Adding way) {
+    addAnchors(stan_, way, [this, way] {
+        if (!nowaSruba_)
+            nowaSruba_ = std::make_unique<Nowa_Sruba>(stan_, dialogs_, this);
+        return nowaSruba_->ask(newAnchorCaption(way));
+    });
+    showAnchors();
+}
+
+void Ferna3::changeDiameterOf(std::optional<Integer> anchor) {
+    if (!anchor)
+        return;
+    Fernafi(stan_, *anchor, dialogs_, this).exec();
+    ui_->Text9->setPlainText(Lista_srub(stan_));
+}
+
+void Ferna3::showAnchors() {
+    ui_->Text9->setPlainText(Lista_srub(stan_));
+    Rysuj_P3();
+}
+
+void Ferna3::Rysuj_P3() {
+    PictureBox picture(platePictureSize);
+    showPlate(ferna::Rysuj_P3(picture, stan_, fields(), dialogs_));
+}
+
+// The picture shows the layout as it was drawn last, whatever has changed in the state since, and
+// is sharp in every size of the form.
+void Ferna3::showPlate(bool drawn) {
+    ui_->Picture3->setDrawing([plate = stan_.plyta, drawn](QSize size, qreal ratio) {
+        PictureBox picture(size, ratio);
+        if (drawn)
+            ferna::drawPlate(picture, plate);
+        return picture.image();
+    });
+}
+
+void Ferna3::KGM8(Stan& stan) {
+    ferna::KGM8(stan, dialogs_, this).exec();
+}
+
+void Ferna3::drawPlate(Stan& stan, const InputFields& fields) {
+    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + QStringLiteral("/Ferrob.bmp")));
+}
+
+void Ferna3::calculate() {
+    const CalculationEnd end = Oblicz(stan_, przypadek_, fields(), dialogs_, *this);
+    if (end == CalculationEnd::Computed)
+        openResults_();
+}
+
+void Ferna3::leaveProgram() {
+    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + QStringLiteral("/W_X.txt"));
+    hide();
+    QCoreApplication::exit(0);
+}
+
+} // namespace ferna

@@ -1,0 +1,102 @@
+#pragma once
+
+#include "analysis/stan_przypadku.h"
+#include "design/calculation.h"
+#include "input/anchor_layout.h"
+#include "statics/load_list.h"
+#include "statics/load_scheme.h"
+
+#include <QDialog>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+class QLineEdit;
+class QPushButton;
+
+namespace Ui {
+class Ferna3;
+}
+
+namespace ferna {
+
+class Nowa_Sruba;
+
+/// The main form: the whole design case on four tabs, and the commands to calculate and to leave.
+class Ferna3 : public QDialog, private CalculationHost, private LoadTable {
+public:
+    /// `folder` is the program folder; `openResults` opens the results form after a calculation.
+    Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs, std::function<void()> openResults);
+    ~Ferna3() override;
+
+    /// Fills the controls from the state that `startUp` has brought in.
+    void load();
+
+    /// The fields and options as they stand.
+    InputFields fields() const;
+
+    /// True where the first option of the norm is set.
+    bool firstNorm() const;
+
+    /// Esc does nothing here: it must not end the program.
+    void reject() override {}
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void KGM8(Stan& stan) override;
+    void drawPlate(Stan& stan, const InputFields& fields) override;
+    void setCount(const QString& text) override;
+    void setRow(int r, const std::array<QString, 5>& texts) override;
+    void showRow(int r) override;
+
+    void collectFields();
+    void connectOptions();
+    void connectAnchorCommands();
+    void connectCommand(QPushButton* button, const std::function<void()>& handler);
+    /// What happens on leaving a field, where something does.
+    void leave(QWidget* field);
+    void settleWhenFree();
+    void settleLeftFields();
+    void returnTo(QWidget* field);
+
+    void tabChanged();
+    void focusFirstField();
+    void leaveText1();
+    void leaveConcrete();
+    void leaveSteel();
+    void showRows();
+    void fillConcretes();
+    void showRatio();
+    void chooseLanguage(Integer number);
+    void chooseRatioMode(Integer k);
+    void askForRatio();
+
+    void addAnchorsBy(Adding way);
+    void changeDiameterOf(std::optional<Integer> anchor);
+    void showAnchors();
+    void Rysuj_P3();
+    void showPlate(bool drawn);
+
+    void calculate();
+    void leaveProgram();
+
+    Stan& stan_;
+    QString folder_;
+    Dialogs& dialogs_;
+    std::function<void()> openResults_;
+    Stan_przypadku przypadek_;
+    Stan_statyki statyka_;
+    std::unique_ptr<Ui::Ferna3> ui_;
+    std::unique_ptr<Nowa_Sruba> nowaSruba_; ///< hidden, not unloaded, between its uses
+    std::array<std::array<QLineEdit*, 5>, MaxCases> loads_{}; ///< by row: N, M1, M2, Vx, Vy
+    Integer Jezyk_wczytany = 0;
+    QList<QWidget*> left_;   ///< left, and what that brings has not run yet
+    bool returning_ = false; ///< the focus goes back to a field that could not be left
+};
+
+} // namespace ferna

@@ -1,0 +1,56 @@
+#include "input/forms/Nowa_Sruba.h"
+
+#include "design/material_tables.h"
+#include "runtime/format.h"
+#include "runtime/widgets/environment_stop.h"
+#include "runtime/widgets/form_tools.h"
+#include "ui_Nowa_Sruba.h"
+
+#include <QKeyEvent>
+
+namespace ferna {
+
+Nowa_Sruba::Nowa_Sruba(Stan& stan, Dialogs& dialogs, QWidget* parent)
+    : QDialog(parent), dialogs_(dialogs), ui_(std::make_unique<Ui::Nowa_Sruba>()) {
+    ui_->setupUi(this);
+    for (const Integer fi : anchorDiameters)
+        ui_->cmbFi->addItem(general(fi));
+    ui_->cmbFi->setCurrentIndex(-1);
+    const auto millimetres = [](Single cm) { return general(Int(CSng(cm * 10.0))); };
+    ui_->Text1->setText(millimetres(stan.plyta.X_kotwy(1)));
+    ui_->Text2->setText(millimetres(stan.plyta.Y_kotwy(1)));
+    connect(ui_->cmdOK, &QPushButton::clicked, this, &Nowa_Sruba::accept);
+}
+
+Nowa_Sruba::~Nowa_Sruba() = default;
+
+NewAnchor Nowa_Sruba::ask(const QString& caption) {
+    setWindowTitle(caption);
+    centreOnScreen(this);
+    ui_->Text1->setFocus();
+    ui_->Text1->selectAll();
+    exec();
+    return anchor_;
+}
+
+// Esc would look like a cancel, and store anchors all the same.
+void Nowa_Sruba::keyPressEvent(QKeyEvent* event) {
+    if (!event->matches(QKeySequence::Cancel))
+        QDialog::keyPressEvent(event);
+}
+
+void Nowa_Sruba::accept() {
+    guarded(this, [this] {
+        if (ui_->cmbFi->currentIndex() < 0) {
+            dialogs_.message(QStringLiteral("Musisz okreslic średnicę śruby"),
+                             QStringLiteral("Ferna 2005 Pr - Błąd"), MessageStyle::Stop);
+            ui_->cmbFi->setFocus();
+            return;
+        }
+        anchor_ = {CInt(ui_->cmbFi->currentText()), CInt(ui_->Text1->text()),
+                   CInt(ui_->Text2->text())};
+        QDialog::accept();
+    });
+}
+
+} // namespace ferna

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "plate/plate_form.h"
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+namespace Ui {
+class Grub_bla;
+}
+
+namespace ferna {
+
+/// The thickness of the plate: a tab for every check of a fragment, the grade, and the thickness
+/// that governs.
+class Grub_bla : public QDialog, private PlateSteelHost {
+public:
+    /// `folder` is the program folder; OK saves the sketches of the section there.
+    Grub_bla(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget* parent);
+    ~Grub_bla() override;
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void KGM8b(Stan& stan) override;
+
+    void collectControls();
+    void connectTabs();
+    void connectCommands();
+    void connectCommand(QPushButton* button, const std::function<void()>& handler);
+    QPushButton* command(int tab) const;
+
+    void chooseTab(int tab);
+    void focusFirstField();
+    void settleWhenFree();
+    void settleGradeList();
+
+    /// Runs a command of the core on the fields as they stand and shows what comes of it, also
+    /// where a run-time error ends it.
+    void work(const std::function<void()>& core);
+    void readFields();
+    void showForm();
+    void writeSection();
+
+    Stan& stan_;
+    QString folder_;
+    Dialogs& dialogs_;
+    PlateForm form_;
+    std::unique_ptr<Ui::Grub_bla> ui_;
+    std::array<QLineEdit*, 6> Text1_{};
+    std::array<QLineEdit*, 9> Text2_{};
+    std::array<QLineEdit*, 9> Text3_{};
+    std::array<QLabel*, PlateChecks> Label8_{};
+    std::array<QPushButton*, PlateChecks> cmdOblicz_{}; ///< by check less one
+    bool gradeListLeft_ = false; ///< left, and what that brings has not run yet
+};
+
+} // namespace ferna

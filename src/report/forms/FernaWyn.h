@@ -1,0 +1,68 @@
+#pragma once
+
+#include "report/results_session.h"
+
+#include <QMainWindow>
+
+#include <functional>
+#include <memory>
+
+class QToolButton;
+class QLabel;
+
+namespace Ui {
+class FernaWyn;
+}
+
+namespace ferna {
+
+/// The results form: shows the report as one picture, offers every output, and leads on to the
+/// plate and anchor forms. It draws nothing of the report itself.
+class FernaWyn : public QMainWindow {
+public:
+    /// Where the form leads to.
+    struct Links {
+        std::function<void(QWidget*)> plateForm;  ///< shows it modally
+        std::function<void(QWidget*)> anchorForm; ///< shows it modally
+        std::function<void()> help;
+        std::function<void()> back;       ///< shows the input form
+        std::function<void()> endProgram; ///< saves the configuration and ends
+    };
+
+    FernaWyn(Stan& stan, std::unique_ptr<ResultsSession> session, Links links);
+    ~FernaWyn() override;
+
+    /// Shows the form, prepares the report and has it rendered.
+    void open();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void buildStatusBar();
+    void connectMenu();
+    void showPanels();
+    void showRtfEntry();
+    void refresh();
+    void afterSection();
+    void layOut();
+    void saveDocument();
+    void back();
+    void printWith(RenderMode mode);
+
+    Stan& stan_;
+    std::unique_ptr<ResultsSession> session_;
+    Links links_;
+    std::unique_ptr<Ui::FernaWyn> ui_;
+    QLabel* state_ = nullptr;
+    QToolButton* page_ = nullptr;
+    QToolButton* project_ = nullptr;
+    QToolButton* label_ = nullptr;
+    int belowTheReport_ = 0; ///< room under the report once a section was added, pixels
+};
+
+} // namespace ferna

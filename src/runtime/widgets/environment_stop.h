@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+namespace ferna {
+
+/// Runs one event handler. A run-time error that no handler of the program catches stops it here: a
+/// box tells the classic number and the text, with two ways on: back to the program (the default;
+/// the command is abandoned and the state stays as it stands), or the end of the program with exit
+/// code 1 and without saving. Returns false where the handler was stopped.
+bool guarded(QWidget* form, const std::function<void()>& handler);
+
+/// The connection of a signal to a handler that runs under `guarded`.
+template <typename Sender, typename Signal, typename Handler>
+void connectGuarded(Sender* sender, Signal signal, QWidget* form, Handler handler) {
+    QObject::connect(sender, signal, form, [form, handler](auto... arguments) {
+        guarded(form, [&] {
+            if constexpr (std::is_invocable_v<Handler, decltype(arguments)...>)
+                handler(arguments...);
+            else
+                handler();
+        });
+    });
+}
+
+} // namespace ferna

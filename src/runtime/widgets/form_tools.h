@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+class QLineEdit;
+
+namespace ferna {
+
+/// Puts a form in the middle of the screen: (screen size - form size) / 2.
+void centreOnScreen(QWidget* form);
+
+/// Lets only digits, "-", "+", ".", "," and backspace be typed into a field; any other key is
+/// swallowed with a beep.
+void allowOnlyNumbers(QLineEdit* field);
+
+/// Makes the chosen option of a group the only one that Tab stops at; the arrows go to the others.
+void stopTabAtTheChoice(QWidget* group);
+
+} // namespace ferna

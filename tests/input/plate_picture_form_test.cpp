@@ -1,0 +1,78 @@
+#include "support/main_form.h"
+
+using namespace ferna;
+using namespace ferna::testing;
+
+namespace {
+
+class PlatePicture : public MainForm {
+protected:
+    QImage picture() const { return the("Picture3")->grab().toImage(); }
+
+    int coloured(const QImage& image) const {
+        int pixels = 0;
+        for (int y = 2; y < image.height() - 2; ++y) // without the frame
+            for (int x = 2; x < image.width() - 2; ++x)
+                pixels += image.pixel(x, y) != 0xFFFFFFFF ? 1 : 0;
+        return pixels;
+    }
+};
+
+TEST_F(PlatePicture, IsDrawnAnewWithEveryChangeOfTheLayout) {
+    show(Sruby);
+    const QImage without = picture();
+    EXPECT_GT(coloured(without), 500);
+    add("cmdDodaj4", 80, 400, 400);
+    const QImage with = picture();
+    EXPECT_NE(with, without);
+    answers.box(QStringLiteral("Ferna 2005 Pr - Usuwanie wszystkich śrub"),
+                QStringLiteral("Czy napewno chcesz usunąć wszystkie śruby?"),
+                QStringLiteral("Tak"));
+    click("cmdUsunws");
+    EXPECT_EQ(picture(), without);
+}
+
+TEST_F(PlatePicture, IsNotDrawnAnewByAChangeOfDiameter) {
+    show(Sruby);
+    add("cmdDodaj4", 20, 400, 400);
+    const QImage before = picture();
+    answers.dialog(QStringLiteral("Fernafi"), [](QWidget& modal) {
+        chooseDiameter(modal, 80);
+        press(modal, "cmdOK");
+    });
+    click("cmdZmienwfi");
+    EXPECT_EQ(picture(), before);
+    show(Dane_ogolne);
+    show(Sruby);
+    EXPECT_NE(picture(), before);
+}
+
+TEST_F(PlatePicture, StaysEmptyWhereASizeIsNoNumber) {
+    type("Text3", QStringLiteral("12oo"));
+    answers.box(QStringLiteral("Ferna 2005 Pr"),
+                QStringLiteral("Podany ciąg znaków nie tworzy liczby"));
+    show(Sruby);
+    EXPECT_EQ(coloured(picture()), 0);
+    show(Dane_ogolne);
+    EXPECT_EQ(text("Text3"), QStringLiteral("12oo"));
+    type("Text3", QStringLiteral("0"));
+    answers.box(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("11K3!!"));
+    show(Sruby);
+    EXPECT_EQ(coloured(picture()), 0);
+}
+
+TEST_F(PlatePicture, GrowsWithTheForm) {
+    show(Sruby);
+    const QSize before = the("Picture3")->size();
+    form->resize(form->size() + QSize(300, 200));
+    settle();
+    EXPECT_GE(the("Picture3")->width(), before.width() + 200);
+    EXPECT_GE(the("Picture3")->height(), before.height() + 200);
+    EXPECT_GT(coloured(picture()), 500);
+}
+
+TEST_F(PlatePicture, TheSketchOfTheDirectionsIsShown) {
+    EXPECT_GT(coloured(the("Picture1")->grab().toImage()), 500);
+}
+
+} // namespace

@@ -1,0 +1,234 @@
+#include "platform/renderer_files.h"
+#include "report/forms/FernaWyn.h"
+#include "report/forms/report_view.h"
+#include "runtime/picture_box.h"
+#include "runtime/widgets/qt_dialogs.h"
+#include "support/column_base.h"
+#include "support/decimal_comma.h"
+#include "support/folder.h"
+#include "support/modal_answers.h"
+#include "support/printing.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollBar>
+#include <QTest>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+using namespace ferna;
+using namespace ferna::testing;
+
+namespace {
+
+/// The results form after a calculation of two cases, with the renderer of this build.
+class ResultsForm : public ::testing::Test {
+protected:
+    ColumnBase base;
+    Folder folder;
+    QtDialogs dialogs;
+    ModalAnswers answers;
+    WithDecimalSign comma{u','};
+    int backs = 0;
+    int ends = 0;
+    std::function<void()> render;
+    std::unique_ptr<FernaWyn> form;
+
+    void SetUp() override {
+        const QDir programs(QStringLiteral(FERNA_BIN_DIR));
+        for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
+            QFile::copy(programs.filePath(picture), folder.path(picture));
+        QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
+                    folder.path(QStringLiteral("Wyd_drk")));
+        render = [this] { runRenderer(path()); };
+        base.fourAnchors(250, 150).loads(320, 60, 5).loads(900, 5, 0);
+        ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+        PictureBox plate(QSize(265, 176));
+        plate.saveBitmap(folder.path(QStringLiteral("Ferrob.bmp")));
+    }
+
+    QString path() const { return folder.path(QStringLiteral(".")); }
+
+    void open(const QString& label = QStringLiteral("F-1")) {
+        auto session = std::make_unique<ResultsSession>(
+            base.stan, dialogs, path(), true,
+            [] { return QDateTime(QDate(2024, 3, 9), QTime(14, 5)); }, [this] { render(); });
+        form = std::make_unique<FernaWyn>(
+            base.stan, std::move(session),
+            FernaWyn::Links{
+                .plateForm = [this](QWidget*) { base.stan.raport.Liczba_wierszy_blachy = 2; },
+                .anchorForm = [](QWidget*) {},
+                .help = [] {},
+                .back = [this] { ++backs; },
+                .endProgram = [this] { ++ends; }});
+        askedForLabel(QString(), label);
+        form->open();
+    }
+
+    void askedForLabel(const QString& preset, const QString& label) {
+        answers.input(QStringLiteral("Ferna 2005 Pr"),
+                      QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"), preset, label);
+    }
+
+    QAction* action(const char* name) const {
+        return form->findChild<QAction*>(QString::fromLatin1(name));
+    }
+    QString panel(int number) const {
+        const QString name = QStringLiteral("StatusBar1_%1").arg(number);
+        if (const auto* const button = form->findChild<QToolButton*>(name))
+            return button->text();
+        return form->findChild<QLabel*>(name)->text();
+    }
+    void clickPanel(int number) {
+        QTest::mouseClick(
+            form->findChild<QToolButton*>(QStringLiteral("StatusBar1_%1").arg(number)),
+            Qt::LeftButton);
+    }
+    ReportView* report() const { return form->findChild<ReportView*>(QStringLiteral("Picture2")); }
+    QScrollBar* bar() const { return form->findChild<QScrollBar*>(QStringLiteral("VScroll")); }
+};
+
+TEST_F(ResultsForm, OpensWithTheReportAsWideAsTheViewportAndTheFourPanels) {
+    open();
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona 1"));
+    EXPECT_EQ(panel(3), QStringLiteral("OK"));
+    EXPECT_EQ(panel(4), QStringLiteral("Hala A"));
+    EXPECT_EQ(panel(5), QStringLiteral("F-1"));
+    const QWidget* const viewport = form->findChild<QWidget*>(QStringLiteral("Picture1"));
+    EXPECT_EQ(report()->width(), viewport->width());
+    EXPECT_GE(report()->heightFor(100), 140) << "at least one sheet of A4";
+    EXPECT_FALSE(folder.names().contains(wyd::screenPicture));
+    int dark = 0;
+    const QImage shown = report()->grab().toImage();
+    for (int x = 0; x < shown.width(); ++x)
+        for (int y = 0; y < shown.height() / 3; ++y)
+            dark += qGray(shown.pixel(x, y)) < 100;
+    EXPECT_GT(dark, 500) << "frame and letters";
+}
+
+TEST_F(ResultsForm, ScrollsByKeysAndBar) {
+    open();
+    form->resize(500, 400);
+    ASSERT_GT(bar()->maximum(), 0);
+    QTest::keyClick(form.get(), Qt::Key_End);
+    EXPECT_EQ(bar()->value(), bar()->maximum());
+    EXPECT_EQ(report()->y(), -bar()->maximum());
+    QTest::keyClick(form.get(), Qt::Key_PageUp);
+    EXPECT_EQ(bar()->value(), bar()->maximum() - bar()->pageStep());
+    QTest::keyClick(form.get(), Qt::Key_Home);
+    EXPECT_EQ(report()->y(), 0);
+}
+
+TEST_F(ResultsForm, OffersRtfByItsMode) {
+    base.stan.opcje.Tryb_RTF = 0;
+    open();
+    EXPECT_EQ(action("mnuZapiszrtf")->text(), QStringLiteral("Zapisz jako RTF"));
+    EXPECT_FALSE(action("mnuZapiszrtf")->isEnabled());
+    base.stan.opcje.Tryb_RTF = 2;
+    open();
+    EXPECT_EQ(action("mnuZapiszrtf")->text(), QStringLiteral("Zapisz jako RTF (StarOffice)"));
+    EXPECT_TRUE(action("mnuZapiszrtf")->isEnabled());
+}
+
+TEST_F(ResultsForm, AsksByAClickOnAPanelAndRefreshes) {
+    open();
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
+                  QStringLiteral("1"), QStringLiteral("12"));
+    clickPanel(2);
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona 12"));
+    EXPECT_TRUE(folder.read(wyd::bodyFile).contains("Strona 12\r\n"));
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nazwe projektu"),
+                  QStringLiteral("Hala A"), QStringLiteral("Hala B"));
+    clickPanel(4);
+    EXPECT_EQ(panel(4), QStringLiteral("Hala B"));
+    askedForLabel(QStringLiteral("F-1"), QString(40, u'x'));
+    clickPanel(5);
+    EXPECT_EQ(panel(5), QString(32, u'x'));
+}
+
+TEST_F(ResultsForm, StopsAtACancelledPagePromptAndGoesOn) {
+    open();
+    answers.cancelInput(QStringLiteral("Ferna 2005 Pr"));
+    answers.stop(error::TypeMismatch);
+    action("mnuNrstrony")->trigger();
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona 1"));
+}
+
+TEST_F(ResultsForm, OffersEachSectionOnceAndNoAnchorWhereOneIsExceeded) {
+    open();
+    QMenu* const details = form->findChild<QMenu*>(QStringLiteral("mnuDalsze_obl"));
+    emit details->aboutToShow();
+    EXPECT_TRUE(action("mnuGrub_blachy")->isEnabled());
+    EXPECT_TRUE(action("mnuDobor_ferny")->isEnabled());
+    action("mnuGrub_blachy")->trigger();
+    base.stan.wyniki.Kotwy_OK = False;
+    emit details->aboutToShow();
+    EXPECT_FALSE(action("mnuGrub_blachy")->isEnabled());
+    EXPECT_FALSE(action("mnuDobor_ferny")->isEnabled());
+}
+
+TEST_F(ResultsForm, ShutsTheScrollBarWhereTheReportFits) {
+    open();
+    form->resize(480, 2000); // a narrow report on a high form
+    action("mnuGrub_blachy")->trigger();
+    EXPECT_FALSE(bar()->isEnabled());
+    form->resize(480, 400);
+    EXPECT_TRUE(bar()->isEnabled());
+}
+
+TEST_F(ResultsForm, SavesTheTextUnderTheNameThatIsAskedFor) {
+    open();
+    answers.dialog(QStringLiteral("saveQuestion"), [this](QWidget& modal) {
+        auto& question = static_cast<QFileDialog&>(modal);
+        EXPECT_EQ(question.windowTitle(), QStringLiteral("Podaj nazwę pliku tekstowego"));
+        EXPECT_EQ(question.selectedFiles().value(0).section(u'/', -1),
+                  QStringLiteral("Wyniki.txt"));
+        auto* const name = question.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        name->setText(folder.path(QStringLiteral("raport.txt")));
+        QTest::keyClick(name, Qt::Key_Return);
+        EXPECT_TRUE(QTest::qWaitFor([&modal] { return !modal.isVisible(); }));
+    });
+    action("mnuZapisztxt")->trigger();
+    EXPECT_TRUE(folder.read(QStringLiteral("raport.txt")).contains("F-1\r\n"));
+}
+
+TEST_F(ResultsForm, TellsAFailedRendererAndStaysUsable) {
+    render = [] { throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk")); };
+    answers.input(QStringLiteral("Ferna 2005 Pr"),
+                  QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"), QString(),
+                  QStringLiteral("F-1"));
+    auto session = std::make_unique<ResultsSession>(
+        base.stan, dialogs, path(), true, [] { return QDateTime::currentDateTime(); },
+        [this] { render(); });
+    form = std::make_unique<FernaWyn>(base.stan, std::move(session),
+                                      FernaWyn::Links{{}, {}, {}, [this] { ++backs; }, {}});
+    EXPECT_THROW(form->open(), RunTimeError); // the caller shows the stop
+    EXPECT_TRUE(form->isVisible());
+    folder.write(wyd::replyFile, "0, 1\r\n");
+    action("mnuPowrot")->trigger();
+    EXPECT_EQ(backs, 1);
+}
+
+TEST_F(ResultsForm, GoesBackWithTheNextFreePageAlsoByItsFrame) {
+    open();
+    action("mnuPowrot")->trigger();
+    EXPECT_EQ(backs, 1);
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 3); // the report has two pages
+    EXPECT_FALSE(form->isVisible());
+    form->show();
+    form->close();
+    EXPECT_EQ(backs, 2);
+}
+
+TEST_F(ResultsForm, EndsTheProgramFromBothPlaces) {
+    open();
+    action("mnuKoniec")->trigger();
+    action("mnuKoniec2")->trigger();
+    EXPECT_EQ(ends, 2);
+}
+
+} // namespace
