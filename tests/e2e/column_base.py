@@ -1,0 +1,221 @@
+#!/usr/bin/env python3
+"""Works the built program on a real screen as an engineer does: types the delivered sample task,
+adds four anchors, calculates, leaves, and finds the task back at the next start.
+
+Usage: column_base.py FOLDER_OF_THE_PROGRAMS SAMPLE_TASK.json
+"""
+
+import json
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+
+from desktop import Desktop, Failure
+
+# Patterns of window titles, without the Polish letters that xdotool does not match.
+MAIN = "Ferna 2005 Pr - zakotwienie .*"
+TITLE = "Ferna 2005 Pr"  # of the question for the label of the footing, and of most messages
+RESULTS = "WY N I K I"
+FOUR = "Podaj .* jednej z 4 .*"
+
+
+def expect(condition, message):
+    if not condition:
+        raise Failure(message)
+
+
+class Program:
+    def __init__(self, desktop, folder):
+        self.desktop = desktop
+        self.process = desktop.start([os.path.join(folder, "ferna")], folder)
+
+    def ready(self):
+        self.desktop.window(MAIN)
+        return self
+
+    def tab(self, number):
+        self.desktop.keys(f"alt+{number}")
+
+    def type_general(self, task):
+        type_, keys = self.desktop.type, self.desktop.keys
+        self.tab(1)
+        type_(task["Nazwa_projektu"])
+        keys("Tab")
+        type_(str(task["Nr_strony"]))
+        keys("Tab", *["Down"] * task["Nr_normy"])
+        self.tab(2)
+        type_(str(len(task["Przypadki"])))
+        keys("Tab")
+        type_(str(task["Dlug_plyty_mm"]))
+        keys("Tab")
+        type_(str(task["Szer_plyty_mm"]))
+        keys("Tab", "Home", *["Down"] * (task["Nr_betonu"] - 1))
+        keys("Tab", "Tab", "Home", *["Down"] * (task["Nr_stali"] - 1))
+        keys("Tab", *["Down"] * task["Stopa_betonowa"])
+
+    def type_loads(self, task):
+        self.tab(3)
+        for case in task["Przypadki"]:
+            for name in ("N", "M1", "M2", "Vx", "Vy"):
+                self.desktop.type(str(case[name]))
+                self.desktop.keys("Tab")
+
+    def add_four(self, anchor, typed=True):
+        self.tab(4)
+        self.desktop.keys("space")
+        self.desktop.window(FOUR)
+        if typed:
+            self.desktop.type(str(anchor["x"]))
+        self.desktop.keys("Tab")
+        if typed:
+            self.desktop.type(str(anchor["y"]))
+        self.desktop.keys("Tab")
+        self.desktop.xdotool("type", str(anchor["fi"]))
+        self.desktop.keys("Return")
+        self.desktop.gone(FOUR)
+        self.desktop.window(MAIN)
+
+    def calculate(self, label):
+        self.desktop.keys("alt+o")
+        self.desktop.window(TITLE)
+        self.desktop.type(label)
+        self.desktop.keys("Return")
+        self.desktop.window(RESULTS, 60)
+
+    def back_from_results(self):
+        self.desktop.keys("alt+F4")  # closing the results is the way back
+        self.desktop.gone(RESULTS)
+        self.desktop.window(MAIN)
+
+    def leave(self):
+        self.desktop.keys("alt+k")
+        expect(self.process.wait(30) == 0, "the program did not end well")
+
+
+def as_task(configuration, task):
+    """The task that a saved configuration holds, with what it does not hold from `task`."""
+    lines = configuration.decode("cp1250").split("\r\n")
+    number = lambda line: int(lines[line - 1].split()[0])
+    expect(lines[5].split()[0] == "0", "the ratio n is not the computed one")
+    cases = [[int(tenths) / 10 for tenths in lines[7 + i].split()] for i in range(6)]
+    return task | {
+        "Nr_normy": number(1), "Nr_strony": number(2), "Nazwa_projektu": lines[2],
+        "Nr_betonu": number(4), "Nr_stali": number(5), "Nr_jezyka": number(7),
+        "Dlug_plyty_mm": number(14), "Szer_plyty_mm": number(15),
+        "Przypadki": [dict(zip(("N", "M1", "M2", "Vx", "Vy"), values))
+                      for values in cases[:len(task["Przypadki"])]],
+        "Hsily_wszystkie": number(17), "Tryb_RTF": number(20),
+    }
+
+
+def report(folder, work, name, task):
+    """The text report that the batch companion writes for a task."""
+    path = os.path.join(work, name)
+    with open(path + ".json", "w", encoding="utf-8") as file:
+        json.dump(task, file)
+    subprocess.run([os.path.join(folder, "ferna-wsad"), "--raport", path + ".txt", "--wynik",
+                    path + ".wynik.json", path + ".json"], check=True, timeout=60,
+                   env={"SOURCE_DATE_EPOCH": "1700000000", "LC_ALL": "C.UTF-8",
+                        "QT_QPA_PLATFORM": "offscreen"})
+    with open(path + ".txt", "rb") as file:
+        return file.read()
+
+
+def read(*path):
+    with open(os.path.join(*path), "rb") as file:
+        return file.read()
+
+
+def page(configuration):
+    return int(configuration.split(b"\r\n")[1].split()[0])
+
+
+def without_page(configuration):
+    lines = configuration.split(b"\r\n")
+    return lines[:1] + lines[2:]
+
+
+def run(desktop, folder, work, task):
+    anchor = task["Kotwy"][0]
+    program = Program(desktop, folder).ready()
+    program.type_general(task)
+    program.type_loads(task)
+    program.add_four(anchor)
+    program.calculate(task["Nazwa_stopy"])
+    picture = read(folder, "Ferrob.bmp")
+    expect(picture[:2] == b"BM", "the picture of the plate is no bitmap")
+    program.back_from_results()
+    program.leave()
+
+    saved = read(folder, "Ferna.cfg")
+    expect(as_task(saved, task)["Nazwa_projektu"] == task["Nazwa_projektu"], "project name")
+    typed = report(folder, work, "typed", as_task(saved, task))
+    expect(typed == report(folder, work, "sample", task),
+           "what was typed does not give the report of the sample")
+    first = saved.decode("cp1250").split("\r\n")[15].split()
+    expect(first == [str(anchor["x"]), str(anchor["y"])], "the first anchor was not saved")
+
+    # Only the anchors are typed anew: the rest stands in the fields and is calculated from there.
+    os.remove(os.path.join(folder, "Ferrob.bmp"))
+    program = Program(desktop, folder).ready()
+    desktop.screenshot(os.path.join(work, "restored.png"))
+    desktop.keys("alt+2", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab",
+                 *["Down"] * task["Stopa_betonowa"])
+    program.add_four(anchor, typed=False)
+    program.calculate(task["Nazwa_stopy"])
+    expect(read(folder, "Ferrob.bmp") == picture, "the plate is drawn otherwise the second time")
+    program.back_from_results()
+    program.leave()
+    again = read(folder, "Ferna.cfg")
+    expect(without_page(again) == without_page(saved), "the task did not come back into the fields")
+    expect(page(again) == page(saved) + 1, "the page number was not counted on")
+    saved = again
+
+    # Closed by the frame the program leaves the configuration alone.
+    program = Program(desktop, folder).ready()
+    desktop.keys("alt+1")
+    desktop.type("nie zapisane")
+    desktop.keys("alt+F4")
+    expect(program.process.wait(30) == 0, "closed by the frame the program did not end well")
+    expect(read(folder, "Ferna.cfg") == saved, "closing by the frame wrote the configuration")
+
+    # A damaged configuration is told, kept, and replaced by the delivered one.
+    damaged = b"1 Norma\r\nno number\r\n"
+    with open(os.path.join(folder, "Ferna.cfg"), "wb") as file:
+        file.write(damaged)
+    program = Program(desktop, folder)
+    desktop.window(TITLE)
+    desktop.screenshot(os.path.join(work, "damaged.png"))
+    desktop.keys("alt+u")
+    program.ready()
+    program.leave()
+    expect(read(folder, "Ferna.cfg.uszkodzony") == damaged, "the damaged file was not kept")
+    expect(b"Projekt" in read(folder, "Ferna.cfg"), "the delivered settings did not come back")
+
+
+def main():
+    programs, sample = sys.argv[1:]
+    with open(sample, encoding="utf-8") as file:
+        task = json.load(file)
+    before = sorted((entry.name, entry.stat().st_mtime_ns) for entry in os.scandir(programs))
+    work = tempfile.mkdtemp(prefix="ferna-e2e-")
+    folder = os.path.join(work, "bin")
+    shutil.copytree(programs, folder)
+    desktop = Desktop(os.path.join(work, "home"))
+    try:
+        run(desktop, folder, work, task)
+    except Exception:
+        desktop.screenshot(os.path.join(work, "failure.png"))
+        print(f"files and screenshot in {work}", file=sys.stderr)
+        raise
+    finally:
+        desktop.close()
+    after = sorted((entry.name, entry.stat().st_mtime_ns) for entry in os.scandir(programs))
+    expect(before == after, "the test changed the folder of the programs")
+    if not os.environ.get("FERNA_E2E_KEEP"):
+        shutil.rmtree(work)
+
+
+main()

@@ -1,0 +1,109 @@
+"""A screen of its own, with a window manager, keys and windows found by their titles."""
+
+import os
+import subprocess
+import time
+
+
+class Failure(Exception):
+    pass
+
+
+def wait_for(what, condition, seconds=30):
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        found = condition()
+        if found:
+            return found
+        time.sleep(0.05)
+    raise Failure(f"waited {seconds} s in vain for {what}")
+
+
+class Desktop:
+    def __init__(self, home, size="1600x1200x24"):
+        self.started = []
+        os.makedirs(home, exist_ok=True)
+        try:
+            self.open_screen(home, size)
+        except BaseException:
+            self.close()
+            raise
+
+    def open_screen(self, home, size):
+        self.env = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": "C.UTF-8",
+                    "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb"}
+        read, write = os.pipe()
+        self.started.append(subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp"],
+            pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            number = pipe.readline().strip()
+        if not number:
+            raise Failure("Xvfb did not start")
+        self.env["DISPLAY"] = ":" + number
+        self.start(["openbox"])
+        wait_for("the window manager", self.is_managed)
+        time.sleep(0.5)  # it takes over the windows there are before it maps new ones
+
+    def is_managed(self):
+        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.env,
+                                text=True, capture_output=True, timeout=30).stdout
+        return "window id" in answer
+
+    def start(self, command, folder=None):
+        process = subprocess.Popen(command, env=self.env, cwd=folder, stdout=subprocess.DEVNULL,
+                                   stderr=subprocess.DEVNULL)
+        self.started.append(process)
+        return process
+
+    def close(self):
+        for process in reversed(self.started):
+            if process.poll() is None:
+                process.terminate()
+                try:
+                    process.wait(5)
+                except subprocess.TimeoutExpired:
+                    process.kill()
+
+    def xdotool(self, *arguments):
+        done = subprocess.run(["xdotool", *map(str, arguments)], env=self.env, text=True,
+                              capture_output=True, timeout=30)
+        return done.stdout.strip()
+
+    def window(self, title, seconds=30):
+        """The visible window whose whole title matches, once it has the keyboard."""
+        pattern = f"^{title}$"
+
+        def active():
+            for window in self.xdotool("search", "--onlyvisible", "--name", pattern).split():
+                if self.xdotool("getactivewindow") == window:
+                    return window
+                self.xdotool("windowactivate", window)
+            return None
+
+        return wait_for(f'the window "{title}"', active, seconds)
+
+    def is_shown(self, title):
+        return bool(self.xdotool("search", "--onlyvisible", "--name", f"^{title}$"))
+
+    def gone(self, title, seconds=30):
+        wait_for(f'the window "{title}" to go', lambda: not self.is_shown(title), seconds)
+
+    def keys(self, *names):
+        for name in names:
+            self.xdotool("key", "--delay", 20, name)
+            time.sleep(0.03)
+
+    def type(self, text):
+        """Types over what stands in the field with the focus."""
+        self.keys("ctrl+a")
+        self.xdotool("type", "--delay", 15, text)
+        time.sleep(0.1)
+
+    def screenshot(self, path):
+        try:
+            subprocess.run(["import", "-window", "root", path], env=self.env, check=False,
+                           stderr=subprocess.DEVNULL, timeout=30)
+        except (OSError, subprocess.TimeoutExpired):
+            pass  # only for the person who looks into a failure
