@@ -1,5 +1,7 @@
 #include "analysis/equilibrium.h"
 
+#include "analysis/zone_integrals.h"
+
 #include <algorithm>
 
 namespace ferna {
@@ -31,37 +33,6 @@ Integer shapeOfZone(Double xT, Double yR, Double a, Double b) {
     return zone::LessTriangle; // the line runs through the corner (a, -b)
 }
 
-/// Integrals of the stress field s(x, y) = (y - m x - p) / D over the triangle between the line and
-/// the corner (u, y = b) or (x = a, t): the volume and its first moments in x and y. Powers are
-/// products from the left.
-struct TriangleIntegrals {
-    Double volumeFactor;
-    Double xFactor;
-    Double yFactor;
-
-    TriangleIntegrals(Double m, Double D)
-        : volumeFactor(over(m * m / 6, D)), xFactor(m * m / 24 / D),
-          yFactor(over(1.0 / 24, m) / D) {}
-
-    Double T0(Double u, Double v) const {
-        const Double w = u - v;
-        return volumeFactor * (w * w * w);
-    }
-
-    Double T1(Double u, Double v) const {
-        const Double w = u - v;
-        return xFactor
-               * (6 * (u * u) * (w * w) - 3 * (u * u * u * u - v * v * v * v)
-                  + 4 * v * (u * u * u - v * v * v));
-    }
-
-    Double T2(Double s, Double t) const {
-        return yFactor
-               * (8 * (s * s * s) * (t - s) - 6 * (s * s) * (t * t - s * s) + t * t * t * t
-                  - s * s * s * s);
-    }
-};
-
 } // namespace
 
 void Pole_strefy(Stan_przypadku& s) {
@@ -74,7 +45,8 @@ void Pole_strefy(Stan_przypadku& s) {
     const Double yR = m * a + p;
     const Double yL = -m * a + p;
     const Double xB = (-b - p) / m;
-    const TriangleIntegrals triangle(m, D);
+    const TriangleIntegrals<Double> triangle{over(m * m / 6, D), m * m / 24 / D,
+                                             over(1.0 / 24, m) / D};
 
     Double V = triangle.T0(a, xT);
     Double Mx = triangle.T1(a, xT);

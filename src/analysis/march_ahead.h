@@ -1,0 +1,51 @@
+#pragma once
+
+#include "analysis/stan_przypadku.h"
+
+#include <array>
+
+namespace ferna {
+
+/// Looks ahead on a march of the distance. The moment errors at the next distances do not depend on
+/// one another once the distances are formed, so several are computed side by side; what lies
+/// behind the step that ends the march is thrown away. Bit by bit the errors are those of
+/// `Rownowaga_c`. Holds for one angle.
+class MarchAhead {
+public:
+    static constexpr int lanes = 8;
+    using Row = std::array<Double, lanes>; ///< distances in cm, or errors in kG cm
+
+    /// What the processor can do; all give the same bits.
+    enum class Instructions { Plain, Avx2, Avx512 };
+    static Instructions best();
+
+    MarchAhead(const Stan_przypadku& s, const Stan& stan, Instructions instructions = best());
+
+    /// The errors at the distances of a row; not a number where `Rownowaga_c` would end in a
+    /// run-time error.
+    Row at(const Row& distances) const;
+
+    /// What stays the same on all lines of one angle, in cm and kG.
+    struct Angle {
+        Double a, b;      ///< half the plate
+        Double m;         ///< slope of the line
+        Double sine, cosine;
+        Double volume;    ///< m^2 / 6
+        Double x;         ///< m^2 / 24
+        Double y;         ///< 1 / 24 / m
+        Double corner;    ///< distance of the corner (a, b) from the centre, along the normal
+        Double axial;     ///< the same of the point of the axial force
+        Double Ex, Ey;
+        Double N;         ///< axial force, kG
+        Double n;         ///< Es / Eb
+        int anchors;
+        std::array<Double, MaxAnchors> projection; ///< of the anchors on the normal
+        std::array<Double, MaxAnchors> area;       ///< cm2
+    };
+
+private:
+    Angle angle_;
+    void (*errors_)(const Angle&, const Row& distances, Row& errors);
+};
+
+} // namespace ferna
