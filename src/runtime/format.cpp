@@ -54,24 +54,41 @@ void keepDigits(Decimal& number, int kept) {
         number = Decimal{};
 }
 
+/// The `count` significant digits of a number that is not 0, rounded to nearest.
+Decimal digitsOf(Double magnitude, int count) {
+    char text[64] = {};
+    const auto end =
+        std::to_chars(text, text + sizeof text, magnitude, std::chars_format::scientific, count - 1)
+            .ptr;
+    const std::string_view written(text, static_cast<std::size_t>(end - text));
+    const std::size_t exponent = written.find('e');
+    Decimal result;
+    result.digits.reserve(static_cast<std::size_t>(count));
+    result.digits.push_back(written.front());
+    result.digits.append(written.substr(2, exponent - 2));
+    result.point = std::atoi(written.data() + exponent + 1) + 1;
+    return result;
+}
+
+/// Whether what stands behind the first `count` digits reads as one half exactly.
+bool endsInAHalf(const std::string& digits, int count) {
+    const std::size_t behind = static_cast<std::size_t>(count);
+    return digits[behind] == '5' && digits.find_first_not_of('0', behind + 1) == std::string::npos;
+}
+
 /// The value at `count` significant digits, half away from zero.
 Decimal decimalOf(Double value, int count) {
     if (!std::isfinite(value))
         throw RunTimeError(error::Overflow);
-    Decimal result;
-    result.negative = value < 0;
     if (value == 0)
-        return result;
-    constexpr int further = 25; // digits enough to tell a half from what lies just below it
-    char text[64] = {};
-    const auto end = std::to_chars(text, text + sizeof text, std::fabs(value),
-                                   std::chars_format::scientific, count + further)
-                         .ptr;
-    const std::string_view written(text, static_cast<std::size_t>(end - text));
-    const std::size_t exponent = written.find('e');
-    result.digits.push_back(written.front());
-    result.digits.append(written.substr(2, exponent - 2));
-    result.point = std::atoi(written.data() + exponent + 1) + 1;
+        return {};
+    constexpr int fewDigits = 17;
+    constexpr int further = 26; // digits enough to tell a half from what lies just below it
+    const Double magnitude = std::fabs(value);
+    Decimal result = digitsOf(magnitude, fewDigits);
+    if (endsInAHalf(result.digits, count)) // as it may read only for having been rounded
+        result = digitsOf(magnitude, count + further);
+    result.negative = value < 0;
     keepDigits(result, count);
     return result;
 }
