@@ -8,124 +8,165 @@ namespace ferna {
 
 namespace {
 
-// Eight Doubles, and as many truth values: all bits or none. The compiler takes what instructions
-// the function around them may use.
-using Numbers = Double __attribute__((vector_size(sizeof(Double) * MarchAhead::lanes)));
-using Truths = std::int64_t __attribute__((vector_size(sizeof(Double) * MarchAhead::lanes)));
+/// So many numbers side by side, and as many truth values: all bits or none. The compiler takes the
+/// instructions that the function around them may use.
+template <int width>
+struct Side {
+    using Numbers [[gnu::vector_size(sizeof(Double) * width)]] = Double;
+    using Truths [[gnu::vector_size(sizeof(Double) * width)]] = std::int64_t;
+};
+template <int width>
+using Numbers = typename Side<width>::Numbers;
+template <int width>
+using Truths = typename Side<width>::Truths;
 
-[[gnu::always_inline]] inline Numbers where(const Truths& condition, const Numbers& value) {
-    return reinterpret_cast<Numbers>(condition & reinterpret_cast<Truths>(value));
+/// The value where the condition holds, else +0.
+template <int width>
+[[gnu::always_inline]] inline Numbers<width> where(const Truths<width>& condition,
+                                                   const Numbers<width>& value) {
+    return reinterpret_cast<Numbers<width>>(condition & reinterpret_cast<Truths<width>>(value));
 }
 
-[[gnu::always_inline]] inline Truths isFinite(const Numbers& value) {
-    return value - value == 0;
+/// The zone of some of the lines: one of the shapes, for all of them alike, or of shapes unknown.
+enum class Shapes { Triangle, AlongLength, AlongWidth, Any };
+
+/// Where two lines of a march see the same of these shapes, all between them do.
+Shapes shapesBetween(const MarchAhead::Angle& line, Double first, Double last) {
+    const auto xT = [&line](Double c) { return (line.b - c / line.sine) / line.m; };
+    const auto yR = [&line](Double c) { return line.m * line.a + c / line.sine; };
+    const auto both = [first, last](auto holds) { return holds(first) && holds(last); };
+    const bool right = both([&](Double c) { return xT(c) > -line.a; });
+    const bool above = both([&](Double c) { return yR(c) > -line.b; });
+    if (right && above)
+        return Shapes::Triangle;
+    if (above && both([&](Double c) { return xT(c) < -line.a; }))
+        return Shapes::AlongLength;
+    if (right && both([&](Double c) { return yR(c) < -line.b; }))
+        return Shapes::AlongWidth;
+    return Shapes::Any;
 }
 
-/// The formulas of `Rownowaga_c`, in its order of operations. A term that a lane does not have is
+/// The formulas of `Rownowaga_c`, in its order of operations. A term that a line does not have is
 /// taken away from it as +0, which changes nothing.
-[[gnu::always_inline]] inline void errorsAt(const MarchAhead::Angle& line, const Numbers& c,
-                                            Numbers& Reszta_c) {
+template <int width, Shapes shapes>
+[[gnu::always_inline]] inline Numbers<width> errorsOf(const MarchAhead::Angle& line,
+                                                      const Numbers<width>& c) {
     const Double a = line.a;
     const Double b = line.b;
     const Double m = line.m;
 
     // Pole_strefy
-    const Numbers p = c / line.sine;
-    const Numbers D = b - m * a - p;
-    const Numbers xT = (b - p) / m;
-    const Numbers yR = m * a + p;
-    const Numbers yL = -m * a + p;
-    const Numbers xB = (-b - p) / m;
-    const TriangleIntegrals<Numbers> triangle{line.volume / D, line.x / D, line.y / D};
-    const Truths right = xT > -a;
-    const Truths above = yR > -b;
-    const Truths onlyLength = (xT < -a) & above;
-    const Truths onlyWidth = right & (yR < -b);
-    const Truths lessTriangle = ~((right & above) | onlyLength | onlyWidth);
-    const Truths left = onlyLength | lessTriangle;
-    const Truths below = onlyWidth | lessTriangle;
-    const Numbers V = triangle.T0(a, xT) - where(left, triangle.T0(-a, xT))
-                      - where(below, triangle.T0(a, xB));
-    const Numbers Mx = triangle.T1(a, xT) - where(left, triangle.T1(-a, xT))
-                       - where(below, triangle.T1(a, xB));
-    const Numbers My = triangle.T2(b, yR) - where(left, triangle.T2(b, yL))
-                       - where(below, triangle.T2(-b, yR));
-    const Numbers Xs = Mx / V;
-    const Numbers Ys = My / V;
+    const Numbers<width> p = c / line.sine;
+    const Numbers<width> D = b - m * a - p;
+    const Numbers<width> xT = (b - p) / m;
+    const Numbers<width> yR = m * a + p;
+    const TriangleIntegrals<Numbers<width>> triangle{line.volume / D, line.x / D, line.y / D};
+    const Truths<width> right = xT > -a;
+    const Truths<width> above = yR > -b;
+    const Truths<width> onlyLength = (xT < -a) & above;
+    const Truths<width> onlyWidth = right & (yR < -b);
+    const Truths<width> lessTriangle = ~((right & above) | onlyLength | onlyWidth);
+    Numbers<width> V = triangle.T0(a, xT);
+    Numbers<width> Mx = triangle.T1(a, xT);
+    Numbers<width> My = triangle.T2(b, yR);
+    if constexpr (shapes == Shapes::AlongLength || shapes == Shapes::Any) {
+        const Numbers<width> yL = -m * a + p;
+        const Truths<width> left = onlyLength | lessTriangle;
+        V = V - where<width>(left, triangle.T0(-a, xT));
+        Mx = Mx - where<width>(left, triangle.T1(-a, xT));
+        My = My - where<width>(left, triangle.T2(b, yL));
+    }
+    if constexpr (shapes == Shapes::AlongWidth || shapes == Shapes::Any) {
+        const Numbers<width> xB = (-b - p) / m;
+        const Truths<width> below = onlyWidth | lessTriangle;
+        V = V - where<width>(below, triangle.T0(a, xB));
+        Mx = Mx - where<width>(below, triangle.T1(a, xB));
+        My = My - where<width>(below, triangle.T2(-b, yR));
+    }
+    const Numbers<width> Xs = Mx / V;
+    const Numbers<width> Ys = My / V;
 
     // Odleglosci_srub
-    Numbers sumAd = c - c;
-    Numbers sumAdd = sumAd;
+    Numbers<width> sumAd = c - c;
+    Numbers<width> sumAdd = sumAd;
     for (std::size_t i = 0; i < static_cast<std::size_t>(line.anchors); ++i) {
-        const Numbers d = line.projection[i] - c;
-        const Truths inTension = d < 0;
-        sumAd += where(inTension, d * line.area[i]);
-        sumAdd += where(inTension, d * d * line.area[i]);
+        const Numbers<width> d = line.projection[i] - c;
+        const Truths<width> inTension = d < 0;
+        sumAd += where<width>(inTension, d * line.area[i]);
+        sumAdd += where<width>(inTension, d * d * line.area[i]);
     }
 
     // Rownowaga_c
-    const Numbers W = V * (line.corner - c);
-    const Numbers forces = W + line.n * sumAd;
-    const Numbers k = line.N / forces;
-    const Numbers T = (-line.n * sumAd) * k;
-    const Numbers C = W * k;
-    const Numbers arm = (Ys * line.sine + Xs * line.cosine) - c;
-    const Numbers along = (Ys - line.Ey) * line.cosine - (Xs - line.Ex) * line.sine;
-    Reszta_c = line.N * (line.axial - c) - C * arm;
-    const Truths tension = sumAd != 0;
-    Reszta_c += where(tension, (sumAdd * T) / sumAd);
-    const Truths wrong = (D == 0) | (V == 0) | (forces == 0) | ~isFinite(Reszta_c + along);
-    Reszta_c = reinterpret_cast<Numbers>(reinterpret_cast<Truths>(Reszta_c) | wrong);
+    const Numbers<width> W = V * (line.corner - c);
+    const Numbers<width> forces = W + line.n * sumAd;
+    const Numbers<width> k = line.N / forces;
+    const Numbers<width> T = (-line.n * sumAd) * k;
+    const Numbers<width> C = W * k;
+    const Numbers<width> arm = (Ys * line.sine + Xs * line.cosine) - c;
+    const Numbers<width> along = (Ys - line.Ey) * line.cosine - (Xs - line.Ex) * line.sine;
+    Numbers<width> error = line.N * (line.axial - c) - C * arm;
+    const Truths<width> tension = sumAd != 0;
+    error += where<width>(tension, (sumAdd * T) / sumAd);
+    const Numbers<width> all = error + along;
+    const Truths<width> fails = (D == 0) | (V == 0) | (forces == 0) | (all - all != 0);
+    return reinterpret_cast<Numbers<width>>(reinterpret_cast<Truths<width>>(error) | fails);
 }
 
-[[gnu::always_inline]] inline void errorsOf(const MarchAhead::Angle& line,
-                                            const MarchAhead::Row& distances,
-                                            MarchAhead::Row& errors) {
-    Numbers c;
-    Numbers Reszta_c;
-    std::memcpy(&c, distances.data(), sizeof c);
-    errorsAt(line, c, Reszta_c);
-    std::memcpy(errors.data(), &Reszta_c, sizeof Reszta_c);
+template <int width, Shapes shapes>
+[[gnu::always_inline]] inline void errorsOfRow(const MarchAhead::Angle& line,
+                                               const MarchAhead::Row& distances, std::size_t count,
+                                               MarchAhead::Row& errors) {
+    for (std::size_t i = 0; i < count; i += width) {
+        Numbers<width> c;
+        std::memcpy(&c, &distances[i], sizeof c);
+        const Numbers<width> some = errorsOf<width, shapes>(line, c);
+        std::memcpy(&errors[i], &some, sizeof some);
+    }
 }
 
-void plain(const MarchAhead::Angle& line, const MarchAhead::Row& distances,
+template <int width>
+[[gnu::always_inline]] inline void errorsOfRow(const MarchAhead::Angle& line,
+                                               const MarchAhead::Row& distances, std::size_t count,
+                                               MarchAhead::Row& errors) {
+    switch (shapesBetween(line, distances.front(), distances[count - 1])) {
+    case Shapes::Triangle:
+        return errorsOfRow<width, Shapes::Triangle>(line, distances, count, errors);
+    case Shapes::AlongLength:
+        return errorsOfRow<width, Shapes::AlongLength>(line, distances, count, errors);
+    case Shapes::AlongWidth:
+        return errorsOfRow<width, Shapes::AlongWidth>(line, distances, count, errors);
+    case Shapes::Any:
+        return errorsOfRow<width, Shapes::Any>(line, distances, count, errors);
+    }
+}
+
+void plain(const MarchAhead::Angle& line, const MarchAhead::Row& distances, std::size_t count,
            MarchAhead::Row& errors) {
-    errorsOf(line, distances, errors);
+    errorsOfRow<2>(line, distances, count, errors);
 }
 
 #if defined(__x86_64__)
 [[gnu::target("avx2")]] void avx2(const MarchAhead::Angle& line, const MarchAhead::Row& distances,
-                                  MarchAhead::Row& errors) {
-    errorsOf(line, distances, errors);
-}
-
-[[gnu::target("avx512f,avx512dq")]] void avx512(const MarchAhead::Angle& line,
-                                                const MarchAhead::Row& distances,
-                                                MarchAhead::Row& errors) {
-    errorsOf(line, distances, errors);
+                                  std::size_t count, MarchAhead::Row& errors) {
+    errorsOfRow<4>(line, distances, count, errors);
 }
 #else
 constexpr auto avx2 = plain;
-constexpr auto avx512 = plain;
 #endif
 
 } // namespace
 
 MarchAhead::Instructions MarchAhead::best() {
 #if defined(__x86_64__)
-    static const Instructions found = __builtin_cpu_supports("avx512dq") ? Instructions::Avx512
-                                      : __builtin_cpu_supports("avx2")   ? Instructions::Avx2
-                                                                         : Instructions::Plain;
-    return found;
+    static const bool wide = __builtin_cpu_supports("avx2") != 0;
+    return wide ? Instructions::Avx2 : Instructions::Plain;
 #else
     return Instructions::Plain;
 #endif
 }
 
 MarchAhead::MarchAhead(const Stan_przypadku& s, const Stan& stan, Instructions instructions)
-    : errors_(instructions == Instructions::Avx512 ? avx512
-              : instructions == Instructions::Avx2 ? avx2
-                                                   : plain) {
+    : errors_(instructions == Instructions::Avx2 ? avx2 : plain) {
     const Double m = s.Nachylenie;
     angle_.a = s.Pol_a;
     angle_.b = s.Pol_b;
@@ -149,9 +190,9 @@ MarchAhead::MarchAhead(const Stan_przypadku& s, const Stan& stan, Instructions i
     }
 }
 
-MarchAhead::Row MarchAhead::at(const Row& distances) const {
+MarchAhead::Row MarchAhead::at(const Row& distances, std::size_t count) const {
     Row errors;
-    errors_(angle_, distances, errors);
+    errors_(angle_, distances, count, errors);
     return errors;
 }
 

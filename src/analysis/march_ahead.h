@@ -12,32 +12,33 @@ namespace ferna {
 /// `Rownowaga_c`. Holds for one angle.
 class MarchAhead {
 public:
-    static constexpr int lanes = 8;
-    using Row = std::array<Double, lanes>; ///< distances in cm, or errors in kG cm
+    static constexpr std::size_t shortRow = 4;
+    static constexpr std::size_t longRow = 16;
+    using Row = std::array<Double, longRow>; ///< distances in cm, or errors in kG cm
 
     /// What the processor can do; all give the same bits.
-    enum class Instructions { Plain, Avx2, Avx512 };
+    enum class Instructions { Plain, Avx2 };
     static Instructions best();
 
     MarchAhead(const Stan_przypadku& s, const Stan& stan, Instructions instructions = best());
 
-    /// The errors at the distances of a row; not a number where `Rownowaga_c` would end in a
-    /// run-time error.
-    Row at(const Row& distances) const;
+    /// The errors at the first distances of a row, so many as a short or a long row has; not a
+    /// number where `Rownowaga_c` would end in a run-time error.
+    Row at(const Row& distances, std::size_t count) const;
 
     /// What stays the same on all lines of one angle, in cm and kG.
     struct Angle {
-        Double a, b;      ///< half the plate
-        Double m;         ///< slope of the line
+        Double a, b; ///< half the plate
+        Double m;    ///< slope of the line
         Double sine, cosine;
-        Double volume;    ///< m^2 / 6
-        Double x;         ///< m^2 / 24
-        Double y;         ///< 1 / 24 / m
-        Double corner;    ///< distance of the corner (a, b) from the centre, along the normal
-        Double axial;     ///< the same of the point of the axial force
+        Double volume; ///< m^2 / 6
+        Double x;      ///< m^2 / 24
+        Double y;      ///< 1 / 24 / m
+        Double corner; ///< distance of the corner (a, b) from the centre, along the normal
+        Double axial;  ///< the same of the point of the axial force
         Double Ex, Ey;
-        Double N;         ///< axial force, kG
-        Double n;         ///< Es / Eb
+        Double N; ///< axial force, kG
+        Double n; ///< Es / Eb
         int anchors;
         std::array<Double, MaxAnchors> projection; ///< of the anchors on the normal
         std::array<Double, MaxAnchors> area;       ///< cm2
@@ -45,7 +46,7 @@ public:
 
 private:
     Angle angle_;
-    void (*errors_)(const Angle&, const Row& distances, Row& errors);
+    void (*errors_)(const Angle&, const Row& distances, std::size_t count, Row& errors);
 };
 
 } // namespace ferna

@@ -1,10 +1,6 @@
 #include "analysis/search.h"
 
-#include "analysis/march_ahead.h"
-
-#include <algorithm>
-#include <array>
-#include <optional>
+#include "analysis/shortcuts.h"
 
 namespace ferna {
 
@@ -30,77 +26,10 @@ Double stepBack(Double step, Double residual, Double previous) {
 /// Counts steps of the march to a change of sign; the counter never runs over.
 void countSteps(Stan_przypadku& s, int steps) {
     const int counted = s.Kroki_c + steps;
-    s.Kroki_c = CInt(counted < stepsWrapAt ? counted
-                                           : stepsWrapTo
-                                                 + (counted - stepsWrapAt)
-                                                       % (stepsWrapAt - stepsWrapTo));
+    s.Kroki_c = CInt(counted < stepsWrapAt
+                         ? counted
+                         : stepsWrapTo + (counted - stepsWrapAt) % (stepsWrapAt - stepsWrapTo));
 }
-
-/// Takes the plain steps of a march several at a time and leaves the step that ends it to the
-/// march, which evaluates it in full. In between only distance, error and counters are kept up.
-/// Takes at once all the steps of a march that no longer moves.
-class Stride {
-public:
-    Stride(Stan_przypadku& s, const Stan& stan) : s_(s), stan_(stan) {}
-
-    /// After a plain step. `isPlain(error, error before)` tells one, `count(steps)` counts them.
-    template <typename IsPlain, typename Count>
-    void goOn(IsPlain isPlain, Count count) {
-        if (++plainSteps_ < patience)
-            return;
-        const bool moves = s_.C_linii + s_.Krok_c != s_.C_linii;
-        if (!moves && isPlain(s_.Reszta_c, s_.Reszta_c)) {
-            take(evaluationsAhead(), count);
-            return;
-        }
-        if (!ahead_)
-            ahead_.emplace(s_, stan_);
-        while (takeRow(isPlain, count)) {
-        }
-    }
-
-    /// After any other step.
-    void rest() { plainSteps_ = 0; }
-
-private:
-    static constexpr int patience = 3; // plain steps before it pays to look ahead
-
-    /// Evaluations up to the last one allowed, which is the march's.
-    int evaluationsAhead() const { return std::max(0, evaluationLimit - 1 - s_.Liczba_ocen); }
-
-    template <typename Count>
-    void take(int steps, Count count) {
-        count(steps);
-        s_.Liczba_ocen += steps;
-    }
-
-    /// True where all steps of a row were plain.
-    template <typename IsPlain, typename Count>
-    bool takeRow(IsPlain isPlain, Count count) {
-        MarchAhead::Row distances;
-        Double c = s_.C_linii;
-        for (Double& distance : distances)
-            distance = c += s_.Krok_c;
-        const MarchAhead::Row errors = ahead_->at(distances);
-        const auto most =
-            static_cast<std::size_t>(std::min(evaluationsAhead(), MarchAhead::lanes));
-        std::size_t taken = 0;
-        Double before = s_.Reszta_c;
-        while (taken < most && isPlain(errors[taken], before))
-            before = errors[taken++];
-        if (taken > 0) {
-            take(static_cast<int>(taken), count);
-            s_.C_linii = distances[taken - 1];
-            s_.Reszta_c = before;
-        }
-        return taken == errors.size();
-    }
-
-    Stan_przypadku& s_;
-    const Stan& stan_;
-    int plainSteps_ = 0;
-    std::optional<MarchAhead> ahead_;
-};
 
 /// Cold start: marches until the error is negative; where it stops falling, steps back and refines.
 void marchToNegative(Stan_przypadku& s, Stan& stan, Stride& stride) {
@@ -116,7 +45,6 @@ void marchToNegative(Stan_przypadku& s, Stan& stan, Stride& stride) {
             stride.goOn(falls, [](int) {});
             continue;
         }
-        stride.rest();
         s.C_linii -= s.Krok_c;
         s.Krok_c = 0.1 * s.Krok_c;
     }
@@ -138,7 +66,6 @@ void marchToSignChange(Stan_przypadku& s, Stan& stan, Stride& stride) {
             stride.goOn(nears, [&s](int steps) { countSteps(s, steps); });
             continue;
         }
-        stride.rest();
         if (s.Kroki_c > 2) {
             s.Kroki_c = 0;
             s.C_linii -= s.Krok_c;
@@ -181,41 +108,6 @@ bool interpolateBeta(Stan_przypadku& s, Stan& stan) {
     s.Krok_beta = 0.1 * s.Krok_beta;
     return std::fabs(s.Krok_beta) < smallestStepBetaDegrees / stan.opcje.Stopnie_na_radian;
 }
-
-/// Sees that the search of the angle has come back to a state it was in before: it will go round
-/// until the evaluations are used up, and the whole rounds in between can be left out.
-class RoundTrip {
-public:
-    explicit RoundTrip(Stan_przypadku& s)
-        : s_(s), known_(state()), evaluations_(s.Liczba_ocen) {}
-
-    void lookBack() {
-        if (const State now = state(); now == known_) {
-            const int round = s_.Liczba_ocen - evaluations_;
-            if (round > 0 && s_.Liczba_ocen < evaluationLimit)
-                s_.Liczba_ocen += (evaluationLimit - s_.Liczba_ocen) / round * round;
-        } else if (++turns_ == power_) { // remembers the state ever more rarely, so that a round of
-            known_ = now;                // any length is seen
-            evaluations_ = s_.Liczba_ocen;
-            power_ *= 2;
-            turns_ = 0;
-        }
-    }
-
-private:
-    // Everything that the next turn of the search depends on.
-    using State = std::array<Double, 7>;
-    State state() const {
-        return {s_.Beta,      s_.Krok_beta,         s_.C_linii,     s_.Reszta_c,
-                s_.Reszta_beta, Double(s_.Kroki_c), Double(s_.Nawroty)};
-    }
-
-    Stan_przypadku& s_;
-    State known_;
-    int evaluations_;
-    int turns_ = 0;
-    int power_ = 1;
-};
 
 } // namespace
 
