@@ -9,8 +9,8 @@
 
 namespace ferna {
 
-// Shortcuts of the search. None changes a bit of what the search leaves: its line, its counters, the
-// number of its evaluations.
+// Shortcuts of the search. None changes a bit of what the search leaves: its line, its counters,
+// the number of its evaluations.
 
 /// Takes the plain steps of a march several at a time and leaves the step that ends it to the
 /// march, which evaluates it in full. In between only distance, error and counters are kept up.

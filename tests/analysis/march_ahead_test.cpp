@@ -1,6 +1,5 @@
-#include "analysis/march_ahead.h"
-
 #include "analysis/equilibrium.h"
+#include "analysis/march_ahead.h"
 #include "analysis/search.h"
 #include "support/golden.h"
 #include "support/random_tasks.h"
@@ -73,8 +72,7 @@ TEST_P(RowOfErrors, HasTheBitsOfFullEvaluations) {
             Double c = dice.between(-1.2, 1.2) * R;
             for (Double& distance : distances)
                 distance = c += step;
-            const std::size_t length =
-                march % 3 == 0 ? MarchAhead::shortRow : MarchAhead::longRow;
+            const std::size_t length = march % 3 == 0 ? MarchAhead::shortRow : MarchAhead::longRow;
             const MarchAhead::Row errors = ahead.at(distances, length);
             for (std::size_t i = 0; i < length; ++i) {
                 ASSERT_TRUE(sameBits(errors[i], fullError(base, distances[i])))
