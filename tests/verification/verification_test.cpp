@@ -39,8 +39,9 @@ TEST(PublishedExample, OfOneRowAgreesWithTheProgramUpToTheSubstituteMoment) {
 
 #ifndef FERNA_SANITIZE // the page's statistics take too long there
 TEST(VerificationPage, SaysWhatTheProgramGivesToday) {
-    EXPECT_EQ(fileBytes(QStringLiteral(FERNA_GOLDEN_DIR "/../../docs/verification.md")).toStdString(),
-              verificationPage())
+    EXPECT_EQ(
+        fileBytes(QStringLiteral(FERNA_GOLDEN_DIR "/../../docs/verification.md")).toStdString(),
+        verificationPage())
         << "write it anew: build/release/tests/verification > docs/verification.md";
 }
 #endif

@@ -1,0 +1,177 @@
+#!/usr/bin/env python3
+"""Times every road that a user waits on and writes docs/performance.md.
+
+Usage: bench/run.py [BUILD_FOLDER]    on an otherwise quiet machine, after a Release build with
+benchmarks (cmake --preset release -DFERNA_BENCH=ON; cmake --build --preset release).
+"""
+
+import json
+import os
+import platform
+import re
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+sys.path.insert(0, os.path.join(ROOT, "tests", "e2e"))
+from desktop import Desktop, wait_for  # noqa: E402
+
+REPETITIONS = 7
+ROADS = {  # names of the benchmarks in a reader's words
+    "Evaluation/4": "one equilibrium of a neutral line, 4 anchors",
+    "Evaluation/8": "one equilibrium of a neutral line, 8 anchors",
+    "Evaluation/20": "one equilibrium of a neutral line, 20 anchors",
+    "Case/1": "load case, zone a triangle (7 665 evaluations)",
+    "Case/2": "load case, zone along the length (25 383 evaluations)",
+    "Case/3": "load case, zone along the width",
+    "Case/4": "load case, plate less a triangle",
+    "Case/5": "load case, whole plate compressed",
+    "TaskOfSixCases": "six median cases, 20 anchors, from the fields to the text report",
+    "ReportLines": "lines of the report, six cases",
+    "TextReport": "text report",
+    "RtfReport/1": "RTF report, pattern A",
+    "RtfReport/2": "RTF report, pattern B",
+    "PrintCommands": "print-command file with its pictures",
+    "Sketches": "six sketches of zones, saved at print quality",
+    "Renderer/real_time": "renderer, from start to the screen picture of six cases",
+    "MetafileLoading": "reading and painting that picture",
+}
+UNITS = {"ns": 1e-9, "us": 1e-6, "ms": 1e-3, "s": 1.0}
+
+
+def seconds(value):
+    for unit, scale in (("s", 1.0), ("ms", 1e-3), ("µs", 1e-6), ("ns", 1e-9)):
+        if value >= scale:
+            return f"{value / scale:.3g} {unit}"
+    return f"{value:.3g} s"
+
+
+def row(what, values):
+    return f"| {what} | {seconds(min(values))} | {seconds(statistics.median(values))} " \
+           f"| {seconds(max(values))} |"
+
+
+def benchmarks(program):
+    """Rows of a Google Benchmark program, and what it prints besides."""
+    with tempfile.NamedTemporaryFile(suffix=".json") as out:
+        done = subprocess.run([program, f"--benchmark_repetitions={REPETITIONS}",
+                               "--benchmark_min_time=0.05", "--benchmark_out_format=json",
+                               f"--benchmark_out={out.name}"],
+                              capture_output=True, text=True, check=True,
+                              env=dict(os.environ, QT_QPA_PLATFORM="offscreen", LC_ALL="C.UTF-8"))
+        runs = json.load(open(out.name, encoding="utf-8"))["benchmarks"]
+    times = {}
+    for run in runs:
+        if run["run_type"] == "iteration":
+            if run.get("error_occurred"):
+                raise SystemExit(f"{run['name']}: {run['error_message']}")
+            kind = "real_time" if "real_time" in run["name"] else "cpu_time"
+            name = run["run_name"]
+            times.setdefault(name, []).append(run[kind] * UNITS[run["time_unit"]])
+    return [row(ROADS.get(name, name), values) for name, values in times.items()], done.stdout
+
+
+def timed(run):
+    values = []
+    for _ in range(REPETITIONS):
+        begin = time.monotonic()
+        run()
+        values.append(time.monotonic() - begin)
+    return values
+
+
+def program_start(bin_folder, work):
+    """From the start of the process to its window on the screen."""
+    folder = os.path.join(work, "program")
+    shutil.copytree(bin_folder, folder)
+    desktop = Desktop(os.path.join(work, "home"))
+    values = []
+    try:
+        for _ in range(REPETITIONS + 1):
+            begin = time.monotonic()
+            process = desktop.start([os.path.join(folder, "ferna")], folder)
+            wait_for("the main form", lambda: desktop.xdotool(
+                "search", "--onlyvisible", "--pid", process.pid, "--name", "Ferna"))
+            values.append(time.monotonic() - begin)
+            process.terminate()
+            process.wait()
+    finally:
+        desktop.close()
+    return values[1:]  # the first one reads the disk
+
+
+def machine():
+    model = re.search(r"model name\s*: (.*)", open("/proc/cpuinfo", encoding="utf-8").read())
+    return f"{model[1] if model else platform.processor()}, {os.cpu_count()} processors, " \
+           f"{platform.freedesktop_os_release()['PRETTY_NAME']}"
+
+
+def main():
+    build = os.path.abspath(sys.argv[1] if len(sys.argv) > 1 else os.path.join(ROOT, "build/release"))
+    bin_folder = os.path.join(build, "bin")
+    companion = os.path.join(bin_folder, "ferna-wsad")
+    sample = os.path.join(ROOT, "data/przyklady/szesc-przypadkow.json")
+    rows, spread = benchmarks(os.path.join(build, "bench/ferna_bench"))
+    spread = spread[spread.index("cases outside the kern") - 6:].strip()
+    for name in ("report_bench", "results_form_bench"):
+        program = os.path.join(build, "bench", name)
+        if os.path.exists(program):
+            rows += benchmarks(program)[0]
+    with tempfile.TemporaryDirectory() as work:
+        rows.append(row("start of the program to its window", program_start(bin_folder, work)))
+        for ending, what in (("pdf", "companion: task to PDF, whole process"),
+                             ("txt", "companion: task to text report, whole process"),
+                             ("doc", "companion: task to a word-processor document")):
+            rows.append(row(what, timed(lambda e=ending: subprocess.run(
+                [companion, "--wynik", f"{work}/r.json", "--raport", f"{work}/r.{e}", sample],
+                check=True, env=dict(os.environ, QT_QPA_PLATFORM="offscreen")))))
+        stream = subprocess.run([os.path.join(ROOT, "bench/stream.sh"), build], check=True,
+                                capture_output=True, text=True).stdout.strip()
+    page = f"""# Performance
+
+Written by `bench/run.py` on: {machine()}. Each figure comes from {REPETITIONS} repetitions; the
+calculation's are processor time, those of whole processes wall time.
+
+| | least | median | most |
+|---|---:|---:|---:|
+""" + "\n".join(rows) + f"""
+
+The cases of 20 000 random tasks that are not wholly compressed, each with its result lines
+(`build/release/bench/ferna_bench`):
+
+```
+{spread}
+```
+
+Aims: the median below 10 µs, 99 % below 1 ms.
+
+The stream of the companion (`bench/stream.sh`), the tasks of the reference set over and over:
+
+```
+{stream}
+```
+
+## Where the time goes
+
+- The search evaluates neutral lines. A line costs about ten divisions one after the other; on the
+  long marches several lines are evaluated side by side (`analysis/march_ahead`), with AVX2
+  instructions where the processor has them. Rows of four begin a march, as most are short; rows of
+  sixteen follow. A march that no longer moves the line, and a search of the angle that has come back to
+  where it was, jump to the end of their evaluations (`analysis/shortcuts`). No bit of a result
+  changes: `LookingAhead.ChangesNoBitOfAnyResult` compares with fingerprints of the search that
+  evaluated line by line.
+- A number of the report is written from 17 digits; all digits are taken only where those read as an
+  exact half.
+- The picture of the pages is the renderer's: most of it is the start of a process with Qt.
+- A document waits for the word processor to start.
+"""
+    with open(os.path.join(ROOT, "docs/performance.md"), "w", encoding="utf-8") as file:
+        file.write(page)
+    print(page)
+
+
+main()
