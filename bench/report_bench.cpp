@@ -31,8 +31,8 @@ const QDateTime noon(QDate(2026, 1, 1), QTime(12, 0), Qt::UTC);
 class SixCases {
 public:
     SixCases() {
-        const QByteArray text = readFileWhole(
-            QStringLiteral(FERNA_DATA_DIR "/przyklady/szesc-przypadkow.json"));
+        const QByteArray text =
+            readFileWhole(QStringLiteral(FERNA_DATA_DIR "/przyklady/szesc-przypadkow.json"));
         const QString programs = QStringLiteral(FERNA_BIN_DIR);
         deliverPictures(programs, folder_.path());
         QFile::link(programs + QStringLiteral("/Wyd_drk"),
@@ -93,7 +93,8 @@ void Sketches(benchmark::State& state) {
     Raport raport = sixCases().done().raport;
     for (auto _ : state)
         for (int c = 1; c <= sixCases().stan().obciazenia.Liczba_przyp; ++c)
-            Rysuj_strefe(raport, sixCases().stan(), c, sixCases().folder() + u'/' + zoneSketchFile(c));
+            Rysuj_strefe(raport, sixCases().stan(), c,
+                         sixCases().folder() + u'/' + zoneSketchFile(c));
 }
 BENCHMARK(Sketches)->Unit(benchmark::kMillisecond);
 

@@ -18,10 +18,7 @@ std::string range(Integer least, Integer most) {
 } // namespace
 
 ObjectReader::ObjectReader(const Json& value, std::string path)
-    : value_(value), path_(std::move(path)) {
-    if (!value.is_object())
-        throw TaskError(path_, "expected an object" + found(value));
-}
+    : value_(objectOf(value, path)), path_(std::move(path)) {}
 
 std::string ObjectReader::pathOf(const std::string& key) const {
     return path_.empty() ? key : path_ + '.' + key;
@@ -84,6 +81,12 @@ QString textOf(const Json& value, const std::string& path) {
     if (!value.is_string())
         throw TaskError(path, "expected a text" + found(value));
     return QString::fromStdString(value.get_ref<const std::string&>());
+}
+
+const Json& objectOf(const Json& value, const std::string& path) {
+    if (!value.is_object())
+        throw TaskError(path, "expected an object" + found(value));
+    return value;
 }
 
 const Json& arrayOf(const Json& value, const std::string& path) {

@@ -50,6 +50,8 @@ Integer integerOf(const Json& value, const std::string& path, Integer least = -3
                   Integer most = 32767);
 double numberOf(const Json& value, const std::string& path);
 QString textOf(const Json& value, const std::string& path);
+/// A value as an object.
+const Json& objectOf(const Json& value, const std::string& path);
 /// A value as an array.
 const Json& arrayOf(const Json& value, const std::string& path);
 

@@ -14,18 +14,12 @@ Json errorJson(const RunTimeError& failure) {
 }
 
 TaskObject::TaskObject(const Json& value, std::string path, std::initializer_list<const char*> keys)
-    : value_(value), path_(std::move(path)) {
-    if (!value.is_object())
-        throw TaskError(path_, "expected an object");
+    : value_(objectOf(value, path)), path_(std::move(path)) {
     for (const auto& item : value.items()) {
         const auto isKey = [&](const char* key) { return item.key() == key; };
         if (std::none_of(keys.begin(), keys.end(), isKey))
             throw TaskError(pathOf(item.key()), "unknown key");
     }
-}
-
-void TaskObject::refuse(const std::string& key, const std::string& expected) const {
-    throw TaskError(pathOf(key), "expected " + expected);
 }
 
 void TaskObject::require(const char* key) const {
@@ -34,12 +28,7 @@ void TaskObject::require(const char* key) const {
 }
 
 std::optional<double> TaskObject::number(const char* key) const {
-    if (!has(key))
-        return std::nullopt;
-    const Json& value = at(key);
-    if (!value.is_number())
-        refuse(key, "a number");
-    return value.get<double>();
+    return has(key) ? std::optional(numberOf(at(key), pathOf(key))) : std::nullopt;
 }
 
 std::optional<QString> TaskObject::fieldText(const char* key) const {
@@ -53,25 +42,18 @@ std::optional<QString> TaskObject::wholeFieldText(const char* key) const {
         return std::nullopt;
     const double whole = std::nearbyint(*value);
     if (whole < std::numeric_limits<Integer>::min() || whole > std::numeric_limits<Integer>::max())
-        refuse(key, "a whole number of 16 bits");
+        throw TaskError(pathOf(key), "expected a whole number of 16 bits");
     return general(*value);
 }
 
 std::optional<int> TaskObject::listNumber(const char* key, int first, int last) const {
-    const std::optional<double> value = number(key);
-    if (!value)
+    if (!has(key))
         return std::nullopt;
-    if (*value != std::nearbyint(*value) || *value < first || *value > last)
-        refuse(key, "a whole number " + std::to_string(first) + ".." + std::to_string(last));
-    return static_cast<int>(*value);
+    return integerOf(at(key), pathOf(key), CInt(first), CInt(last));
 }
 
 QString TaskObject::text(const char* key) const {
-    if (!has(key))
-        return {};
-    if (!at(key).is_string())
-        refuse(key, "a text");
-    return QString::fromStdString(at(key).get<std::string>());
+    return has(key) ? textOf(at(key), pathOf(key)) : QString();
 }
 
 std::string TaskObject::oneOf(const char* key, std::initializer_list<const char*> choices) const {
@@ -82,7 +64,7 @@ std::string TaskObject::oneOf(const char* key, std::initializer_list<const char*
             return choice;
         expected += (expected.empty() ? "\"" : " or \"") + std::string(choice) + '"';
     }
-    refuse(key, expected);
+    throw TaskError(pathOf(key), "expected " + expected);
 }
 
 } // namespace ferna::batch

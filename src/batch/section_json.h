@@ -1,20 +1,13 @@
 #pragma once
 
-#include "batch/task_error.h"
-#include "runtime/numbers.h"
+#include "batch/object_reader.h"
 #include "runtime/run_time_error.h"
-
-#include <QString>
-
-#include <nlohmann/json.hpp>
 
 #include <initializer_list>
 #include <optional>
 #include <string>
 
 namespace ferna::batch {
-
-using Json = nlohmann::ordered_json;
 
 /// The result part of a section, and the run-time error that stopped it: null, or number and text.
 struct SectionResult {
@@ -25,8 +18,8 @@ struct SectionResult {
 /// {"numer", "tekst"} with the English text.
 Json errorJson(const RunTimeError& failure);
 
-/// One JSON object of a task with its place in it. Every function throws TaskError where the JSON
-/// is not as it asks.
+/// One JSON object of a section, whose values are texts of the section's form. Its keys are known
+/// beforehand. Every function throws TaskError where the JSON is not as it asks.
 class TaskObject {
 public:
     /// An object that holds no other keys than these.
@@ -51,7 +44,6 @@ public:
 
 private:
     std::optional<double> number(const char* key) const;
-    [[noreturn]] void refuse(const std::string& key, const std::string& expected) const;
 
     const Json& value_;
     std::string path_;

@@ -44,7 +44,7 @@ TEST_F(AnchorSectionOfATask, WhatCannotBeTypedIsRefusedWithItsPlace) {
     EXPECT_EQ(refusal(R"({"g": 50})"), "Kotwa.rodzaj: this key is required and is missing");
     EXPECT_EQ(refusal(R"({"g": 50, "rodzaj": "X"})"), R"(Kotwa.rodzaj: expected "F" or "P")");
     EXPECT_EQ(refusal(R"({"g": 50, "rodzaj": 1})"), R"(Kotwa.rodzaj: expected "F" or "P")");
-    EXPECT_EQ(refusal(R"({"g": "50", "rodzaj": "F"})"), "Kotwa.g: expected a number");
+    EXPECT_EQ(refusal(R"({"g": "50", "rodzaj": "F"})"), "Kotwa.g: expected a number, found \"50\"");
     EXPECT_EQ(refusal(R"({"g": 40000, "rodzaj": "F"})"),
               "Kotwa.g: expected a whole number of 16 bits");
 }

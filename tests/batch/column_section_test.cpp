@@ -46,7 +46,7 @@ std::string refusal(const char* text) {
 
 TEST_F(ColumnSectionOfATask, WhatCannotBeTypedIsRefusedWithItsPlace) {
     EXPECT_EQ(refusal("{}"), "Slup: expected an array of loads");
-    EXPECT_EQ(refusal("[1]"), "Slup[0]: expected an object");
+    EXPECT_EQ(refusal("[1]"), "Slup[0]: expected an object, found 1");
     EXPECT_EQ(refusal(R"([{"rodzaj": "sila"}])"),
               "Slup[0].kierunek: this key is required and is missing");
     EXPECT_EQ(refusal(R"([{"kierunek": "XY", "rodzaj": "sila"}])"),
@@ -58,7 +58,7 @@ TEST_F(ColumnSectionOfATask, WhatCannotBeTypedIsRefusedWithItsPlace) {
     EXPECT_EQ(refusal(R"([{"kierunek": "ZX", "rodzaj": "moment", "H": 1}])"),
               "Slup[0].H: unknown key");
     EXPECT_EQ(refusal(R"([{"kierunek": "ZX", "rodzaj": "sila", "H": "1"}])"),
-              "Slup[0].H: expected a number");
+              "Slup[0].H: expected a number, found \"1\"");
 }
 
 TEST_F(ColumnSectionOfATask, ValuesLeftOutKeepTheFirstTextsOfTheDialog) {

@@ -44,20 +44,21 @@ std::string refusal(const char* text) {
 }
 
 TEST_F(PlateSectionOfATask, WhatCannotBeTypedIsRefusedWithItsPlace) {
-    EXPECT_EQ(refusal("[]"), "Blacha: expected an object");
+    EXPECT_EQ(refusal("[]"), "Blacha: expected an object, found []");
     EXPECT_EQ(refusal(R"({"Stal": 1})"), "Blacha.Stal: unknown key");
     EXPECT_EQ(refusal(R"({"Nr_stali_blachy": 7})"),
-              "Blacha.Nr_stali_blachy: expected a whole number 1..6");
-    EXPECT_EQ(refusal(R"({"Nr_stali_blachy": "1"})"), "Blacha.Nr_stali_blachy: expected a number");
-    EXPECT_EQ(refusal(R"({"Blacha_nazwa": 1})"), "Blacha.Blacha_nazwa: expected a text");
-    EXPECT_EQ(refusal(R"({"Grubosc": "12"})"), "Blacha.Grubosc: expected a number");
+              "Blacha.Nr_stali_blachy: expected a whole number from 1 to 6, found 7");
+    EXPECT_EQ(refusal(R"({"Nr_stali_blachy": "1"})"),
+              "Blacha.Nr_stali_blachy: expected a whole number from 1 to 6, found \"1\"");
+    EXPECT_EQ(refusal(R"({"Blacha_nazwa": 1})"), "Blacha.Blacha_nazwa: expected a text, found 1");
+    EXPECT_EQ(refusal(R"({"Grubosc": "12"})"), "Blacha.Grubosc: expected a number, found \"12\"");
     EXPECT_EQ(refusal(R"({"Sprawdzenia": {"9": {}}})"), "Blacha.Sprawdzenia.9: unknown key");
     EXPECT_EQ(refusal(R"({"Sprawdzenia": {"1": {"l": 1}}})"),
               "Blacha.Sprawdzenia.1.l: unknown key");
     EXPECT_EQ(refusal(R"({"Sprawdzenia": {"3": {"l": 40000}}})"),
               "Blacha.Sprawdzenia.3.l: expected a whole number of 16 bits");
     EXPECT_EQ(refusal(R"({"Sprawdzenia": {"4": {"Nr_profilu": 26}}})"),
-              "Blacha.Sprawdzenia.4.Nr_profilu: expected a whole number 1..25");
+              "Blacha.Sprawdzenia.4.Nr_profilu: expected a whole number from 1 to 25, found 26");
     EXPECT_EQ(refusal(R"({"Nr_stali_blachy": 1, "Grubosc": null, "Sprawdzenia": {"1": {}}})"),
               "accepted");
 }
