@@ -10,7 +10,7 @@ import subprocess
 import sys
 import tempfile
 
-LARGEST_SHARE = 0.001  # of differing pixels; date, time and a blinking cursor are less
+LARGEST_SHARE = 0.003  # of differing pixels; date, time and a blinking cursor are less
 
 
 def told(command):
