@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Formatting, scripts and clang-tidy, each with the version that Debian 12 pins.
 #   tools/lint.sh            all of it; clang-tidy on the sources changed since the last commit on main
-#   tools/lint.sh --all      clang-tidy on every source (about ten minutes on two cores)
+#   tools/lint.sh --all      clang-tidy on every source (half an hour on two busy cores)
 #   tools/lint.sh --quick    without clang-tidy, as test.sh does it
 # clang-tidy reads what the build knows: build the release preset first.
 set -euo pipefail
