@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing and runs all tests: Release with warnings as errors, then Debug with the
-# address and undefined behaviour sanitizers, then the formatting.
+# address and undefined behaviour sanitizers, then the formatting and the scripts.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
 source tools/setup.sh
@@ -17,4 +17,4 @@ build_preset asan
 export LSAN_OPTIONS=suppressions=$PWD/tests/leaks_of_libraries.supp:print_suppressions=0
 ctest --test-dir build/asan -j2 -LE e2e
 
-tools/format.sh --check
+tools/lint.sh --quick

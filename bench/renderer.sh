@@ -14,7 +14,7 @@ for task in slup-hali szesc-przypadkow; do
     printf -- '-2, 1.0, 0.5, 1.0, 1\r\n%s\r\n%s\r\n' \
         "$work/$task.wyd" "$work/$task-frame.wyd" > "$work/$task.job"
     for output in "" "--pdf $work/$task.pdf"; do
-        for run in 1 2 3 4 5; do
+        for _ in 1 2 3 4 5; do
             # shellcheck disable=SC2086
             /usr/bin/time -f '%e' "$bin/Wyd_drk" $output "$work/$task.job" 2>&1 | tail -n 1
         done | sort -n | awk -v what="$task ${output:+PDF}" 'NR == 3 { print what ": median " $1 " s" }'

@@ -1,3 +1,4 @@
+# shellcheck shell=bash disable=SC2034  # the lists are read by who sources this
 # Sourced by run.sh and test.sh: installs the Debian packages that are missing. A second run only
 # looks. Nothing here needs more than a fresh Debian 12.
 
@@ -9,9 +10,9 @@ run_packages=(
     fonts-liberation libqt6svg6 libqt6help6 libqt6printsupport6 qt6-translations-l10n
 )
 test_packages=(
-    clang clang-format-14 libgtest-dev libbenchmark-dev python3
+    git clang clang-format-14 clang-tidy-14 shellcheck libgtest-dev libbenchmark-dev python3
     xvfb xdotool xauth x11-utils x11-apps openbox imagemagick
-    poppler-utils cups cups-client cups-filters time
+    poppler-utils cups cups-client cups-filters time parallel
     libreoffice-writer-nogui libreoffice-dev
 )
 

@@ -44,7 +44,7 @@ private:
 };
 
 /// Keeps the result of a section. False where a run-time error stopped it.
-bool keep(ComputedTask& done, const char* key, SectionResult result) {
+bool keep(ComputedTask& done, const char* key, SectionResult&& result) {
     done.sections[key] = std::move(result.value);
     done.failure = std::move(result.Blad);
     return done.failure.is_null();
@@ -54,11 +54,11 @@ bool keep(ComputedTask& done, const char* key, SectionResult result) {
 void runSections(ComputedTask& done, const RunOptions& options) {
     Stan& stan = done.task.stan;
     if (done.task.plate) {
-        const PlateSectionResult result = runPlateTask(*done.task.plate, stan, done.dialogs);
+        PlateSectionResult result = runPlateTask(*done.task.plate, stan, done.dialogs);
         if (result.section && !options.pictures.isEmpty())
             for (const PlateSketch& sketch : result.section->sketches)
                 savePlateSketch(options.pictures, sketch.image, QString::fromLatin1(sketch.file));
-        if (!keep(done, "Blacha", result))
+        if (!keep(done, "Blacha", std::move(result)))
             return;
     }
     if (done.task.anchor)

@@ -16,7 +16,7 @@ public:
     QString parse(Call& call) {
         while (next_ < arguments_.size()) {
             const QString argument = arguments_[next_++];
-            const QString fault =
+            QString fault =
                 argument.startsWith(u"--") ? option(argument.mid(2), call) : job(argument, call);
             if (!fault.isEmpty())
                 return fault;

@@ -31,7 +31,7 @@ QString FieldReader::numberField() {
     const qsizetype start = position_;
     while (position_ < line.size() && line[position_] != u' ' && line[position_] != u',')
         ++position_;
-    const QString field = line.mid(start, position_ - start);
+    QString field = line.mid(start, position_ - start);
     while (position_ < line.size() && line[position_] == u' ')
         ++position_;
     if (position_ < line.size() && line[position_] == u',')
@@ -93,7 +93,7 @@ bool FieldReader::atLineEnd() const {
 }
 
 QString FieldReader::rest() {
-    const QString rest = lines_[line_ - 1].mid(position_);
+    QString rest = lines_[line_ - 1].mid(position_);
     position_ = lines_[line_ - 1].size();
     return rest;
 }

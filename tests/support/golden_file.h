@@ -14,11 +14,11 @@ inline QByteArray fileBytes(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Compares bytes with a golden file, line by line. With FERNA_UPDATE_GOLDEN set the file is
+/// Compares bytes with a golden file, line by line. With FERNA_ACCEPT_GOLDEN set the file is
 /// rewritten and the test fails, so that nobody takes it for a passed one.
 inline void expectGolden(const QByteArray& bytes, const QString& name) {
     const QString path = QStringLiteral(FERNA_GOLDEN_DIR "/") + name;
-    if (qEnvironmentVariableIsSet("FERNA_UPDATE_GOLDEN")) {
+    if (qEnvironmentVariableIsSet("FERNA_ACCEPT_GOLDEN")) {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
         file.write(bytes);

@@ -52,7 +52,8 @@ int main(int argc, char** argv) {
     for (int number = 1; std::getline(tasks, line); ++number) {
         const ComputedTask done = run(readTask(parsed(line)), options);
         std::printf("task %d error %d messages %zu", number,
-                    done.failure ? done.failure->number() : 0, done.dialogs.messages.size());
+                    done.failure.is_null() ? 0 : done.failure.at("numer").get<int>(),
+                    done.dialogs.messages.size());
         for (int c = 1; c <= done.task.stan.obciazenia.Liczba_przyp; ++c)
             printCase(done, c);
         std::printf("\n  last");

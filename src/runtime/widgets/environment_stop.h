@@ -12,16 +12,20 @@ namespace ferna {
 /// code 1 and without saving. Returns false where the handler was stopped.
 bool guarded(QWidget* form, const std::function<void()>& handler);
 
+/// Calls a handler with the arguments of a signal, or without where it takes none.
+template <typename Handler, typename... Arguments>
+void callHandler(const Handler& handler, Arguments... arguments) {
+    if constexpr (std::is_invocable_v<const Handler&, Arguments...>)
+        handler(arguments...);
+    else
+        handler();
+}
+
 /// The connection of a signal to a handler that runs under `guarded`.
 template <typename Sender, typename Signal, typename Handler>
 void connectGuarded(Sender* sender, Signal signal, QWidget* form, Handler handler) {
     QObject::connect(sender, signal, form, [form, handler](auto... arguments) {
-        guarded(form, [&] {
-            if constexpr (std::is_invocable_v<Handler, decltype(arguments)...>)
-                handler(arguments...);
-            else
-                handler();
-        });
+        guarded(form, [&] { callHandler(handler, arguments...); });
     });
 }
 

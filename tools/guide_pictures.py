@@ -1,0 +1,215 @@
+#!/usr/bin/env python3
+"""Takes the pictures of the user guide from the running program: works through the delivered sample
+column base as the guide tells it, and pictures each window on the way.
+
+Usage: guide_pictures.py FOLDER_OF_THE_PROGRAMS SAMPLE_TASK.json FOLDER_FOR_THE_PICTURES
+"""
+
+import json
+import os
+import re
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "e2e"))
+from desktop import Desktop, wait_for
+
+SCREEN = "1280x1024x24"  # the results window takes nine tenths of it
+# Patterns of window titles, without the Polish letters that xdotool does not match.
+MAIN = "Ferna 2005 Pr - zakotwienie .*"
+TITLE = "Ferna 2005 Pr"  # of questions and of most messages
+FOUR = "Podaj .* jednej z 4 .*"
+RESULTS = "WY N I K I"
+PLATE = "Grubo.* blachy"
+SAVE_TEXT = "Podaj .* pliku tekstowego"
+ANCHOR = "Dob.*r kotwy"
+
+
+class Camera:
+    def __init__(self, desktop, folder):
+        self.desktop = desktop
+        self.folder = folder
+
+    def take(self, name, title, part=None):
+        """Pictures the window of that title with its frame, in few colours; with `part`, the width
+        and height of its upper left corner and what covers it."""
+        window = self.desktop.window(title)
+        time.sleep(0.5)  # the last key is drawn
+        what = ["-frame", "-window", window]
+        if part:
+            told = subprocess.run(["xwininfo", "-id", window], env=self.desktop.env, text=True,
+                                  capture_output=True, check=True, timeout=30).stdout
+            place = re.findall(r"Absolute upper-left .:\s+(\d+)", told)
+            what = ["-window", "root", "-crop", "%dx%d+%s+%s" % (*part, *place), "+repage"]
+        path = os.path.join(self.folder, name + ".png")
+        subprocess.run(["import", *what, "-strip", "+dither", "-colors", "64",
+                        "-define", "png:compression-level=9",
+                        "-define", "png:exclude-chunks=date,time", "PNG8:" + path],
+                       env=self.desktop.env, check=True, timeout=30)
+
+
+class Guide:
+    """The sample column base as the guide works it."""
+
+    def __init__(self, desktop, folder, camera):
+        self.desktop = desktop
+        self.take = camera.take
+        self.process = desktop.start([os.path.join(folder, "ferna")], folder)
+        desktop.window(MAIN)
+
+    def tab(self, number):
+        self.desktop.keys(f"alt+{number}")
+
+    def describe(self, task):
+        keys, type_ = self.desktop.keys, self.desktop.type
+        self.tab(1)
+        type_(task["Nazwa_projektu"])
+        keys("Tab")
+        type_(str(task["Nr_strony"]))
+        keys("Tab", *["Down"] * task["Nr_normy"])
+        self.tab(2)
+        for value in (len(task["Przypadki"]), task["Dlug_plyty_mm"], task["Szer_plyty_mm"]):
+            type_(str(value))
+            keys("Tab")
+        keys("Home", *["Down"] * (task["Nr_betonu"] - 1), "Tab", "Tab")
+        keys("Home", *["Down"] * (task["Nr_stali"] - 1), "Tab")
+        keys(*["Right"] * task["Stopa_betonowa"])
+        self.tab(3)
+        for case in task["Przypadki"]:
+            for name in ("N", "M1", "M2", "Vx", "Vy"):
+                type_(str(case[name]))
+                keys("Tab")
+        for number, name in enumerate(("configuration", "general", "loads"), 1):
+            self.tab(number)
+            self.take(name, MAIN)
+
+    def add_anchors(self, anchor):
+        keys, type_ = self.desktop.keys, self.desktop.type
+        self.tab(4)
+        keys("space")
+        self.desktop.window(FOUR)
+        type_(str(anchor["x"]))
+        keys("Tab")
+        type_(str(anchor["y"]))
+        keys("Tab")
+        self.desktop.xdotool("type", str(anchor["fi"]))
+        self.take("new-anchors", FOUR)
+        keys("Return")
+        self.desktop.gone(FOUR)
+        self.take("anchors", MAIN)
+
+    def slip(self, task):
+        """A letter among the loads: the program stops, tells it and lets the engineer go back."""
+        self.tab(3)
+        self.desktop.type("32o")
+        self.desktop.keys("alt+o")
+        self.take("stopped", TITLE)
+        self.desktop.keys("Return")
+        self.desktop.window(MAIN)
+        self.tab(2)  # and back: the focus is on the first load again
+        self.tab(3)
+        self.desktop.type(str(task["Przypadki"][0]["N"]))
+
+    def compute(self, label):
+        self.desktop.keys("alt+o")
+        self.desktop.window(TITLE)
+        self.desktop.type(label)
+        self.take("label", TITLE)
+        self.desktop.keys("Return")
+        self.desktop.window(RESULTS, 60)
+        self.take("results", RESULTS)
+
+    def details(self, entry):
+        """Opens the entry of that number in the menu of the further calculations."""
+        self.desktop.window(RESULTS)
+        self.desktop.keys("alt+s", *["Down"] * (entry - 1), "Return")
+
+    def plate_thickness(self, accepted):
+        keys = self.desktop.keys
+        self.details(1)
+        self.desktop.window(PLATE)
+        keys("Down", "Down")
+        keys("Tab", "Tab", "Tab", "Tab", "space")
+        keys("Tab", "Tab")
+        self.desktop.type(str(accepted))
+        self.take("plate-thickness", PLATE)
+        keys("alt+k")
+        self.desktop.gone(PLATE)
+
+    def catalogue_anchor(self):
+        self.details(2)
+        self.desktop.window(TITLE)
+        self.desktop.type("75")
+        self.take("grout", TITLE)
+        self.desktop.keys("Return")
+        self.take("anchor-selection", ANCHOR)
+        self.desktop.keys("alt+k")
+        self.desktop.gone(ANCHOR)
+
+    def look_at_the_end(self):
+        self.desktop.window(RESULTS)
+        self.desktop.keys("End", "Prior", "Up", "Up")  # both sections: the sheet's end is empty
+        self.take("report-end", RESULTS)
+
+    def save_text(self, path):
+        keys = self.desktop.keys
+        self.desktop.window(RESULTS)
+        keys("Alt_L", "Down")
+        time.sleep(0.5)
+        self.take("file-menu", RESULTS, (330, 205))
+        keys("t")
+        self.desktop.window(SAVE_TEXT)
+        self.desktop.type(path)
+        keys("Return")
+        self.desktop.gone(SAVE_TEXT)
+        wait_for("the text report", lambda: os.path.exists(path))
+
+    def back(self):
+        self.desktop.keys("alt+F4")  # closing the results is the way back
+        self.desktop.gone(RESULTS)
+        self.desktop.window(MAIN)
+        self.tab(1)
+        self.take("next-page", MAIN)
+        self.desktop.keys("alt+k")
+        self.process.wait(30)
+
+
+def run(desktop, folder, task, pictures):
+    guide = Guide(desktop, folder, Camera(desktop, pictures))
+    guide.describe(task)
+    guide.add_anchors(task["Kotwy"][0])
+    guide.slip(task)
+    guide.compute(task["Nazwa_stopy"])
+    guide.plate_thickness(30)
+    guide.catalogue_anchor()
+    guide.look_at_the_end()
+    guide.save_text(os.path.join(desktop.env["HOME"], task["Nazwa_stopy"] + ".txt"))
+    guide.back()
+
+
+def main():
+    programs, sample, pictures = map(os.path.abspath, sys.argv[1:])
+    with open(sample, encoding="utf-8") as file:
+        task = json.load(file)
+    os.makedirs(pictures, exist_ok=True)
+    with tempfile.TemporaryDirectory(prefix="ferna-guide-") as work:
+        folder = os.path.join(work, "bin")
+        shutil.copytree(programs, folder)
+        desktop = Desktop(os.path.join(work, "home"), SCREEN)
+        try:
+            # Numbers as an engineer in Poland has them.
+            desktop.env.pop("LC_ALL")
+            desktop.env |= {"LANG": "C.UTF-8", "LC_NUMERIC": "pl_PL.UTF-8"}
+            run(desktop, folder, task, pictures)
+        except Exception:
+            desktop.screenshot(os.path.join(pictures, "failure.png"))
+            raise
+        finally:
+            desktop.close()
+
+
+if __name__ == "__main__":
+    main()

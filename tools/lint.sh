@@ -1,0 +1,58 @@
+#!/usr/bin/env bash
+# Formatting, scripts and clang-tidy, each with the version that Debian 12 pins.
+#   tools/lint.sh            all of it; clang-tidy on the sources changed since the last commit on main
+#   tools/lint.sh --all      clang-tidy on every source (half an hour on two busy cores)
+#   tools/lint.sh --quick    without clang-tidy, as test.sh does it
+# clang-tidy reads what the build knows: build the release preset first.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+mode=${1:-changed}
+build=build/release
+
+scripts() {
+    git ls-files '*.sh' .ci/run
+}
+
+python_syntax() {
+    git ls-files '*.py' | python3 -c '
+import ast, sys
+for path in sys.stdin.read().split("\n")[:-1]:
+    with open(path, encoding="utf-8") as file:
+        ast.parse(file.read(), path)'
+}
+
+# A change is what the branch adds to main and what is not committed; on main, the last commit.
+changed_sources() {
+    local base
+    base=$(git merge-base HEAD main 2>/dev/null || git rev-parse HEAD)
+    [[ $base != "$(git rev-parse HEAD)" ]] || base=$(git rev-parse HEAD~1)
+    { git diff --name-only "$base" -- src; git ls-files --others --exclude-standard -- src; } \
+        | sed 's/\.h$/.cpp/' | sort -u
+}
+
+# The module of the word processor needs headers that only its own target makes.
+tidy() {
+    [[ -f $build/compile_commands.json ]] || {
+        echo "lint: no $build/compile_commands.json, build the release preset first" >&2
+        exit 2
+    }
+    local file files=()
+    while read -r file; do
+        [[ $file == *.cpp && -f $file && $file != src/platform/writer/* ]] && files+=("$file")
+    done
+    ((${#files[@]})) || return 0
+    echo "clang-tidy: ${#files[@]} files"
+    printf '%s\0' "${files[@]}" \
+        | nice -n 10 xargs -0 -P2 -n4 clang-tidy-14 -p "$build" --quiet 2> >(grep -v 'warnings generated\|Suppressed\|^Use -' >&2)
+}
+
+tools/format.sh --check
+scripts | xargs shellcheck --severity=style --external-sources
+python_syntax
+case $mode in
+    --quick) ;;
+    --all) git ls-files src | tidy ;;
+    changed) changed_sources | tidy ;;
+    *) sed -n '2,6s/^# //p' "$0" >&2; exit 2 ;;
+esac
+echo "lint: nothing found"
