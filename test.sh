@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing and runs all tests: Release with warnings as errors, then Debug with the
-# address and undefined behaviour sanitizers, then the formatting.
+# address and undefined behaviour sanitizers, then the formatting. With --long the package is also
+# installed on a fresh Debian 12 (as root or by sudo, some minutes).
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
 source tools/setup.sh
@@ -16,5 +17,10 @@ ctest --test-dir build/release -j2
 build_preset asan
 export LSAN_OPTIONS=suppressions=$PWD/tests/leaks_of_libraries.supp:print_suppressions=0
 ctest --test-dir build/asan -j2 -LE e2e
+
+if [[ ${1:-} == --long ]]; then
+    install_missing "${long_test_packages[@]}"
+    tests/fresh_machine.sh build/release # the package that the tests have left there
+fi
 
 tools/format.sh --check
