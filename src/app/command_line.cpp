@@ -10,15 +10,15 @@ constexpr int Done = 0;
 constexpr int Failed = 1;
 constexpr int BadCall = 2;
 
-const QString help = QStringLiteral(
-    "Wywołanie: ferna\n"
-    "Projektuje zakotwienie słupa stalowego w fundamencie betonowym.\n"
-    "\n"
-    "Opcje:\n"
-    "  -h, --help     Pokazuje tę pomoc.\n"
-    "  -v, --version  Pokazuje wersję programu.\n"
-    "\n"
-    "Bez okien liczy program ferna-wsad.\n");
+const QString help =
+    QStringLiteral("Wywołanie: ferna\n"
+                   "Projektuje zakotwienie słupa stalowego w fundamencie betonowym.\n"
+                   "\n"
+                   "Opcje:\n"
+                   "  -h, --help     Pokazuje tę pomoc.\n"
+                   "  -v, --version  Pokazuje wersję programu.\n"
+                   "\n"
+                   "Bez okien liczy program ferna-wsad.\n");
 
 Leave refusal(const QString& what, int exitCode) {
     return {QStringLiteral("ferna: %1\n").arg(what), exitCode};
