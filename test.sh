@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing and runs all tests: Release with warnings as errors, then Debug with the
-# address and undefined behaviour sanitizers, then the formatting and the scripts.
+# address and undefined behaviour sanitizers, then the formatting and the scripts. With --long the
+# package is also installed on a fresh Debian 12 (as root or by sudo, some minutes).
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
 source tools/setup.sh
@@ -18,3 +19,8 @@ export LSAN_OPTIONS=suppressions=$PWD/tests/leaks_of_libraries.supp:print_suppre
 ctest --test-dir build/asan -j2 -LE e2e
 
 tools/lint.sh --quick
+
+if [[ ${1:-} == --long ]]; then
+    install_missing "${long_test_packages[@]}"
+    tests/fresh_machine.sh build/release # the package that the tests have left there
+fi

@@ -8,6 +8,7 @@ target_compile_options(ferna_options INTERFACE
 if(FERNA_WERROR)
     target_compile_options(ferna_options INTERFACE -Werror)
 endif()
+target_link_options(ferna_options INTERFACE LINKER:-z,relro,-z,now)
 target_compile_definitions(ferna_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
     FERNA_VERSION="${PROJECT_VERSION}")

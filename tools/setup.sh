@@ -7,14 +7,17 @@ build_packages=(
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools libcups2-dev nlohmann-json3-dev
 )
 run_packages=(
-    fonts-liberation libqt6svg6 libqt6help6 libqt6printsupport6 qt6-translations-l10n
+    fonts-liberation libqt6svg6 libqt6help6 libqt6sql6-sqlite libqt6printsupport6 qt6-translations-l10n
 )
 test_packages=(
     git clang clang-format-14 clang-tidy-14 shellcheck libgtest-dev libbenchmark-dev python3
     xvfb xdotool xauth x11-utils x11-apps openbox imagemagick
     poppler-utils cups cups-client cups-filters time parallel
     libreoffice-writer-nogui libreoffice-dev
+    dpkg-dev file lintian desktop-file-utils appstream man-db
 )
+# For the tests of ./test.sh --long.
+long_test_packages=(debootstrap)
 
 # Installs those of the named packages that are not there.
 install_missing() {

@@ -1,3 +1,4 @@
+#include "app/command_line.h"
 #include "design/configuration.h"
 #include "design/start_up.h"
 #include "input/forms/Ferna3.h"
@@ -10,8 +11,11 @@
 #include "selection/forms/Dobor_fer.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
+
+#include <cstdio>
 
 namespace {
 
@@ -108,12 +112,27 @@ int runProgram() {
     return Program(stan, folder).run();
 }
 
+int leave(const Leave& answer) {
+    std::fputs(answer.text.toLocal8Bit().constData(), answer.exitCode == 0 ? stdout : stderr);
+    return answer.exitCode;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments += QString::fromLocal8Bit(argv[i]);
+    if (const auto answer = answerCall(arguments))
+        return leave(*answer);
     const QApplication application(argc, argv);
+    if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
+        return leave(*refusal);
     QApplication::setApplicationName(QStringLiteral("ferna"));
     QApplication::setApplicationVersion(QStringLiteral(FERNA_VERSION));
+    // The desktop entry and the icon of the windows go by this name.
+    QApplication::setDesktopFileName(QStringLiteral("ferna"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/szkice/ferna.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
     try {
         return runProgram();

@@ -12,6 +12,12 @@ Leave badCall(const QString& what) {
     return {"ferna-wsad: " + what.toStdString() + '\n', 2};
 }
 
+/// Qt knows the program's name only once it is started, which the options decide.
+QString helpOf(const QCommandLineParser& parser) {
+    return parser.helpText().replace(QStringLiteral("<executable_name>"),
+                                     QStringLiteral("ferna-wsad"));
+}
+
 } // namespace
 
 std::variant<Options, Leave> readOptions(const QStringList& arguments) {
@@ -52,7 +58,7 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     if (!parser.parse(QStringList{QStringLiteral("ferna-wsad")} + arguments))
         return badCall(parser.errorText());
     if (parser.isSet(help))
-        return Leave{parser.helpText().toStdString(), 0};
+        return Leave{helpOf(parser).toStdString(), 0};
     if (parser.isSet(version))
         return Leave{"ferna-wsad " FERNA_VERSION "\n", 0};
 

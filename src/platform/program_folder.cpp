@@ -1,6 +1,7 @@
 #include "platform/program_folder.h"
 
 #include "design/language.h"
+#include "platform/delivered_files.h"
 #include "runtime/text_file.h"
 
 #include <QCoreApplication>
@@ -14,14 +15,6 @@ namespace {
 
 bool holdsTheData(const QString& folder) {
     return QFileInfo(folder + u'/' + catalogueFile(0)).isFile();
-}
-
-/// What the installation brings along for the program folder.
-QStringList deliveredFiles(const QString& folder) {
-    return QDir(folder).entryList({QStringLiteral("*.txt"), QStringLiteral("*.cfg"),
-                                   QStringLiteral("*.bmp"), QStringLiteral("*.qch"),
-                                   QStringLiteral("*.qhc")},
-                                  QDir::Files);
 }
 
 } // namespace
@@ -47,9 +40,7 @@ QString enterProgramFolder(const QString& beside, const QString& delivered, cons
         folder = own;
         if (!QDir().mkpath(folder))
             throw RunTimeError(error::PathNotFound, folder);
-        for (const QString& file : deliveredFiles(delivered))
-            if (!QFileInfo::exists(folder + u'/' + file))
-                writeFileWhole(folder + u'/' + file, readFileWhole(delivered + u'/' + file));
+        bringDeliveredFiles(delivered, folder);
     }
     QDir::setCurrent(folder);
     return folder;

@@ -65,12 +65,39 @@ private:
     qsizetype next_ = 0;
 };
 
+QString explanations() {
+    return QStringLiteral("Rysuje strony raportu według poleceń, które wskazuje plik zlecenia.\n"
+                          "\n"
+                          "  --pdf PLIK     zapisuje raport jako PDF\n"
+                          "  --svg PLIK     zapisuje strony jako SVG\n"
+                          "  --png PLIK     zapisuje strony jako PNG\n"
+                          "  --emf PLIK     zapisuje strony jako EMF\n"
+                          "  --dpi N        rozdzielczość PNG, od %1 do %2 (bez opcji %3)\n"
+                          "  -h, --help     pokazuje tę pomoc\n"
+                          "  -v, --version  pokazuje wersję\n"
+                          "\n"
+                          "Bez opcji o wyniku decyduje zlecenie. Kody: 0 wykonane, 1 niewykonane,\n"
+                          "2 złe wywołanie, 3 przerwane przez użytkownika.\n")
+        .arg(smallestDpi)
+        .arg(largestDpi)
+        .arg(Call{}.dpi);
+}
+
 } // namespace
 
 std::optional<Call> parseCall(const QStringList& arguments, QString& fault) {
     Call call;
     fault = CallParser(arguments).parse(call);
     return fault.isEmpty() ? std::optional(call) : std::nullopt;
+}
+
+QString answerTo(const QStringList& arguments) {
+    const QString first = arguments.value(0);
+    if (first == u"-h" || first == u"--help")
+        return usage() + u'\n' + explanations();
+    if (first == u"-v" || first == u"--version")
+        return QStringLiteral("Wyd_drk " FERNA_VERSION "\n");
+    return {};
 }
 
 QString usage() {

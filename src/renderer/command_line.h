@@ -19,6 +19,9 @@ struct Call {
 /// The call, without the program's name; empty where it is none, `fault` saying why in Polish.
 std::optional<Call> parseCall(const QStringList& arguments, QString& fault);
 
+/// What a call for the help or the version gets; empty for any other call.
+QString answerTo(const QStringList& arguments);
+
 /// The call in one Polish line.
 QString usage();
 

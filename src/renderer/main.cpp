@@ -1,4 +1,5 @@
 #include "platform/drawing.h"
+#include "platform/screen.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
 #include "runtime/run_time_error.h"
@@ -36,8 +37,7 @@ std::unique_ptr<QGuiApplication> startQt(int& argc, char** argv, bool screen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         return std::make_unique<QGuiApplication>(argc, argv);
     }
-    if (!qEnvironmentVariableIsSet("DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
-        && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (!hasScreen())
         throw RunTimeError(error::DeviceIO, QStringLiteral("ten tryb zlecenia wymaga ekranu"));
     auto application = std::make_unique<QApplication>(argc, argv);
     auto* polish = new QTranslator(application.get()); // Qt's own texts in the dialogs
@@ -67,6 +67,10 @@ int main(int argc, char** argv) {
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments += QString::fromLocal8Bit(argv[i]);
+    if (const QString answer = answerTo(arguments); !answer.isEmpty()) {
+        std::fputs(answer.toLocal8Bit().constData(), stdout);
+        return Done;
+    }
     QString fault;
     const std::optional<Call> call = parseCall(arguments, fault);
     if (!call) {
