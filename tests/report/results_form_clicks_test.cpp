@@ -180,6 +180,20 @@ TEST_F(ResultsForm, ShutsTheScrollBarWhereTheReportFits) {
     EXPECT_TRUE(bar()->isEnabled());
 }
 
+TEST_F(ResultsForm, OpensTheFileMenuWithEveryAltP) {
+    open();
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QMenu* const file = form->findChild<QMenu*>(QStringLiteral("mnuPlik"));
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(form.get(), Qt::Key_P, Qt::AltModifier);
+        EXPECT_TRUE(file->isVisible());
+        QTest::keyClick(file, Qt::Key_Escape);
+        EXPECT_FALSE(file->isVisible());
+    }
+    EXPECT_EQ(backs, 0);
+}
+
 TEST_F(ResultsForm, SavesTheTextUnderTheNameThatIsAskedFor) {
     open();
     answers.dialog(QStringLiteral("saveQuestion"), [this](QWidget& modal) {

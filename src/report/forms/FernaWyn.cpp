@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QShortcutEvent>
 #include <QToolButton>
 
 namespace ferna {
@@ -36,6 +37,7 @@ FernaWyn::FernaWyn(Stan& stan, std::unique_ptr<ResultsSession> session, Links li
     connectMenu();
     showRtfEntry();
     ui_->Picture1->installEventFilter(this);
+    ui_->menubar->installEventFilter(this);
     connect(ui_->VScroll, &QScrollBar::valueChanged, this,
             [this](int value) { ui_->Picture2->move(0, -value); });
     const QRect room = screen()->availableGeometry();
@@ -206,7 +208,19 @@ void FernaWyn::resizeEvent(QResizeEvent* event) {
     layOut();
 }
 
+// "Plik" and "Powrót" share their letter: every other Alt+P would leave the results. It opens the
+// file menu each time.
+bool FernaWyn::opensFileMenu(QObject* watched, QEvent* event) {
+    if (watched != ui_->menubar || event->type() != QEvent::Shortcut
+        || !static_cast<QShortcutEvent*>(event)->isAmbiguous())
+        return false;
+    ui_->menubar->setActiveAction(ui_->mnuPlik->menuAction());
+    return true;
+}
+
 bool FernaWyn::eventFilter(QObject* watched, QEvent* event) {
+    if (opensFileMenu(watched, event))
+        return true;
     if (watched == ui_->Picture1 && event->type() == QEvent::Resize)
         layOut();
     return QMainWindow::eventFilter(watched, event);

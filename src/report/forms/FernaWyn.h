@@ -50,6 +50,7 @@ private:
     void refresh();
     void afterSection();
     void layOut();
+    bool opensFileMenu(QObject* watched, QEvent* event);
     void saveDocument();
     void back();
     void printWith(RenderMode mode);
