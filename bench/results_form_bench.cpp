@@ -30,7 +30,10 @@ public:
         QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
                     folder_.filePath(QStringLiteral("Wyd_drk")));
         Czytaj_teksty(base_.stan, programs.filePath(catalogueFile(0)));
-        base_.fourAnchors(250, 150, 30).loads(320, 140, 0, 35).loads(320, 90, 40).loads(410, 92, -8);
+        base_.fourAnchors(250, 150, 30)
+            .loads(320, 140, 0, 35)
+            .loads(320, 90, 40)
+            .loads(410, 92, -8);
         base_.calculate();
         savePlatePicture(base_.stan, base_.fields, base_.dialogs,
                          folder_.filePath(QStringLiteral("Ferrob.bmp")));
@@ -38,13 +41,12 @@ public:
 
     /// Opens the form anew and paints it; the question for the label is answered at once.
     void open() {
-        form_ = std::make_unique<FernaWyn>(
-            base_.stan,
-            std::make_unique<ResultsSession>(
-                base_.stan, base_.dialogs, folder_.path(), true,
-                [] { return QDateTime::currentDateTime(); },
-                [this] { runRenderer(folder_.path()); }),
-            FernaWyn::Links{});
+        form_ = std::make_unique<FernaWyn>(base_.stan,
+                                           std::make_unique<ResultsSession>(
+                                               base_.stan, base_.dialogs, folder_.path(), true,
+                                               [] { return QDateTime::currentDateTime(); },
+                                               [this] { runRenderer(folder_.path()); }),
+                                           FernaWyn::Links{});
         form_->open();
         QCoreApplication::processEvents();
     }

@@ -227,8 +227,8 @@ class Results:
         self.desktop.gone(ANCHOR)
         self.desktop.window(RESULTS)
 
-    def back(self):
-        self.desktop.keys("alt+F4")  # closing the results is the way back
+    def back(self, *keys):
+        self.desktop.keys(*(keys or ["alt+F4"]))  # closing the results is the way back, too
         self.desktop.gone(RESULTS)
         self.desktop.window(MAIN)
 

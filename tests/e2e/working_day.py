@@ -176,7 +176,7 @@ class Day:
         expect(not missing, f"the {output} lacks {missing}")
 
     def calculate_again(self, program, results):
-        results.back()
+        results.back("alt+p", "Right", "Right", "Return")
         results = program.calculate("F-8")
         second = FIRST_PAGE + self.pages
         expect(self.page_of_report() == [second], "the page number was not counted on")
@@ -243,7 +243,7 @@ class Day:
         self.told_of_failure("broken-print.png")
         expect(not self.is_report_shown(window), "a picture without the renderer")
         self.mend_renderer()
-        self.desktop.click(window, 0.97, 12)  # the panel of the label: asks, and draws anew
+        self.desktop.click(window, 0.9, 12)  # the panel of the label: asks, and draws anew
         self.desktop.answer(TITLE, "F-9")
         self.shows_report(window)
         results.back()

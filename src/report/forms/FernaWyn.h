@@ -44,13 +44,14 @@ protected:
 
 private:
     void buildStatusBar();
+    void addPanel(QWidget* panel, int share);
     void connectMenu();
     void showPanels();
     void showRtfEntry();
     void refresh();
     void afterSection();
     void layOut();
-    bool opensFileMenu(QObject* watched, QEvent* event);
+    bool keyOfMenuBar(QEvent* event);
     void saveDocument();
     void back();
     void printWith(RenderMode mode);
