@@ -10,7 +10,7 @@ run_packages=(
 )
 test_packages=(
     clang clang-format-14 libgtest-dev libbenchmark-dev python3
-    xvfb xdotool xauth x11-utils x11-apps openbox imagemagick
+    xvfb xdotool xauth x11-utils x11-apps x11-xkb-utils openbox imagemagick
     poppler-utils cups cups-client cups-filters time
     libreoffice-writer-nogui libreoffice-dev
 )

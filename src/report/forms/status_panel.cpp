@@ -17,10 +17,9 @@ void StatusPanel::paintEvent(QPaintEvent*) {
     option.text.clear();
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
     const QRect room = rect().adjusted(textMargin, 0, -textMargin, 0);
-    painter.drawItemText(
-        room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-        fontMetrics().elidedText(text().trimmed(), Qt::ElideRight, room.width()),
-        QPalette::WindowText);
+    painter.drawItemText(room, Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
+                         fontMetrics().elidedText(text().trimmed(), Qt::ElideRight, room.width()),
+                         QPalette::WindowText);
 }
 
 } // namespace ferna
