@@ -11,7 +11,7 @@ run_packages=(
 )
 test_packages=(
     git clang clang-format-14 clang-tidy-14 shellcheck libgtest-dev libbenchmark-dev python3
-    xvfb xdotool xauth x11-utils x11-apps openbox imagemagick
+    xvfb xdotool xauth x11-utils x11-apps x11-xkb-utils openbox imagemagick
     poppler-utils cups cups-client cups-filters time parallel
     libreoffice-writer-nogui libreoffice-dev
     dpkg-dev file lintian desktop-file-utils appstream man-db

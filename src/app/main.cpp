@@ -7,6 +7,7 @@
 #include "platform/program_folder.h"
 #include "platform/renderer_files.h"
 #include "report/forms/FernaWyn.h"
+#include "runtime/widgets/hourglass.h"
 #include "runtime/widgets/qt_dialogs.h"
 #include "selection/forms/Dobor_fer.h"
 
@@ -74,10 +75,16 @@ private:
     void openResults() {
         auto session = std::make_unique<ResultsSession>(
             stan_, dialogs_, folder_, input_.firstNorm(),
-            [] { return QDateTime::currentDateTime(); }, [this] { runRenderer(folder_); });
+            [] { return QDateTime::currentDateTime(); }, [this] { render(); });
         results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
         input_.hide();
         results_->open();
+    }
+
+    // The renderer may show a dialog of its own: until it has gone the form stays drawn behind it.
+    void render() {
+        const Hourglass wait;
+        runRenderer(folder_, {}, [this] { results_->repaint(); });
     }
 
     FernaWyn::Links links() {

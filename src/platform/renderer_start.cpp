@@ -20,6 +20,7 @@ const QString rendererName = QStringLiteral("Wyd_drk");
 #endif
 
 constexpr int cancelledByUser = 3; // in a dialog of the renderer's own
+constexpr int waitingStep = 100;   // ms
 
 QString modeText(RenderMode mode) {
     switch (mode) {
@@ -64,7 +65,8 @@ QString rendererPath(const QString& folder) {
                : QCoreApplication::applicationDirPath() + u'/' + rendererName;
 }
 
-void runRenderer(const QString& folder, const QStringList& options) {
+void runRenderer(const QString& folder, const QStringList& options,
+                 const std::function<void()>& whileWaiting) {
     const QString renderer = rendererPath(folder);
     if (!QFileInfo::exists(renderer))
         throw RunTimeError(error::FileNotFound,
@@ -77,7 +79,8 @@ void runRenderer(const QString& folder, const QStringList& options) {
     if (!process.waitForStarted(-1))
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(": ") + process.errorString());
-    process.waitForFinished(-1);
+    while (!process.waitForFinished(waitingStep) && process.state() != QProcess::NotRunning)
+        whileWaiting();
     if (process.exitStatus() != QProcess::NormalExit)
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(" przerwał pracę") + wordsOf(process));

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace ferna {
 
 /// What the renderer is asked for, by the mode it is told in the job file.
@@ -24,8 +26,11 @@ void writeJob(const QString& folder, RenderMode mode, Integer Nr_strony);
 
 /// Starts the renderer on the job file and waits for its end, however long it takes. Error 53 where
 /// it is missing, 429 where it cannot be started, crashes or fails; the detail names what and why.
-/// A dialog that the user cancelled is no error. `options` go in front of the job file.
-void runRenderer(const QString& folder, const QStringList& options = {});
+/// A dialog that the user cancelled is no error. `options` go in front of the job file;
+/// `whileWaiting` is called again and again until the end.
+void runRenderer(
+    const QString& folder, const QStringList& options = {},
+    const std::function<void()>& whileWaiting = [] {});
 
 /// The renderer's executable for a program folder: there, else beside this program.
 QString rendererPath(const QString& folder);

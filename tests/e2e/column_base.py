@@ -8,90 +8,12 @@ Usage: column_base.py FOLDER_OF_THE_PROGRAMS SAMPLE_TASK.json
 import json
 import os
 import shutil
-import subprocess
 import sys
 import tempfile
 
-from desktop import Desktop, Failure
-
-# Patterns of window titles, without the Polish letters that xdotool does not match.
-MAIN = "Ferna 2005 Pr - zakotwienie .*"
-TITLE = "Ferna 2005 Pr"  # of the question for the label of the footing, and of most messages
-RESULTS = "WY N I K I"
-FOUR = "Podaj .* jednej z 4 .*"
-
-
-def expect(condition, message):
-    if not condition:
-        raise Failure(message)
-
-
-class Program:
-    def __init__(self, desktop, folder):
-        self.desktop = desktop
-        self.process = desktop.start([os.path.join(folder, "ferna")], folder)
-
-    def ready(self):
-        self.desktop.window(MAIN)
-        return self
-
-    def tab(self, number):
-        self.desktop.keys(f"alt+{number}")
-
-    def type_general(self, task):
-        type_, keys = self.desktop.type, self.desktop.keys
-        self.tab(1)
-        type_(task["Nazwa_projektu"])
-        keys("Tab")
-        type_(str(task["Nr_strony"]))
-        keys("Tab", *["Down"] * task["Nr_normy"])
-        self.tab(2)
-        type_(str(len(task["Przypadki"])))
-        keys("Tab")
-        type_(str(task["Dlug_plyty_mm"]))
-        keys("Tab")
-        type_(str(task["Szer_plyty_mm"]))
-        keys("Tab", "Home", *["Down"] * (task["Nr_betonu"] - 1))
-        keys("Tab", "Tab", "Home", *["Down"] * (task["Nr_stali"] - 1))
-        keys("Tab", *["Down"] * task["Stopa_betonowa"])
-
-    def type_loads(self, task):
-        self.tab(3)
-        for case in task["Przypadki"]:
-            for name in ("N", "M1", "M2", "Vx", "Vy"):
-                self.desktop.type(str(case[name]))
-                self.desktop.keys("Tab")
-
-    def add_four(self, anchor, typed=True):
-        self.tab(4)
-        self.desktop.keys("space")
-        self.desktop.window(FOUR)
-        if typed:
-            self.desktop.type(str(anchor["x"]))
-        self.desktop.keys("Tab")
-        if typed:
-            self.desktop.type(str(anchor["y"]))
-        self.desktop.keys("Tab")
-        self.desktop.xdotool("type", str(anchor["fi"]))
-        self.desktop.keys("Return")
-        self.desktop.gone(FOUR)
-        self.desktop.window(MAIN)
-
-    def calculate(self, label):
-        self.desktop.keys("alt+o")
-        self.desktop.window(TITLE)
-        self.desktop.type(label)
-        self.desktop.keys("Return")
-        self.desktop.window(RESULTS, 60)
-
-    def back_from_results(self):
-        self.desktop.keys("alt+F4")  # closing the results is the way back
-        self.desktop.gone(RESULTS)
-        self.desktop.window(MAIN)
-
-    def leave(self):
-        self.desktop.keys("alt+k")
-        expect(self.process.wait(30) == 0, "the program did not end well")
+from desktop import Desktop
+from program import TITLE, Program, expect, read
+from reports import companion_reports
 
 
 def as_task(configuration, task):
@@ -112,20 +34,7 @@ def as_task(configuration, task):
 
 def report(folder, work, name, task):
     """The text report that the batch companion writes for a task."""
-    path = os.path.join(work, name)
-    with open(path + ".json", "w", encoding="utf-8") as file:
-        json.dump(task, file)
-    subprocess.run([os.path.join(folder, "ferna-wsad"), "--raport", path + ".txt", "--wynik",
-                    path + ".wynik.json", path + ".json"], check=True, timeout=60,
-                   env={"SOURCE_DATE_EPOCH": "1700000000", "LC_ALL": "C.UTF-8",
-                        "QT_QPA_PLATFORM": "offscreen"})
-    with open(path + ".txt", "rb") as file:
-        return file.read()
-
-
-def read(*path):
-    with open(os.path.join(*path), "rb") as file:
-        return file.read()
+    return companion_reports(folder, work, name, task, ".txt")[0]
 
 
 def page(configuration):
@@ -143,10 +52,10 @@ def run(desktop, folder, work, task):
     program.type_general(task)
     program.type_loads(task)
     program.add_four(anchor)
-    program.calculate(task["Nazwa_stopy"])
+    results = program.calculate(task["Nazwa_stopy"])
     picture = read(folder, "Ferrob.bmp")
     expect(picture[:2] == b"BM", "the picture of the plate is no bitmap")
-    program.back_from_results()
+    results.back()
     program.leave()
 
     saved = read(folder, "Ferna.cfg")
@@ -161,12 +70,11 @@ def run(desktop, folder, work, task):
     os.remove(os.path.join(folder, "Ferrob.bmp"))
     program = Program(desktop, folder).ready()
     desktop.screenshot(os.path.join(work, "restored.png"))
-    desktop.keys("alt+2", "Tab", "Tab", "Tab", "Tab", "Tab", "Tab",
-                 *["Down"] * task["Stopa_betonowa"])
+    program.choose_footing(task["Stopa_betonowa"])
     program.add_four(anchor, typed=False)
-    program.calculate(task["Nazwa_stopy"])
+    results = program.calculate(task["Nazwa_stopy"])
     expect(read(folder, "Ferrob.bmp") == picture, "the plate is drawn otherwise the second time")
-    program.back_from_results()
+    results.back()
     program.leave()
     again = read(folder, "Ferna.cfg")
     expect(without_page(again) == without_page(saved), "the task did not come back into the fields")

@@ -20,8 +20,9 @@ def wait_for(what, condition, seconds=30):
 
 
 class Desktop:
-    def __init__(self, home, size="1600x1200x24"):
+    def __init__(self, home, size="1600x1200x24", environment=None):
         self.started = []
+        self.environment = environment or {}
         os.makedirs(home, exist_ok=True)
         try:
             self.open_screen(home, size)
@@ -31,7 +32,7 @@ class Desktop:
 
     def open_screen(self, home, size):
         self.env = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": "C.UTF-8",
-                    "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb"}
+                    "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb"} | self.environment
         read, write = os.pipe()
         self.started.append(subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp"],
@@ -44,10 +45,13 @@ class Desktop:
         self.env["DISPLAY"] = ":" + number
         self.start(["openbox"])
         wait_for("the window manager", self.is_managed)
-        time.sleep(0.5)  # it takes over the windows there are before it maps new ones
+        # With a Polish keyboard xdotool presses the keys of the Polish letters; without, it would
+        # change the keyboard for each of them, and a busy program would read the key of another.
+        subprocess.run(["setxkbmap", "pl"], env=self.env, check=True, timeout=30)
 
     def is_managed(self):
-        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.env,
+        """True once the window manager has taken over the windows there are, and lists them."""
+        answer = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST"], env=self.env,
                                 text=True, capture_output=True, timeout=30).stdout
         return "window id" in answer
 
@@ -73,10 +77,8 @@ class Desktop:
 
     def window(self, title, seconds=30):
         """The visible window whose whole title matches, once it has the keyboard."""
-        pattern = f"^{title}$"
-
         def active():
-            for window in self.xdotool("search", "--onlyvisible", "--name", pattern).split():
+            for window in self.shown(title):
                 if self.xdotool("getactivewindow") == window:
                     return window
                 self.xdotool("windowactivate", window)
@@ -84,8 +86,18 @@ class Desktop:
 
         return wait_for(f'the window "{title}"', active, seconds)
 
+    def answer(self, title, text, seconds=30):
+        """Types the answer to a question that stands in a window of its own."""
+        window = self.window(title, seconds)
+        self.type(text)
+        self.keys("Return")
+        wait_for(f'the question "{title}" to go', lambda: window not in self.shown(title))
+
+    def shown(self, title):
+        return self.xdotool("search", "--onlyvisible", "--name", f"^{title}$").split()
+
     def is_shown(self, title):
-        return bool(self.xdotool("search", "--onlyvisible", "--name", f"^{title}$"))
+        return bool(self.shown(title))
 
     def gone(self, title, seconds=30):
         wait_for(f'the window "{title}" to go', lambda: not self.is_shown(title), seconds)
@@ -98,8 +110,26 @@ class Desktop:
     def type(self, text):
         """Types over what stands in the field with the focus."""
         self.keys("ctrl+a")
-        self.xdotool("type", "--delay", 15, text)
-        time.sleep(0.1)
+        self.write(text)
+
+    def write(self, text):
+        self.xdotool("type", "--delay", 15, "--", text)
+
+    def click(self, window, across, from_bottom):
+        """Clicks into a window: at a share of its width, some pixels above its lower edge."""
+        size = dict(line.split("=") for line in
+                    self.xdotool("getwindowgeometry", "--shell", window).split())
+        self.xdotool("mousemove", "--window", window, int(int(size["WIDTH"]) * across),
+                     int(size["HEIGHT"]) - from_bottom, "click", 1)
+
+    def dark_share(self, window):
+        """The share of dark pixels in what a window shows."""
+        picture = subprocess.run(["import", "-window", window, "png:-"], env=self.env,
+                                 capture_output=True, timeout=30).stdout
+        shown = subprocess.run(["convert", "png:-", "-colorspace", "gray", "-threshold", "50%",
+                                "-format", "%[fx:1-mean]", "info:"], input=picture,
+                               capture_output=True, timeout=30).stdout
+        return float(shown or 0)
 
     def screenshot(self, path):
         try:

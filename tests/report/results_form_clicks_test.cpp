@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
@@ -150,6 +151,37 @@ TEST_F(ResultsForm, AsksByAClickOnAPanelAndRefreshes) {
     EXPECT_EQ(panel(5), QString(32, u'x'));
 }
 
+TEST_F(ResultsForm, TakesAClickAnywhereOnAPanel) {
+    open();
+    auto* const page = form->findChild<QToolButton*>(QStringLiteral("StatusBar1_2"));
+    EXPECT_GT(page->width(), form->width() / 10);
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
+                  QStringLiteral("1"), QStringLiteral("5"));
+    QTest::mouseClick(page, Qt::LeftButton, {}, QPoint(page->width() - 2, page->height() / 2));
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona 5"));
+}
+
+TEST_F(ResultsForm, KeepsItsWidthUnderALongProjectName) {
+    open();
+    const int width = form->minimumSizeHint().width();
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nazwe projektu"),
+                  QStringLiteral("Hala A"), QString(300, u'x'));
+    clickPanel(4);
+    EXPECT_EQ(panel(4), QString(300, u'x'));
+    QCoreApplication::processEvents(); // the layout follows
+    EXPECT_EQ(form->minimumSizeHint().width(), width);
+}
+
+TEST_F(ResultsForm, AsksForTheLabelOfAPrintWithoutTheHourglass) {
+    open();
+    render = [] {};
+    answers.dialog(QStringLiteral("inputBox"), [](QWidget& modal) {
+        EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+        QTest::keyClick(&modal, Qt::Key_Return);
+    });
+    action("mnuDrukuj")->trigger();
+}
+
 TEST_F(ResultsForm, StopsAtACancelledPagePromptAndGoesOn) {
     open();
     answers.cancelInput(QStringLiteral("Ferna 2005 Pr"));
@@ -178,6 +210,31 @@ TEST_F(ResultsForm, ShutsTheScrollBarWhereTheReportFits) {
     EXPECT_FALSE(bar()->isEnabled());
     form->resize(480, 400);
     EXPECT_TRUE(bar()->isEnabled());
+}
+
+TEST_F(ResultsForm, OpensTheFileMenuWithEveryAltP) {
+    open();
+    form->resize(500, 400);
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QMenu* const file = form->findChild<QMenu*>(QStringLiteral("mnuPlik"));
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(form.get(), Qt::Key_P, Qt::AltModifier);
+        EXPECT_TRUE(file->isVisible());
+        QTest::keyClick(file, Qt::Key_Escape);
+        EXPECT_FALSE(file->isVisible());
+        QTest::keyClick(form->menuBar(), Qt::Key_Escape);
+    }
+    EXPECT_EQ(backs, 0);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_End);
+    EXPECT_GT(bar()->value(), 0) << "the keys are the report's again";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    EXPECT_LT(bar()->value(), bar()->maximum());
+    QTest::keyClick(form.get(), Qt::Key_P, Qt::AltModifier);
+    QTest::keyClick(file, Qt::Key_Right);
+    QTest::keyClick(form->menuBar(), Qt::Key_Right);
+    QTest::keyClick(form->menuBar(), Qt::Key_Return);
+    EXPECT_EQ(backs, 1);
 }
 
 TEST_F(ResultsForm, SavesTheTextUnderTheNameThatIsAskedFor) {

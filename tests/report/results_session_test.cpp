@@ -168,6 +168,13 @@ TEST_F(RendererStart, HandsOverTheJobFileAndWaits) {
     EXPECT_EQ(folder.read(QStringLiteral("seen")), QByteArray("job"));
 }
 
+TEST_F(RendererStart, CallsBackWhileItWaits) {
+    renderer("sleep 0.5");
+    int calls = 0;
+    runRenderer(folder.path(QStringLiteral(".")), {}, [&calls] { ++calls; });
+    EXPECT_GE(calls, 2);
+}
+
 TEST_F(RendererStart, TellsTheWordsOfAFailedRenderer) {
     renderer("echo brak pliku Ferrob.bmp >&2; exit 1");
     EXPECT_TRUE(failure().contains(QStringLiteral("kodem 1")));

@@ -1,13 +1,17 @@
 #include "report/forms/FernaWyn.h"
 
+#include "report/forms/status_panel.h"
 #include "runtime/widgets/environment_stop.h"
+#include "runtime/widgets/hourglass.h"
 #include "ui_FernaWyn.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QShortcutEvent>
 #include <QToolButton>
 
 namespace ferna {
@@ -16,15 +20,6 @@ namespace {
 
 constexpr int roomUnderSections = 25;
 constexpr int linesPerPage = 12; // wheel and arrow steps that make a viewport
-
-/// The hourglass for as long as it lives.
-class Hourglass {
-public:
-    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QApplication::restoreOverrideCursor(); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-};
 
 } // namespace
 
@@ -36,6 +31,7 @@ FernaWyn::FernaWyn(Stan& stan, std::unique_ptr<ResultsSession> session, Links li
     connectMenu();
     showRtfEntry();
     ui_->Picture1->installEventFilter(this);
+    ui_->menubar->installEventFilter(this);
     connect(ui_->VScroll, &QScrollBar::valueChanged, this,
             [this](int value) { ui_->Picture2->move(0, -value); });
     const QRect room = screen()->availableGeometry();
@@ -47,9 +43,8 @@ FernaWyn::~FernaWyn() = default;
 
 void FernaWyn::buildStatusBar() {
     const auto button = [this](const char* name, const QString& tip, auto ask) {
-        auto* const panel = new QToolButton;
+        auto* const panel = new StatusPanel;
         panel->setObjectName(QString::fromLatin1(name));
-        panel->setAutoRaise(true);
         panel->setToolTip(tip);
         panel->setAccessibleName(tip);
         connectGuarded(panel, &QToolButton::clicked, this, [this, ask] {
@@ -62,15 +57,25 @@ void FernaWyn::buildStatusBar() {
                    [this] { session_->askPageNumber(); });
     state_ = new QLabel;
     state_->setObjectName(QStringLiteral("StatusBar1_3"));
+    state_->setIndent(StatusPanel::textMargin);
     project_ = button("StatusBar1_4", QStringLiteral("Zmień nazwę projektu"),
                       [this] { session_->askProjectName(); });
     label_ = button("StatusBar1_5", QStringLiteral("Zmień oznaczenie stopy"),
                     [this] { session_->askLabel(); });
-    ui_->StatusBar1->addWidget(new QLabel, 1); // panel 1 shows nothing
-    ui_->StatusBar1->addWidget(page_, 1);
-    ui_->StatusBar1->addWidget(state_, 2);
-    ui_->StatusBar1->addWidget(project_, 3);
-    ui_->StatusBar1->addWidget(label_, 2);
+    addPanel(new QLabel, 1); // panel 1 shows nothing
+    addPanel(page_, 2);
+    addPanel(state_, 3);
+    addPanel(project_, 5);
+    addPanel(label_, 4);
+}
+
+void FernaWyn::addPanel(QWidget* panel, int share) {
+    auto* const frame = new QFrame;
+    frame->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    auto* const layout = new QHBoxLayout(frame);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(panel);
+    ui_->StatusBar1->addWidget(frame, share);
 }
 
 void FernaWyn::connectMenu() {
@@ -148,10 +153,7 @@ void FernaWyn::open() {
 
 void FernaWyn::refresh() {
     showPanels();
-    {
-        const Hourglass wait;
-        ui_->Picture2->setPicture(session_->screenPicture());
-    }
+    ui_->Picture2->setPicture(session_->screenPicture());
     layOut();
 }
 
@@ -175,7 +177,6 @@ void FernaWyn::layOut() {
 }
 
 void FernaWyn::printWith(RenderMode mode) {
-    const Hourglass wait;
     session_->print(mode);
     showPanels();
 }
@@ -206,7 +207,26 @@ void FernaWyn::resizeEvent(QResizeEvent* event) {
     layOut();
 }
 
+// "Plik" and "Powrót" share their letter: every other Alt+P would leave the results. It opens the
+// file menu each time, and with the focus on the bar the arrows go on from there. A key that comes
+// to the bar with no entry chosen is again the report's.
+bool FernaWyn::keyOfMenuBar(QEvent* event) {
+    if (event->type() == QEvent::Shortcut && static_cast<QShortcutEvent*>(event)->isAmbiguous()) {
+        ui_->menubar->setActiveAction(ui_->mnuPlik->menuAction());
+        ui_->menubar->setFocus(Qt::MenuBarFocusReason);
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && ui_->menubar->activeAction() == nullptr) {
+        ui_->Picture1->setFocus();
+        QCoreApplication::sendEvent(ui_->Picture1, event);
+        return true;
+    }
+    return false;
+}
+
 bool FernaWyn::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == ui_->menubar && keyOfMenuBar(event))
+        return true;
     if (watched == ui_->Picture1 && event->type() == QEvent::Resize)
         layOut();
     return QMainWindow::eventFilter(watched, event);

@@ -44,12 +44,14 @@ protected:
 
 private:
     void buildStatusBar();
+    void addPanel(QWidget* panel, int share);
     void connectMenu();
     void showPanels();
     void showRtfEntry();
     void refresh();
     void afterSection();
     void layOut();
+    bool keyOfMenuBar(QEvent* event);
     void saveDocument();
     void back();
     void printWith(RenderMode mode);
