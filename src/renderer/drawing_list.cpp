@@ -152,13 +152,17 @@ void RecordInterpreter::text(const TextRecord& record) {
 }
 
 void RecordInterpreter::picture(const PictureRecord& record, int line) {
-    const auto keep = [](std::optional<double>& present, const std::optional<double>& given) {
+    // Every field is kept, also of a picture that lacks one.
+    bool whole = true;
+    const auto keep = [&whole](std::optional<double>& present, const std::optional<double>& given) {
         if (given)
             present = given;
-        return present.has_value();
+        whole = whole && present.has_value();
     };
-    const bool whole = keep(pictureX_, record.x) & keep(pictureY_, record.y)
-                       & keep(pictureWidth_, record.width) & keep(pictureHeight_, record.height);
+    keep(pictureX_, record.x);
+    keep(pictureY_, record.y);
+    keep(pictureWidth_, record.width);
+    keep(pictureHeight_, record.height);
     if (!whole) {
         complaints_.add(path_, line, QStringLiteral("rysunek bez miejsca albo wymiarów"));
         return;
