@@ -6,6 +6,7 @@
 #include "platform/program_folder.h"
 #include "platform/renderer_files.h"
 #include "report/forms/FernaWyn.h"
+#include "report/forms/renderer_wait.h"
 #include "runtime/widgets/qt_dialogs.h"
 #include "selection/forms/Dobor_fer.h"
 
@@ -70,10 +71,16 @@ private:
     void openResults() {
         auto session = std::make_unique<ResultsSession>(
             stan_, dialogs_, folder_, input_.firstNorm(),
-            [] { return QDateTime::currentDateTime(); }, [this] { runRenderer(folder_); });
+            [] { return QDateTime::currentDateTime(); }, [this] { render(); });
         results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
         input_.hide();
         results_->open();
+    }
+
+    void render() {
+        RendererWait wait(results_.get());
+        runRenderer(folder_, {},
+                    [&wait](std::chrono::milliseconds worked) { return wait.goOn(worked); });
     }
 
     FernaWyn::Links links() {

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 using namespace ferna;
 using namespace ferna::testing;
 
@@ -177,6 +179,33 @@ TEST_F(RendererStart, TellsTheWordsOfAFailedRenderer) {
 TEST_F(RendererStart, TakesACancelledDialogForNoError) {
     renderer("exit 3");
     EXPECT_EQ(failure(), QString());
+}
+
+TEST_F(RendererStart, ThatHangsIsEndedWhereTheEngineerGivesUp) {
+    renderer("echo $$ > pid; exec sleep 600");
+    int asked = 0;
+    const auto failure = ferna::testing::errorOf([&] {
+        runRenderer(folder.path(QStringLiteral(".")), {}, [&](std::chrono::milliseconds worked) {
+            ++asked;
+            return worked < std::chrono::milliseconds(300);
+        });
+    });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->number(), error::NoObject);
+    EXPECT_TRUE(failure->text().contains(QStringLiteral("Wyd_drk nie skończył pracy")));
+    EXPECT_GT(asked, 2);
+    const pid_t pid = folder.read(QStringLiteral("pid")).trimmed().toInt();
+    ASSERT_GT(pid, 1);
+    EXPECT_EQ(kill(pid, 0), -1) << "no renderer stays behind";
+}
+
+TEST_F(RendererStart, ThatEndsInTimeIsNotGivenUp) {
+    renderer("sleep 0.3; touch done");
+    EXPECT_FALSE(ferna::testing::errorOf([&] {
+        runRenderer(folder.path(QStringLiteral(".")), {},
+                    [](std::chrono::milliseconds) { return true; });
+    }));
+    EXPECT_TRUE(folder.names().contains(QStringLiteral("done")));
 }
 
 TEST_F(RendererStart, TellsThatTheRendererCrashed) {
