@@ -11,6 +11,7 @@
 #include "selection/forms/Dobor_fer.h"
 
 #include <QApplication>
+#include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -109,6 +110,7 @@ private:
 
 int runProgram() {
     const QString folder = enterProgramFolder();
+    const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
     Stan stan;
     if (!restoreLastTask(stan, folder))
         return 1;

@@ -4,8 +4,10 @@
 #include "renderer/text_measure.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPainter>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -38,6 +40,15 @@ std::size_t segmentEnd(const std::vector<Record>& records, std::size_t first) {
 QRectF united(const QRectF& a, const QRectF& b) {
     return {QPointF(qMin(a.left(), b.left()), qMin(a.top(), b.top())),
             QPointF(qMax(a.right(), b.right()), qMax(a.bottom(), b.bottom()))};
+}
+
+/// True for a bitmap file shorter than its header says, of which only the lower rows would be
+/// drawn.
+bool isCutShort(const QString& path) {
+    QFile file(path);
+    const QByteArray header = file.open(QIODevice::ReadOnly) ? file.read(6) : QByteArray();
+    return header.size() == 6 && header.startsWith("BM")
+           && file.size() < qFromLittleEndian<quint32>(header.constData() + 2);
 }
 
 } // namespace
@@ -181,7 +192,7 @@ QImage RecordInterpreter::image(const QString& path, int line) {
     const auto known = images_.constFind(full);
     if (known != images_.constEnd())
         return *known;
-    const QImage image(full);
+    const QImage image = isCutShort(full) ? QImage() : QImage(full);
     if (image.isNull())
         complaints_.add(path_, line,
                         (QFileInfo::exists(full) ? QStringLiteral("nie można wczytać rysunku %1")

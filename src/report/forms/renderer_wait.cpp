@@ -24,15 +24,16 @@ bool RendererWait::goOn(std::chrono::milliseconds worked) {
     if (box_ == nullptr)
         openBox();
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(worked).count();
-    words_->setText(QStringLiteral("Wyd_drk pracuje od %1 s.\nJeżeli otworzył własne okno (drukarka, "
-                                   "zapis EMF), dokończ w nim wybór.")
-                        .arg(seconds));
+    words_->setText(
+        QStringLiteral("Wyd_drk pracuje od %1 s.\nJeżeli otworzył własne okno (drukarka, "
+                       "zapis EMF), dokończ w nim wybór.")
+            .arg(seconds));
     QApplication::processEvents();
     return !givenUp_;
 }
 
-// Modal, so that no other command begins while one waits; but the focus stays where it is, which may
-// be a window of the renderer's own.
+// Modal, so that no other command begins while one waits; but the focus stays where it is, which
+// may be a window of the renderer's own.
 void RendererWait::openBox() {
     box_ = std::make_unique<QDialog>(form_.data());
     box_->setObjectName(QStringLiteral("rendererWait"));
