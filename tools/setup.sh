@@ -12,7 +12,7 @@ test_packages=(
     clang clang-format-14 libgtest-dev libbenchmark-dev python3
     xvfb xdotool xauth x11-utils x11-apps openbox imagemagick
     poppler-utils cups cups-client cups-filters time
-    libreoffice-writer-nogui libreoffice-dev locales
+    libreoffice-writer-nogui libreoffice-dev locales gcovr
 )
 
 # Installs those of the named packages that are not there.

@@ -55,6 +55,7 @@ bool isBelowOne(std::string_view number) {
     long exponent = longestExponent;
     const char* const first = number.data() + mark + (negative || number[mark + 1] == '+' ? 2 : 1);
     std::from_chars(first, number.data() + number.size(), exponent); // untouched where too long
+    exponent = std::min(exponent, longestExponent);
     return places + (negative ? -exponent : exponent) <= 0;
 }
 

@@ -9,8 +9,9 @@
 #include "support/column_base.h"
 #include "support/run_time_errors.h"
 
-#include <csignal>
 #include <sys/resource.h>
+
+#include <csignal>
 
 using namespace ferna;
 using namespace ferna::testing;
@@ -56,8 +57,7 @@ TEST_F(FullDisk, IsToldOfEveryFileOfAReport) {
     disk.fill();
     EXPECT_EQ(errorNumberOf([&] { textReport(base.stan, raport).commit(disk.path("a.txt")); }),
               error::DiskFull);
-    EXPECT_EQ(errorNumberOf([&] { Buduj_wyd(base.stan, raport, disk.folder()); }),
-              error::DiskFull);
+    EXPECT_EQ(errorNumberOf([&] { Buduj_wyd(base.stan, raport, disk.folder()); }), error::DiskFull);
     EXPECT_EQ(errorNumberOf([&] { PictureBox(QSize(265, 176)).saveBitmap(disk.path("a.bmp")); }),
               error::DiskFull);
     EXPECT_EQ(disk.names().size(), 1) << "the file that fills the disk";
@@ -98,10 +98,9 @@ protected:
 TEST_F(FullDiskOfTheCompanion, IsAFailureOfTheRun) {
     disk.fill();
     for (const char* option : {"--wynik", "--raport"}) {
-        const Outcome run =
-            runProgram(program, {QLatin1String(option),
-                                 disk.path(*option == '-' && option[2] == 'w' ? "a.json" : "a.txt"),
-                                 task});
+        const Outcome run = runProgram(
+            program, {QLatin1String(option),
+                      disk.path(*option == '-' && option[2] == 'w' ? "a.json" : "a.txt"), task});
         EXPECT_EQ(run.exitCode, 2) << option;
         EXPECT_TRUE(run.errors.contains(QStringLiteral("Disk full"))) << run.errors.toStdString();
     }

@@ -68,7 +68,8 @@ TEST_F(HalfAFile, OfACatalogueIsRefusedOrLacksTheEndOfItsLastTextOnly) {
     Stan expected;
     Czytaj_teksty(expected, path(QStringLiteral("Ferpl.txt")));
     int read = 0;
-    for (qsizetype length = 0; length < whole.size(); length += length < whole.size() - 90 ? 7 : 1) {
+    for (qsizetype length = 0; length < whole.size();
+         length += length < whole.size() - 90 ? 7 : 1) {
         folder.write(QStringLiteral("Ferpl.txt"), whole.first(length));
         Stan stan;
         const auto failure =
@@ -101,8 +102,8 @@ TEST_F(HalfAFile, AMissingOneIsNamedAtTheStart) {
 TEST_F(HalfAFile, AReplyWithoutItsNumbersLeavesThePageAlone) {
     Stan stan;
     stan.opcje.Nr_strony = 7;
-    for (const char* reply : {"", " 1 ", " 1 ,", "jeden, dwa", "1, 2x", "1, 99999", "\xff\xfe",
-                              "1e999, 1", "nan, 3"}) {
+    for (const char* reply :
+         {"", " 1 ", " 1 ,", "jeden, dwa", "1, 2x", "1, 99999", "\xff\xfe", "1e999, 1", "nan, 3"}) {
         folder.write(wyd::replyFile, reply);
         const auto failure =
             errorOf([&] { takeNextPage(stan, readRendererReply(path(wyd::replyFile))); });
@@ -163,8 +164,9 @@ TEST_F(HalfAPicture, AMissingSketchIsToldByItsName) {
     for (int image = 1; image <= plateSketches; ++image) {
         const QString name = deliveredPlateSketch(image);
         QFile::remove(path(name));
-        const auto failure = errorOf(
-            [&] { savePlateSketch(path(QStringLiteral(".")), image, QStringLiteral("Szkic.bmp")); });
+        const auto failure = errorOf([&] {
+            savePlateSketch(path(QStringLiteral(".")), image, QStringLiteral("Szkic.bmp"));
+        });
         ASSERT_TRUE(failure);
         EXPECT_EQ(failure->number(), error::FileNotFound);
         EXPECT_TRUE(failure->text().contains(name));

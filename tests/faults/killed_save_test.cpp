@@ -8,9 +8,10 @@
 
 #include <QLockFile>
 
-#include <csignal>
 #include <sys/wait.h>
 #include <unistd.h>
+
+#include <csignal>
 
 using namespace ferna;
 using namespace ferna::testing;

@@ -1,7 +1,7 @@
 // Where the program may live: a folder that cannot be written, a folder with blanks and Polish
 // letters, a folder that is in use, a system with another decimal sign.
-#include "platform/program_folder.h"
 #include "faults/small_disk.h"
+#include "platform/program_folder.h"
 #include "platform/renderer_files.h"
 #include "renderer/program_run.h"
 #include "runtime/text_file.h"
@@ -125,9 +125,9 @@ protected:
     bool makePolishLocale() {
         QDir().mkpath(here.path(QStringLiteral("locale")));
         const QString path = here.path(QStringLiteral("locale/pl_PL.UTF-8"));
-        runProgram(QStringLiteral("localedef"), {QStringLiteral("-i"), QStringLiteral("pl_PL"),
-                                                 QStringLiteral("-f"), QStringLiteral("UTF-8"),
-                                                 path});
+        runProgram(QStringLiteral("localedef"),
+                   {QStringLiteral("-i"), QStringLiteral("pl_PL"), QStringLiteral("-f"),
+                    QStringLiteral("UTF-8"), path});
         return QFileInfo(path).isDir();
     }
 
