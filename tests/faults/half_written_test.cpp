@@ -36,33 +36,6 @@ protected:
     Folder folder;
 };
 
-QByteArray savedTask(Stan stan, const Folder& folder) {
-    const QString reply = folder.write(QStringLiteral("reply"), "0, 1\r\n");
-    Zapisz_cfg(stan, folder.path(QStringLiteral("saved.cfg")), reply);
-    return folder.read(QStringLiteral("saved.cfg"));
-}
-
-TEST_F(HalfAFile, OfTheLastTaskIsRefusedWithItsLineOrIsTheSameTask) {
-    const QByteArray whole = folder.read(QStringLiteral("Ferna.cfg"));
-    Stan task;
-    Czytaj_cfg(task, path(QStringLiteral("Ferna.cfg")));
-    const QByteArray expected = savedTask(task, folder);
-    int refused = 0;
-    for (qsizetype length = 0; length < whole.size(); ++length) {
-        folder.write(QStringLiteral("Ferna.cfg"), whole.first(length));
-        Stan stan;
-        const auto failure = errorOf([&] { Czytaj_cfg(stan, path(QStringLiteral("Ferna.cfg"))); });
-        if (!failure) {
-            EXPECT_EQ(savedTask(stan, folder), expected) << length << " bytes";
-            continue;
-        }
-        ++refused;
-        EXPECT_TRUE(failure->text().contains(QStringLiteral("Ferna.cfg, wiersz ")))
-            << failure->text().toStdString();
-    }
-    EXPECT_GT(refused, whole.size() * 9 / 10);
-}
-
 TEST_F(HalfAFile, OfACatalogueIsRefusedOrLacksTheEndOfItsLastTextOnly) {
     const QByteArray whole = folder.read(QStringLiteral("Ferpl.txt"));
     Stan expected;
