@@ -31,8 +31,8 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 // number that is none.
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view text(reinterpret_cast<const char*>(data), size);
-    const RunOptions options{{}, QStringLiteral(FERNA_DATA_DIR),
-                             QDateTime::fromSecsSinceEpoch(0, QTimeZone::utc())};
+    const RunOptions options{
+        {}, QStringLiteral(FERNA_DATA_DIR), QDateTime::fromSecsSinceEpoch(0, QTimeZone::utc())};
     try {
         const ComputedTask done = run(readTask(parsed(text)), options);
         const Json result = resultOf(done);

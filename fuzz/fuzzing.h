@@ -25,7 +25,8 @@ inline QByteArray bytesOf(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)};
 }
 
-/// Runs what may end in a run-time error; every other exception is a finding. True without an error.
+/// Runs what may end in a run-time error; every other exception is a finding. True without an
+/// error.
 template <typename Command>
 bool runs(const Command& command) {
     try {

@@ -1,8 +1,9 @@
 #pragma once
 
+#include <unistd.h>
+
 #include <fstream>
 #include <string>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 

@@ -6,12 +6,13 @@
 #include "support/decimal_comma.h"
 #include "support/task_tally.h"
 
+#include <unistd.h>
+
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
-#include <unistd.h>
 
 using namespace ferna;
 using namespace ferna::testing;
@@ -54,7 +55,8 @@ void row(const char* what, const Tally& o, const Tally& n, long Tally::*part, lo
         return t.*whole == 0 ? 0.0
                              : 100.0 * static_cast<double>(t.*part) / static_cast<double>(t.*whole);
     };
-    std::printf("%-38s %10ld %7.2f %% %10ld %7.2f %%\n", what, o.*part, share(o), n.*part, share(n));
+    std::printf("%-38s %10ld %7.2f %% %10ld %7.2f %%\n", what, o.*part, share(o), n.*part,
+                share(n));
 }
 
 void table(const Tally& o, const Tally& n) {
