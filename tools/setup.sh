@@ -9,7 +9,7 @@ run_packages=(
     fonts-liberation libqt6svg6 libqt6help6 libqt6printsupport6 qt6-translations-l10n
 )
 test_packages=(
-    clang clang-format-14 libgtest-dev libbenchmark-dev python3
+    clang libclang-rt-14-dev clang-format-14 libgtest-dev libbenchmark-dev python3
     xvfb xdotool xauth x11-utils x11-apps openbox imagemagick
     poppler-utils cups cups-client cups-filters time
     libreoffice-writer-nogui libreoffice-dev locales gcovr

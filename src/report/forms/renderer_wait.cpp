@@ -21,20 +21,23 @@ RendererWait::~RendererWait() {
 bool RendererWait::goOn(std::chrono::milliseconds worked) {
     if (worked < silent)
         return true;
-    if (box_ == nullptr)
-        openBox();
+    const bool first = box_ == nullptr;
+    if (first)
+        makeBox();
     const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(worked).count();
     words_->setText(
         QStringLiteral("Wyd_drk pracuje od %1 s.\nJeżeli otworzył własne okno (drukarka, "
                        "zapis EMF), dokończ w nim wybór.")
             .arg(seconds));
+    if (first) // with its words, whose size decides its place
+        box_->show();
     QApplication::processEvents();
     return !givenUp_;
 }
 
 // Modal, so that no other command begins while one waits; but the focus stays where it is, which
 // may be a window of the renderer's own.
-void RendererWait::openBox() {
+void RendererWait::makeBox() {
     box_ = std::make_unique<QDialog>(form_.data());
     box_->setObjectName(QStringLiteral("rendererWait"));
     box_->setWindowTitle(programTitle);
@@ -51,7 +54,6 @@ void RendererWait::openBox() {
     layout->addWidget(words_);
     layout->addWidget(buttons);
     QApplication::setOverrideCursor(Qt::ArrowCursor); // over the hourglass of the form
-    box_->show();
 }
 
 } // namespace ferna

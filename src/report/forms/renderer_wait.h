@@ -28,7 +28,7 @@ public:
     static constexpr std::chrono::milliseconds silent{4000};
 
 private:
-    void openBox();
+    void makeBox();
 
     QPointer<QWidget> form_;
     std::unique_ptr<QDialog> box_;
