@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing and runs all tests: Release with warnings as errors, then Debug with the
-# address and undefined behaviour sanitizers, then the formatting and the scripts. With --long the
-# package is also installed on a fresh Debian 12 (as root or by sudo, some minutes).
+# address and undefined behaviour sanitizers, then the formatting and the scripts. With --long also
+# what takes its time: tests/long.sh.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")"
 source tools/setup.sh
@@ -20,7 +20,5 @@ ctest --test-dir build/asan -j2 -LE e2e
 
 tools/lint.sh --quick
 
-if [[ ${1:-} == --long ]]; then
-    install_missing "${long_test_packages[@]}"
-    tests/fresh_machine.sh build/release # the package that the tests have left there
-fi
+[[ ${1:-} == --long ]] || exit 0
+tests/long.sh

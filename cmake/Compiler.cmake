@@ -13,8 +13,23 @@ target_compile_definitions(ferna_options INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
     FERNA_VERSION="${PROJECT_VERSION}")
 if(FERNA_SANITIZE)
+    set(sanitizers address,undefined)
+    if(FERNA_SANITIZE STREQUAL thread)
+        set(sanitizers thread)
+    endif()
     target_compile_options(ferna_options INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-    target_link_options(ferna_options INTERFACE -fsanitize=address,undefined)
+        -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(ferna_options INTERFACE -fsanitize=${sanitizers})
     target_compile_definitions(ferna_options INTERFACE FERNA_SANITIZE)
+endif()
+if(FERNA_COVERAGE)
+    target_compile_options(ferna_options INTERFACE --coverage)
+    target_link_options(ferna_options INTERFACE --coverage)
+    # The shorter series that the slow builds compute.
+    target_compile_definitions(ferna_options INTERFACE FERNA_SANITIZE)
+endif()
+if(FERNA_FUZZ)
+    # Everything counts its branches for the fuzzer; only the fuzzers themselves get its main().
+    target_compile_options(ferna_options INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(ferna_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()

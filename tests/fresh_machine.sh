@@ -29,6 +29,7 @@ fail() {
 
 # A command in the fresh system: with its own /proc, which goes with the command.
 inside() {
+    # shellcheck disable=SC2016 # the inner shell expands them
     unshare --mount --pid --fork --kill-child --propagation private \
         sh -c 'root=$1; shift; mount -t proc proc "$root/proc" && exec chroot "$root" "$@"' \
         sh "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 "$@"
@@ -41,6 +42,7 @@ as_user() {
 
 # The archive that apt of this machine uses for Debian itself.
 archive() {
+    # shellcheck disable=SC2016 # names of apt's own
     apt-get indextargets --format '$(REPO_URI) $(CODENAME) $(COMPONENT)' \
         'Created-By: Packages' | awk '$2 == "bookworm" && $3 == "main" { print $1; exit }'
 }

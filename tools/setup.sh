@@ -10,14 +10,15 @@ run_packages=(
     fonts-liberation libqt6svg6 libqt6help6 libqt6sql6-sqlite libqt6printsupport6 qt6-translations-l10n
 )
 test_packages=(
-    git clang clang-format-14 clang-tidy-14 shellcheck libgtest-dev libbenchmark-dev python3
+    git clang libclang-rt-14-dev clang-format-14 clang-tidy-14 shellcheck libgtest-dev
+    libbenchmark-dev python3
     xvfb xdotool xauth x11-utils x11-apps x11-xkb-utils openbox imagemagick
     poppler-utils cups cups-client cups-filters time parallel
-    libreoffice-writer-nogui libreoffice-dev
+    libreoffice-writer-nogui libreoffice-dev locales
     dpkg-dev file lintian desktop-file-utils appstream man-db
 )
 # For the tests of ./test.sh --long.
-long_test_packages=(debootstrap)
+long_test_packages=(debootstrap gcovr)
 
 # Installs those of the named packages that are not there.
 install_missing() {

@@ -7,12 +7,14 @@
 #include "platform/program_folder.h"
 #include "platform/renderer_files.h"
 #include "report/forms/FernaWyn.h"
+#include "report/forms/renderer_wait.h"
 #include "runtime/widgets/hourglass.h"
 #include "runtime/widgets/qt_dialogs.h"
 #include "selection/forms/Dobor_fer.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -81,10 +83,11 @@ private:
         results_->open();
     }
 
-    // The renderer may show a dialog of its own: until it has gone the form stays drawn behind it.
     void render() {
-        const Hourglass wait;
-        runRenderer(folder_, {}, [this] { results_->repaint(); });
+        const Hourglass hourglass;
+        RendererWait wait(results_.get());
+        runRenderer(folder_, {},
+                    [&wait](std::chrono::milliseconds worked) { return wait.goOn(worked); });
     }
 
     FernaWyn::Links links() {
@@ -113,6 +116,7 @@ private:
 
 int runProgram() {
     const QString folder = enterProgramFolder();
+    const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
     Stan stan;
     if (!restoreLastTask(stan, folder))
         return 1;

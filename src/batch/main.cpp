@@ -40,6 +40,12 @@ std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
 
+/// To standard output, or an error where it takes no more: a full disk must not look like success.
+void print(const std::string& text) {
+    if (!(std::cout << text << std::flush))
+        throw RunTimeError(error::DeviceIO, QStringLiteral("standard output"));
+}
+
 int runOne(const Options& options, const RunOptions& runOptions) {
     const QByteArray bytes = readFileWhole(options.task);
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
@@ -47,7 +53,7 @@ int runOne(const Options& options, const RunOptions& runOptions) {
         const ComputedTask done = run(readTask(parsed(text)), runOptions);
         const QByteArray result = QByteArray::fromStdString(resultOf(done).dump(1)) + '\n';
         if (options.result.isEmpty())
-            std::cout << result.constData() << std::flush;
+            print(result.toStdString());
         else
             writeFileWhole(options.result, result);
         if (done.reportReady)
@@ -85,9 +91,8 @@ int runLines(const Options& options, const RunOptions& runOptions) {
         options.threads,
         [](std::string& item) { return static_cast<bool>(std::getline(std::cin, item)); },
         [&](const std::string& item, long number) { return resultLine(item, number, runOptions); },
-        [](const std::string& result) { std::cout << result << '\n'
-                                                  << std::flush; });
-    return std::cout ? Computed : NotSolved;
+        [](const std::string& result) { print(result + '\n'); });
+    return Computed;
 }
 
 /// The folder of the pictures, where a report shows some.

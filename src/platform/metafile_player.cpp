@@ -35,6 +35,15 @@ Qt::PenCapStyle penCap(quint32 style) {
     }
 }
 
+/// True for letters of a size on the device that font engines can draw: they fail on huge ones, and
+/// on ones that damage has pulled out of all shape.
+bool drawable(QSizeF letters) {
+    constexpr double tallest = 4000; // pixels
+    constexpr double flattest = 50;
+    const double longer = qMax(letters.width(), letters.height());
+    return longer <= tallest && longer <= flattest * qMin(letters.width(), letters.height());
+}
+
 bool isPlain24Bit(quint16 bits, quint32 compression) {
     return bits == 24 && compression == 0;
 }
@@ -299,11 +308,6 @@ void MetafilePlayer::text(const Record& record) {
     if (dxOffset != 0 && holds(record, dxOffset, quint64{count} * 4))
         for (quint32 i = 0; i < count; ++i)
             width += reader_.i32(at + dxOffset + 4 * qsizetype{i});
-    constexpr double tallestOnDevice = 4000;
-    const QSizeF onDevice =
-        painter_.deviceTransform().mapRect(QRectF(0, 0, 1, 1)).size() * font_.pixelSize();
-    if (qMax(onDevice.width(), onDevice.height()) > tallestOnDevice)
-        return;
     QPointF place = point(at + 36);
     const QFontMetricsF metrics(font_);
     if ((textAlign_ & emf::alignBaseline) != emf::alignBaseline)
@@ -317,6 +321,10 @@ void MetafilePlayer::text(const Record& record) {
     const double stretch = natural > 0 ? width / natural : 1;
     const bool stretched =
         std::fabs(stretch - 1) > sameWidth && stretch > 1 / widest && stretch < widest;
+    const QSizeF size =
+        painter_.deviceTransform().mapRect(QRectF(0, 0, 1, 1)).size() * font_.pixelSize();
+    if (!drawable({size.width() * (stretched ? stretch : 1), size.height()}))
+        return;
     if (!stretched) {
         painter_.drawText(place, letters);
         return;

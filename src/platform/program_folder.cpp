@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QStandardPaths>
 
 namespace ferna {
@@ -44,6 +45,19 @@ QString enterProgramFolder(const QString& beside, const QString& delivered, cons
     }
     QDir::setCurrent(folder);
     return folder;
+}
+
+std::unique_ptr<QLockFile> lockProgramFolder(const QString& folder) {
+    auto lock = std::make_unique<QLockFile>(folder + QStringLiteral("/Ferna.lock"));
+    lock->setStaleLockTime(0); // a program may be open for weeks; only a dead one's lock is void
+    if (lock->tryLock())
+        return lock;
+    const QString detail = QDir::toNativeSeparators(folder);
+    if (lock->error() == QLockFile::LockFailedError)
+        throw RunTimeError(error::PermissionDenied,
+                           detail
+                               + QStringLiteral(" (z tego folderu korzysta już otwarty program)"));
+    throw RunTimeError(error::PathAccess, detail);
 }
 
 void restoreDelivered(const QString& path, const QString& pristine) {

@@ -3,6 +3,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
+class QLockFile;
+
 namespace ferna {
 
 /// The folder of the delivered data: that of the executable where it holds them, else the installed
@@ -17,6 +21,11 @@ QString enterProgramFolder();
 /// The same for given folders: `beside` that of the executable, `delivered` the data, `own` the
 /// user's data folder.
 QString enterProgramFolder(const QString& beside, const QString& delivered, const QString& own);
+
+/// Keeps the program folder for one open program, as long as the returned lock lives: two would mix
+/// each other's pictures, page numbers and reports. A program that was killed leaves no lock
+/// behind. Error 70 where another one has the folder, 75 where it cannot be locked.
+std::unique_ptr<QLockFile> lockProgramFolder(const QString& folder);
 
 /// Puts a file back as it was delivered (`pristine`). A damaged one is kept under its name with
 /// ".uszkodzony" behind it. Errors of `readFileWhole` and `writeFileWhole`.

@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QProcess>
 
@@ -20,7 +21,6 @@ const QString rendererName = QStringLiteral("Wyd_drk");
 #endif
 
 constexpr int cancelledByUser = 3; // in a dialog of the renderer's own
-constexpr int waitingStep = 100;   // ms
 
 QString modeText(RenderMode mode) {
     switch (mode) {
@@ -44,6 +44,24 @@ QString wordsOf(QProcess& process) {
     return words.isEmpty() ? words : QStringLiteral(": ") + words;
 }
 
+/// Waits for the end of the renderer. False where it was given up; it is gone then.
+bool waitFor(QProcess& process, const WaitOn& waitOn) {
+    constexpr int forEver = -1;
+    constexpr int betweenQuestions = 50; // ms
+    QElapsedTimer clock;
+    clock.start();
+    while (!process.waitForFinished(waitOn ? betweenQuestions : forEver)) {
+        if (process.state() == QProcess::NotRunning)
+            break;
+        if (waitOn && !waitOn(std::chrono::milliseconds(clock.elapsed()))) {
+            process.kill();
+            process.waitForFinished(forEver);
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 QString jobLine(RenderMode mode, Integer Nr_strony) {
@@ -65,8 +83,7 @@ QString rendererPath(const QString& folder) {
                : QCoreApplication::applicationDirPath() + u'/' + rendererName;
 }
 
-void runRenderer(const QString& folder, const QStringList& options,
-                 const std::function<void()>& whileWaiting) {
+void runRenderer(const QString& folder, const QStringList& options, const WaitOn& waitOn) {
     const QString renderer = rendererPath(folder);
     if (!QFileInfo::exists(renderer))
         throw RunTimeError(error::FileNotFound,
@@ -79,8 +96,9 @@ void runRenderer(const QString& folder, const QStringList& options,
     if (!process.waitForStarted(-1))
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(": ") + process.errorString());
-    while (!process.waitForFinished(waitingStep) && process.state() != QProcess::NotRunning)
-        whileWaiting();
+    if (!waitFor(process, waitOn))
+        throw RunTimeError(error::NoObject,
+                           rendererName + QStringLiteral(" nie skończył pracy (Przerwij)"));
     if (process.exitStatus() != QProcess::NormalExit)
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(" przerwał pracę") + wordsOf(process));

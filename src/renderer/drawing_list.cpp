@@ -4,8 +4,10 @@
 #include "renderer/text_measure.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPainter>
+#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -38,6 +40,15 @@ std::size_t segmentEnd(const std::vector<Record>& records, std::size_t first) {
 QRectF united(const QRectF& a, const QRectF& b) {
     return {QPointF(qMin(a.left(), b.left()), qMin(a.top(), b.top())),
             QPointF(qMax(a.right(), b.right()), qMax(a.bottom(), b.bottom()))};
+}
+
+/// True for a bitmap file shorter than its header says, of which only the lower rows would be
+/// drawn.
+bool isCutShort(const QString& path) {
+    QFile file(path);
+    const QByteArray header = file.open(QIODevice::ReadOnly) ? file.read(6) : QByteArray();
+    return header.size() == 6 && header.startsWith("BM")
+           && file.size() < qFromLittleEndian<quint32>(header.constData() + 2);
 }
 
 } // namespace
@@ -152,13 +163,17 @@ void RecordInterpreter::text(const TextRecord& record) {
 }
 
 void RecordInterpreter::picture(const PictureRecord& record, int line) {
-    const auto keep = [](std::optional<double>& present, const std::optional<double>& given) {
+    // Every field is kept, also of a picture that lacks one.
+    bool whole = true;
+    const auto keep = [&whole](std::optional<double>& present, const std::optional<double>& given) {
         if (given)
             present = given;
-        return present.has_value();
+        whole = whole && present.has_value();
     };
-    const bool whole = keep(pictureX_, record.x) & keep(pictureY_, record.y)
-                       & keep(pictureWidth_, record.width) & keep(pictureHeight_, record.height);
+    keep(pictureX_, record.x);
+    keep(pictureY_, record.y);
+    keep(pictureWidth_, record.width);
+    keep(pictureHeight_, record.height);
     if (!whole) {
         complaints_.add(path_, line, QStringLiteral("rysunek bez miejsca albo wymiarów"));
         return;
@@ -177,7 +192,7 @@ QImage RecordInterpreter::image(const QString& path, int line) {
     const auto known = images_.constFind(full);
     if (known != images_.constEnd())
         return *known;
-    const QImage image(full);
+    const QImage image = isCutShort(full) ? QImage() : QImage(full);
     if (image.isNull())
         complaints_.add(path_, line,
                         (QFileInfo::exists(full) ? QStringLiteral("nie można wczytać rysunku %1")

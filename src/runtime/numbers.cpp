@@ -2,15 +2,18 @@
 
 #include "runtime/run_time_error.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <limits>
+#include <string_view>
 
 namespace ferna {
 
 namespace {
 
-constexpr std::size_t longestNumber = 400; // characters of a typed number, blanks left out
+constexpr std::size_t longestNumber = 400;      // characters of a typed number, blanks left out
+constexpr long longestExponent = 1'000'000'000; // stands for every exponent beyond a long
 
 /// The typed number with blanks left out and the decimal sign as a point.
 /// Returns its length, 0 where a character cannot stand in a number.
@@ -33,6 +36,27 @@ std::size_t normalised(QStringView text, std::array<char, longestNumber>& out) {
 
 [[noreturn]] void notANumber(QStringView text) {
     throw RunTimeError(error::TypeMismatch, QStringLiteral("\"%1\"").arg(text));
+}
+
+/// True for a well-formed number whose size is below 1: of one that fits no Double it tells whether
+/// it is too small or too large.
+bool isBelowOne(std::string_view number) {
+    const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+    const std::string_view digits = number.substr(0, mark);
+    const std::size_t point = std::min(digits.find('.'), digits.size());
+    const std::size_t leading = digits.find_first_of("123456789");
+    if (leading == std::string_view::npos)
+        return true;
+    const long places = leading < point ? static_cast<long>(point - leading)
+                                        : 1 - static_cast<long>(leading - point);
+    if (mark == number.size())
+        return places <= 0;
+    const bool negative = number[mark + 1] == '-';
+    long exponent = longestExponent;
+    const char* const first = number.data() + mark + (negative || number[mark + 1] == '+' ? 2 : 1);
+    std::from_chars(first, number.data() + number.size(), exponent); // untouched where too long
+    exponent = std::min(exponent, longestExponent);
+    return places + (negative ? -exponent : exponent) <= 0;
 }
 
 } // namespace
@@ -80,9 +104,7 @@ Double CDbl(QStringView text) {
     if (failure == std::errc::invalid_argument || end != last)
         notANumber(text);
     if (failure == std::errc::result_out_of_range) {
-        // Too small is 0, too large an overflow: the digits in front of the exponent decide.
-        const auto exponent = std::string_view(first, last).find_first_of("eE");
-        if (exponent != std::string_view::npos && first[exponent + 1] == '-')
+        if (isBelowOne(std::string_view(first, last)))
             return 0;
         throw RunTimeError(error::Overflow, QStringLiteral("\"%1\"").arg(text));
     }

@@ -89,7 +89,9 @@ void writeFileWhole(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         cannotWrite(path, file);
-    if (file.write(bytes) != bytes.size() || !file.commit())
+    // Flushed by itself: a commit overlooks that the last bytes found no room, and would put an
+    // empty file in the place of the old one.
+    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
         cannotWrite(path, file);
 }
 

@@ -169,6 +169,11 @@ TEST(HelpMessages, ATextThatTheProgramDoesNotHoldIsNoticed) {
     EXPECT_TRUE(programSaysAll(QStringLiteral("BRAK ROZWIĄZANIA<br>Zmodyfikuj nieco dane")));
 }
 
+TEST(SourceTexts, DigitsMayBeGrouped) {
+    EXPECT_EQ(textsOf(tokensOf(QStringLiteral("const int many = 1'000'000'000; say(\"here\");"))),
+              QStringList(QStringLiteral("here")));
+}
+
 TEST(SourceTexts, TextsAreReadAsTheProgramShowsThem) {
     const auto tokens = tokensOf(QStringLiteral(
         "// \"a comment\"\nshow(u\"one \"\n \"two\\n\\\"x\\\"\", '\"'); keep(\"three\");"));

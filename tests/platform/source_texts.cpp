@@ -57,14 +57,17 @@ private:
     void character() {
         const qsizetype from =
             source_.mid(position_ + 1, 1) == u"\\" ? position_ + 3 : position_ + 2;
-        position_ = source_.indexOf(u'\'', from) + 1;
+        const qsizetype end = source_.indexOf(u'\'', from);
+        position_ = end < 0 ? source_.size() : end + 1;
         tokens_.push_back({Token::Kind::Other, QStringLiteral("'")});
     }
 
     void name() {
         const qsizetype start = position_;
+        const bool number = source_[start].isDigit(); // may hold ' between its digits
         while (position_ < source_.size()
-               && (source_[position_].isLetterOrNumber() || source_[position_] == u'_'))
+               && (source_[position_].isLetterOrNumber() || source_[position_] == u'_'
+                   || (number && source_[position_] == u'\'')))
             ++position_;
         const QString word = source_.mid(start, position_ - start);
         const bool prefixOfAText = position_ < source_.size()

@@ -182,6 +182,18 @@ TEST_F(MetafileOfAReport, DamagedBytesNeverReachOutsideTheFile) {
     EXPECT_GT(painted, 50) << "the damage of most rounds is inside records";
 }
 
+TEST_F(MetafileOfAReport, LettersPulledOutOfAllShapeAreLeftOut) {
+    QByteArray bytes = emfOfPage(report, report.pages[0]);
+    constexpr qsizetype deviceWidth = 100; // in micrometres
+    for (quint32 times = 50; times <= 1000; times += 50) {
+        qToLittleEndian<quint32>(210'000 * times, bytes.data() + deviceWidth);
+        const Metafile file = Metafile::fromBytes(bytes);
+        QImage image(120, 160, QImage::Format_RGB32);
+        QPainter painter(&image);
+        file.paint(painter, QRectF(image.rect())); // the font engine fell over them
+    }
+}
+
 TEST(Metafile, ForeignBytesAreRefusedWithTheReason) {
     for (const QByteArray& bytes :
          {QByteArray(), QByteArray("BM"), QByteArray(5000, '\0'), QByteArray(5000, '\xff')}) {

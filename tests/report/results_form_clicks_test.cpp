@@ -1,5 +1,6 @@
 #include "platform/renderer_files.h"
 #include "report/forms/FernaWyn.h"
+#include "report/forms/renderer_wait.h"
 #include "report/forms/report_view.h"
 #include "runtime/picture_box.h"
 #include "runtime/widgets/qt_dialogs.h"
@@ -15,6 +16,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
@@ -268,6 +270,64 @@ TEST_F(ResultsForm, TellsAFailedRendererAndStaysUsable) {
     folder.write(wyd::replyFile, "0, 1\r\n");
     action("mnuPowrot")->trigger();
     EXPECT_EQ(backs, 1);
+}
+
+TEST_F(ResultsForm, OffersToGiveUpARendererThatHangs) {
+    open();
+    QFile::remove(folder.path(QStringLiteral("Wyd_drk")));
+    QFile hanging(folder.write(QStringLiteral("Wyd_drk"), "#!/bin/sh\nexec sleep 600\n"));
+    hanging.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    render = [this] {
+        RendererWait wait(form.get());
+        runRenderer(path(), {},
+                    [&](std::chrono::milliseconds worked) { return wait.goOn(worked); });
+    };
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
+                  QStringLiteral("1"), QStringLiteral("12"));
+    answers.dialog(QStringLiteral("rendererWait"), [](QWidget& modal) {
+        const auto words = modal.findChildren<QLabel*>();
+        EXPECT_TRUE(std::any_of(words.begin(), words.end(), [](const QLabel* label) {
+            return label->text().startsWith(QStringLiteral("Wyd_drk pracuje od 4 s."));
+        }));
+        QTest::mouseClick(modal.findChild<QPushButton*>(), Qt::LeftButton);
+    });
+    answers.stop(error::NoObject);
+    clickPanel(2);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "no hourglass is left over";
+    EXPECT_TRUE(form->isEnabled());
+    render = [this] { runRenderer(path()); };
+    QFile::remove(folder.path(QStringLiteral("Wyd_drk")));
+    QFile::link(QStringLiteral(FERNA_BIN_DIR "/Wyd_drk"), folder.path(QStringLiteral("Wyd_drk")));
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
+                  QStringLiteral("12"), QStringLiteral("13"));
+    clickPanel(2);
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona 13")) << "and the next command works";
+}
+
+TEST_F(ResultsForm, TellsADamagedPictureOfTheRenderer) {
+    open();
+    render = [this] { folder.write(wyd::screenPicture, "to nie jest obraz"); };
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
+                  QStringLiteral("1"), QStringLiteral("12"));
+    answers.stop(error::DeviceIO);
+    clickPanel(2);
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_FALSE(folder.names().contains(wyd::screenPicture));
+}
+
+TEST_F(ResultsForm, TellsAReplyWithLettersAndGoesBackWithTheNextGoodOne) {
+    open();
+    folder.write(wyd::replyFile, "jeden, dwa\r\n");
+    answers.stop(error::TypeMismatch);
+    action("mnuPowrot")->trigger();
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 1);
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
+                  QStringLiteral("1"), QStringLiteral("5"));
+    clickPanel(2); // the renderer runs and replies anew
+    action("mnuPowrot")->trigger();
+    EXPECT_EQ(backs, 1);
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 7);
 }
 
 TEST_F(ResultsForm, GoesBackWithTheNextFreePageAlsoByItsFrame) {

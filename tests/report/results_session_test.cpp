@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 using namespace ferna;
 using namespace ferna::testing;
 
@@ -168,13 +170,6 @@ TEST_F(RendererStart, HandsOverTheJobFileAndWaits) {
     EXPECT_EQ(folder.read(QStringLiteral("seen")), QByteArray("job"));
 }
 
-TEST_F(RendererStart, CallsBackWhileItWaits) {
-    renderer("sleep 0.5");
-    int calls = 0;
-    runRenderer(folder.path(QStringLiteral(".")), {}, [&calls] { ++calls; });
-    EXPECT_GE(calls, 2);
-}
-
 TEST_F(RendererStart, TellsTheWordsOfAFailedRenderer) {
     renderer("echo brak pliku Ferrob.bmp >&2; exit 1");
     EXPECT_TRUE(failure().contains(QStringLiteral("kodem 1")));
@@ -184,6 +179,37 @@ TEST_F(RendererStart, TellsTheWordsOfAFailedRenderer) {
 TEST_F(RendererStart, TakesACancelledDialogForNoError) {
     renderer("exit 3");
     EXPECT_EQ(failure(), QString());
+}
+
+TEST_F(RendererStart, ThatHangsIsEndedWhereTheEngineerGivesUp) {
+    renderer("echo $$ > pid; exec sleep 600");
+    int asked = 0;
+    const auto failure = ferna::testing::errorOf([&] {
+        runRenderer(folder.path(QStringLiteral(".")), {}, [&](std::chrono::milliseconds worked) {
+            ++asked;
+            return worked < std::chrono::milliseconds(300);
+        });
+    });
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->number(), error::NoObject);
+    EXPECT_TRUE(failure->text().contains(QStringLiteral("Wyd_drk nie skończył pracy")));
+    EXPECT_GT(asked, 2);
+    const pid_t pid = folder.read(QStringLiteral("pid")).trimmed().toInt();
+    ASSERT_GT(pid, 1);
+    EXPECT_EQ(kill(pid, 0), -1) << "no renderer stays behind";
+}
+
+TEST_F(RendererStart, ThatEndsInTimeIsAskedAboutAndNotGivenUp) {
+    renderer("sleep 0.3; touch done");
+    int asked = 0;
+    EXPECT_FALSE(ferna::testing::errorOf([&] {
+        runRenderer(folder.path(QStringLiteral(".")), {}, [&asked](std::chrono::milliseconds) {
+            ++asked;
+            return true;
+        });
+    }));
+    EXPECT_GE(asked, 2);
+    EXPECT_TRUE(folder.names().contains(QStringLiteral("done")));
 }
 
 TEST_F(RendererStart, TellsThatTheRendererCrashed) {

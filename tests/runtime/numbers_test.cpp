@@ -83,6 +83,31 @@ TEST(TypedNumbers, ATextThatIsNoNumberIsATypeMismatch) {
             << QString::fromUtf16(text).toStdString();
 }
 
+/// A text with 350 zeros in its middle.
+QString withZeros(const char* before, const char* behind) {
+    return QLatin1String(before) + QString(350, u'0') + QLatin1String(behind);
+}
+
+TEST(TypedNumbers, ANumberTooSmallToHoldIsZeroHoweverItIsWritten) {
+    EXPECT_EQ(CDbl(withZeros("0,", "1")), 0);
+    EXPECT_EQ(CDbl(withZeros("-,", "1")), 0);
+    EXPECT_EQ(CDbl(u"123456e-400"), 0);
+    EXPECT_EQ(CDbl(u"1e-99999999999999999999"), 0);
+    EXPECT_EQ(CDbl(u"1e-9223372036854775807"), 0);
+    EXPECT_EQ(CDbl(withZeros("0,", "1e20")), 0);
+    EXPECT_EQ(CDbl(withZeros("0,", "1e351")), 1);
+    EXPECT_EQ(CInt(withZeros("0,", "1")), 0);
+}
+
+TEST(TypedNumbers, AHugeNumberWithASmallNegativeExponentIsAnOverflow) {
+    EXPECT_EQ(errorNumberOf([] { CDbl(withZeros("1", "e-10")); }), error::Overflow);
+    EXPECT_EQ(errorNumberOf([] { CDbl(withZeros("1", "")); }), error::Overflow);
+    EXPECT_EQ(errorNumberOf([] { CDbl(u"1e99999999999999999999"); }), error::Overflow);
+    EXPECT_EQ(errorNumberOf([] { CDbl(u"1e+99999999999999999999"); }), error::Overflow);
+    EXPECT_EQ(errorNumberOf([] { CDbl(u"1e9223372036854775807"); }), error::Overflow);
+    EXPECT_EQ(CDbl(withZeros("1", "e-350")), 1);
+}
+
 TEST(TypedNumbers, ANumberBeyondEveryRangeIsAnOverflow) {
     EXPECT_EQ(errorNumberOf([] { CDbl(u"1e400"); }), error::Overflow);
     EXPECT_EQ(errorNumberOf([] { CDbl(u"-1e400"); }), error::Overflow);

@@ -135,11 +135,4 @@ TEST(TextFiles, WhereNothingCanBeWrittenTheOldFileSurvives) {
     EXPECT_EQ(folder.read(QStringLiteral("a.txt")), QByteArray("stary"));
 }
 
-TEST(TextFiles, AFullDiskIsReportedAndLeavesTheOldFile) {
-    if (!QFile::exists(QStringLiteral("/dev/full")))
-        GTEST_SKIP() << "no /dev/full";
-    // Writing through a device cannot rename, so the failure must be reported and not swallowed.
-    EXPECT_NE(errorNumberOf([] { writeFileWhole(QStringLiteral("/dev/full/x"), "a"); }), 0);
-}
-
 } // namespace

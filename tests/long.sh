@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# What takes its time, behind ./test.sh: a search that takes a hundred thousand tasks, the thread
+# sanitizer, ten minutes of the soak of tasks, three hundred rounds of the forms, a minute of each
+# fuzzer, the pictures of the guide, and the package on a fresh Debian 12 (as root or by sudo).
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")/.."
+source tools/setup.sh
+install_missing "${long_test_packages[@]}"
+
+FERNA_LONG=1 build/release/tests/test_analysis --gtest_brief=1 --gtest_filter='Search.Ends*'
+
+build_preset tsan
+build/tsan/tests/test_batch --gtest_brief=1 --gtest_filter='OrderedWorkers*:Options*:Program*:Runs*'
+
+cmake --build --preset release --target soak_tasks soak_forms
+build/release/tests/soak_tasks --seconds 600
+FERNA_ROUNDS=300 build/release/tests/soak_forms 2>/dev/null
+
+fuzz/run.sh 60
+
+python3 tests/e2e/guide_pictures_test.py . build/release/bin
+
+tests/fresh_machine.sh build/release # the package that ./test.sh has left there
