@@ -37,10 +37,11 @@ inline bool alive(pid_t process) {
     return ::kill(process, 0) == 0;
 }
 
-/// The word processor's pipes in the shared temporary folder, whoever made them.
-inline QStringList pipes() {
+/// The pipes of a program's word processor in the shared temporary folder.
+inline QStringList pipesOf(pid_t program) {
     return QDir(QStringLiteral("/tmp"))
-        .entryList({QStringLiteral("OSL_PIPE_*_ferna*")}, QDir::AllEntries | QDir::System);
+        .entryList({QStringLiteral("OSL_PIPE_*_ferna%1-*").arg(program)},
+                   QDir::AllEntries | QDir::System);
 }
 
 inline QByteArray outputOf(const QString& program, const QStringList& arguments,
@@ -66,7 +67,6 @@ protected:
             || !QFile::exists(officeProgram + QStringLiteral("/libswlo.so")))
             GTEST_SKIP() << "no word processor: install libreoffice-writer-nogui";
         ASSERT_TRUE(temporary_.isValid() && program_.isValid() && out_.isValid());
-        pipesBefore_ = pipes();
         before_ = qgetenv("TMPDIR");
         qputenv("TMPDIR", temporary_.path().toLocal8Bit());
         makePictures();
@@ -80,7 +80,7 @@ protected:
         else
             qputenv("TMPDIR", before_);
         EXPECT_TRUE(runningWriters().isEmpty()) << "left running";
-        EXPECT_EQ(pipes(), pipesBefore_) << "left behind";
+        EXPECT_EQ(pipesOf(::getpid()), QStringList()) << "left behind";
         EXPECT_EQ(QDir(temporary_.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                   QStringList())
             << "left behind";
@@ -125,7 +125,6 @@ protected:
 
     WordProcessorPlace place_;
     QByteArray before_;       ///< TMPDIR of the other tests
-    QStringList pipesBefore_; ///< what others have left there
     QTemporaryDir temporary_; ///< where the word processor may leave nothing
     QTemporaryDir program_;   ///< the program folder with its pictures
     QTemporaryDir out_;

@@ -6,6 +6,8 @@
 #include <QElapsedTimer>
 #include <QThread>
 
+#include <array>
+#include <cerrno>
 #include <cstdio>
 
 // What can go wrong with the real word processor, and that nothing of it is left behind.
@@ -90,6 +92,17 @@ TEST_F(DocumentFailure, WordProcessorKilledInTheMiddleIsAnError) {
     EXPECT_FALSE(QFile::exists(out(QStringLiteral("Wyniki.doc"))));
 }
 
+// The library may still write to the connection when the word processor is being ended.
+TEST_F(DocumentFailure, WritingToABrokenConnectionDoesNotEndTheProgram) {
+    const std::unique_ptr<WordProcessor> word = opened();
+    std::array<int, 2> ends{};
+    ASSERT_EQ(::pipe(ends.data()), 0);
+    ::close(ends[0]);
+    EXPECT_EQ(::write(ends[1], "x", 1), -1);
+    EXPECT_EQ(errno, EPIPE);
+    ::close(ends[1]);
+}
+
 TEST_F(DocumentFailure, WordProcessorThatHangsInTheMiddleIsEnded) {
     place_.callLimit = std::chrono::seconds(5);
     const std::unique_ptr<WordProcessor> word = opened();
@@ -123,13 +136,15 @@ TEST_F(DocumentFailure, ProgramThatIsKilledTakesTheWordProcessorAlong) {
     ASSERT_TRUE(said.contains("document is open")) << said.toStdString();
     const QList<pid_t> processes = runningWriters(static_cast<pid_t>(program.processId()));
     ASSERT_EQ(processes.size(), 1);
+    const auto id = static_cast<pid_t>(program.processId());
+    EXPECT_EQ(pipesOf(id).size(), 1);
     program.kill();
     program.waitForFinished();
     for (int i = 0; i < 100 && alive(processes.first()); ++i)
         QThread::msleep(50);
     EXPECT_FALSE(alive(processes.first()));
     // A killed program cannot tidy up: its temporary folder and pipe stay.
-    for (const QString& pipe : pipes())
+    for (const QString& pipe : pipesOf(id))
         QFile::remove(QStringLiteral("/tmp/") + pipe);
     for (const QString& folder :
          QDir(temporary_.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot))

@@ -20,6 +20,13 @@ namespace {
 
 constexpr int startAgain = 81; // exit code of a first start on a fresh profile
 
+/// Writing to a word processor that has gone is an error of the call, not the end of the program.
+void outliveBrokenConnections() {
+    struct sigaction now {};
+    if (::sigaction(SIGPIPE, nullptr, &now) == 0 && now.sa_handler == SIG_DFL)
+        std::signal(SIGPIPE, SIG_IGN);
+}
+
 } // namespace
 
 void ProcessGroup::kill() const {
@@ -29,7 +36,8 @@ void ProcessGroup::kill() const {
 
 OfficeProcess::OfficeProcess(QString programFolder, std::shared_ptr<ProcessGroup> group)
     : program_(programFolder + QStringLiteral("/soffice.bin")),
-      pipe_(QStringLiteral("ferna") + QUuid::createUuid().toString(QUuid::Id128)),
+      pipe_(QStringLiteral("ferna%1-").arg(::getpid())
+            + QUuid::createUuid().toString(QUuid::Id128)),
       folder_(QDir::tempPath() + QStringLiteral("/ferna-dokument-XXXXXX")),
       group_(std::move(group)) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -58,6 +66,7 @@ void OfficeProcess::start() {
         noWordProcessor(QStringLiteral("brak programu ") + program_);
     const QString profile = QUrl::fromLocalFile(folder_.filePath(QStringLiteral("profil")))
                                 .toString(QUrl::FullyEncoded);
+    outliveBrokenConnections();
     process_.start(program_, {QStringLiteral("--headless"), QStringLiteral("--invisible"),
                               QStringLiteral("--norestore"), QStringLiteral("--nologo"),
                               QStringLiteral("--nodefault"), QStringLiteral("--nofirststartwizard"),
