@@ -145,7 +145,7 @@ calculation's are processor time, those of whole processes wall time.
 The cases of 20 000 random tasks that are not wholly compressed, each with its result lines
 (`build/release/bench/ferna_bench`):
 
-```
+```text
 {spread}
 ```
 
@@ -153,7 +153,7 @@ Aims: the median below 10 µs, 99 % below 1 ms.
 
 The stream of the companion (`bench/stream.sh`), the tasks of the reference set over and over:
 
-```
+```text
 {stream}
 ```
 
