@@ -1,0 +1,59 @@
+#include "analysis/search.h"
+#include "support/column_base.h"
+#include "support/decimal_comma.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+// The sanitizers have an allocator of their own.
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#define FERNA_COUNTS_ALLOCATIONS 1
+#endif
+
+#ifdef FERNA_COUNTS_ALLOCATIONS
+namespace {
+thread_local long allocations = 0;
+}
+
+extern "C" {
+void* __libc_malloc(std::size_t size);
+// Every allocation of the program comes through here, operator new and the library's too.
+void* malloc(std::size_t size) {
+    ++allocations;
+    return __libc_malloc(size);
+}
+}
+#endif
+
+using namespace ferna;
+using namespace ferna::testing;
+
+namespace {
+
+TEST(Search, AllocatesNothing) {
+#ifndef FERNA_COUNTS_ALLOCATIONS
+    GTEST_SKIP() << "the allocator of a sanitizer is not counted";
+#else
+    const WithDecimalSign comma{u','};
+    ColumnBase base;
+    base.fourAnchors(250, 150).anchor(0, 150).anchor(0, -150).loads(320, 140, 35);
+    ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+    Stan_przypadku& s = base.solver;
+    Normalizuj_znaki(base.stan, s);
+    Ustal_momenty(base.stan, s);
+    Ustal_mimosrody(base.stan, s);
+    ASSERT_TRUE(Poza_rdzeniem(base.stan, s));
+    s.Jest_rozw = false;
+
+    const long before = allocations;
+    Szukaj_beta(s, base.stan, base.dialogs);
+    EXPECT_EQ(allocations - before, 0);
+    EXPECT_TRUE(s.Jest_rozw);
+
+    const QString counted(100, u'x');
+    EXPECT_GT(allocations - before, 0) << "nothing is counted: " << counted.size();
+#endif
+}
+
+} // namespace
