@@ -12,11 +12,9 @@ struct PlateSketch {
     const char* file;
 };
 
-/// What the form has to do after its OK: picture k of the results form takes sketch k, is saved
-/// under its name, and the writing position of the page moves down.
+/// What the form has to save after its OK: the sketches of the blocks, in their order.
 struct PlateSection {
     std::vector<PlateSketch> sketches;
-    static constexpr int advance = 5;
 };
 
 /// `cmdOK`: writes the checks that stand into `Wiersze_blachy` and counts them in

@@ -134,6 +134,8 @@ TEST(LoadCharts, ACurveThatTheChartLacksIsZero) {
 
 TEST(LoadCharts, InterpolatesFromZeroWhereTheLowerCurveIsMissing) {
     const ChartReading reading = Interpoluj_wykres(7, 150, 100, 100);
+    EXPECT_EQ(reading.p, 1.5F);
+    EXPECT_EQ(reading.row.L, 1.4F);
     EXPECT_EQ(reading.row.k1, 13);
     EXPECT_EQ(reading.row.k2, 16);
     EXPECT_EQ(reading.y1, 0.0F);
@@ -149,6 +151,7 @@ TEST(LoadCharts, BetweenTwoMissingCurvesTheCoefficientIsZero) {
 
 TEST(LoadCharts, TheLastRowOfFigureB3IsReadAtItsLowerCurve) {
     const ChartReading reading = Interpoluj_wykres(8, 550, 500, 100);
+    EXPECT_EQ(reading.row.L, 5.5F);
     EXPECT_EQ(reading.row.k2, 60);
     EXPECT_EQ(reading.y2, 0.0F);
     EXPECT_EQ(reading.y, reading.y1);

@@ -428,6 +428,7 @@ TEST_F(PlateThicknessLimits, ATypedThicknessIsOnlyEverRaised) {
     form.fields.Text4 = QStringLiteral("12");
     computeThickness(1, 205, 10);
     EXPECT_EQ(form.fields.Text4, QStringLiteral("12"));
+    EXPECT_EQ(line(1), QStringLiteral("Wymagana grubość blachy (1) = 10 mm"));
 }
 
 TEST_F(PlateThicknessLimits, AThicknessOfZeroShowsItsLineAlone) {

@@ -183,10 +183,16 @@ TEST_F(PlateThicknessForm, EveryFieldHasALabelOrAName) {
 }
 
 TEST_F(PlateThicknessForm, WithoutAnAnchorInTensionTheForceIsAskedFor) {
+    stan.wyniki.Nr_kotwy_max = 0;
     stan.wyniki.Sila_kotwy_max = 0;
     open();
-    EXPECT_EQ(hand->text("Text3_0"), QStringLiteral(" 0,0"));
+    for (const char* force : {"Text3_0", "Text3_6", "Text3_7"})
+        EXPECT_EQ(hand->text(force), QStringLiteral(" 0,0")) << force;
     grade(St3);
+    refuse(u"Musisz okreslić szerokość pasa blachy (bs)!"); // there is no diameter to take it from
+    hand->click("cmdOblicz1");
+    hand->type("Text1_0", QStringLiteral("120"));
+    hand->type("Text2_0", QStringLiteral("60"));
     refuse(u"Musisz okreslić siłę w kotwie!");
     hand->click("cmdOblicz1");
     EXPECT_EQ(result(1), 0);
@@ -382,6 +388,11 @@ TEST_F(PlateThicknessForm, OkWithoutAThicknessIsRefusedAndTheFormStays) {
     hand->type("Text4", QStringLiteral("0"));
     answers.box(title, text);
     hand->click("cmdOK");
+    hand->click("cmdOblicz1"); // the thickness stands again
+    hand->click("cmdAnulujto_0");
+    answers.box(title, text);
+    hand->click("cmdOK");
+    EXPECT_TRUE(answers.done());
     EXPECT_TRUE(form->isVisible());
     EXPECT_EQ(stan.raport.Liczba_wierszy_blachy, 0);
 }

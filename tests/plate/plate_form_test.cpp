@@ -196,6 +196,22 @@ TEST_F(WithdrawingACheck, TheColumnCheckReturnsWhenTheLastFragmentCheckGoes) {
     EXPECT_TRUE(enabled(4));
 }
 
+TEST_F(WithdrawingACheck, EachFragmentCheckThatStandsKeepsTheColumnCheckShut) {
+    for (const int withdrawn : {3, 5, 6})
+        for (const int standing : {3, 5, 6}) {
+            if (standing == withdrawn)
+                continue;
+            fragment(withdrawn, 300, 200, u"2");
+            compute(withdrawn);
+            fragment(standing, 300, 200, u"2");
+            compute(standing);
+            cmdAnulujto(stan, form, withdrawn - 1);
+            EXPECT_FALSE(enabled(4)) << withdrawn << " withdrawn, " << standing << " stands";
+            cmdAnulujto(stan, form, standing - 1);
+            EXPECT_TRUE(enabled(4)) << standing << " withdrawn, the last";
+        }
+}
+
 TEST_F(WithdrawingACheck, OtherChecksGiveNothingBack) {
     fragment(3, 300, 200, u"2");
     compute(3);

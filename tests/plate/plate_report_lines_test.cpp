@@ -57,6 +57,8 @@ TEST_F(PlateSectionOfTheReport, TheUsersSteelIsPrintedAlsoAfterAReturnToAListedG
     form.fields.cmbStalb = 1;
     form.Nr_stali_blachy = 2;
     EXPECT_EQ(written().at(1), QStringLiteral("<35>28 mm<36>S355 (fd = 315,5 MPa)"));
+    compute(1); // with the strength of the listed grade, which then stands behind the name
+    EXPECT_EQ(written().at(1), QStringLiteral("<35>34 mm<36>S355 (fd = 205,0 MPa)"));
 }
 
 TEST_F(PlateSectionOfTheReport, TheColumnCheckAloneHasFourLinesAndNoSketch) {
@@ -86,6 +88,7 @@ TEST_F(PlateSectionOfTheReport, TheSectionEndsOnAnEmptyLineBehindTheLastBlock) {
     EXPECT_EQ(stan.raport.Liczba_wierszy_blachy, 12);
     EXPECT_EQ(sketchFiles(),
               (QStringList{QStringLiteral("Szkic1.bmp"), QStringLiteral("Szkic52.bmp")}));
+    EXPECT_EQ(section->sketches[0].image, 1);
     EXPECT_EQ(section->sketches[1].image, 7);
 }
 

@@ -196,6 +196,11 @@ TEST_F(AnchorSelection, WithoutTensionEveryValueIsZero) {
     EXPECT_EQ(form.Lh, 0);
     EXPECT_EQ(form.Nosnosc, 0.0F);
     EXPECT_EQ(form.LoF, 80);
+    EXPECT_EQ(form.lblLd[0], QStringLiteral("Ld = 0 mm"));
+    EXPECT_EQ(form.lblLo[1], QStringLiteral("Lo =80 mm"));
+    EXPECT_EQ(form.lbla, QStringLiteral("a =0 mm"));
+    EXPECT_EQ(form.lblt, QStringLiteral("t = 0 mm"));
+    EXPECT_EQ(form.lblNazwa[1], QStringLiteral("P-0-100")); // 80 + 30
     EXPECT_EQ(form.tab, 0);
     EXPECT_FALSE(form.tabEnabled[1]);
 }

@@ -51,8 +51,8 @@ TEST_F(SavingTheTotals, WithoutACaseOnlyTheFirstNewSchemeIsOffered) {
         EXPECT_EQ(caption(dialog), QStringLiteral("Zapisz"));
         dialog.click("cmdZapisz");
     });
-    EXPECT_EQ(table.row, 0);
-    EXPECT_EQ(table.totals, totals("0", "0", "0", "0", "0")) << "an empty list is not refused";
+    EXPECT_EQ(table.rows.keys(), QList<int>{0});
+    EXPECT_EQ(table.rows[0], totals("0", "0", "0", "0", "0")) << "an empty list is not refused";
     EXPECT_FALSE(form->isVisible());
 }
 
@@ -93,7 +93,7 @@ TEST_F(SavingTheTotals, AFullTableOffersToReplaceUnderTheWordOfAdding) {
     hand->click("cmdZapisz");
     EXPECT_EQ(stan.obciazenia.Liczba_przyp, 7);
     EXPECT_EQ(table.count, QStringLiteral("7"));
-    EXPECT_EQ(table.row, -1);
+    EXPECT_TRUE(table.rows.isEmpty());
     EXPECT_TRUE(form->isVisible());
 }
 
@@ -105,10 +105,10 @@ TEST_F(SavingTheTotals, ReplacingTheFirstSchemeStillAddsARow) {
         dialog.click("optNumer_0");
         dialog.click("cmdZapisz");
     });
-    EXPECT_EQ(table.row, 2);
-    EXPECT_EQ(table.shown, 2);
+    EXPECT_EQ(table.rows.keys(), QList<int>{2});
+    EXPECT_EQ(table.shown, QList<int>{2});
     EXPECT_EQ(table.count, QStringLiteral("3"));
-    EXPECT_EQ(table.totals, totals("1 250,0", " 0,0", " 0,0", " 0,0", " 0,0"));
+    EXPECT_EQ(table.rows[2], totals("1 250,0", " 0,0", " 0,0", " 0,0", " 0,0"));
     EXPECT_EQ(stan.obciazenia.Liczba_przyp, 3);
 }
 
@@ -116,8 +116,8 @@ TEST_F(SavingTheTotals, CancellingTheDialogDoesNotCancelTheSaving) {
     stan.obciazenia.Liczba_przyp = 1;
     vertical("12");
     save([](Hand& dialog) { dialog.click("cmdAnuluj"); });
-    EXPECT_EQ(table.row, 1);
-    EXPECT_EQ(table.totals.first(), QStringLiteral(" 12,0"));
+    EXPECT_EQ(table.rows.keys(), QList<int>{1});
+    EXPECT_EQ(table.rows[1].first(), QStringLiteral(" 12,0"));
     EXPECT_FALSE(form->isVisible());
 }
 
@@ -125,7 +125,7 @@ TEST_F(SavingTheTotals, LeavingByTheFrameWritesNothing) {
     vertical("12");
     form->close();
     EXPECT_FALSE(form->isVisible());
-    EXPECT_EQ(table.row, -1);
+    EXPECT_TRUE(table.rows.isEmpty());
     EXPECT_EQ(stan.obciazenia.Liczba_przyp, 1);
 }
 
@@ -151,9 +151,13 @@ protected:
     }
     void tab(Qt::Key digit) { hand->key(digit, Qt::AltModifier); }
 
-    /// The statics with one vertical force, confirmed in the dialog; what follows is in `after`.
-    void announceForce(const char* P, const std::function<void(QWidget&)>& after = {}) {
-        answers.dialog(QStringLiteral("StatykaS"), [this, P, after](QWidget& modal) {
+    static void confirm(Hand& dialog) { dialog.click("cmdZapisz"); }
+
+    /// The statics with one vertical force; this is done in the dialog of the scheme. Where the
+    /// saving is to stop, what follows is in `after`.
+    void announceForce(const char* P, const std::function<void(Hand&)>& inTheDialog,
+                       const std::function<void(QWidget&)>& after = {}) {
+        answers.dialog(QStringLiteral("StatykaS"), [this, P, inTheDialog, after](QWidget& modal) {
             answers.dialog(QStringLiteral("Obciazenie"), [P](QWidget& dialog) {
                 Hand load(dialog);
                 load.type("Text1_0", QString::fromLatin1(P));
@@ -161,8 +165,10 @@ protected:
             });
             Hand statics(modal);
             statics.click("cmdDodaj");
-            answers.dialog(QStringLiteral("Statyka_sch"),
-                           [](QWidget& dialog) { Hand(dialog).click("cmdZapisz"); });
+            answers.dialog(QStringLiteral("Statyka_sch"), [inTheDialog](QWidget& scheme) {
+                Hand dialog(scheme);
+                inTheDialog(dialog);
+            });
             if (after)
                 answers.stop(9);
             statics.click("cmdZapisz");
@@ -171,25 +177,50 @@ protected:
         });
     }
 
+    /// Row r of the load table: N, M1, M2, Vx, Vy.
+    QStringList row(int r) {
+        QStringList texts;
+        for (const char* column : {"Text6_%1", "Text7_%1", "Text8_%1", "Text5_%1", "Text10_%1"})
+            texts += hand->text(QString::fromLatin1(column).arg(r).toLatin1().constData());
+        return texts;
+    }
+
     std::unique_ptr<Ferna3> form;
     std::unique_ptr<Hand> hand;
 };
 
 TEST_F(StaticsOfTheMainForm, TheTotalsBecomeTheNextRowOfTheTable) {
     cases("2");
-    const QString first = hand->text("Text6_0");
-    announceForce("1250,5");
+    announceForce("1250,5", confirm);
     hand->click("cmdStatyka");
     EXPECT_TRUE(answers.done());
     EXPECT_EQ(stan.obciazenia.Liczba_przyp, 3);
     EXPECT_EQ(hand->text("Text1"), QStringLiteral("3"));
-    EXPECT_EQ(hand->text("Text6_0"), first);
-    EXPECT_EQ(hand->text("Text6_2"), QStringLiteral("1 250,5"));
-    for (const char* other : {"Text7_2", "Text8_2", "Text5_2", "Text10_2"})
-        EXPECT_EQ(hand->text(other), QStringLiteral(" 0,0")) << other;
+    EXPECT_EQ(row(2), (QStringList{QStringLiteral("1 250,5"), QStringLiteral(" 0,0"),
+                                   QStringLiteral(" 0,0"), QStringLiteral(" 0,0"),
+                                   QStringLiteral(" 0,0")}));
     for (const char* field : {"Text6_2", "Text7_2", "Text8_2", "Text5_2", "Text10_2"})
         EXPECT_TRUE(hand->shown(field)) << field;
     EXPECT_FALSE(hand->shown("Text6_3"));
+}
+
+TEST_F(StaticsOfTheMainForm, ReplacingTheFirstSchemeLeavesItsRowAsItWas) {
+    cases("2");
+    hand->type("Text6_0", QStringLiteral("321"));
+    hand->type("Text10_0", QStringLiteral("4,5"));
+    const QStringList first = row(0);
+    const QStringList second = row(1);
+    announceForce("100", [](Hand& dialog) {
+        dialog.click("optZapis_2");
+        dialog.click("optNumer_0");
+        confirm(dialog);
+    });
+    hand->click("cmdStatyka");
+    EXPECT_TRUE(answers.done());
+    EXPECT_EQ(row(0), first);
+    EXPECT_EQ(row(1), second);
+    EXPECT_EQ(row(2).first(), QStringLiteral(" 100,0"));
+    EXPECT_EQ(hand->text("Text1"), QStringLiteral("3"));
 }
 
 TEST_F(StaticsOfTheMainForm, TheStaticsOpensByItsMnemonic) {
@@ -202,7 +233,7 @@ TEST_F(StaticsOfTheMainForm, TheStaticsOpensByItsMnemonic) {
 
 TEST_F(StaticsOfTheMainForm, TheSeventhCaseStopsAndLeavingTheNumberBringsItBackToSix) {
     cases("6");
-    announceForce("10", [](QWidget& statics) {
+    announceForce("10", confirm, [](QWidget& statics) {
         EXPECT_TRUE(statics.isVisible()) << "the list is not lost";
         statics.close();
     });

@@ -4,6 +4,7 @@
 #include "support/worked_form.h"
 
 #include <QListWidget>
+#include <QMap>
 
 namespace ferna::testing {
 
@@ -12,15 +13,13 @@ class RememberedTable : public LoadTable {
 public:
     void setCount(const QString& text) override { count = text; }
     void setRow(int r, const std::array<QString, 5>& texts) override {
-        row = r;
-        totals = QStringList(texts.begin(), texts.end());
+        rows[r] = QStringList(texts.begin(), texts.end());
     }
-    void showRow(int r) override { shown = r; }
+    void showRow(int r) override { shown += r; }
 
     QString count;
-    int row = -1;
-    int shown = -1;
-    QStringList totals;
+    QMap<int, QStringList> rows;
+    QList<int> shown;
 };
 
 /// The form of the column loads, worked by clicks and keys.

@@ -3,6 +3,7 @@
 #include "report/forms/status_panel.h"
 #include "runtime/widgets/environment_stop.h"
 #include "runtime/widgets/hourglass.h"
+#include "selection/selection_form.h"
 #include "ui_FernaWyn.h"
 
 #include <QApplication>
@@ -122,8 +123,7 @@ void FernaWyn::connectMenu() {
     connect(ui_->mnuDalsze_obl, &QMenu::aboutToShow, this, [this] {
         ui_->mnuGrub_blachy->setEnabled(stan_.wyniki.Beton_OK
                                         && stan_.raport.Liczba_wierszy_blachy <= 0);
-        ui_->mnuDobor_ferny->setEnabled(stan_.wyniki.Kotwy_OK != False
-                                        && stan_.raport.Liczba_wierszy_kotwy <= 0);
+        ui_->mnuDobor_ferny->setEnabled(anchorSelectionOffered(stan_));
     });
 }
 
