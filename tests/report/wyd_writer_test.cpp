@@ -216,6 +216,22 @@ TEST_F(PrintCommands, BeginANewPageByTheirPageTests) {
     EXPECT_EQ(writer.Licznik_stron, 3);
 }
 
+TEST_F(PrintCommands, NamePicturesAloneInAFolderWhoseNameTheCodePageLacks) {
+    base.fourAnchors(250, 150).loads(320, 60, 5);
+    prepare();
+    const auto picturesIn = [&](const QString& folder) {
+        WydWriter writer(base.stan, raport, folder);
+        writer.body();
+        return QString::fromLatin1(writer.file().bytes())
+            .split(QStringLiteral("\r\n"))
+            .filter(QStringLiteral(".bmp"));
+    };
+    EXPECT_EQ(picturesIn(QStringLiteral("/юзер")),
+              QStringList({QStringLiteral("Ferogo2.bmp"), QStringLiteral("Ferrob.bmp"),
+                           QStringLiteral("fernasz1.bmp")}));
+    EXPECT_EQ(picturesIn(QStringLiteral("/home")).at(0), QStringLiteral("/home/Ferogo2.bmp"));
+}
+
 TEST_F(PrintCommands, AreWrittenAsAFrameAndAsTheWholeReport) {
     base.fourAnchors(250, 150).loads(320, 60, 5);
     prepare();
