@@ -11,4 +11,8 @@ inline const QString jobFile = QStringLiteral("W_KK.txt");       ///< what the r
 inline const QString replyFile = QStringLiteral("W_X.txt");      ///< the next free page number
 inline const QString screenPicture = QStringLiteral("$a1.emf");
 
+/// The line that names a file of the folder: its full path, or, where the code page of these files
+/// lacks a character of it, the name alone, which the renderer looks for beside the file it reads.
+QString pathLine(const QString& folder, const QString& name);
+
 } // namespace ferna::wyd

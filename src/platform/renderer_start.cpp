@@ -71,8 +71,8 @@ QString jobLine(RenderMode mode, Integer Nr_strony) {
 void writeJob(const QString& folder, RenderMode mode, Integer Nr_strony) {
     TextFileWriter job;
     job.line(jobLine(mode, Nr_strony));
-    job.line(QDir::toNativeSeparators(folder + u'/' + wyd::bodyFile));
-    job.line(QDir::toNativeSeparators(folder + u'/' + wyd::frameFile));
+    job.line(wyd::pathLine(folder, wyd::bodyFile));
+    job.line(wyd::pathLine(folder, wyd::frameFile));
     job.commit(folder + u'/' + wyd::jobFile);
 }
 

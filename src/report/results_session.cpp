@@ -63,6 +63,7 @@ void ResultsSession::printOnChosenPrinter() {
 void ResultsSession::askPageNumber() {
     stan_.opcje.Nr_strony = CInt(dialogs_.input(QStringLiteral("Podaj nr strony"), programTitle,
                                                 general(stan_.opcje.Nr_strony)));
+    behindThePage_.clear();
 }
 
 void ResultsSession::askProjectName() {
@@ -97,10 +98,13 @@ void ResultsSession::saveText() {
 
 void ResultsSession::saveRtf() {
     const QString path = askWhereToSave(rtfQuestion());
+    const Integer firstPage = stan_.opcje.Nr_strony;
     try {
         saveRtfReport(stan_, raport_, now_(), path);
     } catch (const RunTimeError&) { // ends silently
     }
+    if (stan_.opcje.Nr_strony != firstPage)
+        behindThePage_ = QStringLiteral(" ");
     QDir::setCurrent(folder_);
 }
 
@@ -128,7 +132,7 @@ void ResultsSession::leave() {
 }
 
 QString ResultsSession::pagePanel() const {
-    return QStringLiteral(" Strona ") + general(stan_.opcje.Nr_strony);
+    return QStringLiteral(" Strona ") + general(stan_.opcje.Nr_strony) + behindThePage_;
 }
 
 QString ResultsSession::statePanel() const {

@@ -84,6 +84,7 @@ private:
     std::function<std::unique_ptr<WordProcessor>()> openWord_ = [] { return openWordProcessor(); };
     Raport raport_;
     bool reportsCancel_ = false; ///< set once a save question has been asked
+    QString behindThePage_; ///< in panel 2: a blank where the RTF report has counted the page on
 };
 
 } // namespace ferna

@@ -5,8 +5,6 @@
 #include "report/zone_sketch.h"
 #include "runtime/format.h"
 
-#include <QDir>
-
 #include <array>
 
 namespace ferna {
@@ -88,7 +86,7 @@ void WydWriter::underlinedLine(const QString& text) {
 /// The line behind a picture record.
 void WydWriter::placed(const QString& name) {
     pictures_ += name;
-    file_.line(QDir::toNativeSeparators(folder_ + u'/' + name));
+    file_.line(wyd::pathLine(folder_, name));
 }
 
 void WydWriter::picture(QLatin1String x, Single y, QStringView yPattern, QLatin1String size,

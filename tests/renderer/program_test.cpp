@@ -55,6 +55,22 @@ TEST_F(Renderer, TheReplyNeverLeavesThe16BitsOfAPageNumber) {
     EXPECT_EQ(reply(), QStringLiteral(" 1 , 32767 "));
 }
 
+TEST_F(Renderer, FindsBesideTheJobWhatIsNamedWithoutAFolder) {
+    const QString strange = folder.filePath(QStringLiteral("юзер"));
+    ASSERT_TRUE(QDir().mkpath(strange));
+    sample = SampleReport(strange);
+    QImage(20, 20, QImage::Format_RGB32).save(sample.path(QStringLiteral("a.bmp")));
+    sample.raw(QStringLiteral("5, 10., 35., 52.9, 34.7"));
+    sample.raw(QStringLiteral("a.bmp"));
+    sample.line(85, QStringLiteral("jeden"));
+    sample.write(QStringLiteral("-2"), 1);
+    writeFileWhole(sample.jobPath(), "-2, 1.0, 0.5, 1.0, 1\r\nFERNAPr.wyd\r\nFERNAPr1.wyd\r\n");
+    const Outcome run = runRenderer({sample.jobPath()});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.errors, QString());
+    EXPECT_TRUE(exists("$a1.emf"));
+}
+
 TEST_F(Renderer, WritesAPdfWithItsTextOnTheRightPages) {
     const Outcome run = runRenderer({QStringLiteral("--pdf"), path("raport.pdf"), job()});
     EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();

@@ -1,5 +1,8 @@
 #include "report/document_writer.h"
 #include "report/hand_filled_report.h"
+#include "report/rtf_writer.h"
+#include "report/text_writer.h"
+#include "report/wyd_writer.h"
 #include "runtime/format.h"
 #include "support/decimal_comma.h"
 #include "support/golden_file.h"
@@ -56,6 +59,19 @@ TEST(DocumentText, TitleLineIsCutAtItsHundredAndFiftiethLetter) {
     EXPECT_TRUE(built(report).operations.contains(QStringLiteral("InsertAfter 14/03/25     09:05")
                                                   + QString(120, u' ')
                                                   + QStringLiteral("Strona 12345<CR><LF>")));
+}
+
+TEST(DocumentText, LongTitleLineStandsWholeInTheOtherOutputs) {
+    HandFilledReport report(1);
+    const QByteArray longLine(200, 'x');
+    report.raport.Wiersze_naglowka(6) = QString::fromLatin1(longLine);
+    report.stan.opcje.Tryb_RTF = 1;
+    EXPECT_TRUE(textReport(report.stan, report.raport).bytes().contains(longLine));
+    EXPECT_TRUE(rtfReport(report.stan, report.raport, report.now).bytes().contains(longLine));
+    WydWriter commands(report.stan, report.raport, folder);
+    commands.Naglowek_wyd();
+    EXPECT_TRUE(commands.file().bytes().contains(longLine));
+    EXPECT_FALSE(built(report).text.contains(QString(151, u'x')));
 }
 
 TEST(DocumentText, OtherLinesAreNotCut) {

@@ -155,7 +155,8 @@ TEST_F(ReportLines, TheSummaryStandsOnlyWithMoreThanOneCase) {
     EXPECT_EQ(lines[at + 1], QStringLiteral("<18>") + Format(r.Sigma_b_max, u"##0.0# MPa"));
     EXPECT_EQ(lines[at + 2], QStringLiteral("<19>") + Format(r.Sigma_s_max, u"# ##0.0# MPa"));
     EXPECT_EQ(lines[at + 3], QStringLiteral("<20>") + Format(r.Sila_kotwy_max, u"## ##0.0# kN"));
-    EXPECT_EQ(lines[at - 1], QString()) << "no further empty line in front of it";
+    EXPECT_EQ(lines[at - 1], QString()) << "the empty line that ends the case";
+    EXPECT_NE(lines[at - 2], QString()) << "no further one in front of the summary";
 }
 
 TEST_F(ReportLines, RatiosGoOnOverTheWholeReport) {

@@ -77,6 +77,21 @@ protected:
                       QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"), preset, label);
     }
 
+    /// The next save question, with its title, is answered by a name in the program folder. What it
+    /// offers is "Wyniki" with the same ending.
+    void saveUnder(const QString& title, const QString& name) {
+        answers.dialog(QStringLiteral("saveQuestion"), [this, title, name](QWidget& modal) {
+            auto& question = static_cast<QFileDialog&>(modal);
+            EXPECT_EQ(question.windowTitle(), title);
+            EXPECT_EQ(question.selectedFiles().value(0).section(u'/', -1),
+                      QStringLiteral("Wyniki") + name.mid(name.lastIndexOf(u'.')));
+            auto* const field = question.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            field->setText(folder.path(name));
+            QTest::keyClick(field, Qt::Key_Return);
+            EXPECT_TRUE(QTest::qWaitFor([&modal] { return !modal.isVisible(); }));
+        });
+    }
+
     QAction* action(const char* name) const {
         return form->findChild<QAction*>(QString::fromLatin1(name));
     }
@@ -241,18 +256,29 @@ TEST_F(ResultsForm, OpensTheFileMenuWithEveryAltP) {
 
 TEST_F(ResultsForm, SavesTheTextUnderTheNameThatIsAskedFor) {
     open();
-    answers.dialog(QStringLiteral("saveQuestion"), [this](QWidget& modal) {
-        auto& question = static_cast<QFileDialog&>(modal);
-        EXPECT_EQ(question.windowTitle(), QStringLiteral("Podaj nazwę pliku tekstowego"));
-        EXPECT_EQ(question.selectedFiles().value(0).section(u'/', -1),
-                  QStringLiteral("Wyniki.txt"));
-        auto* const name = question.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        name->setText(folder.path(QStringLiteral("raport.txt")));
-        QTest::keyClick(name, Qt::Key_Return);
-        EXPECT_TRUE(QTest::qWaitFor([&modal] { return !modal.isVisible(); }));
-    });
+    saveUnder(QStringLiteral("Podaj nazwę pliku tekstowego"), QStringLiteral("raport.txt"));
     action("mnuZapisztxt")->trigger();
     EXPECT_TRUE(folder.read(QStringLiteral("raport.txt")).contains("F-1\r\n"));
+}
+
+TEST_F(ResultsForm, ShowsThePageThatTheSavedRtfEndsOn) {
+    for (int c = 3; c <= MaxCases; ++c)
+        base.loads(320, 60, 5);
+    ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+    base.stan.opcje.Tryb_RTF = 1;
+    base.stan.opcje.Nr_strony = 4;
+    open();
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona 4"));
+    saveUnder(QStringLiteral("Podaj nazwę pliku w formacie rtf"), QStringLiteral("raport.rtf"));
+    action("mnuZapiszrtf")->trigger();
+    const int pages = static_cast<int>(folder.read(QStringLiteral("raport.rtf")).count("\\page\\"));
+    EXPECT_GT(pages, 0);
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 4 + pages);
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona %1 ").arg(4 + pages)) << "a blank behind it";
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
+                  QString::number(4 + pages), QStringLiteral("2"));
+    clickPanel(2);
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona 2"));
 }
 
 TEST_F(ResultsForm, TellsAFailedRendererAndStaysUsable) {

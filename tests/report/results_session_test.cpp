@@ -139,6 +139,15 @@ TEST(JobFile, CarriesModePageNumberAndThePathsOfTheCommandFiles) {
     EXPECT_TRUE(job.endsWith("FERNAPr1.wyd\r\n"));
 }
 
+TEST(JobFile, NamesTheFilesAloneInAFolderWhoseNameTheCodePageLacks) {
+    const Folder folder;
+    const QString strange = folder.path(QStringLiteral("юзер"));
+    ASSERT_TRUE(QDir().mkpath(strange));
+    writeJob(strange, RenderMode::Print, 5);
+    EXPECT_EQ(Folder::bytesOf(strange + u'/' + wyd::jobFile),
+              "-1, 1.0, 0.5, 1.0, 5\r\nFERNAPr.wyd\r\nFERNAPr1.wyd\r\n");
+}
+
 class RendererStart : public ::testing::Test {
 protected:
     Folder folder;

@@ -263,6 +263,18 @@ TEST(RtfPlate, FourthPictureOfPatternABringsTheTextOfItsRow) {
         << "the fifth picture opens a row of its own";
 }
 
+TEST(RtfPlate, ExactlyFourPicturesOfPatternAWriteTheirTextOnce) {
+    HandFilledReport report = HandFilledReport(1).withPlate({1, 2, 3, 4});
+    const QStringList lines = rtfLines(report, patternA);
+    const qsizetype trailer = lines.indexOf(QStringLiteral("\\par    \\pard"));
+    ASSERT_EQ(trailer, lines.size() - 3) << "the row's end is the section's, the file's two follow";
+    EXPECT_TRUE(lines[trailer - 1].contains(QStringLiteral("blacha 4.4")));
+    for (const char* text : {"blacha 1.1", "blacha 3.1", "blacha 4.4"})
+        EXPECT_EQ(lines.filter(QLatin1String(text)).size(), 1) << text;
+    EXPECT_LT(lines.indexOf(lines.filter(QStringLiteral("gkrys0.bmp")).value(0)),
+              lines.indexOf(lines.filter(QStringLiteral("blacha 1.1")).value(0)));
+}
+
 TEST(RtfPlate, FewerThanFourPicturesLeaveTheTextToTheEndOfTheSection) {
     HandFilledReport report = HandFilledReport(1).withPlate({1, 2, 3});
     const QStringList lines = rtfLines(report, patternA);
@@ -270,6 +282,7 @@ TEST(RtfPlate, FewerThanFourPicturesLeaveTheTextToTheEndOfTheSection) {
     const qsizetype last = lines.indexOf(lines.filter(QStringLiteral("Szkic31.bmp")).value(0));
     const qsizetype text = lines.indexOf(lines.filter(QStringLiteral("blacha 1.1")).value(0));
     EXPECT_LT(last, text);
+    EXPECT_TRUE(lines[lines.size() - 3].contains(QStringLiteral("blacha 3.5"))) << "and all of it";
 }
 
 TEST(RtfPlate, LastCheckIsNotCountedAsAFourthPicture) {

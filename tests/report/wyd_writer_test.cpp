@@ -113,7 +113,9 @@ TEST_F(PrintCommands, CarryPointsUnderACommaLocaleWhileTextsKeepTheirCommas) {
     base.fourAnchors(250, 150).loads(320.5, 60, 5);
     prepare();
     const QByteArray withComma = body();
+    EXPECT_TRUE(withComma.contains("3,3.,13.5,1,,3.5,1.,0.,0,0,0,400,5\r\n"));
     EXPECT_TRUE(withComma.contains("3,7.0,85.0,1,,3.2,1.,0.,0,0,0,400,5\r\n"));
+    EXPECT_TRUE(withComma.contains("5, 125.,148.0, 41.1, 27.9\r\n"));
     EXPECT_TRUE(withComma.contains(" 320,50 kN"));
     const WithDecimalSign point(u'.');
     prepare();
@@ -133,18 +135,25 @@ TEST_F(PrintCommands, ShowAPageNumberOfZeroAsNothingAndANegativeOneAsItIs) {
 }
 
 TEST_F(PrintCommands, CountTheExceedancesOverTheReportAndAnewAtEachBuild) {
-    base.fourAnchors(250, 150).loads(320, 60, 5).loads(320, 60, 5);
+    base.fourAnchors(250, 150);
+    for (int c = 1; c <= 4; ++c)
+        base.loads(320, 60, 5);
     prepare();
     Wyniki& r = base.stan.wyniki;
-    const int first = r.Ostatni_wiersz(1);
-    const int second = r.Ostatni_wiersz(2);
-    r.Znak_wiersza(first) = 1;
-    r.Znak_wiersza(second) = 1;
-    r.Tekst_przekroczenia(1) = QStringLiteral(" = 1,1");
-    r.Tekst_przekroczenia(2) = QStringLiteral(" = 1,2");
+    // The third and the fourth case alone: neither has the number of its text.
+    for (const int c : {3, 4})
+        r.Znak_wiersza(r.Ostatni_wiersz(c)) = 1;
+    for (int i = 1; i <= 4; ++i)
+        r.Tekst_przekroczenia(i) = QStringLiteral(" = 1,%1").arg(i);
     for (int build = 0; build < 2; ++build) {
         const QStringList lines = bodyLines();
-        EXPECT_LT(lines.indexOf(QStringLiteral(" = 1,1")), lines.indexOf(QStringLiteral(" = 1,2")));
+        const qsizetype third = lines.indexOf(base.stan.Teksty(16) + u'3');
+        const qsizetype fourth = lines.indexOf(base.stan.Teksty(16) + u'4');
+        const qsizetype first = lines.indexOf(QStringLiteral(" = 1,1"));
+        const qsizetype second = lines.indexOf(QStringLiteral(" = 1,2"));
+        EXPECT_TRUE(0 < third && third < first && first < fourth && fourth < second)
+            << third << ' ' << first << ' ' << fourth << ' ' << second;
+        EXPECT_FALSE(lines.contains(QStringLiteral(" = 1,3")));
         EXPECT_EQ(lines.count(QStringLiteral("w")), 2);
         EXPECT_EQ(lines.count(QStringLiteral("d")), 2);
     }
@@ -153,11 +162,16 @@ TEST_F(PrintCommands, CountTheExceedancesOverTheReportAndAnewAtEachBuild) {
 TEST_F(PrintCommands, LeaveOutALineWithAnotherMarkWithoutAGap) {
     base.fourAnchors(250, 150).loads(320, 60, 5);
     prepare();
-    const qsizetype before = bodyLines().size();
+    const QStringList before = bodyLines();
+    const Wyniki& r = base.stan.wyniki;
+    ASSERT_GE(r.Ostatni_wiersz(1), 2);
     base.stan.wyniki.Znak_wiersza(1) = 2;
     const QStringList lines = bodyLines();
-    EXPECT_EQ(lines.size(), before - 2);
-    EXPECT_FALSE(lines.contains(base.stan.wyniki.Wiersze_wynikow(1)));
+    EXPECT_EQ(lines.size(), before.size() - 2);
+    EXPECT_FALSE(lines.contains(r.Wiersze_wynikow(1)));
+    EXPECT_EQ(lines.at(lines.indexOf(r.Wiersze_wynikow(2)) - 1),
+              before.at(before.indexOf(r.Wiersze_wynikow(1)) - 1))
+        << "the next line stands in its place";
 }
 
 TEST_F(PrintCommands, KeepTheStepOfTheBlockWithoutAPicture) {
@@ -170,7 +184,11 @@ TEST_F(PrintCommands, KeepTheStepOfTheBlockWithoutAPicture) {
     };
     EXPECT_NEAR(yAbove(QStringLiteral("block 5 line 1")) - yAbove(QStringLiteral("block 4 line 1")),
                 18, 1e-9);
-    EXPECT_EQ(lines.filter(QStringLiteral("5, 135.,")).size(), 1);
+    // Four lines are as high as the step: what the step moves is the next picture.
+    const QStringList pictures = lines.filter(QStringLiteral("5, 135.,"));
+    ASSERT_EQ(pictures.size(), 1);
+    EXPECT_EQ(pictures.at(0).split(u',').at(2).toDouble(),
+              yAbove(QStringLiteral("block 5 line 1")));
 }
 
 TEST_F(PrintCommands, BeginANewPageByTheirPageTests) {
@@ -196,6 +214,22 @@ TEST_F(PrintCommands, BeginANewPageByTheirPageTests) {
     writer.KoniecZ98R(y, y2, 1);
     EXPECT_EQ(y, 40);
     EXPECT_EQ(writer.Licznik_stron, 3);
+}
+
+TEST_F(PrintCommands, NamePicturesAloneInAFolderWhoseNameTheCodePageLacks) {
+    base.fourAnchors(250, 150).loads(320, 60, 5);
+    prepare();
+    const auto picturesIn = [&](const QString& folder) {
+        WydWriter writer(base.stan, raport, folder);
+        writer.body();
+        return QString::fromLatin1(writer.file().bytes())
+            .split(QStringLiteral("\r\n"))
+            .filter(QStringLiteral(".bmp"));
+    };
+    EXPECT_EQ(picturesIn(QStringLiteral("/юзер")),
+              QStringList({QStringLiteral("Ferogo2.bmp"), QStringLiteral("Ferrob.bmp"),
+                           QStringLiteral("fernasz1.bmp")}));
+    EXPECT_EQ(picturesIn(QStringLiteral("/home")).at(0), QStringLiteral("/home/Ferogo2.bmp"));
 }
 
 TEST_F(PrintCommands, AreWrittenAsAFrameAndAsTheWholeReport) {
