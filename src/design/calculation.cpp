@@ -3,6 +3,7 @@
 #include "analysis/load_case.h"
 #include "design/material_tables.h"
 #include "runtime/format.h"
+#include "runtime/text_file.h"
 
 namespace ferna {
 
@@ -137,7 +138,7 @@ void prepare(Stan& stan, Stan_przypadku& przypadek, const InputFields& fields,
     przypadek.Przerwij_obliczenia = false;
     requireAnchors(stan);
     requireLengthAboveWidth(fields);
-    stan.opcje.Nazwa_projektu = fields.txtNaz_proj;
+    stan.opcje.Nazwa_projektu = oneLine(fields.txtNaz_proj);
     clearResults(stan);
     stan.opcje.Nr_strony = CInt(fields.txtNr_strony);
     stan.materialy.Nazwa_betonu = concreteName(stan.opcje);

@@ -17,11 +17,11 @@ QString catalogueFile(Integer Nr_jezyka) {
 
 void Czytaj_teksty(Stan& stan, const QString& path) {
     const QStringList lines = readLines(path);
-    if (lines.size() != CatalogueLines)
-        throw RunTimeError(lines.size() < CatalogueLines ? error::InputPastEnd : error::DeviceIO,
+    if (lines.size() < CatalogueLines)
+        throw RunTimeError(error::InputPastEnd,
                            QStringLiteral("%1, wiersz %2: katalog ma %3 wierszy")
                                .arg(QDir::toNativeSeparators(path))
-                               .arg(qMin(lines.size(), qsizetype{CatalogueLines}) + 1)
+                               .arg(lines.size() + 1)
                                .arg(CatalogueLines));
     for (int n = 1; n <= CatalogueLines; ++n)
         stan.Teksty(n) = lines[n - 1];

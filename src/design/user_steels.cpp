@@ -1,6 +1,7 @@
 #include "design/user_steels.h"
 
 #include "runtime/format.h"
+#include "runtime/text_file.h"
 
 namespace ferna {
 
@@ -20,7 +21,7 @@ bool outOfRange(Integer mm) {
 
 void acceptAnchor(Stan& stan, const AnchorSteelFields& fields) {
     Materialy& m = stan.materialy;
-    m.Stal_nazwa = fields.Text1;
+    m.Stal_nazwa = oneLine(fields.Text1);
     m.Stal_fd = CSng(fields.Text2[0]);
     m.Fd_kotwy = m.Stal_fd;
     m.Stal_anulowana = True;
@@ -46,7 +47,7 @@ void acceptAnchor(Stan& stan, const AnchorSteelFields& fields) {
 
 void acceptPlate(Stan& stan, const PlateSteelFields& fields) {
     Materialy& m = stan.materialy;
-    m.Blacha_nazwa = fields.Text1;
+    m.Blacha_nazwa = oneLine(fields.Text1);
     m.Blacha_fd = CSng(fields.Text2[0]);
     m.Fd_blachy = m.Blacha_fd;
     m.Stal_anulowana = True;

@@ -2,6 +2,7 @@
 
 #include "design/material_tables.h"
 #include "runtime/format.h"
+#include "runtime/text_file.h"
 
 namespace ferna {
 
@@ -57,10 +58,10 @@ void fillLoadTable(Stan& stan) {
 } // namespace
 
 void Nazwa_zadania(Raport& raport, Dialogs& dialogs) {
-    raport.Nazwa_stopy = dialogs
-                             .input(QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"),
-                                    programTitle, raport.Nazwa_stopy, QPoint(220, 300))
-                             .left(longestLabel);
+    raport.Nazwa_stopy =
+        oneLine(dialogs.input(QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"), programTitle,
+                              raport.Nazwa_stopy, QPoint(220, 300)))
+            .left(longestLabel);
 }
 
 void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now,

@@ -8,6 +8,7 @@
 #include "report/wyd_writer.h"
 #include "report/zone_sketch.h"
 #include "runtime/format.h"
+#include "runtime/text_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -67,8 +68,8 @@ void ResultsSession::askPageNumber() {
 }
 
 void ResultsSession::askProjectName() {
-    stan_.opcje.Nazwa_projektu = dialogs_.input(QStringLiteral("Podaj nazwe projektu"),
-                                                programTitle, stan_.opcje.Nazwa_projektu);
+    stan_.opcje.Nazwa_projektu = oneLine(dialogs_.input(QStringLiteral("Podaj nazwe projektu"),
+                                                        programTitle, stan_.opcje.Nazwa_projektu));
 }
 
 void ResultsSession::retitle() {

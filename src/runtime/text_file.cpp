@@ -76,6 +76,23 @@ QStringList readLines(const QString& path) {
     return lines;
 }
 
+QString oneLine(QStringView name) {
+    QString line;
+    bool gap = false;
+    for (const QChar c : name) {
+        if (c.category() == QChar::Other_Control || c == QChar::LineSeparator
+            || c == QChar::ParagraphSeparator) {
+            gap = true;
+            continue;
+        }
+        if (gap && !line.isEmpty())
+            line += u' ';
+        gap = false;
+        line += c;
+    }
+    return line;
+}
+
 void TextFileWriter::line(QStringView text) {
     bytes_ += codepage::encoded(text);
     bytes_ += "\r\n";

@@ -12,6 +12,10 @@ namespace ferna {
 /// the detail names file and line).
 QStringList readLines(const QString& path);
 
+/// A name as it was typed or pasted, fit for one line of a file: a line break or another control
+/// character becomes a blank, several in a row one, and those at the ends go.
+QString oneLine(QStringView name);
+
 /// Collects lines and writes them as one file. Nothing is on the disk before `commit`, and `commit`
 /// writes to a temporary name and renames, so that a crash leaves the old file or the new one.
 class TextFileWriter {

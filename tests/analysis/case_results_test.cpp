@@ -217,6 +217,40 @@ TEST_F(Results, AStressEqualToTheStrengthPasses) {
     }
 }
 
+TEST_F(Results, AThinnerAnchorIsHeldToTheStrengthOfTheThickest) {
+    base.anchor(-250, -150, 16).anchor(-250, 150, 16).anchor(250, 0, 20).loads(50, 47.5, 0.5);
+    ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+    const Single stress = std::fabs(r.Sigma_kotwy(1)(1));
+    ASSERT_LT(stress, 215) << "an M16 alone could take it";
+    ASSERT_GT(stress, 205) << "the strength of the M20";
+    EXPECT_TRUE(r.Wiersze_wynikow(1).endsWith(u"<2>"));
+    EXPECT_EQ(r.Kotwy_OK, False);
+}
+
+TEST_F(Results, AnAnchorOnTheNeutralLineHasNeitherStressNorLine) {
+    base.anchor(-250, -150).anchor(250, 150).loads(50, 60, 20);
+    ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+    ASSERT_LT(base.stan.plyta.Odl_kotwy(1), 0);
+    base.stan.plyta.Odl_kotwy(2) = 0;
+    base.stan.wyniki.Sigma_kotwy(2)(1) = 1;
+    base.stan.wyniki.Nr_wiersza = 0;
+    Wyniki_linii_obojetnej(base.stan, base.solver);
+    EXPECT_EQ(r.Nr_wiersza, 2) << "one anchor and the concrete";
+    EXPECT_TRUE(r.Wiersze_wynikow(1).startsWith(u"1  "));
+    EXPECT_TRUE(r.Wiersze_wynikow(2).startsWith(u"<3>"));
+    EXPECT_EQ(r.Sigma_kotwy(2)(1), 1) << "untouched";
+}
+
+TEST_F(Results, ACompressedPlateUnderALargeShearIsCheckedWithAllItsAnchors) {
+    base.fourAnchors(250, 150).loads(10, 0, 0, 250, 0); // 177 MPa in each
+    ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+    ASSERT_EQ(r.Przyp_policzony(1), True);
+    EXPECT_EQ(base.lines().last(), QStringLiteral("<52>"));
+    base.noLoads().loads(10, 0, 0, 200, 0); // 142 MPa
+    ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+    EXPECT_EQ(base.lines().last(), QStringLiteral("<50>"));
+}
+
 TEST_F(Results, ANeutralLineWithoutAnAnchorInTensionSaysSo) {
     base.plate(910, 840).anchor(425, 0, 48).anchor(213, 338, 48).loads(314.65, 42, 13);
     ASSERT_EQ(base.calculate(), CalculationEnd::Computed);

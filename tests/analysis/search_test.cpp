@@ -85,6 +85,29 @@ TEST(SearchOfTheDistance, AColdStartThatIsNegativeAtOnceInterpolatesAtOnce) {
     EXPECT_EQ(m.s.Liczba_ocen, 2);
 }
 
+TEST(SearchOfTheDistance, AColdStartPassesOverAChangeFromMinusToPlus) {
+    Middle m(0.1F);
+    m.s.C_linii = 40; // beyond the solution, and backwards over it
+    m.s.Krok_c = -60;
+    Middle before = m;
+    Middle behind = m;
+    for (auto& [one, c] : {std::pair<Middle&, Double>(before, 40), {behind, -20}}) {
+        one.s.Sin_beta = std::sin(one.s.Beta);
+        one.s.Cos_beta = std::cos(one.s.Beta);
+        one.s.Nachylenie = -one.s.Cos_beta / one.s.Sin_beta;
+        one.s.C_linii = c;
+        Rownowaga_c(one.s, one.stan);
+    }
+    ASSERT_LT(before.s.Reszta_c, 0);
+    ASSERT_GT(behind.s.Reszta_c, 0);
+    Szukaj_c(m.s, m.stan);
+    EXPECT_EQ(m.s.Liczba_ocen, 3) << "not two: it goes back to 40 and on with a tenth of the step";
+    EXPECT_EQ(m.s.Krok_c, 0.1 * -60);
+    EXPECT_EQ(m.s.Reszta_c_poprz, behind.s.Reszta_c);
+    EXPECT_LT(m.s.Reszta_c, 0);
+    EXPECT_NEAR(m.s.C_linii, 34, 6);
+}
+
 TEST(SearchOfTheDistance, AWarmStartBeginsBehindThePreviousDistance) {
     Middle m(0.1F);
     Szukaj_c(m.s, m.stan);

@@ -1,5 +1,6 @@
 #include "design/configuration.h"
 #include "design/language.h"
+#include "design/start_up.h"
 #include "runtime/codepage.h"
 #include "runtime/format.h"
 #include "support/decimal_comma.h"
@@ -207,6 +208,18 @@ TEST_F(Configuration, WithoutTheReplyTheOldFileSurvives) {
     EXPECT_EQ(failure->number(), error::FileNotFound);
     EXPECT_TRUE(failure->detail().contains(reply));
     EXPECT_EQ(folder.read(cfg), QByteArray("stary"));
+}
+
+TEST_F(Configuration, AStartKnowsNoCompressedPlateNoUserSteelAndNoAnchors) {
+    stan.wyniki.Przyp_policzony.fill(True);
+    stan.materialy.Stal_uzytkownika = true;
+    startUp(stan, QStringLiteral(FERNA_DATA_DIR));
+    for (int c = 1; c <= MaxCases; ++c)
+        EXPECT_EQ(stan.wyniki.Przyp_policzony(c), False);
+    EXPECT_FALSE(stan.materialy.Stal_uzytkownika);
+    EXPECT_EQ(stan.plyta.Liczba_srub, 0);
+    EXPECT_EQ(stan.opcje.Wsp_n_val, 7.59F) << "of the concrete of the last task";
+    EXPECT_EQ(stan.materialy.Nazwa_betonu, QStringLiteral("B20"));
 }
 
 // A damaged file: the error names file and line, and the state is as it was.

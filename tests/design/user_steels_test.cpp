@@ -98,6 +98,8 @@ TEST_F(AnchorSteelDialog, ARememberedZeroRefusesWhateverIsTyped) {
     expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1); // it never gets further
     stan.materialy.Stal_Re = 1;
     EXPECT_EQ(ok(), std::nullopt);
+    stan.materialy.Stal_Rm = 0;
+    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1);
 }
 
 TEST_F(AnchorSteelDialog, ATextThatIsNoNumberKeepsTheDialogOpen) {

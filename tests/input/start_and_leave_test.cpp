@@ -1,5 +1,6 @@
 #include "support/main_form.h"
 
+#include <QClipboard>
 #include <QTimer>
 
 using namespace ferna;
@@ -155,6 +156,31 @@ TEST_F(Leaving, KoniecTakesThePageNumberThatTheRendererReported) {
     writeFileWhole(path(QStringLiteral("W_X.txt")), "1, 23\r\n");
     EXPECT_EQ(runUntilEnd([this] { click("cmdKoniec"); }), 0);
     EXPECT_EQ(contents(QStringLiteral("Ferna.cfg")).split('\n')[1].simplified(), "23 Strona");
+}
+
+TEST_F(Leaving, NamesPastedWithLineBreaksComeBackAtTheNextStart) {
+    const auto paste = [](QWidget* field, const char16_t* text) {
+        QApplication::clipboard()->setText(QString::fromUtf16(text));
+        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
+    };
+    show(Konfiguracja);
+    paste(the<QLineEdit>("txtNaz_proj"), u"Hala A\r\noś B\n");
+    show(Dane_ogolne);
+    choose("cmbStal", 6);
+    show(Sruby);
+    add("cmdDodaj4", 30, 250, 150);
+    answers.dialog(QStringLiteral("KGM8"), [&paste](QWidget& modal) {
+        paste(modal.findChild<QLineEdit*>(QStringLiteral("Text1")), u"S355\tJ2\n");
+        press(modal, "cmdOK");
+    });
+    key(Qt::Key_O, Qt::AltModifier);
+    EXPECT_EQ(resultsOpened, 1);
+    EXPECT_EQ(runUntilEnd([this] { click("cmdKoniec"); }), 0);
+    start();
+    EXPECT_EQ(text("txtNaz_proj"), QStringLiteral("Hala A oś B"));
+    EXPECT_EQ(stan.materialy.Stal_nazwa, QStringLiteral("S355 J2"));
+    EXPECT_EQ(text("Text3"), QStringLiteral("1200"));
 }
 
 TEST_F(Leaving, TheFirstAnchorIsTheDefaultOfTheNextRun) {

@@ -72,6 +72,9 @@ TEST_F(ReportLines, TheLabelIsCutAndOfferedAgain) {
     base.dialogs.answers.push_back(QString()); // cancelled
     Nazwa_zadania(raport, base.dialogs);
     EXPECT_EQ(raport.Nazwa_stopy, QString());
+    base.dialogs.answers.push_back(QStringLiteral("F-1\r\nF-2\n"));
+    Nazwa_zadania(raport, base.dialogs);
+    EXPECT_EQ(raport.Nazwa_stopy, QStringLiteral("F-1 F-2"));
 }
 
 TEST_F(ReportLines, AnEmptyLabelLeavesItsLineEmpty) {

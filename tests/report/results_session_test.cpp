@@ -92,6 +92,12 @@ TEST_F(Results, RejectTheEmptyAnswerOfACancelledPagePrompt) {
     EXPECT_EQ(session->pagePanel(), QStringLiteral(" Strona 12"));
 }
 
+TEST_F(Results, TakeAPastedProjectNameAsOneLine) {
+    base.dialogs.answers.push_back(QStringLiteral("Hala A\noś B\n"));
+    session->askProjectName();
+    EXPECT_EQ(session->projectPanel(), QStringLiteral("Hala A oś B"));
+}
+
 TEST_F(Results, SaveUnderThePresetNameAtTheFirstCancelAndStopAtTheSecond) {
     session->open();
     const QString before = QDir::currentPath();

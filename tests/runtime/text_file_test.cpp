@@ -37,6 +37,13 @@ TEST(CodePage, EveryAssignedByteComesBack) {
     EXPECT_EQ(codepage::encoded(*together), assignedBytes());
 }
 
+TEST(OneLine, IsMadeOfANameWithLineBreaks) {
+    EXPECT_EQ(oneLine(u"Hala A,  oś B "), QStringLiteral("Hala A,  oś B "));
+    EXPECT_EQ(oneLine(u"Hala A\r\n\r\noś B\n"), QStringLiteral("Hala A oś B"));
+    EXPECT_EQ(oneLine(u"\tA\tB\u2028C\u2029"), QStringLiteral("A B C"));
+    EXPECT_EQ(oneLine(QString(2, QChar(0))), QString());
+}
+
 TEST(CodePage, PolishLettersStandWhereOtherProgramsLookForThem) {
     EXPECT_EQ(codepage::encoded(u"ąćęłńóśźżĄĆĘŁŃÓŚŹŻ").toHex(),
               QByteArray("b9e6eab3f1f39c9fbfa5c6caa3d1d38c8faf"));
