@@ -67,17 +67,20 @@ TEST(ZoneSketch, HatchesTheTrapeziumsAndThePlateLessATriangle) {
 }
 
 TEST(ZoneSketch, KeepsTheDepartureOfTheTriangleOfTheFourthClass) {
-    // The ends of the hatch lines run past the corner to (-L/2, -B/2) mirrored values: the region
-    // beyond the axis towards (+L/2, -B/2) is crossed by lines too.
-    const Stan stan = zoneBy(1, 4, -5, -20, -30, 5);
-    const QImage image = sketchOf(stan);
-    const QImage ordinary = sketchOf(zoneBy(1, 1, 5, 20, 30, -5)).mirrored(true, true);
-    EXPECT_NE(image, ordinary);
+    // B stands at (-300, 150). Its end of the hatch lines moves by (B/2 - d) * -0.5, 2.5 mm a line,
+    // and stops at 100; in the sister classes it moves by 17.5 mm and reaches the corner.
+    const QImage fourth = sketchOf(zoneBy(1, 4, -5, -20, -30, 15));
+    EXPECT_GT(greyAround(fourth, -286, 110), 0.5) << "crowded";
+    const QImage first = sketchOf(zoneBy(1, 1, 5, 20, 30, -15));
+    EXPECT_LT(greyAround(first, 286, -110), 0.35);
+    EXPECT_GT(greyAround(first, 286, 100), 0.1);
 }
 
 TEST(ZoneSketch, LeavesTheHatchOnTheAxisForAShapeOutsideTheTable) {
     const QImage image = sketchOf(zoneBy(9, 1, 5, 20, 30, -5));
+    EXPECT_GT(greyAround(image, 175, 75), 0) << "under the red line of the axis";
     EXPECT_EQ(greyAround(image, 270, 170), 0);
+    EXPECT_EQ(greyAround(image, 215, 110), 0) << "nor close by, where a first hatch line would be";
     EXPECT_EQ(greyAround(image, -200, -100), 0);
 }
 
