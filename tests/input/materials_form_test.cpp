@@ -213,6 +213,16 @@ TEST_F(Materials, TheOfferLeftByEscapeKeepsTheRatio) {
     EXPECT_EQ(text("Text2"), QStringLiteral("6,"));
 }
 
+TEST_F(Materials, TheOfferClosedByItsFrameKeepsTheRatioTypedInTheField) {
+    chooseRatioTyped();
+    type("Text2", QStringLiteral("6,4"));
+    choose("cmbBeton", B25);
+    answers.closeByFrame(QStringLiteral("FernaPon"));
+    key(Qt::Key_Tab);
+    EXPECT_EQ(text("Text2"), QStringLiteral("6,4"));
+    EXPECT_EQ(stan.materialy.Eb_betonu, 30000.0F);
+}
+
 TEST_F(Materials, TheTypedRatioIsWhatTheCalculationTakes) {
     show(Sruby);
     add("cmdDodaj4", 30, 250, 150);

@@ -5,6 +5,9 @@
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
+#include "support/run_time_errors.h"
+
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 
@@ -12,6 +15,7 @@
 
 using namespace ferna;
 using ferna::testing::ColumnBase;
+using ferna::testing::errorNumberOf;
 using ferna::testing::Folder;
 using ferna::testing::WithDecimalSign;
 
@@ -79,6 +83,8 @@ TEST_F(ReportLines, TheLabelIsCutAndOfferedAgain) {
 
 TEST_F(ReportLines, AnEmptyLabelLeavesItsLineEmpty) {
     base.fourAnchors(250, 150).loads(300, 10, 0);
+    prepare(QStringLiteral("F-1"));
+    ASSERT_EQ(written().at(6), QStringLiteral("F-1"));
     prepare(QString());
     EXPECT_EQ(raport.Wiersze_naglowka(7), QString());
     EXPECT_EQ(written().at(6), QString());
@@ -121,11 +127,13 @@ TEST_F(ReportLines, AUserSteelDiffersInTheFourthLineAlone) {
 }
 
 TEST_F(ReportLines, TheLoadTableHoldsSixCases) {
-    base.fourAnchors(250, 150);
+    while (base.stan.plyta.Liczba_srub < MaxAnchors)
+        base.fourAnchors(250, 150);
     for (int c = 1; c <= MaxCases; ++c)
         base.loads(1234.5, -c, 0.7, 12, -3.25);
+    auto& lines = base.stan.raport.Wiersze_obciazen;
+    lines(8) = QStringLiteral("of the calculation before");
     prepare();
-    const auto& lines = base.stan.raport.Wiersze_obciazen;
     EXPECT_EQ(lines(0), QStringLiteral("<14>"));
     EXPECT_EQ(lines(1),
               QStringLiteral("                    N                      M1                       "
@@ -134,6 +142,28 @@ TEST_F(ReportLines, TheLoadTableHoldsSixCases) {
                                        "12,00 kN      - 3,25 kN"));
     EXPECT_TRUE(lines(7).startsWith(u"<15>6     "));
     EXPECT_EQ(lines(8), QString()) << "the last index";
+    const QStringList report = written();
+    EXPECT_EQ(report.filter(QRegularExpression(QStringLiteral("^\\d+\\.   M24"))).size(),
+              MaxAnchors);
+    const qsizetype sixth = report.indexOf(lines(7));
+    ASSERT_GT(sixth, 0);
+    EXPECT_EQ(report.mid(sixth + 1, 2), QStringList({QString(), QStringLiteral("<16>1")}));
+}
+
+TEST_F(ReportLines, EveryTableTakesItsLastLineAndNoneBehindIt) {
+    base.fourAnchors(250, 150).loads(300, 1, 0);
+    prepare();
+    Stan_raportu& lines = base.stan.raport;
+    lines.Wiersze_blachy(43) = QStringLiteral("blacha 43");
+    lines.Wiersze_kotwy(10) = QStringLiteral("kotwa 10");
+    lines.Liczba_wierszy_blachy = 43;
+    lines.Liczba_wierszy_kotwy = 10;
+    EXPECT_TRUE(written().contains(QStringLiteral("blacha 43")));
+    EXPECT_EQ(written().at(written().size() - 2), QStringLiteral("kotwa 10"));
+    EXPECT_EQ(errorNumberOf([&] { lines.Wiersze_blachy(44).clear(); }), error::Subscript);
+    EXPECT_EQ(errorNumberOf([&] { lines.Wiersze_kotwy(11).clear(); }), error::Subscript);
+    EXPECT_EQ(errorNumberOf([&] { lines.Wiersze_srub(21).clear(); }), error::Subscript);
+    EXPECT_EQ(errorNumberOf([&] { lines.Wiersze_obciazen(9).clear(); }), error::Subscript);
 }
 
 TEST_F(ReportLines, TheNeutralLineIsWrittenInWholeMillimetresRoundedDown) {

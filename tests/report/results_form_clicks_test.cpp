@@ -1,3 +1,4 @@
+#include "design/configuration.h"
 #include "platform/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
@@ -19,6 +20,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include <gtest/gtest.h>
@@ -39,6 +41,7 @@ protected:
     int backs = 0;
     int ends = 0;
     std::function<void()> render;
+    std::function<void()> endProgram = [this] { ++ends; };
     std::unique_ptr<FernaWyn> form;
 
     void SetUp() override {
@@ -57,6 +60,10 @@ protected:
     QString path() const { return folder.path(QStringLiteral(".")); }
 
     void open(const QString& label = QStringLiteral("F-1")) {
+        open(label, [this] { form->open(); });
+    }
+
+    void open(const QString& label, const std::function<void()>& opening) {
         auto session = std::make_unique<ResultsSession>(
             base.stan, dialogs, path(), true,
             [] { return QDateTime(QDate(2024, 3, 9), QTime(14, 5)); }, [this] { render(); });
@@ -67,9 +74,9 @@ protected:
                 .anchorForm = [](QWidget*) {},
                 .help = [] {},
                 .back = [this] { ++backs; },
-                .endProgram = [this] { ++ends; }});
+                .endProgram = [this] { endProgram(); }});
         askedForLabel(QString(), label);
-        form->open();
+        opening();
     }
 
     void askedForLabel(const QString& preset, const QString& label) {
@@ -145,7 +152,15 @@ TEST_F(ResultsForm, OffersRtfByItsMode) {
     base.stan.opcje.Tryb_RTF = 0;
     open();
     EXPECT_EQ(action("mnuZapiszrtf")->text(), QStringLiteral("Zapisz jako RTF"));
+    EXPECT_TRUE(action("mnuZapiszrtf")->isVisible());
     EXPECT_FALSE(action("mnuZapiszrtf")->isEnabled());
+    const QStringList before = folder.names();
+    action("mnuZapiszrtf")->trigger(); // asks for no name
+    EXPECT_EQ(folder.names(), before);
+    base.stan.opcje.Tryb_RTF = 1;
+    open();
+    EXPECT_EQ(action("mnuZapiszrtf")->text(), QStringLiteral("Zapisz jako RTF (MSWord)"));
+    EXPECT_TRUE(action("mnuZapiszrtf")->isEnabled());
     base.stan.opcje.Tryb_RTF = 2;
     open();
     EXPECT_EQ(action("mnuZapiszrtf")->text(), QStringLiteral("Zapisz jako RTF (StarOffice)"));
@@ -218,6 +233,83 @@ TEST_F(ResultsForm, OffersEachSectionOnceAndNoAnchorWhereOneIsExceeded) {
     emit details->aboutToShow();
     EXPECT_FALSE(action("mnuGrub_blachy")->isEnabled());
     EXPECT_FALSE(action("mnuDobor_ferny")->isEnabled());
+    ASSERT_EQ(base.calculate(), CalculationEnd::Computed); // drops the section
+    open();
+    QMenu* const anew = form->findChild<QMenu*>(QStringLiteral("mnuDalsze_obl"));
+    emit anew->aboutToShow();
+    EXPECT_TRUE(action("mnuGrub_blachy")->isEnabled());
+    EXPECT_TRUE(action("mnuDobor_ferny")->isEnabled());
+    base.stan.raport.Liczba_wierszy_kotwy = 9;
+    emit anew->aboutToShow();
+    EXPECT_TRUE(action("mnuGrub_blachy")->isEnabled());
+    EXPECT_FALSE(action("mnuDobor_ferny")->isEnabled());
+}
+
+TEST_F(ResultsForm, GoesToTheTopWithSomeRoomBelowAfterASection) {
+    open();
+    form->resize(500, 400);
+    const int range = bar()->maximum();
+    ASSERT_GT(range, 0);
+    bar()->setValue(range);
+    action("mnuDobor_ferny")->trigger(); // adds nothing: the report is as long as before
+    EXPECT_EQ(bar()->value(), 0);
+    EXPECT_EQ(report()->y(), 0);
+    EXPECT_EQ(bar()->maximum(), range + 25);
+}
+
+TEST_F(ResultsForm, TakesAPageNumberFromTheMenuWithoutANewPicture) {
+    open();
+    int rendered = 0;
+    render = [&] {
+        ++rendered;
+        runRenderer(path());
+    };
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
+                  QStringLiteral("1"), QStringLiteral("12"));
+    askedForLabel(QStringLiteral("F-1"), QStringLiteral("F-2"));
+    action("mnuNrstrony")->trigger();
+    EXPECT_EQ(panel(2), QStringLiteral(" Strona 12"));
+    EXPECT_EQ(panel(5), QStringLiteral("F-2"));
+    askedForLabel(QStringLiteral("F-2"), QStringLiteral("F-3"));
+    action("mnuTytul")->trigger();
+    EXPECT_EQ(panel(5), QStringLiteral("F-3"));
+    EXPECT_EQ(rendered, 0);
+    EXPECT_FALSE(folder.read(wyd::bodyFile).contains("Strona 12\r\n"));
+    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nazwe projektu"),
+                  QStringLiteral("Hala A"), QStringLiteral("Hala A"));
+    clickPanel(4);
+    EXPECT_EQ(rendered, 1);
+    EXPECT_TRUE(folder.read(wyd::bodyFile).contains("Strona 12\r\n"));
+    EXPECT_TRUE(folder.read(wyd::bodyFile).contains("\r\nF-3\r\n"));
+}
+
+TEST_F(ResultsForm, ShowsNoLabelWhereNoneWasGiven) {
+    open();
+    answers.cancelInput(QStringLiteral("Ferna 2005 Pr"));
+    action("mnuTytul")->trigger();
+    EXPECT_EQ(panel(5), QString());
+    open(QString());
+    EXPECT_EQ(panel(5), QString());
+    EXPECT_TRUE(folder.read(wyd::frameFile).contains("3,3.,28.0,1,,3.5,1.,0.,0,0,0,400,5\r\n\r\n"));
+}
+
+TEST_F(ResultsForm, CarriesTheCaptionsOfItsMenu) {
+    open();
+    EXPECT_EQ(form->windowTitle(), QStringLiteral("WY N I K I"));
+    for (const auto& [name, caption] :
+         {std::pair{"mnuNrstrony", "Zmień nr &strony"},
+          std::pair{"mnuZapiszdoc", "Zapisz jako dokum. &Word'a"},
+          std::pair{"mnuZapiszEMF", "Zapisz jako &EMF"},
+          std::pair{"mnuZapisztxt", "Zapisz jako &txt"}, std::pair{"mnuDrukuj", "&Drukuj"},
+          std::pair{"mnuDrukuj2", "Dr&ukuj..."}, std::pair{"mnuKoniec2", "&Zakończ"},
+          std::pair{"mnuTytul", "&Tytuł"}, std::pair{"mnuPowrot", "&Powrót"},
+          std::pair{"mnuGrub_blachy", "Grubość blachy"}, std::pair{"mnuDobor_ferny", "Dobór kotwy"},
+          std::pair{"mnuKoniec", "&Koniec"}, std::pair{"mnuPomoc", "Pomo&c"}})
+        EXPECT_EQ(action(name)->text(), QString::fromUtf8(caption)) << name;
+    QStringList bar;
+    for (const QAction* entry : form->menuBar()->actions())
+        bar += entry->text();
+    EXPECT_EQ(bar.join(u'|'), QStringLiteral("&Plik|&Tytuł|&Powrót|&Szczegóły|&Koniec|Pomo&c"));
 }
 
 TEST_F(ResultsForm, ShutsTheScrollBarWhereTheReportFits) {
@@ -283,15 +375,7 @@ TEST_F(ResultsForm, ShowsThePageThatTheSavedRtfEndsOn) {
 
 TEST_F(ResultsForm, TellsAFailedRendererAndStaysUsable) {
     render = [] { throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk")); };
-    answers.input(QStringLiteral("Ferna 2005 Pr"),
-                  QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"), QString(),
-                  QStringLiteral("F-1"));
-    auto session = std::make_unique<ResultsSession>(
-        base.stan, dialogs, path(), true, [] { return QDateTime::currentDateTime(); },
-        [this] { render(); });
-    form = std::make_unique<FernaWyn>(base.stan, std::move(session),
-                                      FernaWyn::Links{{}, {}, {}, [this] { ++backs; }, {}});
-    EXPECT_THROW(form->open(), RunTimeError); // the caller shows the stop
+    open(QStringLiteral("F-1"), [this] { EXPECT_THROW(form->open(), RunTimeError); });
     EXPECT_TRUE(form->isVisible());
     folder.write(wyd::replyFile, "0, 1\r\n");
     action("mnuPowrot")->trigger();
@@ -341,19 +425,54 @@ TEST_F(ResultsForm, TellsADamagedPictureOfTheRenderer) {
     EXPECT_FALSE(folder.names().contains(wyd::screenPicture));
 }
 
-TEST_F(ResultsForm, TellsAReplyWithLettersAndGoesBackWithTheNextGoodOne) {
+TEST_F(ResultsForm, TellsAReplyWithLettersAndGoesBackWithThePageNumberAsItStands) {
     open();
     folder.write(wyd::replyFile, "jeden, dwa\r\n");
     answers.stop(error::TypeMismatch);
     action("mnuPowrot")->trigger();
-    EXPECT_TRUE(form->isVisible());
+    EXPECT_EQ(backs, 1);
+    EXPECT_FALSE(form->isVisible());
     EXPECT_EQ(base.stan.opcje.Nr_strony, 1);
-    answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
-                  QStringLiteral("1"), QStringLiteral("5"));
-    clickPanel(2); // the renderer runs and replies anew
+}
+
+TEST_F(ResultsForm, IsLeftEvenWhereTheRendererFailsAndLeavesNoReply) {
+    render = [] { throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk")); };
+    open(QStringLiteral("F-1"), [this] { EXPECT_THROW(form->open(), RunTimeError); });
+    const auto saveAndEnd = [this] {
+        Zapisz_cfg(base.stan, folder.path(QStringLiteral("Ferna.cfg")),
+                   folder.path(wyd::replyFile));
+    };
+    endProgram = saveAndEnd;
+    answers.stop(error::FileNotFound); // the end is abandoned, and the form can still be left
+    action("mnuKoniec")->trigger();
+    EXPECT_TRUE(form->isVisible());
+    answers.stop(error::FileNotFound);
     action("mnuPowrot")->trigger();
     EXPECT_EQ(backs, 1);
-    EXPECT_EQ(base.stan.opcje.Nr_strony, 7);
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 1);
+    form->show();
+    answers.stop(error::FileNotFound);
+    form->close();
+    EXPECT_EQ(backs, 2);
+    EXPECT_FALSE(form->isVisible());
+}
+
+TEST_F(ResultsForm, EndsTheProgramAtTheStopOfAMissingReply) {
+    open();
+    QFile::remove(folder.path(wyd::replyFile));
+    for (const char* command : {"mnuPowrot", "mnuKoniec2"}) {
+        endProgram = [this] {
+            Zapisz_cfg(base.stan, folder.path(QStringLiteral("Ferna.cfg")),
+                       folder.path(wyd::replyFile));
+        };
+        answers.stop(error::FileNotFound, true);
+        QTimer::singleShot(0, form.get(), [this, command] { action(command)->trigger(); });
+        QTimer::singleShot(5000, form.get(), [] { QApplication::exit(99); });
+        EXPECT_EQ(QApplication::exec(), 1) << command;
+    }
+    EXPECT_EQ(backs, 0);
+    EXPECT_FALSE(folder.names().contains(QStringLiteral("Ferna.cfg")));
 }
 
 TEST_F(ResultsForm, GoesBackWithTheNextFreePageAlsoByItsFrame) {

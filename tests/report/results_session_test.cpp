@@ -45,6 +45,8 @@ TEST_F(Results, OpenWithASketchOfEachCaseThatHasANeutralLine) {
     EXPECT_EQ(folder.read(QStringLiteral("ferogol.bmp")), QByteArray("principle"));
     EXPECT_TRUE(folder.names().contains(QStringLiteral("fernasz1.bmp")));
     EXPECT_FALSE(folder.names().contains(QStringLiteral("fernasz2.bmp")));
+    EXPECT_TRUE(session->raport().Wiersze_strefy(0).startsWith(u"<45>"));
+    EXPECT_EQ(session->raport().Wiersze_strefy(1), QString()) << "nothing without a sketch";
     EXPECT_EQ(session->labelPanel(), QStringLiteral("F-1"));
     EXPECT_EQ(session->pagePanel(), QStringLiteral(" Strona 1"));
     EXPECT_EQ(session->statePanel(), QStringLiteral("OK"));

@@ -66,18 +66,36 @@ TEST(ZoneSketch, HatchesTheTrapeziumsAndThePlateLessATriangle) {
     EXPECT_EQ(greyAround(image, -280, -180), 0);
 }
 
+TEST(ZoneSketch, HatchesTheOtherNumbersOfTheTableLikeTheirShapes) {
+    EXPECT_EQ(sketchOf(zoneBy(7, 1, -30, 2, 30, -3)), sketchOf(zoneBy(2, 1, -30, 2, 30, -3)));
+    EXPECT_EQ(sketchOf(zoneBy(6, 1, 2, 20, -3, -20)), sketchOf(zoneBy(3, 1, 2, 20, -3, -20)));
+    EXPECT_NE(sketchOf(zoneBy(6, 1, 2, 20, -3, -20)), sketchOf(zoneBy(7, 1, 2, 20, -3, -20)));
+}
+
+TEST(ZoneSketch, HatchesTheHalfBehindTheDiagonalOfThePlateLessATriangle) {
+    // A far corner cut off by little: the lines between the ends of the axis alone would leave the
+    // compressed corner to the last of them.
+    const QImage image = sketchOf(zoneBy(4, 4, 30, -10, 20, 20));
+    EXPECT_GT(greyAround(image, -270, -40), 0.15);
+    EXPECT_GT(greyAround(image, -100, -170), 0.15);
+    EXPECT_EQ(greyAround(image, 282, 170), 0);
+}
+
 TEST(ZoneSketch, KeepsTheDepartureOfTheTriangleOfTheFourthClass) {
-    // The ends of the hatch lines run past the corner to (-L/2, -B/2) mirrored values: the region
-    // beyond the axis towards (+L/2, -B/2) is crossed by lines too.
-    const Stan stan = zoneBy(1, 4, -5, -20, -30, 5);
-    const QImage image = sketchOf(stan);
-    const QImage ordinary = sketchOf(zoneBy(1, 1, 5, 20, 30, -5)).mirrored(true, true);
-    EXPECT_NE(image, ordinary);
+    // B stands at (-300, 150). Its end of the hatch lines moves by (B/2 - d) * -0.5, 2.5 mm a line,
+    // and stops at 100; in the sister classes it moves by 17.5 mm and reaches the corner.
+    const QImage fourth = sketchOf(zoneBy(1, 4, -5, -20, -30, 15));
+    EXPECT_GT(greyAround(fourth, -286, 110), 0.5) << "crowded";
+    const QImage first = sketchOf(zoneBy(1, 1, 5, 20, 30, -15));
+    EXPECT_LT(greyAround(first, 286, -110), 0.35);
+    EXPECT_GT(greyAround(first, 286, 100), 0.1);
 }
 
 TEST(ZoneSketch, LeavesTheHatchOnTheAxisForAShapeOutsideTheTable) {
     const QImage image = sketchOf(zoneBy(9, 1, 5, 20, 30, -5));
+    EXPECT_GT(greyAround(image, 175, 75), 0) << "under the red line of the axis";
     EXPECT_EQ(greyAround(image, 270, 170), 0);
+    EXPECT_EQ(greyAround(image, 215, 110), 0) << "nor close by, where a first hatch line would be";
     EXPECT_EQ(greyAround(image, -200, -100), 0);
 }
 
@@ -85,6 +103,18 @@ TEST(ZoneSketch, MarksThePointsOfTheAxisInRed) {
     const QImage image = sketchOf(zoneBy(1, 1, 5, 20, 30, -5));
     EXPECT_TRUE(isRed(image.pixelColor(315 + 50, 210 - 195)));
     EXPECT_TRUE(isRed(image.pixelColor(315 + 295, 210 + 50)));
+    EXPECT_TRUE(isRed(image.pixelColor(315 + 50 + 18, 210 - 195))) << "a disc of 20 mm";
+    EXPECT_FALSE(isRed(image.pixelColor(315 + 50 + 23, 210 - 195)));
+    // The letters stand at three quarters of the way from the middle, right of and below the point.
+    const auto redAround = [&image](double x, double y) {
+        int red = 0;
+        for (int i = 0; i < 14; ++i)
+            for (int j = 0; j < 20; ++j)
+                red += isRed(image.pixelColor(qRound(315 + x) + i, qRound(210 - y) + j));
+        return red;
+    };
+    EXPECT_GT(redAround(0.75 * 50, 0.75 * 200), 10);
+    EXPECT_GT(redAround(0.75 * 300, 0.75 * -50), 10);
 }
 
 TEST(ZoneSketch, IsSavedAtPrintQualityWithTheLineOfItsCase) {

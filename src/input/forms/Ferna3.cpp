@@ -351,8 +351,8 @@ void Ferna3::chooseRatioMode(Integer k) {
 }
 
 void Ferna3::askForRatio() {
-    FernaPon(stan_, dialogs_, this).exec();
-    showRatio();
+    if (FernaPon(stan_, dialogs_, this).exec() == QDialog::Accepted)
+        showRatio();
 }
 
 void Ferna3::addAnchorsBy(Adding way) {

@@ -190,8 +190,13 @@ void FernaWyn::saveDocument() {
     session_->saveDocument(std::move(document));
 }
 
+// Without a reply that can be read the way back stays open: a renderer that fails leaves none, and
+// what was typed waits on the input form.
 void FernaWyn::back() {
-    session_->leave();
+    if (!goesOnWithout(
+            this, [this] { session_->leave(); },
+            QStringLiteral("Po powrocie do danych numer strony pozostaje bez zmian.")))
+        return;
     hide();
     links_.back();
 }

@@ -6,11 +6,14 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <optional>
+
 namespace ferna {
 
 namespace {
 
-void stop(QWidget* form, const RunTimeError& failure) {
+/// True where the engineer goes back to the program; otherwise its end is under way.
+bool stop(QWidget* form, const RunTimeError& failure, const QString& whatComes) {
     QMessageBox box(
         QMessageBox::Critical, QStringLiteral("Ferna 2005 Pr"),
         QStringLiteral("Błąd wykonania '%1':\n%2").arg(failure.number()).arg(failure.text()),
@@ -23,26 +26,40 @@ void stop(QWidget* form, const RunTimeError& failure) {
         box.addButton(QStringLiteral("&Zakończ program"), QMessageBox::DestructiveRole);
     box.setDefaultButton(back);
     box.setEscapeButton(back);
-    box.setInformativeText(QStringLiteral(
-        "Polecenie zostało przerwane. Po powrocie wpisane dane pozostają bez zmian.\n"
-        "Zakończenie programu nie zapisuje konfiguracji."));
+    box.setInformativeText(whatComes
+                           + QStringLiteral("\nZakończenie programu nie zapisuje konfiguracji."));
     box.exec();
-    if (box.clickedButton() == end)
-        QCoreApplication::exit(1);
+    if (box.clickedButton() != end)
+        return true;
+    QCoreApplication::exit(1);
+    return false;
+}
+
+std::optional<RunTimeError> failureOf(const std::function<void()>& step) {
+    try {
+        step();
+        return std::nullopt;
+    } catch (const RunTimeError& failure) {
+        return failure;
+    } catch (const std::exception& failure) {
+        return RunTimeError(error::Internal, QString::fromUtf8(failure.what()));
+    }
 }
 
 } // namespace
 
 bool guarded(QWidget* form, const std::function<void()>& handler) {
-    try {
-        handler();
-        return true;
-    } catch (const RunTimeError& failure) {
-        stop(form, failure);
-    } catch (const std::exception& failure) {
-        stop(form, RunTimeError(error::Internal, QString::fromUtf8(failure.what())));
-    }
-    return false;
+    const auto failure = failureOf(handler);
+    if (failure)
+        stop(form, *failure,
+             QStringLiteral("Polecenie zostało przerwane. Po powrocie wpisane dane pozostają bez "
+                            "zmian."));
+    return !failure;
+}
+
+bool goesOnWithout(QWidget* form, const std::function<void()>& step, const QString& whatComes) {
+    const auto failure = failureOf(step);
+    return !failure || stop(form, *failure, whatComes);
 }
 
 } // namespace ferna

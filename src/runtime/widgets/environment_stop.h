@@ -12,6 +12,10 @@ namespace ferna {
 /// code 1 and without saving. Returns false where the handler was stopped.
 bool guarded(QWidget* form, const std::function<void()>& handler);
 
+/// Runs a step that its command can do without. Where the step is stopped, the same box says in
+/// `whatComes` how the command goes on. Returns false where the engineer ends the program instead.
+bool goesOnWithout(QWidget* form, const std::function<void()>& step, const QString& whatComes);
+
 /// Calls a handler with the arguments of a signal, or without where it takes none.
 template <typename Handler, typename... Arguments>
 void callHandler(const Handler& handler, Arguments... arguments) {
