@@ -142,16 +142,4 @@ TEST_F(Rounds, OnTheRealFormsKeepTheMemoryFlat) {
     }
 }
 
-TEST_F(Rounds, OfTheFileDialogAreTheToolkitsOwn) {
-    constexpr int count = 100;
-    MemoryCurve memory;
-    for (int i = 1; i <= count; ++i) {
-        answers.closeByFrame(QStringLiteral("saveQuestion"));
-        dialogs.QtDialogs::saveFile({QStringLiteral("Zapis"), QStringLiteral("a"),
-                                     QStringLiteral(".txt"), QStringLiteral("*.txt|*.txt")});
-        memory.sample(i);
-    }
-    std::printf("%d file dialogs; growth %.2f KB each\n", count, memory.slope() * 1024);
-}
-
 } // namespace
