@@ -6,6 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source tools/setup.sh
+install_missing "${build_packages[@]}" "${run_packages[@]}" "${test_packages[@]}" "${long_test_packages[@]}"
 
 tests=(runtime design analysis batch batch_sections plate selection statics report input rtf
     document renderer faults)
