@@ -1,8 +1,6 @@
 #pragma once
 
-#include "design/user_steels.h"
-
-#include <QDialog>
+#include "input/forms/steel_dialog.h"
 
 #include <memory>
 
@@ -13,17 +11,14 @@ class KGM8;
 namespace ferna {
 
 /// Describes the user's own steel for the anchors.
-class KGM8 : public QDialog {
+class KGM8 : public SteelDialog {
 public:
     KGM8(Stan& stan, Dialogs& dialogs, QWidget* parent);
     ~KGM8() override;
 
 private:
-    void accept() override;
-    void reject() override;
+    std::optional<SteelField> take() override;
 
-    Stan& stan_;
-    Dialogs& dialogs_;
     std::unique_ptr<Ui::KGM8> ui_;
 };
 

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "design/user_steels.h"
-
-#include <QDialog>
+#include "input/forms/steel_dialog.h"
 
 #include <memory>
 
@@ -13,17 +11,14 @@ class KGM8b;
 namespace ferna {
 
 /// Describes the user's own steel for the plate.
-class KGM8b : public QDialog {
+class KGM8b : public SteelDialog {
 public:
     KGM8b(Stan& stan, Dialogs& dialogs, QWidget* parent);
     ~KGM8b() override;
 
 private:
-    void accept() override;
-    void reject() override;
+    std::optional<SteelField> take() override;
 
-    Stan& stan_;
-    Dialogs& dialogs_;
     std::unique_ptr<Ui::KGM8b> ui_;
 };
 

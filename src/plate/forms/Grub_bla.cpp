@@ -204,13 +204,7 @@ void Grub_bla::focusFirstField() {
 
 void Grub_bla::work(const std::function<void()>& core) {
     readFields();
-    try {
-        core();
-    } catch (...) {
-        showForm();
-        throw;
-    }
-    showForm();
+    shownAfterwards(core, [this] { showForm(); });
 }
 
 void Grub_bla::readFields() {

@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-#include <functional>
-
 class QLineEdit;
 
 namespace ferna {
@@ -17,5 +15,18 @@ void allowOnlyNumbers(QLineEdit* field);
 
 /// Makes the chosen option of a group the only one that Tab stops at; the arrows go to the others.
 void stopTabAtTheChoice(QWidget* group);
+
+/// Runs the work behind a command and shows the form anew, also where a run-time error ends the
+/// work.
+template <typename Core, typename Show>
+void shownAfterwards(const Core& core, const Show& show) {
+    try {
+        core();
+    } catch (...) {
+        show();
+        throw;
+    }
+    show();
+}
 
 } // namespace ferna

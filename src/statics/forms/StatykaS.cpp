@@ -93,13 +93,7 @@ void StatykaS::save() {
 
 void StatykaS::work(const std::function<void()>& core) {
     readForm();
-    try {
-        core();
-    } catch (...) {
-        showForm();
-        throw;
-    }
-    showForm();
+    shownAfterwards(core, [this] { showForm(); });
 }
 
 void StatykaS::readForm() {
