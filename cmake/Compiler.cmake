@@ -23,7 +23,8 @@ if(FERNA_SANITIZE)
     target_compile_definitions(ferna_options INTERFACE FERNA_SANITIZE)
 endif()
 if(FERNA_COVERAGE)
-    target_compile_options(ferna_options INTERFACE --coverage)
+    # Exact counters also where threads share them.
+    target_compile_options(ferna_options INTERFACE --coverage -fprofile-update=atomic)
     target_link_options(ferna_options INTERFACE --coverage)
     # The shorter series that the slow builds compute.
     target_compile_definitions(ferna_options INTERFACE FERNA_SANITIZE)

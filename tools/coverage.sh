@@ -22,7 +22,7 @@ fi
 
 mkdir -p build/coverage/report
 # Branches to the handling of exceptions that the compiler adds behind every call count for nothing.
-gcovr --root . --object-directory build/coverage/src --filter 'src/' \
+gcovr --root . --object-directory build/coverage --filter 'src/' \
     --exclude '.*/forms/' --exclude '.*/widgets/' --exclude-throw-branches \
     --exclude-unreachable-branches --json build/coverage/report/coverage.json \
     --html-details build/coverage/report/index.html build/coverage/src
