@@ -1,5 +1,6 @@
 #include "plate/plate_desk.h"
 #include "plate/plate_tables.h"
+#include "support/run_time_errors.h"
 
 using namespace ferna;
 using ferna::testing::PlateDesk;
@@ -228,6 +229,17 @@ TEST_F(WithdrawingACheck, TheFragmentChecksReturnWithTheColumnCheck) {
     cmdAnulujto(stan, form, 3);
     for (const int n : {3, 5, 6})
         EXPECT_TRUE(enabled(n));
+}
+
+TEST(PlateTables, NothingStandsOutsideThem) {
+    using ferna::testing::errorNumberOf;
+    for (const Integer number : {Integer{-1}, Integer{0}, Integer{1000}}) {
+        EXPECT_EQ(errorNumberOf([&] { plateSteel(number); }), error::Subscript) << number;
+        EXPECT_EQ(errorNumberOf([&] { columnProfile(number); }), error::Subscript) << number;
+        EXPECT_EQ(errorNumberOf([&] { fragmentNodes(number); }), error::Subscript) << number;
+    }
+    EXPECT_EQ(errorNumberOf([] { plateTab(-1); }), error::Subscript);
+    EXPECT_EQ(errorNumberOf([] { plateTab(PlateChecks); }), error::Subscript);
 }
 
 } // namespace

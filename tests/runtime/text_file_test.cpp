@@ -122,6 +122,13 @@ TEST(TextFiles, AMissingFileAndAFolderAreToldApart) {
               error::PathNotFound);
 }
 
+TEST(TextFiles, AFileThatBreaksOffWhileItIsReadIsAnErrorOfTheDevice) {
+    if (!QFile::exists(QStringLiteral("/proc/self/mem")))
+        GTEST_SKIP() << "no file here that opens and cannot be read";
+    EXPECT_EQ(errorNumberOf([] { readFileWhole(QStringLiteral("/proc/self/mem")); }),
+              error::DeviceIO);
+}
+
 TEST(TextFiles, AFileIsReplacedAsAWholeOrNotAtAll) {
     const Folder folder;
     const QString path = folder.write(QStringLiteral("a.txt"), "stary plik, dłuższy od nowego");

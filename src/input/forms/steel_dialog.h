@@ -19,7 +19,8 @@ protected:
     SteelDialog(Stan& stan, Dialogs& dialogs, QWidget* parent)
         : QDialog(parent), stan_(stan), dialogs_(dialogs) {}
 
-    /// To be called once the controls are there; the first two numbers are those that can be refused.
+    /// To be called once the controls are there; the first two numbers are those that can be
+    /// refused.
     void wire(QLineEdit* name, QLabel* note, QList<QLineEdit*> numbers, QPushButton* ok,
               QPushButton* cancel);
 
