@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 [ $# -gt 0 ] || set -- release debug clang-release clang-debug
 first=
 for preset in "$@"; do
-    cmake --preset "$preset" > /dev/null
+    cmake --preset "$preset" -DFERNA_TESTS=ON > /dev/null
     cmake --build --preset "$preset" --target print_bits -j2 > /dev/null
     bits=build/$preset/print_bits.txt
     "build/$preset/tests/print_bits" tests/golden/solver.tasks.jsonl data > "$bits"
