@@ -37,8 +37,8 @@ if [[ ${1:-} == --minimise ]]; then
     for name in "${@:-${every[@]}}"; do
         fresh=$(mktemp -d)
         run_one "$name" -merge=1 "$fresh" "fuzz/corpus/$name" "build/fuzz/found/$name" 2>/dev/null
-        rm -rf "fuzz/corpus/$name"
-        mkdir -p "fuzz/corpus/$name"
+        # Seeds with a name stay; found inputs are named by what is in them.
+        find "fuzz/corpus/$name" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' -delete
         # The smallest inputs first, 200 at most: a corpus is a start and not a record.
         find "$fresh" -type f -printf '%s %f\n' | sort -n | head -200 | while read -r _ file; do
             cp "$fresh/$file" "fuzz/corpus/$name/"
