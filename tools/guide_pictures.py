@@ -16,16 +16,10 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "e2e"))
 from desktop import Desktop, wait_for
+from program import ANCHOR, FOUR, MAIN, PLATE, RESULTS, TITLE, Program
 
 SCREEN = "1280x1024x24"  # the results window takes nine tenths of it
-# Patterns of window titles, without the Polish letters that xdotool does not match.
-MAIN = "Ferna 2005 Pr - zakotwienie .*"
-TITLE = "Ferna 2005 Pr"  # of questions and of most messages
-FOUR = "Podaj .* jednej z 4 .*"
-RESULTS = "WY N I K I"
-PLATE = "Grubo.* blachy"
 SAVE_TEXT = "Podaj .* pliku tekstowego"
-ANCHOR = "Dob.*r kotwy"
 
 
 class Camera:
@@ -51,37 +45,17 @@ class Camera:
                        env=self.desktop.env, check=True, timeout=30)
 
 
-class Guide:
+class Guide(Program):
     """The sample column base as the guide works it."""
 
     def __init__(self, desktop, folder, camera):
-        self.desktop = desktop
+        super().__init__(desktop, folder)
         self.take = camera.take
-        self.process = desktop.start([os.path.join(folder, "ferna")], folder)
-        desktop.window(MAIN)
-
-    def tab(self, number):
-        self.desktop.keys(f"alt+{number}")
+        self.ready()
 
     def describe(self, task):
-        keys, type_ = self.desktop.keys, self.desktop.type
-        self.tab(1)
-        type_(task["Nazwa_projektu"])
-        keys("Tab")
-        type_(str(task["Nr_strony"]))
-        keys("Tab", *["Down"] * task["Nr_normy"])
-        self.tab(2)
-        for value in (len(task["Przypadki"]), task["Dlug_plyty_mm"], task["Szer_plyty_mm"]):
-            type_(str(value))
-            keys("Tab")
-        keys("Home", *["Down"] * (task["Nr_betonu"] - 1), "Tab", "Tab")
-        keys("Home", *["Down"] * (task["Nr_stali"] - 1), "Tab")
-        keys(*["Right"] * task["Stopa_betonowa"])
-        self.tab(3)
-        for case in task["Przypadki"]:
-            for name in ("N", "M1", "M2", "Vx", "Vy"):
-                type_(str(case[name]))
-                keys("Tab")
+        self.type_general(task)
+        self.type_loads(task)
         for number, name in enumerate(("configuration", "general", "loads"), 1):
             self.tab(number)
             self.take(name, MAIN)
@@ -173,8 +147,7 @@ class Guide:
         self.desktop.window(MAIN)
         self.tab(1)
         self.take("next-page", MAIN)
-        self.desktop.keys("alt+k")
-        self.process.wait(30)
+        self.leave()
 
 
 def run(desktop, folder, task, pictures):

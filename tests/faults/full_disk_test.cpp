@@ -27,7 +27,15 @@ protected:
 
     QByteArray contents(const char* name) const { return readFileWhole(disk.path(name)); }
 
+    void computeReport() {
+        base.fourAnchors(250, 150).loads(320, 60, 5);
+        ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
+        Wypelnij_wiersze(raport, base.stan);
+    }
+
     SmallDisk disk;
+    ColumnBase base;
+    Raport raport;
 };
 
 TEST_F(FullDisk, KeepsTheLastTaskAndTellsWhy) {
@@ -49,11 +57,7 @@ TEST_F(FullDisk, KeepsTheLastTaskAndTellsWhy) {
 }
 
 TEST_F(FullDisk, IsToldOfEveryFileOfAReport) {
-    ColumnBase base;
-    base.fourAnchors(250, 150).loads(320, 60, 5);
-    ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
-    Raport raport;
-    Wypelnij_wiersze(raport, base.stan);
+    ASSERT_NO_FATAL_FAILURE(computeReport());
     disk.fill();
     EXPECT_EQ(errorNumberOf([&] { textReport(base.stan, raport).commit(disk.path("a.txt")); }),
               error::DiskFull);
@@ -64,11 +68,7 @@ TEST_F(FullDisk, IsToldOfEveryFileOfAReport) {
 }
 
 TEST_F(FullDisk, EndsTheRendererWithAMessageAndWithoutAPicture) {
-    ColumnBase base;
-    base.fourAnchors(250, 150).loads(320, 60, 5);
-    ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
-    Raport raport;
-    Wypelnij_wiersze(raport, base.stan);
+    ASSERT_NO_FATAL_FAILURE(computeReport());
     Buduj_wyd(base.stan, raport, disk.folder());
     writeFileWhole(disk.path("W_KK.txt"),
                    "-2, 1.0, 0.5, 1.0, 1\r\nFERNAPr.wyd\r\nFERNAPr1.wyd\r\n");
