@@ -22,8 +22,8 @@ Base::Base(double length, double width, double n, std::span<const Anchor> anchor
     section_.count = static_cast<int>(std::min<std::size_t>(anchors.size(), mostAnchors));
     for (std::size_t i = 0; i < static_cast<std::size_t>(section_.count); ++i) {
         const Anchor& anchor = anchors[i];
-        usable_ = usable_ && isAmount(anchor.area) && std::isfinite(anchor.x)
-                  && std::isfinite(anchor.y);
+        usable_ =
+            usable_ && isAmount(anchor.area) && std::isfinite(anchor.x) && std::isfinite(anchor.y);
         section_.x[i] = anchor.x / halfLength_;
         section_.y[i] = anchor.y / halfWidth_;
         section_.weight[i] = n * anchor.area / (halfLength_ * halfWidth_);

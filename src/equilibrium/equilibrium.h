@@ -22,10 +22,10 @@ namespace ferna::equilibrium {
 // Why it always ends there. F is convex with a Lipschitz, piecewise smooth gradient, so a
 // semismooth one. `Tipping` has refused the loads for which F falls for ever; for the others the
 // sets F <= c are bounded. Steps are cut until F falls in proportion to its slope (Armijo), and a
-// singular matrix is shifted: so every limit is a minimum (Pang and Qi, A globally convergent Newton
-// method for convex SC1 minimization problems, J. Optim. Theory Appl. 85, 1995). Where some of the
-// plate is compressed the matrix there is positive definite, and full steps converge superlinearly
-// (Qi and Sun, A nonsmooth version of Newton's method, Math. Programming 58, 1993).
+// singular matrix is shifted: so every limit is a minimum (Pang and Qi, A globally convergent
+// Newton method for convex SC1 minimization problems, J. Optim. Theory Appl. 85, 1995). Where some
+// of the plate is compressed the matrix there is positive definite, and full steps converge
+// superlinearly (Qi and Sun, A nonsmooth version of Newton's method, Math. Programming 58, 1993).
 //
 // Nothing here allocates or throws, and a Base may be used from several threads at once.
 
@@ -66,8 +66,10 @@ struct Result {
     Plane plane;
     double sigmaConcrete = 0; ///< largest pressure under the plate, MPa, 0 where nothing is pressed
     std::array<double, mostAnchors> sigmaAnchor{}; ///< MPa, negative in tension, else 0
-    std::optional<Segment> neutralLine; ///< s = 0 inside the plate; empty where it does not cross it
-    /// Largest error of balance, a share of the load: of max(abs N, abs M1 / (L/2), abs M2 / (B/2)).
+    std::optional<Segment>
+        neutralLine; ///< s = 0 inside the plate; empty where it does not cross it
+    /// Largest error of balance, a share of the load: of max(abs N, abs M1 / (L/2), abs M2 /
+    /// (B/2)).
     double residual = 0;
     int steps = 0;       ///< evaluations of the section
     Segment tippingAxis; ///< as far as plate and anchors reach along it
@@ -76,8 +78,9 @@ struct Result {
 /// A base made ready for any number of loads.
 class Base {
 public:
-    /// Length along x and width along y in mm; `n` is the ratio of the moduli of steel and concrete.
-    /// Anchors may lie anywhere, coincide, or be missing; those behind the twentieth are left out.
+    /// Length along x and width along y in mm; `n` is the ratio of the moduli of steel and
+    /// concrete. Anchors may lie anywhere, coincide, or be missing; those behind the twentieth are
+    /// left out.
     Base(double length, double width, double n, std::span<const Anchor> anchors) noexcept;
 
     /// False where there is nothing to compute with: a plate without an area, a negative n or area,

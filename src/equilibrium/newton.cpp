@@ -63,7 +63,8 @@ bool accepts(const Trial& from, const Trial& to, double slope) noexcept {
 }
 
 /// Goes along the way, halving it until the energy falls enough.
-Trial stepFrom(const Section& section, const Vector3& load, const Trial& from, int& steps) noexcept {
+Trial stepFrom(const Section& section, const Vector3& load, const Trial& from,
+               int& steps) noexcept {
     const Vector3 way = wayFrom(from);
     const double slope = dot(from.error, way);
     double share = 1;
@@ -80,8 +81,8 @@ Trial stepFrom(const Section& section, const Vector3& load, const Trial& from, i
 } // namespace
 
 double sizeAboutCentre(const Vector3& error) noexcept {
-    return std::max({std::fabs(error[0]), std::fabs(error[0] - error[1]),
-                     std::fabs(error[0] - error[2])});
+    return std::max(
+        {std::fabs(error[0]), std::fabs(error[0] - error[1]), std::fabs(error[0] - error[2])});
 }
 
 Balance balance(const Section& section, const Vector3& load) noexcept {

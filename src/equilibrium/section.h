@@ -30,8 +30,8 @@ Vector3 operator*(const Moments& m, const Vector3& z) noexcept;
 bool solve(const Moments& m, const Vector3& right, Vector3& z) noexcept;
 
 /// A plane s = z[0] + z[1] u + z[2] v, seen from the corner of the square where s is largest:
-/// u = 1 - signX x, v = 1 - signY y. So z[1] and z[2] are not positive, and a small zone of pressure
-/// at the corner keeps all its digits, which it loses when seen from the centre.
+/// u = 1 - signX x, v = 1 - signY y. So z[1] and z[2] are not positive, and a small zone of
+/// pressure at the corner keeps all its digits, which it loses when seen from the centre.
 struct CornerPlane {
     Vector3 z{};
     double signX = 1;
@@ -73,7 +73,7 @@ struct Section {
     std::array<double, mostAnchors> x{};
     std::array<double, mostAnchors> y{};
     std::array<double, mostAnchors> weight{}; ///< n A over the area of a quarter of the plate
-    Moments whole; ///< uncracked, with every anchor, about the centre
+    Moments whole;                            ///< uncracked, with every anchor, about the centre
 
     /// To be called once when the anchors stand.
     void prepare() noexcept;

@@ -64,8 +64,7 @@ void Tipping::consider(const Section& section, const Vector3& first,
 
 void Tipping::prepare(const Section& section) noexcept {
     count_ = 0;
-    std::array<Vector3, mostAnchors + 4> points{
-        {{1, 1, 1}, {1, -1, 1}, {1, -1, -1}, {1, 1, -1}}};
+    std::array<Vector3, mostAnchors + 4> points{{{1, 1, 1}, {1, -1, 1}, {1, -1, -1}, {1, 1, -1}}};
     std::size_t size = 4;
     for (std::size_t i = 0; i < static_cast<std::size_t>(section.count); ++i) {
         if (!(section.weight[i] > 0))
@@ -105,8 +104,9 @@ bool Tipping::carries(const Section& section, Vector3& load) const noexcept {
         const double ay = section.y[i];
         bool onAll = section.weight[i] > 0;
         for (std::size_t k = 0; k < verging; ++k)
-            onAll = onAll
-                    && std::fabs(liftAt(onVerge[k], ax, ay)) < touching * sizeAt(onVerge[k], ax, ay);
+            onAll =
+                onAll
+                && std::fabs(liftAt(onVerge[k], ax, ay)) < touching * sizeAt(onVerge[k], ax, ay);
         if (!onAll)
             continue;
         const double along = alongX * ax + alongY * ay;
