@@ -5,9 +5,9 @@
 
 namespace ferna {
 
-// What an engineer has entered, as the exact equilibrium takes it: plate, anchors, ratio n and loads
-// as typed, whether the calculation accepts them or not. To be read before a calculation, which may
-// move an anchor or raise a moment.
+// What an engineer has entered, as the exact equilibrium takes it: plate, anchors, ratio n and
+// loads as typed, whether the calculation accepts them or not. To be read before a calculation,
+// which may move an anchor or raise a moment.
 
 /// A base as entered. Empty where it has no areas: a diameter off the series, a plate or a ratio n
 /// that is no number, a plate without size, a negative n. No anchors at all is concrete alone.
