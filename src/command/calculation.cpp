@@ -1,5 +1,6 @@
 #include "command/calculation.h"
 
+#include "analysis/clauses.h"
 #include "analysis/load_case.h"
 #include "design/material_tables.h"
 #include "runtime/format.h"
@@ -111,7 +112,7 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
                       title};
-    loads.Sila_N_kG(c) = CSng(loads.Sila_N(c) * 1000.0 / Gravity);
+    loads.Sila_N_kG(c) = forceInKilograms(loads.Sila_N(c));
 
     const Single M1 = CSng(fields.Text7.at(row));
     loads.Moment_M1(c) = M1;
