@@ -1,8 +1,8 @@
 #include "app/command_line.h"
 #include "design/configuration.h"
-#include "design/start_up.h"
 #include "desktop/forms/Help_window.h"
 #include "desktop/program_folder.h"
+#include "desktop/forms/damaged_file_box.h"
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
 #include "protocol/renderer_files.h"
@@ -16,47 +16,12 @@
 #include <QIcon>
 #include <QLockFile>
 #include <QMessageBox>
-#include <QPushButton>
 
 #include <cstdio>
 
 namespace {
 
 using namespace ferna;
-
-/// Tells why the last task cannot be restored. True where the engineer wants the delivered
-/// settings.
-bool wantsDeliveredSettings(const RunTimeError& failure) {
-    QMessageBox box(
-        QMessageBox::Critical, programTitle,
-        QStringLiteral("Błąd wykonania '%1':\n%2").arg(failure.number()).arg(failure.text()));
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(
-        QStringLiteral("Program może zacząć pracę z ustawieniami początkowymi. Uszkodzony plik "
-                       "Ferna.cfg zostanie zachowany jako Ferna.cfg.uszkodzony."));
-    const QPushButton* const restore =
-        box.addButton(QStringLiteral("&Ustawienia początkowe"), QMessageBox::AcceptRole);
-    QPushButton* const end =
-        box.addButton(QStringLiteral("&Zakończ program"), QMessageBox::RejectRole);
-    box.setDefaultButton(end);
-    box.setEscapeButton(end);
-    box.exec();
-    return box.clickedButton() == restore;
-}
-
-/// Reads the last task; a configuration that cannot be read is told, and may be replaced.
-bool restoreLastTask(Stan& stan, const QString& folder) {
-    try {
-        startUp(stan, folder);
-        return true;
-    } catch (const RunTimeError& failure) {
-        if (!wantsDeliveredSettings(failure))
-            return false;
-    }
-    restoreDelivered(folder + QStringLiteral("/Ferna.cfg"), QStringLiteral(":/dane/Ferna.cfg"));
-    startUp(stan, folder);
-    return true;
-}
 
 constexpr int helpContext = 100;
 
@@ -118,7 +83,7 @@ int runProgram() {
     const QString folder = enterProgramFolder();
     const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
     Stan stan;
-    if (!restoreLastTask(stan, folder))
+    if (!restoreLastTask(stan, folder, QStringLiteral(":/dane"), wantsDeliveredFile))
         return 1;
     return Program(stan, folder).run();
 }

@@ -36,6 +36,12 @@ int refuse(const std::string& what) {
     return BadCall;
 }
 
+/// What is to be told beside a result; nothing where the text is empty.
+void remark(const QString& what) {
+    if (!what.isEmpty())
+        std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
+}
+
 std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
@@ -58,7 +64,7 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             writeFileWhole(options.result, result);
         if (done.reportReady)
             for (const QString& file : options.reports)
-                writeReport(done, file, runOptions.pictures);
+                remark(writeReport(done, file, runOptions.pictures));
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "

@@ -60,10 +60,4 @@ std::unique_ptr<QLockFile> lockProgramFolder(const QString& folder) {
     throw RunTimeError(error::PathAccess, detail);
 }
 
-void restoreDelivered(const QString& path, const QString& pristine) {
-    if (QFileInfo::exists(path))
-        writeFileWhole(path + QStringLiteral(".uszkodzony"), readFileWhole(path));
-    writeFileWhole(path, readFileWhole(pristine));
-}
-
 } // namespace ferna

@@ -27,8 +27,4 @@ QString enterProgramFolder(const QString& beside, const QString& delivered, cons
 /// behind. Error 70 where another one has the folder, 75 where it cannot be locked.
 std::unique_ptr<QLockFile> lockProgramFolder(const QString& folder);
 
-/// Puts a file back as it was delivered (`pristine`). A damaged one is kept under its name with
-/// ".uszkodzony" behind it. Errors of `readFileWhole` and `writeFileWhole`.
-void restoreDelivered(const QString& path, const QString& pristine);
-
 } // namespace ferna
