@@ -74,7 +74,7 @@ void writeJob(const QString& folder, RenderMode mode, Integer Nr_strony) {
     job.line(jobLine(mode, Nr_strony));
     job.line(wyd::pathLine(folder, wyd::bodyFile));
     job.line(wyd::pathLine(folder, wyd::frameFile));
-    job.commit(folder + u'/' + wyd::jobFile);
+    job.commit(folder + u'/' + wyd::jobFile, Lasting::UntilNextUse);
 }
 
 QString rendererPath(const QString& folder) {

@@ -83,7 +83,8 @@ void deliver(const Report& report, const Call& call, const Job& job) {
     }
     switch (job.mode) {
     case Mode::ScreenFile:
-        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report));
+        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report),
+                       Lasting::UntilNextUse);
         break;
     case Mode::DefaultPrinter:
         printOnDefault(report);
