@@ -7,7 +7,7 @@ has_history() {
     [[ $(git rev-parse --show-toplevel 2>/dev/null) == "$PWD" ]]
 }
 
-# The files of the tree, one a line, that match one of the patterns (all without one). An unpacked
+# The files of the tree, one a line, that match one of the patterns. An unpacked
 # archive has no list of its files: then they are those that lie there, apart from what was built.
 files_of_the_tree() {
     if has_history; then
@@ -18,7 +18,6 @@ files_of_the_tree() {
     for pattern in "$@"; do
         match+=(-o -path "./$pattern")
     done
-    ((${#match[@]})) && match=("(" "${match[@]:1}" ")")
     find . "(" -path ./build -o -path ./.git -o -name __pycache__ ")" -prune -o -type f \
-        "${match[@]}" -print | sed 's,^\./,,' | sort
+        "(" "${match[@]:1}" ")" -print | sed 's,^\./,,' | sort
 }
