@@ -1,27 +1,28 @@
 #!/usr/bin/env bash
-# The first hour of a newcomer: both commands of the README, whole, in bare Debian 12 systems that hold
-# git and nothing else, with nothing of this machine's environment.
+# The first hour of a newcomer: the commands of the README, whole, in bare Debian 12 systems that hold
+# git and nothing else, with nothing of this machine's environment: ./run.sh, packaging/build.sh and
+# ./test.sh.
 #     fresh_machine.sh [--base FOLDER] [--run-only] [root | user] ...
 # root works in a clone. user works in an unpacked archive without history: first he may install
 # nothing, and the administrator runs the line that ./run.sh tells him; then he has sudo. Times and
 # sizes are told at the end, the transcripts lie in build/fresh/. A base that is named is kept for the
 # next run. Needs root (or sudo) and the network.
 set -euo pipefail
-cd "$(dirname "$(readlink -f "$0")")/.."
 ((EUID == 0)) || exec sudo "$0" "$@"
+cd "$(dirname "$(readlink -f "$0")")/.."
 source tools/setup.sh
 source tools/files.sh
 source tests/fresh_system.sh
 
 base=
-commands=(./run.sh ./test.sh)
+commands=(./run.sh packaging/build.sh ./test.sh)
 who=()
 while (($#)); do
     case $1 in
         --base) base=$2; shift ;;
         --run-only) commands=(./run.sh) ;;
         root | user) who+=("$1") ;;
-        *) sed -n '4,9s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+        *) sed -n '5,10s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
     esac
     shift
 done
@@ -74,24 +75,50 @@ told() {
 
 as_root() {
     local root=$work/root command
+    # shellcheck disable=SC2016 # the inner shell expands it
+    local in_tree=(inside "$root" sh -c 'cd /root/ferna && "$@"' sh)
     make_system "$base" "$root"
     deliver_tree clone "$root/root/ferna"
     for command in "${commands[@]}"; do
         told root "$command" "root-$(basename "$command").txt" "$root" -- \
-            inside "$root" sh -c "cd /root/ferna && exec $command"
-        shown_without_display "$logs/root-$(basename "$command").txt" "$command"
+            "${in_tree[@]}" "$command"
+        after "$command" "$logs/root-$(basename "$command").txt" "${in_tree[@]}"
     done
     rm -rf --one-file-system "$root"
 }
 
-# ./run.sh without a display leaves a report and says how to read it.
-shown_without_display() {
-    [[ $2 != ./run.sh ]] || grep -q 'iconv -f cp1250 -t utf-8 build/raport/slup-hali.txt' "$1" \
-        || fail "./run.sh does not say how to read its report"
+# after COMMAND TRANSCRIPT HOW ...: what must be so behind a command; HOW runs another one in the
+# tree.
+after() {
+    local command=$1 log=$2
+    shift 2
+    case $command in
+        ./run.sh) # without a display it leaves a report, says how to read it
+            grep -q 'iconv -f cp1250 -t utf-8 build/raport/slup-hali.txt' "$log" \
+                || fail "./run.sh does not say how to read its report"
+            no_document libreoffice-dev "$@"
+            ;;
+        packaging/build.sh) # the word processor's libraries are there now, and no word processor
+            "$@" sh -c 'dpkg-deb -c build/release/package/ferna_*.deb' \
+                | grep -q /usr/lib/ferna/libferna_writer.so || fail "the package lacks its module"
+            no_document libreoffice-writer "$@"
+            ;;
+    esac
+}
+
+# no_document PACKAGE HOW ...: a document is refused, and the words name the package that it takes.
+no_document() {
+    local wanted=$1 said
+    shift
+    said=$("$@" build/release/bin/ferna-wsad --raport build/raport/x.odt --wynik build/raport/x.json \
+        data/przyklady/slup-hali.json 2>&1) && fail "a document came out without a word processor"
+    [[ $said == *"$wanted"* ]] || fail "what writes documents is not told: $said"
 }
 
 as_user() {
-    local root=$work/user line
+    local root=$work/user line command
+    # shellcheck disable=SC2016 # the inner shell expands it
+    local in_tree=(inside_as inzynier "$root" sh -c 'cd ferna && "$@"' sh)
     make_system "$base" "$root"
     inside "$root" useradd --create-home --shell /bin/bash inzynier
     deliver_tree archive "$root/home/inzynier/ferna"
@@ -104,14 +131,16 @@ as_user() {
     told administrator "the line that ./run.sh told" user-administrator.txt "$root" -- \
         inside "$root" sh -c "$line"
     told "user without sudo" ./run.sh user-run.sh.txt "$root" -- \
-        inside_as inzynier "$root" sh -c 'cd ferna && exec ./run.sh'
-    shown_without_display "$logs/user-run.sh.txt" ./run.sh
+        "${in_tree[@]}" ./run.sh
+    after ./run.sh "$logs/user-run.sh.txt" "${in_tree[@]}"
 
     inside "$root" apt-get install -y -qq --no-install-recommends sudo >/dev/null 2>&1
     echo 'inzynier ALL=(ALL) NOPASSWD: ALL' >"$root/etc/sudoers.d/inzynier"
-    [[ " ${commands[*]} " != *" ./test.sh "* ]] \
-        || told "user with sudo" ./test.sh user-test.sh.txt "$root" -- \
-            inside_as inzynier "$root" sh -c 'cd ferna && exec ./test.sh'
+    for command in "${commands[@]:1}"; do
+        told "user with sudo" "$command" "user-$(basename "$command").txt" "$root" -- \
+            "${in_tree[@]}" "$command"
+        after "$command" "$logs/user-$(basename "$command").txt" "${in_tree[@]}"
+    done
     rm -rf --one-file-system "$root"
 }
 
@@ -119,5 +148,5 @@ make_base "$base" git
 for one in "${who[@]}"; do
     "as_$one"
 done
-echo "Both commands do on a bare Debian 12 what the README says:"
+echo "The commands do on a bare Debian 12 what the README says:"
 cat "$summary"

@@ -8,6 +8,7 @@
 #include "platform/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
+#include "runtime/qt_remarks.h"
 #include "runtime/widgets/hourglass.h"
 #include "runtime/widgets/qt_dialogs.h"
 #include "selection/forms/Dobor_fer.h"
@@ -136,6 +137,7 @@ int main(int argc, char** argv) {
         arguments += QString::fromLocal8Bit(argv[i]);
     if (const auto answer = answerCall(arguments))
         return leave(*answer);
+    hushMissingRuntimeFolder();
     const QApplication application(argc, argv);
     if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
         return leave(*refusal);
