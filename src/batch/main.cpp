@@ -4,6 +4,7 @@
 #include "batch/task_run.h"
 #include "desktop/program_folder.h"
 #include "runtime/format.h"
+#include "runtime/qt_remarks.h"
 #include "runtime/text_file.h"
 
 #include <QGuiApplication>
@@ -127,6 +128,7 @@ std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options&
     if (std::none_of(options.reports.begin(), options.reports.end(), needsPictures))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    hushMissingRuntimeFolder();
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

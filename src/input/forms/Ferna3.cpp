@@ -43,9 +43,9 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
         stopTabAtTheChoice(group);
     showCodepageNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu);
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
-    for (QWidget* field : {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
-                           static_cast<QWidget*>(ui_->cmbBeton),
-                           static_cast<QWidget*>(ui_->cmbStal)})
+    for (QWidget* field :
+         {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
+          static_cast<QWidget*>(ui_->cmbBeton), static_cast<QWidget*>(ui_->cmbStal)})
         field->installEventFilter(this);
     for (int tab = 0; tab < ui_->SSTab1->count(); ++tab) {
         auto* const shortcut =
