@@ -1,7 +1,7 @@
 #pragma once
 
 #include "batch/object_reader.h"
-#include "equilibrium/inputs.h"
+#include "command/entered_equilibria.h"
 
 namespace ferna::batch {
 

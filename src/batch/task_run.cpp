@@ -1,9 +1,9 @@
 #include "batch/task_run.h"
 
-#include "design/calculation.h"
+#include "command/calculation.h"
 #include "design/language.h"
 #include "input/plate_drawing.h"
-#include "report/sketch_files.h"
+#include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
 
 namespace ferna::batch {

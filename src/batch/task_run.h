@@ -2,7 +2,7 @@
 
 #include "analysis/stan_przypadku.h"
 #include "batch/task.h"
-#include "equilibrium/inputs.h"
+#include "command/entered_equilibria.h"
 #include "report/report_lines.h"
 
 #include <QDateTime>
