@@ -4,16 +4,17 @@
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
 #include "platform/forms/Help_window.h"
+#include "platform/forms/help_key.h"
 #include "platform/program_folder.h"
 #include "platform/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
+#include "runtime/widgets/application.h"
 #include "runtime/widgets/hourglass.h"
 #include "runtime/widgets/qt_dialogs.h"
 #include "selection/forms/Dobor_fer.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
@@ -58,8 +59,6 @@ bool restoreLastTask(Stan& stan, const QString& folder) {
     return true;
 }
 
-constexpr int helpContext = 100;
-
 /// The forms of the program and how one leads to another.
 class Program {
 public:
@@ -77,17 +76,18 @@ private:
     void openResults() {
         auto session = std::make_unique<ResultsSession>(
             stan_, dialogs_, folder_, input_.firstNorm(),
-            [] { return QDateTime::currentDateTime(); }, [this] { render(); });
+            [] { return QDateTime::currentDateTime(); }, [this] { return render(); });
         results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
         input_.hide();
         results_->open();
     }
 
-    void render() {
+    RendererReport render() {
         const Hourglass hourglass;
         RendererWait wait(results_.get());
-        runRenderer(folder_, {},
-                    [&wait](std::chrono::milliseconds worked) { return wait.goOn(worked); });
+        return runRenderer(
+            folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
+            results_->winId());
     }
 
     FernaWyn::Links links() {
@@ -96,7 +96,7 @@ private:
                 [this](QWidget* parent) { Grub_bla(stan_, folder_, dialogs_, parent).exec(); },
             .anchorForm =
                 [this](QWidget* parent) { Dobor_fer(stan_, folder_, dialogs_, parent).exec(); },
-            .help = [this] { openHelp(folder_, helpContext); },
+            .help = [this] { openHelp(folder_, help::Start); },
             .back = [this] { input_.show(); },
             .endProgram =
                 [this] {
@@ -114,8 +114,9 @@ private:
     std::unique_ptr<FernaWyn> results_;
 };
 
-int runProgram() {
+int runProgram(QApplication& application) {
     const QString folder = enterProgramFolder();
+    openHelpByF1(application, [folder](int context) { openHelp(folder, context); });
     const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
     Stan stan;
     if (!restoreLastTask(stan, folder))
@@ -136,17 +137,15 @@ int main(int argc, char** argv) {
         arguments += QString::fromLocal8Bit(argv[i]);
     if (const auto answer = answerCall(arguments))
         return leave(*answer);
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
         return leave(*refusal);
     QApplication::setApplicationName(QStringLiteral("ferna"));
     QApplication::setApplicationVersion(QStringLiteral(FERNA_VERSION));
-    // The desktop entry and the icon of the windows go by this name.
-    QApplication::setDesktopFileName(QStringLiteral("ferna"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/szkice/ferna.svg")));
+    dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
     try {
-        return runProgram();
+        return runProgram(application);
     } catch (const ferna::RunTimeError& failure) {
         QMessageBox::critical(
             nullptr, ferna::programTitle,

@@ -1,3 +1,6 @@
+#include "runtime/widgets/application.h"
+#include "support/own_settings.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
@@ -6,7 +9,9 @@
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
+    const ferna::testing::OwnSettings settings;
+    QApplication application(argc, argv);
+    ferna::dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -3,6 +3,7 @@
 #include "runtime/widgets/codepage_note.h"
 #include "runtime/widgets/environment_stop.h"
 #include "runtime/widgets/form_tools.h"
+#include "runtime/widgets/number_field.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -15,6 +16,7 @@ void SteelDialog::wire(QLineEdit* name, QLabel* note, QList<QLineEdit*> numbers,
     numbers_ = std::move(numbers);
     for (QLineEdit* field : std::as_const(numbers_))
         allowOnlyNumbers(field);
+    keepTablesOut(this, {name});
     showCodepageNote(name, note);
     connect(ok, &QPushButton::clicked, this, &SteelDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &SteelDialog::reject);
