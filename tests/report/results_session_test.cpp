@@ -81,7 +81,8 @@ TEST_F(Results, MakeOneMessageOfAnyFailureOnAChosenPrinter) {
     session->open();
     session = std::make_unique<ResultsSession>(
         base.stan, base.dialogs, folder.path(QStringLiteral(".")), true,
-        [] { return QDateTime::currentDateTime(); }, [] { throw RunTimeError(error::NoObject); });
+        [] { return QDateTime::currentDateTime(); },
+        []() -> RendererReport { throw RunTimeError(error::NoObject); });
     session->printOnChosenPrinter();
     EXPECT_EQ(base.messages().last(), QStringLiteral("Problem z wyborem drukarki"));
     EXPECT_EQ(base.dialogs.messages.back().title, QStringLiteral("Ferna Pr"));

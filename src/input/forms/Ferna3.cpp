@@ -43,6 +43,7 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     for (QGroupBox* group : findChildren<QGroupBox*>())
         stopTabAtTheChoice(group);
     showCodepageNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu);
+    keepRoomForNote(ui_->lblZnaki_projektu);
     showAsWarning(ui_->lblLista_nieaktualna, true);
     keepTablesOut(this, {ui_->txtNaz_proj});
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));

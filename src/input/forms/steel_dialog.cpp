@@ -18,6 +18,7 @@ void SteelDialog::wire(QLineEdit* name, QLabel* note, QList<QLineEdit*> numbers,
         allowOnlyNumbers(field);
     keepTablesOut(this, {name});
     showCodepageNote(name, note);
+    keepRoomForNote(note);
     connect(ok, &QPushButton::clicked, this, &SteelDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &SteelDialog::reject);
     centreOnScreen(this);
