@@ -1,63 +1,29 @@
 #include "app/command_line.h"
 #include "design/configuration.h"
-#include "design/start_up.h"
+#include "desktop/forms/Help_window.h"
+#include "desktop/forms/damaged_file_box.h"
+#include "desktop/forms/help_key.h"
+#include "desktop/program_folder.h"
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
-#include "platform/forms/Help_window.h"
-#include "platform/forms/help_key.h"
-#include "platform/program_folder.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
-#include "runtime/widgets/application.h"
-#include "runtime/widgets/hourglass.h"
-#include "runtime/widgets/qt_dialogs.h"
+#include "runtime/qt_remarks.h"
 #include "selection/forms/Dobor_fer.h"
+#include "widgets/application.h"
+#include "widgets/hourglass.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QApplication>
 #include <QLockFile>
 #include <QMessageBox>
-#include <QPushButton>
 
 #include <cstdio>
 
 namespace {
 
 using namespace ferna;
-
-/// Tells why the last task cannot be restored. True where the engineer wants the delivered
-/// settings.
-bool wantsDeliveredSettings(const RunTimeError& failure) {
-    QMessageBox box(
-        QMessageBox::Critical, programTitle,
-        QStringLiteral("Błąd wykonania '%1':\n%2").arg(failure.number()).arg(failure.text()));
-    box.setTextFormat(Qt::PlainText);
-    box.setInformativeText(
-        QStringLiteral("Program może zacząć pracę z ustawieniami początkowymi. Uszkodzony plik "
-                       "Ferna.cfg zostanie zachowany jako Ferna.cfg.uszkodzony."));
-    const QPushButton* const restore =
-        box.addButton(QStringLiteral("&Ustawienia początkowe"), QMessageBox::AcceptRole);
-    QPushButton* const end =
-        box.addButton(QStringLiteral("&Zakończ program"), QMessageBox::RejectRole);
-    box.setDefaultButton(end);
-    box.setEscapeButton(end);
-    box.exec();
-    return box.clickedButton() == restore;
-}
-
-/// Reads the last task; a configuration that cannot be read is told, and may be replaced.
-bool restoreLastTask(Stan& stan, const QString& folder) {
-    try {
-        startUp(stan, folder);
-        return true;
-    } catch (const RunTimeError& failure) {
-        if (!wantsDeliveredSettings(failure))
-            return false;
-    }
-    restoreDelivered(folder + QStringLiteral("/Ferna.cfg"), QStringLiteral(":/dane/Ferna.cfg"));
-    startUp(stan, folder);
-    return true;
-}
 
 /// The forms of the program and how one leads to another.
 class Program {
@@ -119,7 +85,7 @@ int runProgram(QApplication& application) {
     openHelpByF1(application, [folder](int context) { openHelp(folder, context); });
     const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
     Stan stan;
-    if (!restoreLastTask(stan, folder))
+    if (!restoreLastTask(stan, folder, QStringLiteral(":/dane"), wantsDeliveredFile))
         return 1;
     return Program(stan, folder).run();
 }
@@ -137,6 +103,7 @@ int main(int argc, char** argv) {
         arguments += QString::fromLocal8Bit(argv[i]);
     if (const auto answer = answerCall(arguments))
         return leave(*answer);
+    hushMissingRuntimeFolder();
     QApplication application(argc, argv);
     if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
         return leave(*refusal);

@@ -1,14 +1,15 @@
 #include "renderer/delivery.h"
 
-#include "platform/metafile.h"
-#include "platform/renderer_news.h"
+#include "pages/emf_writer.h"
+#include "pages/metafile.h"
+#include "protocol/renderer_news.h"
 #include "renderer/emf_writer.h"
 #include "renderer/news.h"
 #include "renderer/own_window.h"
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
-#include "runtime/widgets/save_question.h"
+#include "widgets/save_question.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -76,7 +77,8 @@ void deliver(const Report& report, const Call& call, const Job& job) {
     }
     switch (job.mode) {
     case Mode::ScreenFile:
-        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report));
+        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report),
+                       Lasting::UntilNextUse);
         break;
     case Mode::DefaultPrinter:
         printOnDefault(report);

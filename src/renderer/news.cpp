@@ -1,6 +1,6 @@
 #include "renderer/news.h"
 
-#include "platform/renderer_news.h"
+#include "protocol/renderer_news.h"
 
 #include <QtGlobal>
 

@@ -1,6 +1,6 @@
 #include "renderer/own_window.h"
 
-#include "platform/renderer_news.h"
+#include "protocol/renderer_news.h"
 #include "renderer/news.h"
 
 #include <QDialog>

@@ -1,7 +1,8 @@
 #include "renderer/printing.h"
 
-#include "platform/drawing.h"
-#include "platform/renderer_news.h"
+#include "pages/drawing.h"
+#include "pages/page_painter.h"
+#include "protocol/renderer_news.h"
 #include "renderer/news.h"
 #include "renderer/own_window.h"
 #include "renderer/page_painter.h"

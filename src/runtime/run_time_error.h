@@ -58,7 +58,8 @@ private:
 
 /// Takes the text of a control; an error that this raises names the control. Gives what `take`
 /// gives.
-template <typename Take> decltype(auto) inControl(const QString& name, const Take& take) {
+template <typename Take>
+decltype(auto) inControl(const QString& name, const Take& take) {
     try {
         return take();
     } catch (RunTimeError& failure) {

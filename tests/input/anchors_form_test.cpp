@@ -242,8 +242,9 @@ TEST_F(Anchors, AListWithOldCoordinatesIsSaidToHaveThem) {
     const QSize before = form->size();
     remove(QStringLiteral("3"), QStringLiteral("1"));
     EXPECT_TRUE(note->isVisible());
-    EXPECT_EQ(note->text(), QStringLiteral("Po usunięciu lub przesunięciu śruby lista pokazuje dawne "
-                                           "współrzędne. Obowiązują te z rysunku."));
+    EXPECT_EQ(note->text(),
+              QStringLiteral("Po usunięciu lub przesunięciu śruby lista pokazuje dawne "
+                             "współrzędne. Obowiązują te z rysunku."));
     EXPECT_EQ(form->size(), before);
     add("cmdDodaj1s", 20, 70, 80);
     EXPECT_TRUE(note->isVisible());

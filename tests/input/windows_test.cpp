@@ -1,6 +1,6 @@
+#include "desktop/forms/help_key.h"
 #include "input/forms/FernaPon.h"
 #include "input/forms/Fernafi.h"
-#include "platform/forms/help_key.h"
 #include "support/main_form.h"
 
 #include <QMessageBox>
@@ -132,8 +132,7 @@ TEST_F(Windows, TheIconsOfTheBoxesAreSharpAtEveryScale) {
 
 TEST_F(Windows, TheToolkitSpeaksPolish) {
     EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), QStringLiteral("Anuluj"));
-    EXPECT_EQ(QCoreApplication::translate("QFileDialog", "Look in:"),
-              QStringLiteral("Szukaj w:"));
+    EXPECT_EQ(QCoreApplication::translate("QFileDialog", "Look in:"), QStringLiteral("Szukaj w:"));
     EXPECT_EQ(QCoreApplication::translate("QWidgetTextControl", "Select All"),
               QStringLiteral("Zaznacz wszystko"));
 }

@@ -1,17 +1,17 @@
 #include "design/configuration.h"
 #include "desktop/settings.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
 #include "report/forms/report_view.h"
 #include "report/forms/written_files.h"
 #include "runtime/picture_box.h"
-#include "runtime/widgets/qt_dialogs.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
 #include "support/modal_answers.h"
 #include "support/printing.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -483,8 +483,8 @@ TEST_F(ResultsForm, SaysWhereTheFirstCancelHasWritten) {
 TEST_F(ResultsForm, SaysWhichFilesTheRendererHasSaved) {
     open();
     render = [] {
-        return RendererReport{{QStringLiteral("/home/jan/rap-1.emf"),
-                               QStringLiteral("/home/jan/rap-2.emf")}};
+        return RendererReport{
+            {QStringLiteral("/home/jan/rap-1.emf"), QStringLiteral("/home/jan/rap-2.emf")}};
     };
     askedForLabel(QStringLiteral("F-1"), QStringLiteral("F-1"));
     action("mnuZapiszEMF")->trigger();
@@ -534,7 +534,9 @@ TEST_F(ResultsForm, ShowsThePageThatTheSavedRtfEndsOn) {
 }
 
 TEST_F(ResultsForm, TellsAFailedRendererAndStaysUsable) {
-    render = []() -> RendererReport { throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk")); };
+    render = []() -> RendererReport {
+        throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk"));
+    };
     open(QStringLiteral("F-1"), [this] { EXPECT_THROW(form->open(), RunTimeError); });
     EXPECT_TRUE(form->isVisible());
     folder.write(wyd::replyFile, "0, 1\r\n");
@@ -599,7 +601,9 @@ TEST_F(ResultsForm, TellsAReplyWithLettersAndGoesBackWithThePageNumberAsItStands
 }
 
 TEST_F(ResultsForm, IsLeftEvenWhereTheRendererFailsAndLeavesNoReply) {
-    render = []() -> RendererReport { throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk")); };
+    render = []() -> RendererReport {
+        throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk"));
+    };
     open(QStringLiteral("F-1"), [this] { EXPECT_THROW(form->open(), RunTimeError); });
     const auto saveAndEnd = [this] {
         Zapisz_cfg(base.stan, folder.path(QStringLiteral("Ferna.cfg")),

@@ -1,5 +1,5 @@
-#include "platform/renderer_files.h"
-#include "platform/renderer_news.h"
+#include "protocol/renderer_files.h"
+#include "protocol/renderer_news.h"
 #include "report/results_session.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
@@ -263,8 +263,7 @@ TEST_F(RendererStart, IsToldOfItsWindowsAndOfTheFilesItHasWritten) {
     EXPECT_EQ(windows, (std::vector<bool>{true, false}));
     EXPECT_GE(worked.count(), 350);
     EXPECT_LT(worked.count(), 800) << "counted from the end of its window";
-    EXPECT_EQ(report.written.join(u'|'),
-              QStringLiteral("/tmp/Hala A/rap-1.emf|/tmp/Ł/rap-2.emf"));
+    EXPECT_EQ(report.written.join(u'|'), QStringLiteral("/tmp/Hala A/rap-1.emf|/tmp/Ł/rap-2.emf"));
 }
 
 TEST(RendererNewsOf, EveryNameIsReadAsItWasTold) {

@@ -1,3 +1,4 @@
+#include "runtime/qt_remarks.h"
 #include "support/own_settings.h"
 
 #include <QGuiApplication>
@@ -7,6 +8,7 @@
 // The core runs under QGuiApplication without widgets; a leak of widgets into it would not link.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    ferna::hushMissingRuntimeFolder();
     const ferna::testing::OwnSettings settings;
     const QGuiApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);

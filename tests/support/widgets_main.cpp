@@ -1,5 +1,6 @@
-#include "runtime/widgets/application.h"
+#include "runtime/qt_remarks.h"
 #include "support/own_settings.h"
+#include "widgets/application.h"
 
 #include <QApplication>
 
@@ -9,6 +10,7 @@
 int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    ferna::hushMissingRuntimeFolder();
     const ferna::testing::OwnSettings settings;
     QApplication application(argc, argv);
     ferna::dressApplication(application);

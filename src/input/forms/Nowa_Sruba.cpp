@@ -2,10 +2,10 @@
 
 #include "design/material_tables.h"
 #include "runtime/format.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
-#include "runtime/widgets/number_field.h"
 #include "ui_Nowa_Sruba.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QKeyEvent>
 

@@ -1,6 +1,6 @@
 #include "plate/forms/result_age.h"
 
-#include "runtime/widgets/notes.h"
+#include "widgets/notes.h"
 
 #include <QBoxLayout>
 #include <QComboBox>

@@ -1,11 +1,11 @@
 #include "report/forms/FernaWyn.h"
 
 #include "report/forms/status_panel.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/hourglass.h"
-#include "runtime/widgets/notes.h"
 #include "selection/selection_form.h"
 #include "ui_FernaWyn.h"
+#include "widgets/environment_stop.h"
+#include "widgets/hourglass.h"
+#include "widgets/notes.h"
 
 #include <QApplication>
 #include <QCloseEvent>

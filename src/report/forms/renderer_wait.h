@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/renderer_start.h"
+#include "protocol/renderer_start.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -1,7 +1,7 @@
 #include "report/forms/written_files.h"
 
 #include "runtime/run_time_error.h"
-#include "runtime/widgets/environment_stop.h"
+#include "widgets/environment_stop.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -28,7 +28,8 @@ QString namesOf(const QStringList& files) {
 
 } // namespace
 
-WrittenFiles::WrittenFiles(QWidget* parent) : QFrame(parent), words_(new QLabel), open_(QDesktopServices::openUrl) {
+WrittenFiles::WrittenFiles(QWidget* parent)
+    : QFrame(parent), words_(new QLabel), open_(QDesktopServices::openUrl) {
     setObjectName(QStringLiteral("zapisano"));
     words_->setObjectName(QStringLiteral("lblZapisano"));
     words_->setTextFormat(Qt::PlainText);

@@ -1,9 +1,9 @@
 #include "statics/forms/Obciazenie.h"
 
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
-#include "runtime/widgets/number_field.h"
 #include "ui_Obciazenie.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QShowEvent>
 

@@ -1,11 +1,11 @@
 #include "statics/forms/StatykaS.h"
 
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
-#include "runtime/widgets/number_field.h"
 #include "statics/forms/Obciazenie.h"
 #include "statics/forms/Statyka_sch.h"
 #include "ui_StatykaS.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QKeyEvent>
 
