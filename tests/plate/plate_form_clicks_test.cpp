@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QFile>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QStackedWidget>
 
 using namespace ferna;
@@ -268,6 +269,28 @@ TEST_F(PlateThicknessForm, AnotherGradeWithdrawsTheResultsAndKeepsTheThickness) 
     }
     EXPECT_EQ(hand->text("Text4"), thickness);
     EXPECT_TRUE(hand->shown("Text4"));
+}
+
+TEST_F(PlateThicknessForm, TheFieldThatATabBringsUpIsTypedOver) {
+    tab(4);
+    ASSERT_EQ(hand->focused(), QStringLiteral("Text2_1"));
+    QTest::keyClicks(form->focusWidget(), QStringLiteral("55"));
+    EXPECT_EQ(hand->text("Text2_1"), QStringLiteral("55"));
+}
+
+TEST_F(PlateThicknessForm, AnErrorOfAFieldLeadsBackToIt) {
+    grade(St3);
+    tab(1);
+    hand->type("Text1_5", QStringLiteral("200"));
+    hand->type("Text2_8", QStringLiteral("a"));
+    answers.dialog(QStringLiteral("environmentStop"), [](QWidget& modal) {
+        EXPECT_TRUE(static_cast<QMessageBox&>(modal).text().endsWith(
+            QStringLiteral("\"a\"\nPole: Położenie kotwy: wymiar a")));
+        QTest::keyClick(&modal, Qt::Key_Escape);
+    });
+    hand->click("cmdOblicz52");
+    EXPECT_EQ(hand->focused(), QStringLiteral("Text2_8"));
+    EXPECT_EQ(hand->the<QLineEdit>("Text2_8")->selectedText(), QStringLiteral("a"));
 }
 
 TEST_F(PlateThicknessForm, TheLineOfARefusedCheckIsHidden) {
