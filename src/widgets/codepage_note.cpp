@@ -25,4 +25,12 @@ void showCodepageNote(QLineEdit* field, QLabel* note) {
     renew(field->text());
 }
 
+void keepRoomForNote(QLabel* note) {
+    constexpr int lines = 2;
+    note->setMinimumHeight(lines * note->fontMetrics().lineSpacing());
+    QSizePolicy policy = note->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    note->setSizePolicy(policy);
+}
+
 } // namespace ferna

@@ -9,4 +9,7 @@ namespace ferna {
 /// hold and will write as "?". The note is hidden while there are none.
 void showCodepageNote(QLineEdit* field, QLabel* note);
 
+/// Keeps two lines of a form free for a note, so that the form does not move when it comes.
+void keepRoomForNote(QLabel* note);
+
 } // namespace ferna

@@ -1,4 +1,6 @@
 #include "runtime/qt_remarks.h"
+#include "support/own_settings.h"
+#include "widgets/application.h"
 
 #include <QApplication>
 
@@ -9,7 +11,9 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     ferna::hushMissingRuntimeFolder();
-    const QApplication application(argc, argv);
+    const ferna::testing::OwnSettings settings;
+    QApplication application(argc, argv);
+    ferna::dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
