@@ -23,8 +23,6 @@ namespace {
 
 using namespace ferna;
 
-constexpr int helpContext = 100;
-
 /// The forms of the program and how one leads to another.
 class Program {
 public:
@@ -61,7 +59,7 @@ private:
                 [this](QWidget* parent) { Grub_bla(stan_, folder_, dialogs_, parent).exec(); },
             .anchorForm =
                 [this](QWidget* parent) { Dobor_fer(stan_, folder_, dialogs_, parent).exec(); },
-            .help = [this] { openHelp(folder_, helpContext); },
+            .help = [this] { openHelp(folder_, help::Start); },
             .back = [this] { input_.show(); },
             .endProgram =
                 [this] {

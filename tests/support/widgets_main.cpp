@@ -1,6 +1,23 @@
 #include <QApplication>
+#include <QFont>
+#include <QFontInfo>
+
+#include <cstdio>
 
 #include <gtest/gtest.h>
+
+namespace {
+
+/// The face of the interface in every test, so that sizes and pictures mean the same everywhere.
+/// False where it is not installed.
+bool pinInterfaceFont() {
+    const QString face = QStringLiteral("DejaVu Sans"); // of fonts-dejavu-core
+    constexpr int points = 9;
+    QApplication::setFont(QFont(face, points));
+    return QFontInfo(QApplication::font()).family() == face;
+}
+
+} // namespace
 
 // Forms are tested with clicks and keys on the real widgets, without a screen.
 int main(int argc, char** argv) {
@@ -9,5 +26,9 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     testing::InitGoogleTest(&argc, argv);
+    if (!pinInterfaceFont()) {
+        std::fputs("the face of the interface in tests, DejaVu Sans, is not installed\n", stderr);
+        return 1;
+    }
     return RUN_ALL_TESTS();
 }

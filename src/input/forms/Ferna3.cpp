@@ -4,6 +4,7 @@
 #include "design/language.h"
 #include "design/material_tables.h"
 #include "design/start_up.h"
+#include "design/typed_names.h"
 #include "input/forms/FernaPon.h"
 #include "input/forms/Fernafi.h"
 #include "input/forms/KGM8.h"
@@ -41,7 +42,7 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     collectFields();
     for (QGroupBox* group : findChildren<QGroupBox*>())
         stopTabAtTheChoice(group);
-    showCodepageNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu);
+    showNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu, projectNote);
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
     for (QWidget* field : {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
                            static_cast<QWidget*>(ui_->cmbBeton),

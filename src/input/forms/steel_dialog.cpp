@@ -1,5 +1,6 @@
 #include "input/forms/steel_dialog.h"
 
+#include "design/typed_names.h"
 #include "runtime/widgets/codepage_note.h"
 #include "runtime/widgets/environment_stop.h"
 #include "runtime/widgets/form_tools.h"
@@ -15,7 +16,7 @@ void SteelDialog::wire(QLineEdit* name, QLabel* note, QList<QLineEdit*> numbers,
     numbers_ = std::move(numbers);
     for (QLineEdit* field : std::as_const(numbers_))
         allowOnlyNumbers(field);
-    showCodepageNote(name, note);
+    showNote(name, note, steelNote);
     connect(ok, &QPushButton::clicked, this, &SteelDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &SteelDialog::reject);
     centreOnScreen(this);
