@@ -1,16 +1,17 @@
 #include "app/command_line.h"
 #include "design/configuration.h"
+#include "desktop/forms/Help_window.h"
 #include "desktop/forms/damaged_file_box.h"
+#include "desktop/program_folder.h"
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
-#include "platform/forms/Help_window.h"
-#include "platform/program_folder.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
-#include "runtime/widgets/hourglass.h"
-#include "runtime/widgets/qt_dialogs.h"
+#include "runtime/qt_remarks.h"
 #include "selection/forms/Dobor_fer.h"
+#include "widgets/hourglass.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -99,6 +100,7 @@ int main(int argc, char** argv) {
         arguments += QString::fromLocal8Bit(argv[i]);
     if (const auto answer = answerCall(arguments))
         return leave(*answer);
+    hushMissingRuntimeFolder();
     const QApplication application(argc, argv);
     if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
         return leave(*refusal);

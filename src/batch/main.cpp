@@ -3,8 +3,9 @@
 #include "batch/ordered_workers.h"
 #include "batch/report_files.h"
 #include "batch/task_run.h"
-#include "platform/program_folder.h"
+#include "desktop/program_folder.h"
 #include "runtime/format.h"
+#include "runtime/qt_remarks.h"
 #include "runtime/text_file.h"
 
 #include <QGuiApplication>
@@ -131,6 +132,7 @@ std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options&
     if (std::none_of(options.reports.begin(), options.reports.end(), needsPictures))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    hushMissingRuntimeFolder();
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

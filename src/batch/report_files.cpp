@@ -1,10 +1,10 @@
 #include "batch/report_files.h"
 
 #include "batch/report_pictures.h"
-#include "platform/renderer_start.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_start.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
-#include "report/sketch_files.h"
 #include "report/text_writer.h"
 #include "report/wyd_writer.h"
 

@@ -1,7 +1,7 @@
 #include "renderer/delivery.h"
 
-#include "platform/metafile.h"
-#include "renderer/emf_writer.h"
+#include "pages/emf_writer.h"
+#include "pages/metafile.h"
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
@@ -83,7 +83,8 @@ void deliver(const Report& report, const Call& call, const Job& job) {
     }
     switch (job.mode) {
     case Mode::ScreenFile:
-        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report));
+        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report),
+                       Lasting::UntilNextUse);
         break;
     case Mode::DefaultPrinter:
         printOnDefault(report);

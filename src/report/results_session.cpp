@@ -2,7 +2,7 @@
 
 #include "design/configuration.h"
 #include "design/typed_names.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"

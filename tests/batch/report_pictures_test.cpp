@@ -1,6 +1,5 @@
 // Reports that show their pictures by the names of files, several in one folder.
 #include "batch/report_pictures.h"
-
 #include "renderer/program_run.h"
 #include "runtime/codepage.h"
 #include "support/folder.h"
@@ -105,8 +104,7 @@ TEST_F(Reports, AnRtfReportOfAnotherPlateLeavesThePicturesOfTheFirstAlone) {
                              folder.path(QStringLiteral("b-rysunki/b.rtf"))));
     EXPECT_EQ(folder.read(QStringLiteral("Ferrob.bmp")), plateOfA);
     EXPECT_NE(folder.read(QStringLiteral("b-rysunki/Ferrob.bmp")), plateOfA);
-    EXPECT_EQ(folder.read(QStringLiteral("b-rysunki/b.rtf")),
-              folder.read(QStringLiteral("b.rtf")));
+    EXPECT_EQ(folder.read(QStringLiteral("b-rysunki/b.rtf")), folder.read(QStringLiteral("b.rtf")));
     for (const QString& picture : named(QStringLiteral("b.rtf")))
         EXPECT_TRUE(has(QStringLiteral("b-rysunki/") + picture)) << picture.toStdString();
     // and so at every later run of either

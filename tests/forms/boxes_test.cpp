@@ -1,6 +1,6 @@
 // The boxes of the program: their icon, their buttons, and which of them Enter and Esc press.
 #include "desktop/forms/damaged_file_box.h"
-#include "runtime/widgets/environment_stop.h"
+#include "widgets/environment_stop.h"
 #include "support/worked_form.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
 // What stands on the dialogs, to the letter.
 #include "input/forms/KGM8.h"
-#include "input/forms/KGM8b.h"
+#include "plate/forms/KGM8b.h"
 #include "statics/forms/Obciazenie.h"
 #include "statics/forms/StatykaS.h"
 #include "statics/forms/Statyka_sch.h"

@@ -1,7 +1,7 @@
 // The seven sketches of the plate section: each check has its own, under its own name.
 #include "plate/plate_form.h"
 #include "plate/plate_report_lines.h"
-#include "report/sketch_files.h"
+#include "pages/sketch_files.h"
 #include "support/folder.h"
 #include "support/printing.h"
 

@@ -3,7 +3,7 @@
 #include "pages/letter_widths.h"
 #include "renderer/layout.h"
 #include "renderer/sample_report.h"
-#include "renderer/text_measure.h"
+#include "pages/text_measure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // Where pages put their ink, in millimetres on the sheet, in every output that has pages.
-#include "platform/metafile.h"
+#include "pages/metafile.h"
 #include "renderer/outputs.h"
 #include "renderer/page_checks.h"
 #include "renderer/printing.h"

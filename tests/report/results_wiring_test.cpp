@@ -1,8 +1,8 @@
 // What a refresh of the report leaves alone, whom the menu calls, and where the keyboard is then.
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "runtime/picture_box.h"
-#include "runtime/widgets/qt_dialogs.h"
+#include "widgets/qt_dialogs.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"

@@ -13,11 +13,11 @@
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
 #include "runtime/format.h"
-#include "runtime/widgets/codepage_note.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
 #include "statics/forms/StatykaS.h"
 #include "ui_Ferna3.h"
+#include "widgets/codepage_note.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -44,9 +44,9 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
         stopTabAtTheChoice(group);
     showNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu, projectNote);
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
-    for (QWidget* field : {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
-                           static_cast<QWidget*>(ui_->cmbBeton),
-                           static_cast<QWidget*>(ui_->cmbStal)})
+    for (QWidget* field :
+         {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
+          static_cast<QWidget*>(ui_->cmbBeton), static_cast<QWidget*>(ui_->cmbStal)})
         field->installEventFilter(this);
     for (int tab = 0; tab < ui_->SSTab1->count(); ++tab) {
         auto* const shortcut =
