@@ -58,24 +58,24 @@ QString lettersNote(const QString& text) {
 
 QString labelNote(const QString& label) {
     const QString cut = cutFromLabel(label);
-    return together(
-        {lettersNote(label.left(longestLabel)),
-         cut.isEmpty() ? cut
-                       : QStringLiteral("Oznaczenie ma najwyżej %1 znaki, w raporcie nie będzie: "
-                                        "\"%2\"")
-                             .arg(longestLabel)
-                             .arg(cut)});
+    return together({lettersNote(label.left(longestLabel)),
+                     cut.isEmpty()
+                         ? cut
+                         : QStringLiteral("Oznaczenie ma najwyżej %1 znaki, w raporcie nie będzie: "
+                                          "\"%2\"")
+                               .arg(longestLabel)
+                               .arg(cut)});
 }
 
 QString projectNote(const QString& name) {
     const double letters = projectLetters(name);
-    return together({lettersNote(name),
-                     letters == frameLetters
-                         ? QString()
-                         : QStringLiteral("Nazwa nie mieści się w wierszu nagłówka: na stronach "
-                                          "raportu będzie pismem %1 pt zamiast %2 pt")
-                               .arg(Format(points(letters), u"#0.0"),
-                                    Format(points(frameLetters), u"#0.0"))});
+    return together(
+        {lettersNote(name),
+         letters == frameLetters
+             ? QString()
+             : QStringLiteral("Nazwa nie mieści się w wierszu nagłówka: na stronach "
+                              "raportu będzie pismem %1 pt zamiast %2 pt")
+                   .arg(Format(points(letters), u"#0.0"), Format(points(frameLetters), u"#0.0"))});
 }
 
 QString steelNote(const QString& name) {

@@ -69,9 +69,9 @@ void ResultsSession::askPageNumber() {
 }
 
 void ResultsSession::askProjectName() {
-    stan_.opcje.Nazwa_projektu = oneLine(dialogs_.input(QStringLiteral("Podaj nazwe projektu"),
-                                                        programTitle, stan_.opcje.Nazwa_projektu,
-                                                        std::nullopt, projectNote));
+    stan_.opcje.Nazwa_projektu =
+        oneLine(dialogs_.input(QStringLiteral("Podaj nazwe projektu"), programTitle,
+                               stan_.opcje.Nazwa_projektu, std::nullopt, projectNote));
 }
 
 void ResultsSession::retitle() {

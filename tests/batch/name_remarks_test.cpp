@@ -1,5 +1,4 @@
 #include "batch/name_remarks.h"
-
 #include "renderer/program_run.h"
 #include "support/folder.h"
 #include "support/printing.h"
@@ -29,11 +28,12 @@ TEST(NameRemarks, AreNoneForNamesThatGetIntoTheReportAsTheyAre) {
 
 TEST(NameRemarks, NameTheKeyAndWhatIsLost) {
     EXPECT_EQ(
-        remarksOf(R"("Nazwa_projektu": "Słup Ω", "Nazwa_stopy": "stopa pod słup pośredni osi 12/Φ",)"
-                  R"("Nr_stali": 7, "Stal": {"Stal_nazwa": "α", "Stal_fd": 300, "Stal_fi_max": 30,)"
-                  R"("Stal_Re": 355, "Stal_Rm": 470},)"
-                  R"("Blacha": {"Nr_stali_blachy": 6, "Blacha_nazwa": "β", "Blacha_fd": 300,)"
-                  R"("Blacha_t_max": 40, "Sprawdzenia": {}},)")
+        remarksOf(
+            R"("Nazwa_projektu": "Słup Ω", "Nazwa_stopy": "stopa pod słup pośredni osi 12/Φ",)"
+            R"("Nr_stali": 7, "Stal": {"Stal_nazwa": "α", "Stal_fd": 300, "Stal_fi_max": 30,)"
+            R"("Stal_Re": 355, "Stal_Rm": 470},)"
+            R"("Blacha": {"Nr_stali_blachy": 6, "Blacha_nazwa": "β", "Blacha_fd": 300,)"
+            R"("Blacha_t_max": 40, "Sprawdzenia": {}},)")
             .join(u'|'),
         QStringLiteral("Nazwa_projektu: code page 1250 of the reports lacks \"Ω\", they have \"?\" "
                        "in its place|"
@@ -56,8 +56,8 @@ TEST(NameRemarks, StandOnStandardErrorWhereAReportIsWritten) {
         folder.write(QStringLiteral("t.json"), taskWith(R"("Nazwa_projektu": "Słup Ω",)"));
     const QString program = QStringLiteral(FERNA_BIN_DIR "/ferna-wsad");
     EXPECT_EQ(runProgram(program, {task}).errors, QString());
-    const Outcome run =
-        runProgram(program, {QStringLiteral("--raport"), folder.path(QStringLiteral("r.txt")), task});
+    const Outcome run = runProgram(
+        program, {QStringLiteral("--raport"), folder.path(QStringLiteral("r.txt")), task});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_EQ(run.errors,
               QStringLiteral("ferna-wsad: %1: Nazwa_projektu: code page 1250 of the reports lacks "

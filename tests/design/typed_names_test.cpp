@@ -1,5 +1,4 @@
 #include "design/typed_names.h"
-
 #include "pages/letter_widths.h"
 #include "support/decimal_comma.h"
 #include "support/printing.h"

@@ -1,7 +1,7 @@
 // The boxes of the program: their icon, their buttons, and which of them Enter and Esc press.
 #include "desktop/forms/damaged_file_box.h"
-#include "widgets/environment_stop.h"
 #include "support/worked_form.h"
+#include "widgets/environment_stop.h"
 
 #include <QFile>
 #include <QFileDialog>

@@ -161,14 +161,13 @@ TEST_F(CaptionsOfThePlate, OfTheTabsWithTheirCommandsAndSketches) {
 
 TEST_F(CaptionsOfThePlate, OfWhatStandsOutsideTheTabs) {
     const char* const governing = "Grubość blachy po uwzględnieniu wszystkich obliczonych warunków";
-    expectControls(*form,
-                   {{"Label9", "Gatunek stali blachy :"},
-                    {"Label10_0", "Przyjęto grubość blachy = ", governing},
-                    {"Label10_1", "mm "},
-                    {"cmdOK", "O&K - dopisz do wyników",
-                     "Dopisanie wszystkich oszacowań i powrót do okna wyników"},
-                    {"cmdAnuluj", "Anuluj wszystko",
-                     "Anulowanie wszystkich obliczeń - powrót do okna wyników"}});
+    expectControls(*form, {{"Label9", "Gatunek stali blachy :"},
+                           {"Label10_0", "Przyjęto grubość blachy = ", governing},
+                           {"Label10_1", "mm "},
+                           {"cmdOK", "O&K - dopisz do wyników",
+                            "Dopisanie wszystkich oszacowań i powrót do okna wyników"},
+                           {"cmdAnuluj", "Anuluj wszystko",
+                            "Anulowanie wszystkich obliczeń - powrót do okna wyników"}});
     EXPECT_EQ(hand->the("Text4")->toolTip(), QString::fromUtf8(governing));
     EXPECT_EQ(hand->the("cmbStalb")->toolTip(), QStringLiteral("Wybierz gatunek  stali"));
     EXPECT_EQ(hand->the<QComboBox>("cmbStalb")->currentIndex(), -1);

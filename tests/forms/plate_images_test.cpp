@@ -1,7 +1,7 @@
 // The seven sketches of the plate section: each check has its own, under its own name.
+#include "pages/sketch_files.h"
 #include "plate/plate_form.h"
 #include "plate/plate_report_lines.h"
-#include "pages/sketch_files.h"
 #include "support/folder.h"
 #include "support/printing.h"
 
@@ -16,8 +16,7 @@ using namespace ferna::testing;
 
 namespace {
 
-const std::array names{"Szkic1",  "Szkic2",  "Szkic31", "Szkic32",
-                       "Szkic33", "Szkic51", "Szkic52"};
+const std::array names{"Szkic1", "Szkic2", "Szkic31", "Szkic32", "Szkic33", "Szkic51", "Szkic52"};
 
 QImage drawn(const QString& svg, QSize size) {
     QSvgRenderer sketch(svg);

@@ -1,7 +1,6 @@
 // What a name loses on its way into the report is said beside its field as it is typed.
-#include "support/main_form.h"
-
 #include "report/report_lines.h"
+#include "support/main_form.h"
 
 using namespace ferna;
 using namespace ferna::testing;

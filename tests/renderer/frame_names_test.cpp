@@ -1,13 +1,13 @@
 // What is said of a project's name beside its field against what the pages make of it.
 #include "design/typed_names.h"
 #include "pages/letter_widths.h"
+#include "pages/text_measure.h"
 #include "renderer/layout.h"
 #include "renderer/sample_report.h"
-#include "pages/text_measure.h"
-
-#include <gtest/gtest.h>
 
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 
@@ -39,8 +39,7 @@ TEST(FrameNames, LettersOfALongProjectNameAreAsSmallAsWasSaid) {
         sample.projectName = QStringLiteral("Rozbudowa hali nr 4 w Sączu ").repeated(repetitions);
         sample.line(85, QStringLiteral("wiersz"));
         Complaints complaints;
-        const Report report =
-            compose(readJob(sample.write(QStringLiteral("-2"), 1)), complaints);
+        const Report report = compose(readJob(sample.write(QStringLiteral("-2"), 1)), complaints);
         const auto& texts = report.pages.front().texts;
         const auto drawn = std::find_if(texts.begin(), texts.end(), [&](const Text& text) {
             return text.text == sample.projectName;

@@ -99,15 +99,14 @@ TEST_F(ZoneLines, TheHatchLinesAreThreePixelsWide) {
     const QImage hatched = sketch(2); // its lines end on the plate's upper edge
     double widest = 0;
     for (int y = 60; y < 180; ++y)
-        widest = qMax(widest,
-                      inkAcross(hatched, {315 + 270, y}, {0, 1}, 4, qRed) * 255 / (255 - 0x80));
+        widest =
+            qMax(widest, inkAcross(hatched, {315 + 270, y}, {0, 1}, 4, qRed) * 255 / (255 - 0x80));
     EXPECT_GT(widest, 2.5);
 }
 
 TEST_F(ZoneLines, AAndBStandAtThreeQuartersOfTheWayToTheirPoints) {
-    for (const auto& [letter, place] :
-         {std::pair{QStringLiteral("A"), QPointF(37.5, 150)},
-          std::pair{QStringLiteral("B"), QPointF(225, -37.5)}}) {
+    for (const auto& [letter, place] : {std::pair{QStringLiteral("A"), QPointF(37.5, 150)},
+                                        std::pair{QStringLiteral("B"), QPointF(225, -37.5)}}) {
         PictureBox expected(QSize(630, 420));
         expected.setScale({-315, 210}, {315, -210});
         expected.setColour(qb::LightRed);

@@ -2,12 +2,12 @@
 #include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "runtime/picture_box.h"
-#include "widgets/qt_dialogs.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
 #include "support/modal_answers.h"
 #include "support/printing.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QAction>
 #include <QTest>
@@ -33,7 +33,8 @@ protected:
         ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
         PictureBox(QSize(265, 176)).saveBitmap(folder.path(QStringLiteral("Ferrob.bmp")));
         auto session = std::make_unique<ResultsSession>(
-            base.stan, dialogs, path(), true, [this] { return now; }, [this] { runRenderer(path()); });
+            base.stan, dialogs, path(), true, [this] { return now; },
+            [this] { runRenderer(path()); });
         form = std::make_unique<FernaWyn>(
             base.stan, std::move(session),
             FernaWyn::Links{.plateForm = [this](QWidget*) { called += QStringLiteral("blacha "); },

@@ -4,9 +4,9 @@
 #include <QFont>
 #include <QFontInfo>
 
-#include <cstdio>
-
 #include <gtest/gtest.h>
+
+#include <cstdio>
 
 namespace {
 
