@@ -6,6 +6,8 @@
 #include "report/sketch_files.h"
 #include "report/zone_sketch.h"
 
+#include <cstdio>
+
 namespace ferna::batch {
 
 namespace {
@@ -26,7 +28,10 @@ public:
                              options_.pictures + QStringLiteral("/Ferrob.bmp"));
     }
 
+    int casesEnded() const { return casesEnded_; }
+
     void caseEnded(int c) override {
+        casesEnded_ = c;
         CaseTrace& trace = done_.traces.at(static_cast<std::size_t>(c));
         const Wyniki& results = done_.task.stan.wyniki;
         trace.firstLine = CInt(lastLine_ + 1);
@@ -41,7 +46,18 @@ private:
     ComputedTask& done_;
     const RunOptions& options_;
     Integer lastLine_ = 0;
+    int casesEnded_ = 0;
 };
+
+/// The load case that a run-time error stopped: that of its key, or the one under way.
+std::optional<int> caseOf(const RunTimeError& failure, int ended, const Stan& stan) {
+    int row = 0;
+    if (std::sscanf(failure.key().c_str(), "Przypadki[%d]", &row) == 1)
+        return row + 1;
+    if (!failure.key().empty() || stan.obciazenia.Nr_przyp != ended + 1)
+        return {};
+    return ended + 1;
+}
 
 /// Keeps the result of a section. False where a run-time error stopped it.
 bool keep(ComputedTask& done, const char* key, SectionResult&& result) {
@@ -103,7 +119,10 @@ ComputedTask run(Task task, const RunOptions& options) {
             runSections(done, options);
         }
     } catch (const RunTimeError& failure) {
-        done.failure = errorJson(failure);
+        const std::optional<int> stopped = caseOf(failure, host.casesEnded(), stan);
+        done.failure = errorJson(failure, stopped);
+        if (done.task.column && !failure.key().empty() && stopped == stan.obciazenia.Liczba_przyp)
+            done.failure["klucz"] = done.task.column->path; // its totals are the last case
         done.computed = false;
     }
     return done;

@@ -15,14 +15,29 @@ struct Refusal {
     QString title = programTitle;
 };
 
+/// Reads a field; an error of it knows the key of the field's value, `row` being that of the load
+/// table.
+template <typename Read>
+auto keyed(const char* key, const Read& read, int row = -1) {
+    try {
+        return read();
+    } catch (const RunTimeError& failure) {
+        throw failure.of(row < 0 ? key : "Przypadki[" + std::to_string(row) + "]." + key);
+    }
+}
+
+Single plateSide(const char* key, const QString& text) {
+    return keyed(key, [&] { return CSng(text); });
+}
+
 void requireAnchors(const Stan& stan) {
     if (stan.plyta.Liczba_srub == 0)
         throw Refusal{QStringLiteral("Musisz okreslić położenie i średnicę śrub kotwiących")};
 }
 
 void requireLengthAboveWidth(const InputFields& fields) {
-    const Single L = CSng(fields.Text3);
-    const Single B = CSng(fields.Text4);
+    const Single L = plateSide("Dlug_plyty_mm", fields.Text3);
+    const Single B = plateSide("Szer_plyty_mm", fields.Text4);
     if (B > L)
         throw Refusal{QStringLiteral("Długość płyty musi być większa od szerokości")};
 }
@@ -100,9 +115,16 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     Obciazenia& loads = stan.obciazenia;
     const auto row = static_cast<std::size_t>(c - 1);
     loads.Pierwsza_proba(c) = true;
+    // A load and what the configuration keeps of it.
+    const auto load = [&](auto& place, int kept, const char* key, const auto& texts) {
+        const auto read = [&] {
+            place = CSng(texts.at(row));
+            loads.Tablica_obc(kept)(c) = tenths(CSng(place));
+        };
+        keyed(key, read, c - 1);
+    };
 
-    loads.Sila_N(c) = CSng(fields.Text6.at(row));
-    loads.Tablica_obc(1)(c) = tenths(loads.Sila_N(c));
+    load(loads.Sila_N(c), 1, "N", fields.Text6);
     const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
@@ -111,19 +133,16 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
                       title};
-    loads.Sila_N_kG(c) = CSng(loads.Sila_N(c) * 1000.0 / Gravity);
+    loads.Sila_N_kG(c) = keyed(
+        "N", [&] { return CSng(loads.Sila_N(c) * 1000.0 / Gravity); }, c - 1);
 
-    const Single M1 = CSng(fields.Text7.at(row));
-    loads.Moment_M1(c) = M1;
-    loads.Tablica_obc(2)(c) = tenths(M1);
-    const Single M2 = CSng(fields.Text8.at(row));
-    loads.Moment_M2(c) = M2;
-    loads.Tablica_obc(3)(c) = tenths(M2);
-    loads.Sila_Vx(c) = CSng(fields.Text5.at(row));
-    loads.Tablica_obc(4)(c) = tenths(loads.Sila_Vx(c));
-    loads.Sila_Vy(c) = CSng(fields.Text10.at(row));
-    loads.Tablica_obc(5)(c) = tenths(loads.Sila_Vy(c));
-    loads.Klasa_znaku(c) = CInt(1 + (M2 < 0 ? 1 : 0) + (M1 < 0 ? 2 : 0));
+    load(loads.Moment_M1(c), 2, "M1", fields.Text7);
+    load(loads.Moment_M2(c), 3, "M2", fields.Text8);
+    load(loads.Sila_Vx(c), 4, "Vx", fields.Text5);
+    load(loads.Sila_Vy(c), 5, "Vy", fields.Text10);
+    const bool negativeM1 = loads.Moment_M1(c) < 0;
+    const bool negativeM2 = loads.Moment_M2(c) < 0;
+    loads.Klasa_znaku(c) = CInt(1 + (negativeM2 ? 1 : 0) + (negativeM1 ? 2 : 0));
 }
 
 /// A diameter off the series leaves the earlier area.
@@ -140,9 +159,9 @@ void prepare(Stan& stan, Stan_przypadku& przypadek, const InputFields& fields,
     requireLengthAboveWidth(fields);
     stan.opcje.Nazwa_projektu = oneLine(fields.txtNaz_proj);
     clearResults(stan);
-    stan.opcje.Nr_strony = CInt(fields.txtNr_strony);
+    stan.opcje.Nr_strony = keyed("Nr_strony", [&] { return CInt(fields.txtNr_strony); });
     stan.materialy.Nazwa_betonu = concreteName(stan.opcje);
-    stan.opcje.Wsp_n_val = CSng(fields.Text2);
+    stan.opcje.Wsp_n_val = keyed("Wsp_n_val", [&] { return CSng(fields.Text2); });
     przypadek.Dane_skorygowane = false;
     stan.plyta.Fi_max = largestDiameter(stan.plyta);
     if (fields.cmbStal >= 0)

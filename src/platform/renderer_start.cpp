@@ -2,6 +2,7 @@
 
 #include "platform/renderer_files.h"
 #include "runtime/format.h"
+#include "runtime/passing_folder.h"
 #include "runtime/text_file.h"
 
 #include <QCoreApplication>
@@ -91,6 +92,8 @@ void runRenderer(const QString& folder, const QStringList& options, const WaitOn
                                + QStringLiteral(" (program rysujący strony raportu)"));
     QProcess process;
     process.setWorkingDirectory(folder);
+    process.setChildProcessModifier(
+        [parent = QCoreApplication::applicationPid()] { endWithParent(parent); });
     process.start(renderer, QStringList(options)
                                 << QDir::toNativeSeparators(folder + u'/' + wyd::jobFile));
     if (!process.waitForStarted(-1))

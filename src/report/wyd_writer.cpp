@@ -86,7 +86,8 @@ void WydWriter::underlinedLine(const QString& text) {
 /// The line behind a picture record.
 void WydWriter::placed(const QString& name) {
     pictures_ += name;
-    file_.line(wyd::pathLine(folder_, name));
+    file_.line(wyd::pathLine(
+        folder_, pictureFolder_.isEmpty() ? name : QString(pictureFolder_ + u'/' + name)));
 }
 
 void WydWriter::picture(QLatin1String x, Single y, QStringView yPattern, QLatin1String size,

@@ -41,6 +41,11 @@ public:
 
     int number() const noexcept { return number_; }
     const QString& detail() const noexcept { return detail_; }
+    /// Which value of the task was at fault, by its key ("Przypadki[0].N"); empty where none is
+    /// known.
+    const std::string& key() const noexcept { return key_; }
+    /// The same error with the key of the value at fault, unless it has one already.
+    RunTimeError of(const std::string& key) const;
     /// Polish: the text of the number, and behind a colon the detail where there is one.
     QString text() const;
     const char* what() const noexcept override { return what_.c_str(); }
@@ -49,6 +54,7 @@ private:
     int number_;
     QString detail_;
     std::string what_;
+    std::string key_;
 };
 
 } // namespace ferna

@@ -128,8 +128,8 @@ QByteArray followed(const QByteArray& given) {
 
 void writeAll(int file, const QByteArray& bytes, const QByteArray& given) {
     for (qsizetype done = 0; done < bytes.size();) {
-        const ssize_t count = ::write(file, bytes.constData() + done,
-                                      static_cast<std::size_t>(bytes.size() - done));
+        const ssize_t count =
+            ::write(file, bytes.constData() + done, static_cast<std::size_t>(bytes.size() - done));
         if (count < 0 && errno != EINTR)
             fail(given);
         done += qMax<ssize_t>(count, 0);
@@ -159,8 +159,8 @@ void writeThrough(const QByteArray& path, const struct stat& info, const QByteAr
         refuse(given, error::PermissionDenied,
                QStringLiteral("to łącze innego użytkownika w folderze wspólnym"));
     // A pipe that nobody reads would be waited for without end.
-    Descriptor file(::open(path.constData(),
-                           O_WRONLY | O_APPEND | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
+    Descriptor file(
+        ::open(path.constData(), O_WRONLY | O_APPEND | O_NOCTTY | O_CLOEXEC | O_NONBLOCK));
     if (!file && errno == ENXIO)
         refuse(given, error::PathAccess, QStringLiteral("nikt nie czyta z tego łącza"));
     if (!file || ::fcntl(file.number(), F_SETFL, O_APPEND) != 0)

@@ -82,9 +82,9 @@ QByteArray readFileWhole(const QString& path, qsizetype most) {
             break;
         read += qMax<ssize_t>(count, 0);
         if (read > most)
-            throw RunTimeError(error::DeviceIO, QStringLiteral("%1 (plik ma ponad %2 MB)")
-                                                    .arg(native(path))
-                                                    .arg(most / megabyte));
+            throw RunTimeError(
+                error::DeviceIO,
+                QStringLiteral("%1 (plik ma ponad %2 MB)").arg(native(path)).arg(most / megabyte));
         if (read == bytes.size())
             bytes.resize(qMin(2 * read, most + 1));
     }

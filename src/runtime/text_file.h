@@ -35,7 +35,7 @@ private:
     QByteArray bytes_;
 };
 
-inline constexpr qsizetype megabyte = 1'000'000;      ///< bytes
+inline constexpr qsizetype megabyte = 1'000'000;          ///< bytes
 inline constexpr qsizetype largestFile = 1000 * megabyte; ///< that is read
 inline constexpr qsizetype largestTextFile = 32 * megabyte;
 

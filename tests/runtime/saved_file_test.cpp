@@ -258,8 +258,7 @@ TEST_F(SavedFile, APipeIsNotReadAsAFile) {
     ASSERT_TRUE(failure);
     EXPECT_EQ(failure->number(), error::PathAccess);
     EXPECT_TRUE(failure->text().contains(QStringLiteral("zwykły plik")));
-    EXPECT_EQ(errorNumberOf([] { readFileWhole(QStringLiteral("/dev/zero")); }),
-              error::PathAccess);
+    EXPECT_EQ(errorNumberOf([] { readFileWhole(QStringLiteral("/dev/zero")); }), error::PathAccess);
 }
 
 TEST_F(SavedFile, AFileBeyondItsLimitIsNotReadToTheEnd) {
