@@ -1,22 +1,23 @@
 #include "app/command_line.h"
 #include "design/configuration.h"
-#include "design/start_up.h"
+#include "desktop/forms/Help_window.h"
+#include "desktop/forms/damaged_file_box.h"
+#include "desktop/program_folder.h"
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
-#include "platform/forms/Help_window.h"
-#include "platform/program_folder.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
-#include "runtime/widgets/hourglass.h"
-#include "runtime/widgets/qt_dialogs.h"
+#include "runtime/passing_folder.h"
+#include "runtime/qt_remarks.h"
 #include "selection/forms/Dobor_fer.h"
+#include "widgets/hourglass.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QApplication>
 #include <QIcon>
 #include <QLockFile>
 #include <QMessageBox>
-#include <QPushButton>
 
 #include <cstdio>
 
@@ -24,38 +25,26 @@ namespace {
 
 using namespace ferna;
 
-/// Tells why the last task cannot be restored. True where the engineer wants the delivered
-/// settings.
-bool wantsDeliveredSettings(const RunTimeError& failure) {
-    QMessageBox box(
-        QMessageBox::Critical, programTitle,
-        QStringLiteral("Błąd wykonania '%1':\n%2").arg(failure.number()).arg(failure.text()));
+/// Tells that a program of another computer has the folder. True where the engineer knows better.
+bool wantsFolderOf(const FolderHolder& holder) {
+    QMessageBox box(QMessageBox::Warning, programTitle,
+                    QStringLiteral("Z folderu programu korzysta program na komputerze \"%1\" "
+                                   "(proces nr %2).")
+                        .arg(holder.host)
+                        .arg(holder.process));
     box.setTextFormat(Qt::PlainText);
     box.setInformativeText(
-        QStringLiteral("Program może zacząć pracę z ustawieniami początkowymi. Uszkodzony plik "
-                       "Ferna.cfg zostanie zachowany jako Ferna.cfg.uszkodzony."));
-    const QPushButton* const restore =
-        box.addButton(QStringLiteral("&Ustawienia początkowe"), QMessageBox::AcceptRole);
+        QStringLiteral("Dwa programy w jednym folderze mieszają sobie rysunki i numery stron. "
+                       "Przejmij folder tylko wtedy, gdy tamten program już nie działa.\n%1")
+            .arg(holder.lock));
+    const QPushButton* const take =
+        box.addButton(QStringLiteral("&Przejmij folder"), QMessageBox::AcceptRole);
     QPushButton* const end =
         box.addButton(QStringLiteral("&Zakończ program"), QMessageBox::RejectRole);
     box.setDefaultButton(end);
     box.setEscapeButton(end);
     box.exec();
-    return box.clickedButton() == restore;
-}
-
-/// Reads the last task; a configuration that cannot be read is told, and may be replaced.
-bool restoreLastTask(Stan& stan, const QString& folder) {
-    try {
-        startUp(stan, folder);
-        return true;
-    } catch (const RunTimeError& failure) {
-        if (!wantsDeliveredSettings(failure))
-            return false;
-    }
-    restoreDelivered(folder + QStringLiteral("/Ferna.cfg"), QStringLiteral(":/dane/Ferna.cfg"));
-    startUp(stan, folder);
-    return true;
+    return box.clickedButton() == take;
 }
 
 constexpr int helpContext = 100;
@@ -116,9 +105,9 @@ private:
 
 int runProgram() {
     const QString folder = enterProgramFolder();
-    const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
+    const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder, wantsFolderOf);
     Stan stan;
-    if (!restoreLastTask(stan, folder))
+    if (!restoreLastTask(stan, folder, QStringLiteral(":/dane"), wantsDeliveredFile))
         return 1;
     return Program(stan, folder).run();
 }
@@ -136,6 +125,7 @@ int main(int argc, char** argv) {
         arguments += QString::fromLocal8Bit(argv[i]);
     if (const auto answer = answerCall(arguments))
         return leave(*answer);
+    hushMissingRuntimeFolder();
     const QApplication application(argc, argv);
     if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
         return leave(*refusal);
@@ -145,6 +135,7 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("ferna"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/szkice/ferna.svg")));
     QApplication::setQuitOnLastWindowClosed(false);
+    const TidyEnd tidyEnd;
     try {
         return runProgram();
     } catch (const ferna::RunTimeError& failure) {

@@ -5,9 +5,10 @@
 #include "batch/task_input.h"
 #include "batch/task_run.h"
 #include "design/language.h"
-#include "platform/program_folder.h"
+#include "desktop/program_folder.h"
 #include "runtime/format.h"
 #include "runtime/passing_folder.h"
+#include "runtime/qt_remarks.h"
 #include "runtime/text_file.h"
 
 #include <QGuiApplication>
@@ -47,6 +48,12 @@ int refuse(const std::string& what) {
     return BadCall;
 }
 
+/// What is to be told beside a result; nothing where the text is empty.
+void remark(const QString& what) {
+    if (!what.isEmpty())
+        std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
+}
+
 std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
@@ -81,7 +88,7 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             writeFileWhole(options.result, result);
         if (done.reportReady)
             for (const QString& file : options.reports)
-                writeReport(done, file, runOptions.pictures, outputs);
+                remark(writeReport(done, file, runOptions.pictures, outputs));
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "
@@ -179,6 +186,7 @@ std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options&
     if (!anyNeedsPictures(options))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    hushMissingRuntimeFolder();
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

@@ -43,8 +43,8 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         QStringLiteral("raport"),
         QStringLiteral("Write the report, its format by the file's ending (%1); may be given "
                        "several times. The pages of an EMF or SVG report of several go into "
-                       "F-strona-1-z-3.svg and so on, the pictures of print commands into the "
-                       "folder F-rysunki beside them. No file is both read and written by a call.")
+                       "F-strona-1-z-3.svg and so on. No file is both read and written by a "
+                       "call.")
             .arg(reportEndings().join(QStringLiteral(", "))),
         QStringLiteral("FILE"));
     const QCommandLineOption result(

@@ -16,9 +16,8 @@ namespace {
 QString identityOf(const QString& file) {
     struct stat info {};
     if (::stat(QFile::encodeName(file).constData(), &info) == 0)
-        return S_ISREG(info.st_mode)
-                   ? QStringLiteral("%1:%2").arg(info.st_dev).arg(info.st_ino)
-                   : QString();
+        return S_ISREG(info.st_mode) ? QStringLiteral("%1:%2").arg(info.st_dev).arg(info.st_ino)
+                                     : QString();
     const QFileInfo absent(file);
     return absent.dir().canonicalPath() + u'/' + absent.fileName();
 }

@@ -1,11 +1,12 @@
 #include "batch/report_files.h"
 
-#include "platform/renderer_start.h"
+#include "batch/report_pictures.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_start.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"
 #include "report/wyd_writer.h"
-#include "runtime/codepage.h"
 #include "runtime/run_time_error.h"
 
 #include <QDir>
@@ -17,14 +18,6 @@ namespace ferna::batch {
 
 namespace {
 
-/// Name of the folder of a command file's pictures, in letters that the command file can hold.
-QString pictureFolderOf(const QString& file) {
-    return codepage::decoded(codepage::encoded(QFileInfo(file).completeBaseName()))
-               .value_or(QStringLiteral("raport"))
-               .replace(u'?', u'_')
-           + QStringLiteral("-rysunki");
-}
-
 /// Where a report goes.
 struct Destination {
     QString file;
@@ -32,32 +25,26 @@ struct Destination {
     OutputFiles& outputs;
 };
 
-void writeText(const ComputedTask& done, const Destination& to) {
+QString writeText(const ComputedTask& done, const Destination& to) {
     textReport(done.task.stan, done.raport).commit(to.file);
+    return {};
 }
 
-/// The print commands. Their pictures go into a folder of their own beside them: those of another
-/// report in the same folder have the same names.
-void writeCommands(const ComputedTask& done, const Destination& to) {
-    const QFileInfo file(to.file);
+/// The print commands; their pictures go into the same folder, under names of their own.
+QString writeCommands(const ComputedTask& done, const Destination& to) {
+    const QString folder = QFileInfo(to.file).absolutePath();
     Buduj_wyd(done.task.stan, done.raport, to.pictures); // saves the anchor's sketch too
-    const QString folder = file.absolutePath() + u'/' + pictureFolderOf(to.file);
-    if (!QDir().mkpath(folder))
-        throw RunTimeError(error::PathAccess, QDir::toNativeSeparators(folder));
-    WydWriter writer(done.task.stan, done.raport, file.absolutePath(), pictureFolderOf(to.file));
+    WydWriter writer(done.task.stan, done.raport, folder, picturePrefix(to.file));
     writer.body();
-    for (const QString& picture : writer.pictures()) {
-        const QString target = folder + u'/' + picture;
-        to.outputs.claim(target);
-        writeFileWhole(target, readFileWhole(to.pictures + u'/' + picture));
-    }
+    copyPictures(writer.pictures(), to.pictures, folder, picturePrefix(to.file));
     writer.file().commit(to.file);
+    return {};
 }
 
 /// Pages by the renderer, which is asked for them by `option`. It makes them in a folder of its
 /// own, so that every file of the call is written here.
 template <const char* option>
-void writePages(const ComputedTask& done, const Destination& to) {
+QString writePages(const ComputedTask& done, const Destination& to) {
     const QString stem = QStringLiteral("raport");
     const QString made = to.pictures + QStringLiteral("/strony");
     QDir(made).removeRecursively();
@@ -72,16 +59,33 @@ void writePages(const ComputedTask& done, const Destination& to) {
             to.outputs.claim(pageName(to.file, stem, page));
     for (const QString& page : pages)
         writeFileWhole(pageName(to.file, stem, page), readFileWhole(made + u'/' + page));
+    return {};
 }
 
-void writeRtf(const ComputedTask& done, const Destination& to) {
+/// The RTF report and the pictures that its text links to.
+QString writeRtf(const ComputedTask& done, const Destination& to) {
     Stan stan = done.task.stan; // the writer counts pages on
     Raport raport = done.raport;
-    saveRtfReport(stan, raport, done.now, to.file);
+    RtfWriter writer(stan, raport, done.now);
+    writer.document();
+    if (stan.raport.Liczba_wierszy_kotwy >= 1)
+        saveAnchorSketch(to.pictures, stan.raport.Typ_szkicu_kotwy);
+    const RtfPlace place = placeOfRtfPictures(to.file, writer.pictures(), to.pictures);
+    if (place.isOwn)
+        QDir().mkdir(place.pictures);
+    copyPictures(writer.pictures(), to.pictures, place.pictures);
+    writer.file().commit(to.file);
+    if (!place.isOwn)
+        return {};
+    writer.file().commit(place.copyOfReport);
+    return QStringLiteral("%1: the pictures beside it belong to another report; with its own "
+                          "pictures the report is %2")
+        .arg(QDir::toNativeSeparators(to.file), QDir::toNativeSeparators(place.copyOfReport));
 }
 
-void writeWordDocument(const ComputedTask& done, const Destination& to) {
+QString writeWordDocument(const ComputedTask& done, const Destination& to) {
     writeDocument(done.task.stan, done.raport, to.pictures, to.file);
+    return {};
 }
 
 constexpr char pdf[] = "--pdf";
@@ -91,12 +95,12 @@ constexpr char svg[] = "--svg";
 struct ReportFormat {
     const char* ending;
     bool pictures;
-    void (*write)(const ComputedTask& done, const Destination& to);
+    QString (*write)(const ComputedTask& done, const Destination& to);
 };
 
 // One row a format.
 constexpr std::array formats{
-    ReportFormat{".txt", false, writeText},        ReportFormat{".rtf", false, writeRtf},
+    ReportFormat{".txt", false, writeText},        ReportFormat{".rtf", true, writeRtf},
     ReportFormat{".wyd", true, writeCommands},     ReportFormat{".pdf", true, writePages<pdf>},
     ReportFormat{".emf", true, writePages<emf>},   ReportFormat{".svg", true, writePages<svg>},
     ReportFormat{".doc", true, writeWordDocument}, ReportFormat{".odt", true, writeWordDocument},
@@ -132,9 +136,9 @@ void deliverPictures(const QString& dataFolder, const QString& folder) {
         writeFileWhole(folder + u'/' + picture, readFileWhole(dataFolder + u'/' + picture));
 }
 
-void writeReport(const ComputedTask& done, const QString& file, const QString& pictures,
-                 OutputFiles& outputs) {
-    formatOf(file)->write(done, {file, pictures, outputs});
+QString writeReport(const ComputedTask& done, const QString& file, const QString& pictures,
+                    OutputFiles& outputs) {
+    return formatOf(file)->write(done, {file, pictures, outputs});
 }
 
 } // namespace ferna::batch

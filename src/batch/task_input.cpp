@@ -37,10 +37,9 @@ QByteArray readStream(int file, const QString& name) {
         if (count > 0)
             text.append(bytes, count);
         if (text.size() > static_cast<qsizetype>(longestTask))
-            throw RunTimeError(error::DeviceIO,
-                               QStringLiteral("%1 (a task has at most %2 bytes)")
-                                   .arg(name)
-                                   .arg(longestTask));
+            throw RunTimeError(
+                error::DeviceIO,
+                QStringLiteral("%1 (a task has at most %2 bytes)").arg(name).arg(longestTask));
         if (count < 0 && errno != EAGAIN && errno != EINTR)
             cannotRead(name, errno);
         pollfd waiting{file, POLLIN, 0};
@@ -60,8 +59,8 @@ QByteArray readTaskText(const QString& path) {
     const int file =
         ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
     struct stat info {};
-    const bool isStream = file >= 0 && ::fstat(file, &info) == 0
-                          && (S_ISFIFO(info.st_mode) || S_ISCHR(info.st_mode));
+    const bool isStream =
+        file >= 0 && ::fstat(file, &info) == 0 && (S_ISFIFO(info.st_mode) || S_ISCHR(info.st_mode));
     struct Closed {
         int file;
         ~Closed() { ::close(file); }

@@ -1,7 +1,7 @@
 #include "report/wyd_writer.h"
 
-#include "platform/renderer_files.h"
-#include "report/sketch_files.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_files.h"
 #include "report/zone_sketch.h"
 #include "runtime/format.h"
 
@@ -86,8 +86,7 @@ void WydWriter::underlinedLine(const QString& text) {
 /// The line behind a picture record.
 void WydWriter::placed(const QString& name) {
     pictures_ += name;
-    file_.line(wyd::pathLine(
-        folder_, pictureFolder_.isEmpty() ? name : QString(pictureFolder_ + u'/' + name)));
+    file_.line(wyd::pathLine(folder_, prefix_ + name));
 }
 
 void WydWriter::picture(QLatin1String x, Single y, QStringView yPattern, QLatin1String size,

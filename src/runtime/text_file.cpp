@@ -92,7 +92,7 @@ QByteArray readFileWhole(const QString& path, qsizetype most) {
     return bytes;
 }
 
-QStringList readLines(const QString& path) {
+QStringList readLines(const QString& path, TextFrom from) {
     QByteArray bytes = readFileWhole(path, largestTextFile);
     if (bytes.endsWith('\x1a')) // the end-of-file mark of old editors
         bytes.chop(1);
@@ -106,7 +106,7 @@ QStringList readLines(const QString& path) {
         if (line.endsWith('\r'))
             line.chop(1);
         const std::optional<QString> text = codepage::decoded(line);
-        if (!text)
+        if (!text || (from == TextFrom::Editor && codepage::looksLikeUtf8(line)))
             throw RunTimeError(error::DeviceIO,
                                QStringLiteral("%1, wiersz %2: to nie jest tekst w stronie kodowej "
                                               "1250")

@@ -9,10 +9,16 @@ namespace ferna {
 
 /// Text files of the program: code page 1250, lines ended by carriage return and line feed.
 
+/// Who wrote a text file last.
+enum class TextFrom {
+    Program, ///< taken as code page 1250, whatever else its bytes may mean
+    Editor,  ///< may have been saved in UTF-8, which is told rather than read as garbage
+};
+
 /// The lines of a file. A line feed alone ends a line too; a last line end starts no further line.
 /// Errors of `readFileWhole` for files up to `largestTextFile`, and 57 for what is no text in code
 /// page 1250: the detail names file and line.
-QStringList readLines(const QString& path);
+QStringList readLines(const QString& path, TextFrom from = TextFrom::Program);
 
 /// A name as it was typed or pasted, fit for one line of a file: a line break or another control
 /// character becomes a blank, several in a row one, and those at the ends go.

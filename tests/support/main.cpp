@@ -1,3 +1,5 @@
+#include "runtime/qt_remarks.h"
+
 #include <QGuiApplication>
 
 #include <gtest/gtest.h>
@@ -5,6 +7,7 @@
 // The core runs under QGuiApplication without widgets; a leak of widgets into it would not link.
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    ferna::hushMissingRuntimeFolder();
     const QGuiApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -12,11 +12,11 @@
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
 #include "runtime/format.h"
-#include "runtime/widgets/codepage_note.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
 #include "statics/forms/StatykaS.h"
 #include "ui_Ferna3.h"
+#include "widgets/codepage_note.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -43,8 +43,9 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
         stopTabAtTheChoice(group);
     showCodepageNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu);
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
-    for (QWidget* field : {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->cmbBeton),
-                           static_cast<QWidget*>(ui_->cmbStal)})
+    for (QWidget* field :
+         {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
+          static_cast<QWidget*>(ui_->cmbBeton), static_cast<QWidget*>(ui_->cmbStal)})
         field->installEventFilter(this);
     for (int tab = 0; tab < ui_->SSTab1->count(); ++tab) {
         auto* const shortcut =
@@ -178,6 +179,8 @@ void Ferna3::returnTo(QWidget* field) {
 void Ferna3::leave(QWidget* field) {
     if (field == ui_->Text1)
         leaveText1();
+    else if (field == ui_->Text2)
+        leaveRatio(ui_->Text2->text());
     else if (field == ui_->cmbBeton)
         leaveConcrete();
     else if (field == ui_->cmbStal)
@@ -266,15 +269,19 @@ void Ferna3::closeEvent(QCloseEvent* event) {
     QCoreApplication::exit(0);
 }
 
-// With a number of cases that cannot be taken the change of tab is abandoned.
+// With a number of cases or a ratio n that cannot be taken the change of tab is abandoned.
 void Ferna3::tabChanged() {
-    left_.removeAll(ui_->Text1); // taken here
+    QLineEdit* taken = ui_->Text1;
     try {
-        leaveText1();
+        for (QLineEdit* field : {ui_->Text1, ui_->Text2}) {
+            left_.removeAll(field); // taken here
+            taken = field;
+            leave(field);
+        }
     } catch (const RunTimeError&) {
         const QSignalBlocker quiet(ui_->SSTab1);
         ui_->SSTab1->setCurrentIndex(generalTab);
-        returnTo(ui_->Text1);
+        returnTo(taken);
         left_.clear();
         throw;
     }
