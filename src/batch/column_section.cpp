@@ -105,6 +105,7 @@ ColumnTask readColumnTask(const Json& value, const std::string& path) {
     if (!value.is_array())
         throw TaskError(path, "expected an array of loads");
     ColumnTask task;
+    task.path = path;
     for (std::size_t i = 0; i < value.size(); ++i)
         task.loads.push_back(readLoad(value[i], path + '[' + std::to_string(i) + ']'));
     return task;
@@ -115,12 +116,16 @@ SectionResult runColumnTask(const ColumnTask& task, Stan& stan, InputFields& fie
     StaticsForm form = openStatics(loads);
     FieldTable table(fields);
     SectionResult result;
+    std::string at; // what is being done
     try {
-        for (const ColumnTask::Load& load : task.loads)
-            declare(load, loads, form);
+        for (std::size_t i = 0; i < task.loads.size(); ++i) {
+            at = task.path + '[' + std::to_string(i) + ']';
+            declare(task.loads[i], loads, form);
+        }
+        at = task.path;
         saveTotals(stan, form.Text1, table);
     } catch (const RunTimeError& failure) {
-        result.Blad = errorJson(failure);
+        result.Blad = errorJson(failure.of(at));
     }
     result.value = resultJson(form);
     return result;

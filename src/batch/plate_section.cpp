@@ -127,6 +127,7 @@ PlateTask readPlateTask(const Json& value, const std::string& path) {
         {"Nr_stali_blachy", "Blacha_nazwa", "Blacha_fd", "Blacha_t_max", "Grubosc", "Sprawdzenia"});
     const QString zero = QStringLiteral("0");
     PlateTask task;
+    task.path = path;
     task.cmbStalb = object.listNumber("Nr_stali_blachy", 1, userPlateSteel).value_or(0) - 1;
     task.steel = {object.text("Blacha_nazwa"),
                   {object.fieldText("Blacha_fd").value_or(zero),
@@ -146,6 +147,7 @@ PlateTask readPlateTask(const Json& value, const std::string& path) {
 PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dialogs) {
     PlateSectionResult result;
     PlateForm form;
+    std::string at = task.path; // what is being done
     TypedPlateSteel host(task.steel, dialogs);
     const PlateWork work{stan, form, dialogs, host};
     try {
@@ -153,13 +155,15 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
         form.fields.cmbStalb = task.cmbStalb;
         leaveGradeList(stan, form, dialogs, host);
         for (const PlateTask::Check& check : task.checks) {
+            at = task.path + ".Sprawdzenia." + std::to_string(check.check);
             check.type(form.fields);
             computePlateCheck(work, check.check);
         }
+        at = task.path + ".Grubosc";
         form.fields.Text4 = task.Grubosc.value_or(form.fields.Text4);
         result.section = writePlateSection(stan, form, dialogs);
     } catch (const RunTimeError& failure) {
-        result.Blad = errorJson(failure);
+        result.Blad = errorJson(failure.of(at));
     }
     result.value = resultJson(stan, form);
     return result;

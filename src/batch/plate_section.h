@@ -16,6 +16,7 @@ struct PlateTask {
         int check; ///< 1..8
         std::function<void(PlateFields&)> type;
     };
+    std::string path; ///< key of the section
     int cmbStalb = -1;
     PlateSteelFields steel; ///< typed into the dialog of the user's plate steel
     std::vector<Check> checks;

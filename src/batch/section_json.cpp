@@ -8,9 +8,16 @@
 
 namespace ferna::batch {
 
-Json errorJson(const RunTimeError& failure) {
-    return {{"numer", failure.number()},
-            {"tekst", errorTextEnglish(failure.number()).toStdString()}};
+Json errorJson(const RunTimeError& failure, std::optional<int> przypadek) {
+    Json error{{"numer", failure.number()},
+               {"tekst", errorTextEnglish(failure.number()).toStdString()}};
+    if (!failure.key().empty())
+        error["klucz"] = failure.key();
+    if (przypadek)
+        error["przypadek"] = *przypadek;
+    if (!failure.detail().isEmpty())
+        error["szczegol"] = failure.detail().toStdString();
+    return error;
 }
 
 TaskObject::TaskObject(const Json& value, std::string path, std::initializer_list<const char*> keys)

@@ -15,8 +15,9 @@ struct SectionResult {
     Json Blad;
 };
 
-/// {"numer", "tekst"} with the English text.
-Json errorJson(const RunTimeError& failure);
+/// {"numer", "tekst"} with the English text; where they are known also "klucz": the key of the
+/// value at fault, "przypadek": the load case, from 1, "szczegol": what was met.
+Json errorJson(const RunTimeError& failure, std::optional<int> przypadek = {});
 
 /// One JSON object of a section, whose values are texts of the section's form. Its keys are known
 /// beforehand. Every function throws TaskError where the JSON is not as it asks.

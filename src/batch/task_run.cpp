@@ -1,10 +1,13 @@
 #include "batch/task_run.h"
 
+#include "batch/field_keys.h"
 #include "command/calculation.h"
 #include "design/language.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
+
+#include <cstdio>
 
 namespace ferna::batch {
 
@@ -26,7 +29,10 @@ public:
                              options_.pictures + QStringLiteral("/Ferrob.bmp"));
     }
 
+    int casesEnded() const { return casesEnded_; }
+
     void caseEnded(int c) override {
+        casesEnded_ = c;
         CaseTrace& trace = done_.traces.at(static_cast<std::size_t>(c));
         const Wyniki& results = done_.task.stan.wyniki;
         trace.firstLine = CInt(lastLine_ + 1);
@@ -41,7 +47,18 @@ private:
     ComputedTask& done_;
     const RunOptions& options_;
     Integer lastLine_ = 0;
+    int casesEnded_ = 0;
 };
+
+/// The load case that a run-time error stopped: that of its key, or the one under way.
+std::optional<int> caseOf(const RunTimeError& failure, int ended, const Stan& stan) {
+    int row = 0;
+    if (std::sscanf(failure.key().c_str(), "Przypadki[%d]", &row) == 1)
+        return row + 1;
+    if (!failure.key().empty() || stan.obciazenia.Nr_przyp != ended + 1)
+        return {};
+    return ended + 1;
+}
 
 /// Keeps the result of a section. False where a run-time error stopped it.
 bool keep(ComputedTask& done, const char* key, SectionResult&& result) {
@@ -105,8 +122,12 @@ ComputedTask run(Task task, const RunOptions& options) {
             prepareReport(done, options);
             runSections(done, options);
         }
-    } catch (const RunTimeError& failure) {
-        done.failure = errorJson(failure);
+    } catch (const RunTimeError& raised) {
+        const RunTimeError failure = raised.of(keyOfControl(raised.control()));
+        const std::optional<int> stopped = caseOf(failure, host.casesEnded(), stan);
+        done.failure = errorJson(failure, stopped);
+        if (done.task.column && !failure.key().empty() && stopped == stan.obciazenia.Liczba_przyp)
+            done.failure["klucz"] = done.task.column->path; // its totals are the last case
         done.computed = false;
     }
     return done;

@@ -3,7 +3,6 @@
 #include "pages/emf_writer.h"
 #include "pages/metafile.h"
 #include "protocol/renderer_news.h"
-#include "renderer/emf_writer.h"
 #include "renderer/news.h"
 #include "renderer/own_window.h"
 #include "renderer/printing.h"

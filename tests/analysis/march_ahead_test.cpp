@@ -2,6 +2,7 @@
 #include "analysis/march_ahead.h"
 #include "analysis/search.h"
 #include "support/golden.h"
+#include "support/places.h"
 #include "support/random_tasks.h"
 
 #include <gtest/gtest.h>
@@ -150,7 +151,7 @@ std::uint64_t fingerprint(std::uint64_t number) {
 // Among the tasks are marches that stand still for a million evaluations (3, 14) and searches that
 // go round (179, 1001).
 TEST(LookingAhead, ChangesNoBitOfAnyResult) {
-    std::ifstream file(FERNA_GOLDEN_DIR "/search.fingerprints.txt");
+    std::ifstream file(places::golden("/search.fingerprints.txt").toStdString());
     std::uint64_t number = 0;
     std::uint64_t expected = 0;
     int tasks = 0;

@@ -1,6 +1,7 @@
 #include "batch/task_run.h"
 #include "runtime/format.h"
 #include "support/decimal_comma.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -212,8 +213,7 @@ TEST_F(Tasks, TheLineOfAKeyIsFound) {
 
 struct Runs : ::testing::Test {
     WithDecimalSign comma{u','};
-    RunOptions options{
-        {}, QStringLiteral(FERNA_DATA_DIR), QDateTime(QDate(2026, 3, 1), QTime(12, 30), Qt::UTC)};
+    RunOptions options{{}, places::data(), QDateTime(QDate(2026, 3, 1), QTime(12, 30), Qt::UTC)};
     Json task = smallestTask();
 
     Json result() { return resultOf(run(readTask(task), options)); }
