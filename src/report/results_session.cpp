@@ -1,6 +1,7 @@
 #include "report/results_session.h"
 
 #include "design/configuration.h"
+#include "design/typed_names.h"
 #include "protocol/renderer_files.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
@@ -71,8 +72,9 @@ void ResultsSession::askPageNumber() {
 }
 
 void ResultsSession::askProjectName() {
-    stan_.opcje.Nazwa_projektu = oneLine(dialogs_.input(QStringLiteral("Podaj nazwe projektu"),
-                                                        programTitle, stan_.opcje.Nazwa_projektu));
+    stan_.opcje.Nazwa_projektu =
+        oneLine(dialogs_.input(QStringLiteral("Podaj nazwe projektu"), programTitle,
+                               stan_.opcje.Nazwa_projektu, std::nullopt, projectNote));
 }
 
 void ResultsSession::retitle() {

@@ -1,5 +1,6 @@
 #include "widgets/qt_dialogs.h"
 
+#include "design/typed_names.h"
 #include "widgets/codepage_note.h"
 #include "widgets/number_field.h"
 #include "widgets/save_question.h"
@@ -66,7 +67,7 @@ bool QtDialogs::confirm(const QString& text, const QString& title) {
 }
 
 QString QtDialogs::input(const QString& prompt, const QString& title, const QString& preset,
-                         std::optional<QPoint> position) {
+                         std::optional<QPoint> position, const NoteOf& noteOf) {
     QDialog box(owner());
     box.setObjectName(QStringLiteral("inputBox"));
     box.setWindowTitle(title);
@@ -77,7 +78,7 @@ QString QtDialogs::input(const QString& prompt, const QString& title, const QStr
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(text);
     auto* const note = new QLabel;
-    showCodepageNote(text, note);
+    showNote(text, note, noteOf ? noteOf : lettersNote);
     auto* const buttons = new QDialogButtonBox;
     buttons->addButton(QStringLiteral("OK"), QDialogButtonBox::AcceptRole)->setDefault(true);
     buttons->addButton(QStringLiteral("&Anuluj"), QDialogButtonBox::RejectRole);

@@ -1,5 +1,6 @@
 #include "widgets/steel_dialog.h"
 
+#include "design/typed_names.h"
 #include "widgets/codepage_note.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
@@ -17,7 +18,7 @@ void SteelDialog::wire(QLineEdit* name, QLabel* note, QList<QLineEdit*> numbers,
     for (QLineEdit* field : std::as_const(numbers_))
         allowOnlyNumbers(field);
     keepTablesOut(this, {name});
-    showCodepageNote(name, note);
+    showNote(name, note, steelNote);
     keepRoomForNote(note);
     connect(ok, &QPushButton::clicked, this, &SteelDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &SteelDialog::reject);

@@ -4,6 +4,7 @@
 #include "design/language.h"
 #include "design/material_tables.h"
 #include "design/start_up.h"
+#include "design/typed_names.h"
 #include "input/forms/FernaPon.h"
 #include "input/forms/Fernafi.h"
 #include "input/forms/KGM8.h"
@@ -42,7 +43,7 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     collectFields();
     for (QGroupBox* group : findChildren<QGroupBox*>())
         stopTabAtTheChoice(group);
-    showCodepageNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu);
+    showNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu, projectNote);
     keepRoomForNote(ui_->lblZnaki_projektu);
     showAsWarning(ui_->lblLista_nieaktualna, true);
     keepTablesOut(this, {ui_->txtNaz_proj});
