@@ -12,9 +12,9 @@
 #include "runtime/passing_folder.h"
 #include "runtime/qt_remarks.h"
 #include "selection/forms/Dobor_fer.h"
-#include "widgets/application.h"
 #include "widgets/hourglass.h"
 #include "widgets/qt_dialogs.h"
+#include "windows/application.h"
 
 #include <QApplication>
 #include <QLockFile>
