@@ -36,6 +36,7 @@ void clearResults(Stan& stan) {
     results.Sila_kotwy_max = 0;
     results.Nr_kotwy_max = 0;
     results.Nr_wiersza = 0;
+    results.outcomes.fill(CaseOutcome::NotComputed);
     results.Kotwy_OK = True;
     results.Beton_OK = true;
     stan.raport.Liczba_wierszy_kotwy = 0;
