@@ -148,12 +148,16 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
     PlateForm form;
     TypedPlateSteel host(task.steel, dialogs);
     const PlateWork work{stan, form, dialogs, host};
+    std::array<bool, PlateChecks> asked{}; // and not run yet
+    for (const PlateTask::Check& check : task.checks)
+        asked.at(static_cast<std::size_t>(check.check - 1)) = true;
     try {
         form = openPlateForm(stan);
         form.fields.cmbStalb = task.cmbStalb;
         leaveGradeList(stan, form, dialogs, host);
         for (const PlateTask::Check& check : task.checks) {
             check.type(form.fields);
+            asked.at(static_cast<std::size_t>(check.check - 1)) = false;
             computePlateCheck(work, check.check);
         }
         form.fields.Text4 = task.Grubosc.value_or(form.fields.Text4);
@@ -161,6 +165,9 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
     } catch (const RunTimeError& failure) {
         result.Blad = errorJson(failure);
     }
+    for (std::size_t i = 0; i < asked.size(); ++i)
+        form.refused[i] = form.refused[i] || asked[i];
+    result.facts = notes::plateFacts(stan, form, result.section.has_value());
     result.value = resultJson(stan, form);
     return result;
 }

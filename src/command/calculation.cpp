@@ -14,6 +14,7 @@ namespace {
 struct Refusal {
     QString text;
     QString title = programTitle;
+    int loadCase = 0; ///< that was refused for its axial force
 };
 
 void requireAnchors(const Stan& stan) {
@@ -108,11 +109,11 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
-                      title};
+                      title, c};
     if (loads.Sila_N(c) == 0)
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
-                      title};
+                      title, c};
     loads.Sila_N_kG(c) = forceInKilograms(loads.Sila_N(c));
 
     const Single M1 = CSng(fields.Text7.at(row));
@@ -166,6 +167,8 @@ CalculationEnd Oblicz(Stan& stan, Stan_przypadku& przypadek, const InputFields& 
     try {
         prepare(stan, przypadek, fields, host);
     } catch (const Refusal& refusal) {
+        if (refusal.loadCase != 0)
+            host.caseRefused(refusal.loadCase);
         dialogs.message(refusal.text, refusal.title, MessageStyle::Stop);
         return CalculationEnd::Refused;
     }
