@@ -1,9 +1,11 @@
+#include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/report_files.h"
 #include "batch/task_run.h"
 #include "desktop/program_folder.h"
 #include "runtime/format.h"
+#include "runtime/qt_remarks.h"
 #include "runtime/text_file.h"
 
 #include <QGuiApplication>
@@ -68,6 +70,9 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             print(result.toStdString());
         else
             writeFileWhole(options.result, result);
+        if (done.reportReady && !options.reports.isEmpty())
+            for (const QString& what : nameRemarks(done.task))
+                remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures));
@@ -134,6 +139,7 @@ std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options&
     if (std::none_of(options.reports.begin(), options.reports.end(), needsPictures))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    hushMissingRuntimeFolder();
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

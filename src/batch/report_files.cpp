@@ -1,8 +1,8 @@
 #include "batch/report_files.h"
 
+#include "batch/report_pictures.h"
 #include "pages/sketch_files.h"
 #include "protocol/renderer_start.h"
-#include "batch/report_pictures.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"

@@ -39,8 +39,8 @@ QString picturePrefix(const QString& file) {
 RtfPlace placeOfRtfPictures(const QString& file, const QStringList& pictures, const QString& made) {
     const QFileInfo report(file);
     const QString beside = report.absolutePath();
-    const QString own = report.absoluteDir().filePath(report.completeBaseName()
-                                                      + QStringLiteral("-rysunki"));
+    const QString own =
+        report.absoluteDir().filePath(report.completeBaseName() + QStringLiteral("-rysunki"));
     const auto isFree = [&](const QString& picture) {
         return isFreeFor(beside + u'/' + picture, readFileWhole(made + u'/' + picture));
     };

@@ -135,9 +135,8 @@ void Zapisz_cfg(Stan& stan, const QString& path, const QString& replyPath) {
     file.line(task.Nazwa_projektu);
     file.line(ZoneLine().number(task.Nr_betonu).text(u"Nrbetonu"));
     file.line(ZoneLine().number(task.Nr_stali).text(u"Nrstali"));
-    file.line(ZoneLine()
-                  .number(task.Tryb_wsp_n)
-                  .text(Format(hundredths(task.Wsp_n_val), u"#######")));
+    file.line(
+        ZoneLine().number(task.Tryb_wsp_n).text(Format(hundredths(task.Wsp_n_val), u"#######")));
     file.line(ZoneLine().number(task.Nr_jezyka).text(u"Jezyk 0-PL 1-P2 2-GB 3-FR 4-DE"));
     for (int c = 1; c <= MaxCases; ++c)
         file.line(loadLine(stan.obciazenia, c));

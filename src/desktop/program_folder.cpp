@@ -43,6 +43,7 @@ QString enterProgramFolder(const QString& beside, const QString& delivered, cons
             throw RunTimeError(error::PathNotFound, folder);
         bringDeliveredFiles(delivered, folder);
     }
+    removeLeftSavings(folder);
     QDir::setCurrent(folder);
     return folder;
 }

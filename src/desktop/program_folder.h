@@ -15,7 +15,8 @@ QString deliveredDataFolder();
 
 /// The program folder: that of the executable where it can be written and holds the delivered data;
 /// otherwise the user's data folder, which `bringDeliveredFiles` fills and keeps up to date.
-/// Becomes the current folder. Errors 76 and those of `readFileWhole` and `writeFileWhole`.
+/// What a killed program has left of its savings goes. Becomes the current folder. Errors 76 and
+/// those of `readFileWhole` and `writeFileWhole`.
 QString enterProgramFolder();
 
 /// The same for given folders: `beside` that of the executable, `delivered` the data, `own` the

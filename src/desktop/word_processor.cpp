@@ -17,6 +17,22 @@ void noWordProcessor(const QString& reason) {
                                             "libreoffice-writer-nogui)"));
 }
 
+namespace {
+
+/// A program that was built without the word processor's development files has no module; the word
+/// processor itself may well be there.
+[[noreturn]] void noModule(const QString& module) {
+    throw RunTimeError(error::NoObject,
+                       QStringLiteral("brak modułu zapisu dokumentów ")
+                           + QDir::toNativeSeparators(module)
+                           + QStringLiteral(" (program zbudowany ze źródeł: trzeba zainstalować "
+                                            "pakiet libreoffice-dev i zbudować program od nowa; "
+                                            "program z pakietu: zainstalować pakiet ferna "
+                                            "ponownie)"));
+}
+
+} // namespace
+
 QString wordProcessorModule() {
     const QDir beside(QCoreApplication::applicationDirPath());
     const QString name = QStringLiteral("libferna_writer.so");
@@ -28,7 +44,7 @@ QString wordProcessorModule() {
 std::unique_ptr<WordProcessor> openWordProcessor(const WordProcessorPlace& place) {
     const QString module = place.module.isEmpty() ? wordProcessorModule() : place.module;
     if (!QFileInfo::exists(module))
-        noWordProcessor(QStringLiteral("brak modułu ") + QDir::toNativeSeparators(module));
+        noModule(module);
     QLibrary library(module);
     // The word processor's libraries cannot be unloaded, not even at the end of the program.
     library.setLoadHints(QLibrary::PreventUnloadHint);

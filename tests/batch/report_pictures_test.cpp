@@ -1,9 +1,9 @@
 // Reports that show their pictures by the names of files, several in one folder.
 #include "batch/report_pictures.h"
-
 #include "renderer/program_run.h"
 #include "runtime/codepage.h"
 #include "support/folder.h"
+#include "support/printing.h"
 
 #include <QRegularExpression>
 
@@ -37,7 +37,11 @@ protected:
                                        {QStringLiteral("--raport"), folder.path(file),
                                         tasks.write(QStringLiteral("t.json"), task)});
         EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString() << run.output.toStdString();
-        return run.errors;
+        QStringList told; // by the program; the toolkit has words of its own on some machines
+        for (const QString& line : run.errors.split(u'\n'))
+            if (line.startsWith(u"ferna-wsad: "))
+                told += line;
+        return told.join(u'\n');
     }
 
     /// The pictures that a report names, without their folder.
@@ -95,13 +99,12 @@ TEST_F(Reports, AnRtfReportOfAnotherPlateLeavesThePicturesOfTheFirstAlone) {
     const QByteArray plateOfA = folder.read(QStringLiteral("Ferrob.bmp"));
     const QString told = report(taskOf(900), QStringLiteral("b.rtf"));
     EXPECT_EQ(told, QStringLiteral("ferna-wsad: %1: the pictures beside it belong to another "
-                                   "report; with its own pictures the report is %2\n")
+                                   "report; with its own pictures the report is %2")
                         .arg(folder.path(QStringLiteral("b.rtf")),
                              folder.path(QStringLiteral("b-rysunki/b.rtf"))));
     EXPECT_EQ(folder.read(QStringLiteral("Ferrob.bmp")), plateOfA);
     EXPECT_NE(folder.read(QStringLiteral("b-rysunki/Ferrob.bmp")), plateOfA);
-    EXPECT_EQ(folder.read(QStringLiteral("b-rysunki/b.rtf")),
-              folder.read(QStringLiteral("b.rtf")));
+    EXPECT_EQ(folder.read(QStringLiteral("b-rysunki/b.rtf")), folder.read(QStringLiteral("b.rtf")));
     for (const QString& picture : named(QStringLiteral("b.rtf")))
         EXPECT_TRUE(has(QStringLiteral("b-rysunki/") + picture)) << picture.toStdString();
     // and so at every later run of either

@@ -1,6 +1,5 @@
-#include "desktop/last_task.h"
-
 #include "design/language.h"
+#include "desktop/last_task.h"
 #include "runtime/text_file.h"
 #include "support/folder.h"
 #include "support/run_time_errors.h"

@@ -106,6 +106,24 @@ auto guarded(const Call& call) {
     }
 }
 
+/// Where the office is installed without its Writer, there is no document.
+Reference<text::XTextDocument> emptyTextDocument(const Reference<frame::XDesktop2>& desktop) {
+    QString why;
+    try {
+        const Reference<text::XTextDocument> document(
+            desktop->loadComponentFromURL(OUString("private:factory/swriter"), OUString("_blank"),
+                                          0, property("Hidden", Any(true))),
+            uno::UNO_QUERY);
+        if (document.is())
+            return document;
+    } catch (const lang::DisposedException&) {
+        throw;
+    } catch (const uno::Exception& failure) {
+        why = QStringLiteral(": ") + words(failure.Message);
+    }
+    noWordProcessor(QStringLiteral("LibreOffice nie otwiera dokumentu tekstowego") + why);
+}
+
 Reference<uno::XComponentContext> localContext() {
     // Without the office's own types the first call of the bridge fails.
     rtl::Bootstrap::set(OUString("URE_MORE_TYPES"),
@@ -270,10 +288,7 @@ void UnoDocument::add() {
     guarded([this] {
         if (!uno_->desktop.is())
             ended();
-        uno_->document.set(uno_->desktop->loadComponentFromURL(OUString("private:factory/swriter"),
-                                                               OUString("_blank"), 0,
-                                                               property("Hidden", Any(true))),
-                           UNO_QUERY_THROW);
+        uno_->document = emptyTextDocument(uno_->desktop);
         setUpPages(uno_->document);
     });
 }
