@@ -139,6 +139,10 @@ bool Poza_rdzeniem(const Stan& stan, Stan_przypadku& s) {
 void Oblicz_przypadek(Stan& stan, Stan_przypadku& s, bool optHsruby_0, Dialogs& dialogs) {
     stan.opcje.Hsily_wszystkie = optHsruby_0 ? 0 : 1;
     requirePlateSize(stan.plyta);
+    CaseOutcome& outcome = stan.wyniki.outcomes(stan.obciazenia.Nr_przyp);
+    outcome = CaseOutcome::Failed; // until the case has come to its end
+    const bool gaveUpBefore = s.Przerwij_obliczenia;
+    CaseOutcome found = CaseOutcome::Found;
     bool fromTheInput = true; // a scaled moment must survive, a moved anchor begins anew
     for (;;) {
         if (fromTheInput) {
@@ -149,6 +153,7 @@ void Oblicz_przypadek(Stan& stan, Stan_przypadku& s, bool optHsruby_0, Dialogs& 
         if (!Poza_rdzeniem(stan, s)) {
             Wyniki_calej_plyty(stan, s);
             Sprawdz_beton_i_sily_poziome(stan, s);
+            outcome = CaseOutcome::WholePlate;
             return;
         }
         const bool noM1 = stan.obciazenia.Moment_M1_kGcm == 0;
@@ -158,19 +163,31 @@ void Oblicz_przypadek(Stan& stan, Stan_przypadku& s, bool optHsruby_0, Dialogs& 
                 dialogs.message(
                     QStringLiteral("Wypadkowa sil kotwiacych musi leżeć w płaszczyznie momentu"),
                     QStringLiteral("KOTWY"), MessageStyle::Plain);
+                outcome = CaseOutcome::OutOfPlane;
                 return;
             }
             Sprawdz_beton_i_sily_poziome(stan, s);
+            outcome = CaseOutcome::OneMoment;
             return;
         }
-        if (!search(stan, s, dialogs))
+        const bool movedBefore = s.Dane_skorygowane;
+        if (!search(stan, s, dialogs)) {
+            outcome = gaveUpBefore              ? CaseOutcome::PassedOver
+                      : s.Przerwij_obliczenia ? CaseOutcome::GaveUp
+                                                : CaseOutcome::NoStart;
             return;
+        }
         if (s.Jest_rozw)
             break;
         fromTheInput = s.Dane_skorygowane;
+        if (s.Dane_skorygowane != movedBefore)
+            found = CaseOutcome::FoundWithMovedAnchor;
+        else if (!fromTheInput)
+            found = CaseOutcome::FoundWithRaisedMoment;
     }
     Wyniki_linii_obojetnej(stan, s);
     Sprawdz_beton_i_sily_poziome(stan, s);
+    outcome = found;
 }
 
 } // namespace ferna

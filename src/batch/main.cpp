@@ -55,6 +55,12 @@ void remark(const QString& what) {
         std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
 }
 
+/// What is doubtful about a task, a line each.
+void tellNotes(const ComputedTask& done) {
+    for (const notes::Note& note : notes::notesOf(done.record))
+        remark(QStringLiteral("uwaga: ") + note.text);
+}
+
 std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
@@ -93,6 +99,7 @@ int runOne(const Options& options, const RunOptions& runOptions) {
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures, outputs));
+        tellNotes(done);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "

@@ -150,6 +150,9 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
     std::string at = task.path; // what is being done
     TypedPlateSteel host(task.steel, dialogs);
     const PlateWork work{stan, form, dialogs, host};
+    std::array<bool, PlateChecks> asked{}; // and not run yet
+    for (const PlateTask::Check& check : task.checks)
+        asked.at(static_cast<std::size_t>(check.check - 1)) = true;
     try {
         form = openPlateForm(stan);
         form.fields.cmbStalb = task.cmbStalb;
@@ -157,6 +160,7 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
         for (const PlateTask::Check& check : task.checks) {
             at = task.path + ".Sprawdzenia." + std::to_string(check.check);
             check.type(form.fields);
+            asked.at(static_cast<std::size_t>(check.check - 1)) = false;
             computePlateCheck(work, check.check);
         }
         at = task.path + ".Grubosc";
@@ -165,6 +169,9 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
     } catch (const RunTimeError& failure) {
         result.Blad = errorJson(failure.of(at));
     }
+    for (std::size_t i = 0; i < asked.size(); ++i)
+        form.refused[i] = form.refused[i] || asked[i];
+    result.facts = notes::plateFacts(stan, form, result.section.has_value());
     result.value = resultJson(stan, form);
     return result;
 }

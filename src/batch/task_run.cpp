@@ -41,7 +41,10 @@ public:
         trace.Beta = done_.solver.Beta;
         trace.C_linii = done_.solver.C_linii;
         trace.Wsp_k = done_.solver.Wsp_k;
+        done_.record.caseEnded(done_.task.stan, c);
     }
+
+    void caseRefused(int c) override { done_.record.caseRefused(done_.task.stan, c); }
 
 private:
     ComputedTask& done_;
@@ -72,6 +75,7 @@ void runSections(ComputedTask& done, const RunOptions& options) {
     Stan& stan = done.task.stan;
     if (done.task.plate) {
         PlateSectionResult result = runPlateTask(*done.task.plate, stan, done.dialogs);
+        done.record.plateWorked(result.facts);
         if (result.section && !options.pictures.isEmpty())
             for (const PlateSketch& sketch : result.section->sketches)
                 savePlateSketch(options.pictures, sketch.image, QString::fromLatin1(sketch.file));
@@ -112,6 +116,7 @@ ComputedTask run(Task task, const RunOptions& options) {
         !done.task.column
         || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));
     done.equilibria = enteredEquilibria(stan, done.task.fields);
+    done.record.begin(notes::entered(stan, done.task.fields, done.equilibria));
     if (!columnKept)
         return done;
     HeadlessHost host(done, options);

@@ -14,6 +14,7 @@ namespace {
 struct Refusal {
     QString text;
     QString title = programTitle;
+    int loadCase = 0; ///< that was refused for its axial force
 };
 
 Single number(const QString& text, const QString& control) {
@@ -40,6 +41,7 @@ void clearResults(Stan& stan) {
     results.Sila_kotwy_max = 0;
     results.Nr_kotwy_max = 0;
     results.Nr_wiersza = 0;
+    results.outcomes.fill(CaseOutcome::NotComputed);
     results.Kotwy_OK = True;
     results.Beton_OK = true;
     stan.raport.Liczba_wierszy_kotwy = 0;
@@ -117,11 +119,11 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
-                      title};
+                      title, c};
     if (loads.Sila_N(c) == 0)
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
-                      title};
+                      title, c};
     loads.Sila_N_kG(c) = inControl(QStringLiteral("Text6_%1").arg(row),
                                    [&] { return forceInKilograms(loads.Sila_N(c)); });
 
@@ -173,6 +175,8 @@ CalculationEnd Oblicz(Stan& stan, Stan_przypadku& przypadek, const InputFields& 
     try {
         prepare(stan, przypadek, fields, host);
     } catch (const Refusal& refusal) {
+        if (refusal.loadCase != 0)
+            host.caseRefused(refusal.loadCase);
         dialogs.message(refusal.text, refusal.title, MessageStyle::Stop);
         return CalculationEnd::Refused;
     }

@@ -25,6 +25,8 @@ struct InputFields {
     std::array<QString, MaxCases> Text8;  ///< M2, kNm
     std::array<QString, MaxCases> Text5;  ///< Vx, kN
     std::array<QString, MaxCases> Text10; ///< Vy, kN
+
+    bool operator==(const InputFields&) const = default;
 };
 
 /// Takes the plate size from the fields: cm as Singles, mm as whole numbers rounded down.
