@@ -36,6 +36,7 @@ void clearResults(Stan& stan) {
     results.Sila_kotwy_max = 0;
     results.Nr_kotwy_max = 0;
     results.Nr_wiersza = 0;
+    results.outcomes.fill(CaseOutcome::NotComputed);
     results.Kotwy_OK = True;
     results.Beton_OK = true;
     stan.raport.Liczba_wierszy_kotwy = 0;
@@ -124,7 +125,7 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     loads.Tablica_obc(4)(c) = tenths(loads.Sila_Vx(c));
     loads.Sila_Vy(c) = CSng(fields.Text10.at(row));
     loads.Tablica_obc(5)(c) = tenths(loads.Sila_Vy(c));
-    loads.Klasa_znaku(c) = CInt(1 + (M2 < 0 ? 1 : 0) + (M1 < 0 ? 2 : 0));
+    loads.Klasa_znaku(c) = signClass(M1, M2);
 }
 
 /// A diameter off the series leaves the earlier area.
