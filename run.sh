@@ -16,6 +16,8 @@ fi
 mkdir -p build/raport
 "$bin/ferna-wsad" --dziesietny , --wynik build/raport/slup-hali.json \
     --raport build/raport/slup-hali.txt data/przyklady/slup-hali.json
-echo "No display: computed data/przyklady/slup-hali.json"
-echo "Report:     $PWD/build/raport/slup-hali.txt (code page 1250)"
-echo "Result:     $PWD/build/raport/slup-hali.json"
+step "No display: computed data/przyklady/slup-hali.json"
+echo "Report: $PWD/build/raport/slup-hali.txt"
+echo "Result: $PWD/build/raport/slup-hali.json"
+echo "The report is in code page 1250; this shows it:"
+echo "    iconv -f cp1250 -t utf-8 build/raport/slup-hali.txt"

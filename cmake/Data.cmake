@@ -22,6 +22,13 @@ foreach(file IN LISTS FERNA_DATA_FILES)
     list(APPEND ferna_data_outputs ${output})
 endforeach()
 
+# Tools of the build that draw do so without a screen, and with the folder for sockets that a session
+# gives: without one Qt remarks on it each time.
+file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/runtime)
+file(CHMOD ${CMAKE_BINARY_DIR}/runtime PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+set(FERNA_WITHOUT_SCREEN ${CMAKE_COMMAND} -E env
+    QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}/runtime)
+
 add_executable(sketch_bitmap ${CMAKE_SOURCE_DIR}/tools/sketch_bitmap.cpp)
 target_link_libraries(sketch_bitmap PRIVATE Qt6::Svg)
 set_target_properties(sketch_bitmap PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tools)
@@ -35,7 +42,7 @@ foreach(row IN LISTS FERNA_BITMAPS)
     set(output ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${bitmap}.bmp)
     add_custom_command(
         OUTPUT ${output}
-        COMMAND sketch_bitmap ${source} ${scale} ${width} ${output}
+        COMMAND ${FERNA_WITHOUT_SCREEN} $<TARGET_FILE:sketch_bitmap> ${source} ${scale} ${width} ${output}
         DEPENDS ${source} sketch_bitmap)
     list(APPEND ferna_data_outputs ${output})
 endforeach()

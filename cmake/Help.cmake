@@ -27,8 +27,7 @@ add_custom_command(
                                                ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}
     COMMAND ${CMAKE_COMMAND} -E copy ${help_files} ${help_folder}
     COMMAND ${CMAKE_COMMAND} -E copy ${help_sketches} ${help_folder}/szkice
-    COMMAND ${CMAKE_COMMAND} -E env QT_QPA_PLATFORM=offscreen
-            ${QHELPGENERATOR} ${help_folder}/ferna.qhp -o ${help_output} -s
+    COMMAND ${FERNA_WITHOUT_SCREEN} ${QHELPGENERATOR} ${help_folder}/ferna.qhp -o ${help_output} -s
     DEPENDS ${help_files} ${help_sketches}
     COMMENT "Packing the help")
 add_custom_target(ferna_help ALL DEPENDS ${help_output})

@@ -6,6 +6,10 @@ file(GLOB modules "${root}/usr/lib/ferna/*.so")
 if(NOT programs)
     message(FATAL_ERROR "No programs under ${root}")
 endif()
+if(NOT modules)
+    message(FATAL_ERROR "The package would have no word-processor module: install the Debian package "
+        "libreoffice-dev, configure and build again. packaging/build.sh does all of it.")
+endif()
 list(TRANSFORM programs PREPEND "-e")
 list(TRANSFORM modules PREPEND "-e")
 

@@ -1,126 +1,152 @@
 #!/usr/bin/env bash
-# Installs the built package on a fresh Debian 12 that holds nothing but its dependencies, and works
-# there as an ordinary user: the batch companion writes a report as PDF, the program shows its form
-# on a screen of this machine.
-#     fresh_machine.sh BUILD_FOLDER [FRESH_ROOT]
-# Needs root (or sudo) and the network: packages come from where apt of this machine has them. The
-# root is made anew in a temporary folder; one that is named is kept for the next run.
+# The first hour of a newcomer: the commands of the README, whole, in bare Debian 12 systems that hold
+# git and nothing else, with nothing of this machine's environment: ./run.sh, packaging/build.sh and
+# ./test.sh.
+#     fresh_machine.sh [--base FOLDER] [--run-only] [root | user] ...
+# root works in a clone. user works in an unpacked archive without history: first he may install
+# nothing, and the administrator runs the line that ./run.sh tells him; then he has sudo. Times and
+# sizes are told at the end, the transcripts lie in build/fresh/. A base that is named is kept for the
+# next run. Needs root (or sudo) and the network.
 set -euo pipefail
-build=$(readlink -f "$1")
-if ((EUID != 0)); then
-    exec sudo "$0" "$build" "${@:2}"
-fi
-package=$(ls "$build"/package/ferna_*.deb)
+((EUID == 0)) || exec sudo "$0" "$@"
+cd "$(dirname "$(readlink -f "$0")")/.."
+source tools/setup.sh
+source tools/files.sh
+source tests/fresh_system.sh
+
+base=
+commands=(./run.sh packaging/build.sh ./test.sh)
+who=()
+while (($#)); do
+    case $1 in
+        --base) base=$2; shift ;;
+        --run-only) commands=(./run.sh) ;;
+        root | user) who+=("$1") ;;
+        *) sed -n '5,10s/^# \{0,1\}//p' "$0" >&2; exit 2 ;;
+    esac
+    shift
+done
+((${#who[@]})) || who=(root user)
+install_missing debootstrap git
 work=$(mktemp -d)
-base=${2:-$work/base}
-root=$work/root
-screen=
+trap 'rm -rf --one-file-system "$work"' EXIT
+base=${base:-$work/base}
+logs=build/fresh
+mkdir -p "$logs"
+summary=$logs/summary.txt
+: >"$summary"
 
-finish() {
-    [[ -z $screen ]] || kill "$screen" 2>/dev/null || true
-    rm -rf --one-file-system "$work"
+# The tree as a newcomer gets it.
+deliver_tree() {
+    local how=$1 to=$2
+    if [[ $how == clone ]] && has_history; then
+        git -c safe.directory='*' clone -q --no-local . "$to"
+    elif has_history; then
+        mkdir "$to"
+        git archive HEAD | tar -x -C "$to"
+    else
+        mkdir "$to"
+        files_of_the_tree '*' | tar -c -T - | tar -x -C "$to"
+    fi
 }
-trap finish EXIT
 
-fail() {
-    echo "fresh_machine: $*" >&2
-    exit 1
+megabytes() {
+    du -smx "$1" | cut -f1
 }
 
-# A command in the fresh system: with its own /proc, which goes with the command.
-inside() {
-    # shellcheck disable=SC2016 # the inner shell expands them
-    unshare --mount --pid --fork --kill-child --propagation private \
-        sh -c 'root=$1; shift; mount -t proc proc "$root/proc" && exec chroot "$root" "$@"' \
-        sh "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 "$@"
+# What apt said that it fetched, in all of a transcript.
+downloaded() {
+    sed -nE 's/^Need to get ([0-9.,]+ [kMG]?B)(\/[^ ]+ [kMG]?B)? of archives.*/\1/p' "$1" \
+        | paste -sd+ | sed 's/+/ + /g'
+}
+
+# told WHO COMMAND TRANSCRIPT ROOT -- HOW ...: runs it, keeps what it says, and tells time and sizes.
+told() {
+    local name=$1 command=$2 log=$logs/$3 root=$4 begun=$SECONDS before status=0
+    shift 5
+    before=$(megabytes "$root")
+    echo "$name: $command, transcript $log"
+    "$@" >"$log" 2>&1 </dev/null || status=$?
+    printf '%s: %s ended with %d after %d:%02d, downloads %s, %d MB of disk\n' "$name" "$command" \
+        "$status" $(((SECONDS - begun) / 60)) $(((SECONDS - begun) % 60)) "$(downloaded "$log")" \
+        $(($(megabytes "$root") - before)) | tee -a "$summary"
+    ((status == 0)) || { tail -60 "$log" >&2; fail "$name: $command"; }
+}
+
+as_root() {
+    local root=$work/root command
+    # shellcheck disable=SC2016 # the inner shell expands it
+    local in_tree=(inside "$root" sh -c 'cd /root/ferna && "$@"' sh)
+    make_system "$base" "$root"
+    deliver_tree clone "$root/root/ferna"
+    for command in "${commands[@]}"; do
+        told root "$command" "root-$(basename "$command").txt" "$root" -- \
+            "${in_tree[@]}" "$command"
+        after "$command" "$logs/root-$(basename "$command").txt" "${in_tree[@]}"
+    done
+    rm -rf --one-file-system "$root"
+}
+
+# after COMMAND TRANSCRIPT HOW ...: what must be so behind a command; HOW runs another one in the
+# tree.
+after() {
+    local command=$1 log=$2
+    shift 2
+    case $command in
+        ./run.sh) # without a display it leaves a report, says how to read it
+            grep -q 'iconv -f cp1250 -t utf-8 build/raport/slup-hali.txt' "$log" \
+                || fail "./run.sh does not say how to read its report"
+            no_document libreoffice-dev "$@"
+            ;;
+        packaging/build.sh) # the word processor's libraries are there now, and no word processor
+            "$@" sh -c 'dpkg-deb -c build/release/package/ferna_*.deb' \
+                | grep -q /usr/lib/ferna/libferna_writer.so || fail "the package lacks its module"
+            no_document libreoffice-writer "$@"
+            ;;
+    esac
+}
+
+# no_document PACKAGE HOW ...: a document is refused, and the words name the package that it takes.
+no_document() {
+    local wanted=$1 said
+    shift
+    said=$("$@" build/release/bin/ferna-wsad --raport build/raport/x.odt --wynik build/raport/x.json \
+        data/przyklady/slup-hali.json 2>&1) && fail "a document came out without a word processor"
+    [[ $said == *"$wanted"* ]] || fail "what writes documents is not told: $said"
 }
 
 as_user() {
-    inside setpriv --reuid inzynier --regid inzynier --clear-groups \
-        env HOME=/home/inzynier DISPLAY="${display:-}" sh -c "cd && $1"
+    local root=$work/user line command
+    # shellcheck disable=SC2016 # the inner shell expands it
+    local in_tree=(inside_as inzynier "$root" sh -c 'cd ferna && "$@"' sh)
+    make_system "$base" "$root"
+    inside "$root" useradd --create-home --shell /bin/bash inzynier
+    deliver_tree archive "$root/home/inzynier/ferna"
+    chown -R --reference "$root/home/inzynier" "$root/home/inzynier/ferna"
+
+    ! inside_as inzynier "$root" sh -c 'cd ferna && ./run.sh' >"$logs/user-refused.txt" 2>&1 \
+        </dev/null || fail "./run.sh went on without what it needs"
+    line=$(grep '^apt-get update' "$logs/user-refused.txt") \
+        || { cat "$logs/user-refused.txt" >&2; fail "no line for the administrator"; }
+    told administrator "the line that ./run.sh told" user-administrator.txt "$root" -- \
+        inside "$root" sh -c "$line"
+    told "user without sudo" ./run.sh user-run.sh.txt "$root" -- \
+        "${in_tree[@]}" ./run.sh
+    after ./run.sh "$logs/user-run.sh.txt" "${in_tree[@]}"
+
+    inside "$root" apt-get install -y -qq --no-install-recommends sudo >/dev/null 2>&1
+    echo 'inzynier ALL=(ALL) NOPASSWD: ALL' >"$root/etc/sudoers.d/inzynier"
+    for command in "${commands[@]:1}"; do
+        told "user with sudo" "$command" "user-$(basename "$command").txt" "$root" -- \
+            "${in_tree[@]}" "$command"
+        after "$command" "$logs/user-$(basename "$command").txt" "${in_tree[@]}"
+    done
+    rm -rf --one-file-system "$root"
 }
 
-# The archive that apt of this machine uses for Debian itself.
-archive() {
-    # shellcheck disable=SC2016 # names of apt's own
-    apt-get indextargets --format '$(REPO_URI) $(CODENAME) $(COMPONENT)' \
-        'Created-By: Packages' | awk '$2 == "bookworm" && $3 == "main" { print $1; exit }'
-}
-
-make_base() {
-    local from
-    from=$(archive)
-    [[ -n $from ]] || fail "apt of this machine knows no archive of Debian 12"
-    echo "Making a fresh Debian 12"
-    debootstrap --variant=minbase bookworm "$base.new" "$from" >"$work/debootstrap.log" 2>&1 \
-        || { tail -20 "$work/debootstrap.log" >&2; fail "debootstrap failed"; }
-    rm -rf "$base.new/var/cache/apt/archives/"*.deb
-    mv "$base.new" "$base"
-}
-
-[[ -d $base/usr ]] || make_base
-cp -a "$base" "$root"
-cp /etc/resolv.conf /etc/hosts "$root/etc/" 2>/dev/null || true
-printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d" # no services are started
-chmod +x "$root/usr/sbin/policy-rc.d"
-
-echo "Installing $(basename "$package") with its dependencies alone"
-cp "$package" "$root/tmp/ferna.deb"
-inside apt-get update -qq
-inside env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -qq --no-install-recommends /tmp/ferna.deb >"$work/install.log" 2>&1 \
-    || { tail -20 "$work/install.log" >&2; fail "the package cannot be installed"; }
-inside useradd --create-home inzynier
-installed_before=$(cd "$root/usr" && find . -xdev -newer "$root/tmp/ferna.deb" -type f | sort)
-! as_user 'test -w /usr/bin -o -w /usr/share/ferna' || fail "the user may write in /usr"
-
-echo "Computing the sample task"
-as_user 'ferna-wsad --dziesietny , --wynik wynik.json --raport raport.pdf --raport raport.txt \
-    /usr/share/ferna/przyklady/slup-hali.json'
-home=$root/home/inzynier
-pdftotext -layout "$home/raport.pdf" "$work/raport.txt"
-for text in 'Hala magazynowa, oś B' 'Długość płyty x = 600 mm' 'wsp. docisku min. ωu = 1,012'; do
-    grep -q "$text" "$work/raport.txt" || { cat "$work/raport.txt"; fail "no \"$text\" in the PDF"; }
+make_base "$base" git
+for one in "${who[@]}"; do
+    "as_$one"
 done
-pdffonts "$home/raport.pdf" | grep -q Liberation || fail "the PDF is not set in Liberation"
-# A document is refused with words, not with a crash, where there is no word processor.
-if as_user 'ferna-wsad --raport raport.odt --wynik wynik.json /usr/share/ferna/przyklady/slup-hali.json' \
-    2>"$work/document.log"; then
-    fail "a document came out without a word processor"
-fi
-grep -q 'libreoffice-writer' "$work/document.log" \
-    || { cat "$work/document.log" >&2; fail "nothing said what writes documents"; }
-
-echo "Starting the program on a screen"
-exec 3<>"$work/display"
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
-screen=$!
-for _ in {1..100}; do
-    [[ -s $work/display ]] && break
-    sleep 0.1
-done
-display=:$(<"$work/display")
-as_user 'timeout 60 ferna' 2>"$work/ferna.log" &
-program=$!
-window=
-for _ in {1..150}; do
-    window=$(DISPLAY=$display xdotool search --onlyvisible --name '^Ferna 2005 Pr - zakotwienie' \
-        2>/dev/null || true)
-    [[ -n $window ]] && break
-    sleep 0.2
-done
-[[ -n $window ]] || { cat "$work/ferna.log" >&2; fail "the main form did not appear"; }
-sleep 1
-DISPLAY=$display xdotool windowfocus "$window" key alt+k # ends the program, which saves the task
-wait "$program" || { cat "$work/ferna.log" >&2; fail "the program did not end well"; }
-for file in Ferna.cfg Ferpl.txt Ferogo2.bmp Ferna.qch W_X.txt dostarczone.sha256; do
-    [[ -s $home/.local/share/ferna/$file ]] || fail "no $file in the user's data folder"
-done
-
-installed_after=$(cd "$root/usr" && find . -xdev -newer "$root/tmp/ferna.deb" -type f | sort)
-[[ $installed_before == "$installed_after" ]] || fail "something was written in /usr"
-echo "Removing the package"
-inside apt-get purge -y -qq ferna >/dev/null 2>&1
-! ls -d "$root"/usr/bin/ferna* "$root"/usr/share/ferna "$root"/usr/lib/ferna 2>/dev/null \
-    || fail "the package left files behind"
-echo "The package works on a fresh Debian 12."
+echo "The commands do on a bare Debian 12 what the README says:"
+cat "$summary"

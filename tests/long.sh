@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # What takes its time, behind ./test.sh: a search that takes a hundred thousand tasks, the thread
 # sanitizer, ten minutes of the soak of tasks, three hundred rounds of the forms, a minute of each
-# fuzzer, the pictures of the guide, and the package on a fresh Debian 12 (as root or by sudo).
+# fuzzer, the pictures of the guide, the package on a fresh Debian 12, and both commands of the README
+# there (as root or by sudo).
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source tools/setup.sh
@@ -22,4 +23,5 @@ fuzz/run.sh 60
 
 python3 tests/e2e/guide_pictures_test.py . build/release/bin
 
-tests/fresh_machine.sh build/release # the package that ./test.sh has left there
+tests/fresh_package.sh build/release # the package that ./test.sh has left there
+tests/fresh_machine.sh

@@ -27,7 +27,8 @@ usr=$root/usr
 
 # Fields.
 field() { dpkg-deb -f "$package" "$1"; }
-for needed in libqt6widgets6 libqt6help6 libqt6sql6-sqlite libcups2 fonts-liberation; do
+for needed in libqt6widgets6 libqt6help6 libqt6sql6-sqlite libcups2 fonts-liberation \
+    fonts-dejavu-core; do
     [[ $(field Depends) == *"$needed"* ]] || fail "does not depend on $needed"
 done
 [[ $(field Depends) != *@(office|uno-)* ]] || fail "the word processor is a dependency"

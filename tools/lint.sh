@@ -6,15 +6,16 @@
 # clang-tidy reads what the build knows: build the release preset first.
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
+source tools/files.sh
 mode=${1:-changed}
 build=build/release
 
 scripts() {
-    git ls-files '*.sh' .ci/run
+    files_of_the_tree '*.sh' .ci/run
 }
 
 python_syntax() {
-    git ls-files '*.py' | python3 -c '
+    files_of_the_tree '*.py' | python3 -c '
 import ast, sys
 for path in sys.stdin.read().split("\n")[:-1]:
     with open(path, encoding="utf-8") as file:
@@ -24,6 +25,10 @@ for path in sys.stdin.read().split("\n")[:-1]:
 # A change is what the branch adds to main and what is not committed; on main, the last commit.
 changed_sources() {
     local base
+    has_history || {
+        echo "lint: this folder has no history, so no changes; --all takes every source" >&2
+        exit 2
+    }
     base=$(git merge-base HEAD main 2>/dev/null || git rev-parse HEAD)
     [[ $base != "$(git rev-parse HEAD)" ]] || base=$(git rev-parse HEAD~1)
     { git diff --name-only "$base" -- src; git ls-files --others --exclude-standard -- src; } \
@@ -38,7 +43,7 @@ tidy() {
     }
     local file files=()
     while read -r file; do
-        [[ $file == *.cpp && -f $file && $file != src/platform/writer/* ]] && files+=("$file")
+        [[ $file == *.cpp && -f $file && $file != src/desktop/writer/* ]] && files+=("$file")
     done
     ((${#files[@]})) || return 0
     echo "clang-tidy: ${#files[@]} files"
@@ -51,7 +56,7 @@ scripts | xargs shellcheck --severity=style --external-sources
 python_syntax
 case $mode in
     --quick) ;;
-    --all) git ls-files src | tidy ;;
+    --all) files_of_the_tree 'src/*' | tidy ;;
     changed) changed_sources | tidy ;;
     *) sed -n '2,6s/^# //p' "$0" >&2; exit 2 ;;
 esac

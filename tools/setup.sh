@@ -1,26 +1,46 @@
 # shellcheck shell=bash disable=SC2034  # the lists are read by who sources this
-# Sourced by run.sh and test.sh: installs the Debian packages that are missing. A second run only
-# looks. Nothing here needs more than a fresh Debian 12.
+# Sourced by run.sh, test.sh and the other scripts: installs the Debian packages that are missing. A
+# second run only looks. Nothing here needs more than a fresh Debian 12.
 
 build_packages=(
     g++ cmake ninja-build ccache
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools libcups2-dev nlohmann-json3-dev
 )
 run_packages=(
-    fonts-liberation libqt6svg6 libqt6help6 libqt6sql6-sqlite libqt6printsupport6 qt6-translations-l10n
+    fonts-liberation fonts-dejavu-core libqt6svg6 libqt6help6 libqt6sql6-sqlite
+    libqt6printsupport6 qt6-translations-l10n
 )
+# For the Debian package: its word-processor module, its dependencies and checks of its files.
+package_packages=(libreoffice-dev dpkg-dev file)
 test_packages=(
     git clang libclang-rt-14-dev clang-format-14 clang-tidy-14 shellcheck libgtest-dev
     libbenchmark-dev python3
-    xvfb xdotool xauth x11-utils x11-apps x11-xkb-utils openbox imagemagick
-    poppler-utils cups cups-client cups-filters time parallel
-    libreoffice-writer-nogui libreoffice-dev locales
-    dpkg-dev file lintian desktop-file-utils appstream man-db
+    xvfb xdotool xauth x11-utils x11-apps x11-xkb-utils openbox icewm imagemagick
+    fonts-dejavu-core poppler-utils cups cups-client cups-filters time parallel
+    libreoffice-writer-nogui locales
+    lintian desktop-file-utils appstream man-db
+    "${package_packages[@]}"
 )
-# For the tests of ./test.sh --long.
-long_test_packages=(debootstrap gcovr)
+# For the fuzzers, and for the tests of ./test.sh --long.
+fuzz_packages=(clang libclang-rt-14-dev)
+long_test_packages=("${fuzz_packages[@]}" debootstrap gcovr)
 
-# Installs those of the named packages that are not there.
+# Says what begins now, and when.
+step() {
+    echo "[$(date +%H:%M:%S)] $*"
+}
+
+# As the superuser: directly, or by sudo. Ends with 127 where there is no sudo.
+as_superuser() {
+    if ((EUID == 0)); then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+# Installs those of the named packages that are not there. Who may not install gets the line for
+# the administrator.
 install_missing() {
     local missing=() package
     for package in "$@"; do
@@ -28,18 +48,38 @@ install_missing() {
             || missing+=("$package")
     done
     ((${#missing[@]})) || return 0
-    echo "Installing: ${missing[*]}"
-    local as_root=()
-    ((EUID == 0)) || as_root=(sudo)
-    "${as_root[@]}" apt-get update -qq
-    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-        apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+    step "Installing ${#missing[@]} packages of Debian and what they need"
+    if ((EUID != 0)) && ! command -v sudo >/dev/null; then
+        ask_the_administrator "There is no sudo here to install them." "${missing[@]}"
+        return 1
+    fi
+    local progress=()
+    [[ -t 1 ]] && progress=(-o Dpkg::Progress-Fancy=1)
+    if ! as_superuser apt-get update -q \
+        || ! as_superuser env DEBIAN_FRONTEND=noninteractive \
+            apt-get install -y -q --no-install-recommends "${progress[@]}" "${missing[@]}"; then
+        ask_the_administrator "They could not be installed." "${missing[@]}"
+        return 1
+    fi
+}
+
+# The line that installs the packages, on standard error.
+ask_the_administrator() {
+    local why=$1
+    shift
+    cat >&2 <<END
+$why Ask the administrator of this machine to run this line once, then start again:
+
+apt-get update && apt-get install -y --no-install-recommends $*
+
+END
 }
 
 # Configures once and builds a preset.
 build_preset() {
     local preset=$1
     shift
+    step "Building build/$preset"
     [[ -f build/$preset/build.ninja ]] || cmake --preset "$preset" "$@"
     cmake --build --preset "$preset"
 }

@@ -7,8 +7,9 @@
 
 LOADS.csv is saved by the spreadsheet: columns N, M1, M2, Vx, Vy in kN and kNm, in any order and
 among others, separated by semicolons or commas, numbers with a comma or a point. Every row becomes
-the only case of a task of its own; all else of the task is that of BASE.json. results.csv is
-LOADS.csv with the results added to each row.
+the only case of a task of its own; all else of the task is that of BASE.json, but its lines are
+Polish, as the table is. results.csv is LOADS.csv with the results added to each row. Filter it by the
+column werdykt: it takes anchors, concrete and horizontal forces together.
 """
 
 import csv
@@ -17,8 +18,10 @@ import json
 import sys
 
 LOADS = ("N", "M1", "M2", "Vx", "Vy")
-ADDED = ("stan", "sigma_b_MPa", "sigma_b/Rb", "sigma_kotwy_MPa", "sila_kotwy_kN", "nr_kotwy",
+ADDED = ("stan", "werdykt", "sigma_b_MPa", "sigma_b/Rb", "sigma_kotwy_MPa", "sila_kotwy_kN", "nr_kotwy",
          "kotwy_OK", "sily_poziome")
+# How the line of the horizontal forces ends where they are taken; any other line fails.
+SIDEWAYS_OK = ("tarcie między płytą a betonem.", "warunek spełniony.")
 
 
 def read_loads(path):
@@ -55,7 +58,7 @@ def write_tasks(base, loads):
     with open(base, encoding="utf-8") as file:
         task = json.load(file)
     for case in cases(loads):
-        print(json.dumps(task | {"Przypadki": [case]}, ensure_ascii=False))
+        print(json.dumps(task | {"Nr_jezyka": 0, "Przypadki": [case]}, ensure_ascii=False))
 
 
 def local(value):
@@ -63,20 +66,33 @@ def local(value):
     return f"{value:.3f}".replace(".", ",")
 
 
+def verdict(result, sideways):
+    """All checks of a row in one word, and what it hangs on."""
+    ratio = result["Sigma_b_max"] / result["Materialy"]["Rb_betonu"]
+    failed = [name for name, fails in (
+        ("kotwy", not result["Kotwy_OK"]),
+        ("beton", ratio > 2),
+        ("siły poziome", sideways and not sideways.endswith(SIDEWAYS_OK))) if fails]
+    told = " (rozwiązanie przybliżone)" if result["Komunikaty"] else ""
+    if failed:
+        return f"niespełniony: {', '.join(failed)}{told}"
+    return (f"spełniony, gdy docisk >= {local(ratio)}" if ratio >= 1 else "spełniony") + told
+
+
 def summary(case, result):
-    """What is added to a row; the state alone where there are no results."""
+    """What is added to a row; the state and that there is no verdict where there are no results."""
     told = [message["tekst"].replace("\n", " ") for message in result.get("Komunikaty", [])]
     if result["Blad"]:
         told.append(result["Blad"]["tekst"])
     if not result.get("Przypadki") or result["Przerwij_obliczenia"]:
-        return ["; ".join(told)] + [""] * (len(ADDED) - 1)
-    sideways = (case["Vx"] ** 2 + case["Vy"] ** 2) ** 0.5 > 0.01
+        return ["; ".join(told), "brak wyniku"] + [""] * (len(ADDED) - 2)
+    is_pushed = (case["Vx"] ** 2 + case["Vy"] ** 2) ** 0.5 > 0.01
+    sideways = result["Przypadki"][0]["Wiersze"][-1] if is_pushed else ""
     sigma_b = result["Sigma_b_max"]
-    return ["; ".join(told) or "obliczone", local(sigma_b),
+    return ["; ".join(told) or "obliczone", verdict(result, sideways), local(sigma_b),
             local(sigma_b / result["Materialy"]["Rb_betonu"]), local(result["Sigma_s_max"]),
             local(result["Sila_kotwy_max"]), result["Nr_kotwy_max"] or "",
-            "tak" if result["Kotwy_OK"] else "nie",
-            result["Przypadki"][0]["Wiersze"][-1] if sideways else ""]
+            "tak" if result["Kotwy_OK"] else "nie", sideways]
 
 
 def write_table(loads, results):

@@ -1,9 +1,11 @@
+#include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/report_files.h"
 #include "batch/task_run.h"
-#include "platform/program_folder.h"
+#include "desktop/program_folder.h"
 #include "runtime/format.h"
+#include "runtime/qt_remarks.h"
 #include "runtime/text_file.h"
 
 #include <QGuiApplication>
@@ -36,6 +38,12 @@ int refuse(const std::string& what) {
     return BadCall;
 }
 
+/// What is to be told beside a result; nothing where the text is empty.
+void remark(const QString& what) {
+    if (!what.isEmpty())
+        std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
+}
+
 std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
@@ -56,9 +64,12 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             print(result.toStdString());
         else
             writeFileWhole(options.result, result);
+        if (done.reportReady && !options.reports.isEmpty())
+            for (const QString& what : nameRemarks(done.task))
+                remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady)
             for (const QString& file : options.reports)
-                writeReport(done, file, runOptions.pictures);
+                remark(writeReport(done, file, runOptions.pictures));
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "
@@ -121,6 +132,7 @@ std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options&
     if (std::none_of(options.reports.begin(), options.reports.end(), needsPictures))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    hushMissingRuntimeFolder();
     return std::make_unique<QGuiApplication>(argc, argv);
 }
 

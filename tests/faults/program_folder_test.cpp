@@ -1,8 +1,8 @@
 // Where the program may live: a folder that cannot be written, a folder with blanks and Polish
 // letters, a folder that is in use, a system with another decimal sign.
+#include "desktop/program_folder.h"
 #include "faults/small_disk.h"
-#include "platform/program_folder.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "renderer/program_run.h"
 #include "runtime/text_file.h"
 #include "support/folder.h"
@@ -81,13 +81,6 @@ TEST_F(ProgramFolder, BelongsToOneOpenProgramAtATime) {
     first.reset();
     EXPECT_EQ(errorNumberOf([&] { lockProgramFolder(folder); }), 0);
     EXPECT_EQ(home.names(), QStringList()) << "nothing is left of the lock";
-}
-
-TEST_F(ProgramFolder, ADamagedFileIsKeptBesideTheDeliveredOne) {
-    const QString path = home.write(QStringLiteral("Ferna.cfg"), "uszkodzony");
-    restoreDelivered(path, Folder::delivered(QStringLiteral("Ferna.cfg")));
-    EXPECT_EQ(home.read(QStringLiteral("Ferna.cfg.uszkodzony")), QByteArray("uszkodzony"));
-    EXPECT_EQ(readFileWhole(path), readFileWhole(Folder::delivered(QStringLiteral("Ferna.cfg"))));
 }
 
 /// The built programs with their data in a folder of another name, under another locale.

@@ -1,4 +1,4 @@
-#include "platform/metafile.h"
+#include "pages/metafile.h"
 #include "renderer/outputs.h"
 #include "renderer/page_checks.h"
 #include "renderer/program_run.h"
@@ -200,6 +200,26 @@ TEST_F(Renderer, AModeWithADialogNeedsAScreen) {
         EXPECT_TRUE(run.errors.contains(QStringLiteral("wymaga ekranu")));
         EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
     }
+}
+
+TEST_F(Renderer, AnEarlierReplyOutlivesAPrintOrASaveThatDidNotComeAbout) {
+    QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        bare.remove(QLatin1String(name));
+    bare.insert(QStringLiteral("CUPS_SERVER"), path("no.sock")); // nothing to print on
+    ASSERT_EQ(runRenderer({job()}).exitCode, 0);
+    ASSERT_EQ(reply(), QStringLiteral(" 1 , 14 "));
+    for (const char* mode : {"1", " 2", "-1"}) {
+        sample = SampleReport(folder.path());
+        EXPECT_EQ(runRenderer({job(QLatin1String(mode))}, bare).exitCode, 1) << mode;
+        EXPECT_EQ(reply(), QStringLiteral(" 1 , 14 ")) << mode;
+    }
+    EXPECT_EQ(runRenderer({job(QStringLiteral("3"))}, bare).exitCode, 1);
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 ")) << "the screen picture is what the pages are of";
+}
+
+TEST_F(Renderer, TellsNothingWhereNoProgramListens) {
+    EXPECT_EQ(runRenderer({job()}).output, QString());
 }
 
 TEST(PageFileNames, NumberStandsBeforeTheSuffix) {

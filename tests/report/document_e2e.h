@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/word_processor.h"
+#include "desktop/word_processor.h"
 #include "runtime/run_time_error.h"
 #include "support/golden_file.h"
 #include "support/printing.h"
@@ -20,21 +20,39 @@ namespace ferna::testing {
 
 inline const QString officeProgram = QStringLiteral("/usr/lib/libreoffice/program");
 
+/// What the kernel tells of a process: the name of its program, its state and its parent. All
+/// empty where there is none.
+struct ProcessState {
+    QByteArray program;
+    QByteArray state;
+    pid_t parent = 0;
+};
+
+inline ProcessState stateOf(const QString& process) {
+    const QByteArray stat = fileBytes(QStringLiteral("/proc/%1/stat").arg(process));
+    const qsizetype before = stat.indexOf('(');
+    const qsizetype behind = stat.lastIndexOf(')');
+    if (behind < 0)
+        return {};
+    const QByteArrayList fields = stat.mid(behind + 2).split(' ');
+    return {stat.mid(before + 1, behind - before - 1), fields.value(0), fields.value(1).toInt()};
+}
+
 /// Word processors that this process has started.
 inline QList<pid_t> runningWriters(pid_t parent = ::getpid()) {
     QList<pid_t> found;
-    for (const QString& name : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
-        const QByteArray stat = fileBytes(QStringLiteral("/proc/%1/stat").arg(name));
-        const qsizetype behind = stat.lastIndexOf(')');
-        const QByteArrayList fields = stat.mid(behind + 2).split(' ');
-        if (behind > 0 && stat.contains("(soffice.bin)") && fields.value(1).toInt() == parent)
+    for (const QString& name : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs))
+        if (const ProcessState process = stateOf(name);
+            process.program == "soffice.bin" && process.parent == parent)
             found += name.toInt();
-    }
     return found;
 }
 
+/// False also for a process that has ended and that nobody has asked about: in a system whose first
+/// process takes no note of orphans they stay in the list.
 inline bool alive(pid_t process) {
-    return ::kill(process, 0) == 0;
+    const QByteArray state = stateOf(QString::number(process)).state;
+    return !state.isEmpty() && state != "Z" && state != "X";
 }
 
 /// The pipes of a program's word processor in the shared temporary folder.

@@ -1,9 +1,9 @@
 #include "selection/forms/Dobor_fer.h"
 
-#include "report/sketch_files.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
+#include "pages/sketch_files.h"
 #include "ui_Dobor_fer.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <QShowEvent>
 
@@ -20,6 +20,7 @@ Dobor_fer::Dobor_fer(Stan& stan, const QString& folder, Dialogs& dialogs, QWidge
     ui_->setupUi(this);
     loadSelection(stan, form_, dialogs);
     showForm();
+    addTabKeys(this, ui_->SSTab1);
     connectGuarded(ui_->SSTab1, &QTabWidget::currentChanged, this,
                    [this](int tab) { bringToFront(form_, tab); });
     connectGuarded(ui_->cmdOK, &QPushButton::clicked, this, [this] { writeSection(); });

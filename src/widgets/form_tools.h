@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QWidget>
+
+class QLineEdit;
+class QTabWidget;
+
+namespace ferna {
+
+/// Puts a form in the middle of the screen: (screen size - form size) / 2.
+void centreOnScreen(QWidget* form);
+
+/// Lets only digits, "-", "+", ".", "," and backspace be typed into a field; any other key is
+/// swallowed with a beep.
+void allowOnlyNumbers(QLineEdit* field);
+
+/// Makes the chosen option of a group the only one that Tab stops at; the arrows go to the others.
+void stopTabAtTheChoice(QWidget* group);
+
+/// Brings the tabs of a form to the front by keys wherever the focus is: Alt with the number of the
+/// tab, Ctrl+Tab and Ctrl+PageDown to the next one that can be chosen, with Shift and Ctrl+PageUp
+/// to the one before.
+void addTabKeys(QWidget* form, QTabWidget* tabs);
+
+/// Runs the work behind a command and shows the form anew, also where a run-time error ends the
+/// work.
+template <typename Core, typename Show>
+void shownAfterwards(const Core& core, const Show& show) {
+    try {
+        core();
+    } catch (...) {
+        show();
+        throw;
+    }
+    show();
+}
+
+} // namespace ferna
