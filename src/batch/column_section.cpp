@@ -73,13 +73,8 @@ public:
     explicit FieldTable(InputFields& fields) : fields_(fields) {}
 
     void setCount(const QString& /*text*/) override {}
-    void setRow(int r, const std::array<QString, 5>& texts) override {
-        const auto row = static_cast<std::size_t>(r);
-        fields_.Text6.at(row) = texts[0];
-        fields_.Text7.at(row) = texts[1];
-        fields_.Text8.at(row) = texts[2];
-        fields_.Text5.at(row) = texts[3];
-        fields_.Text10.at(row) = texts[4];
+    void setRow(int r, const LoadRow<QString>& texts) override {
+        fields_.loads.at(static_cast<std::size_t>(r)) = texts;
     }
     void showRow(int /*r*/) override {}
 
@@ -118,7 +113,7 @@ SectionResult runColumnTask(const ColumnTask& task, Stan& stan, InputFields& fie
     try {
         for (const ColumnTask::Load& load : task.loads)
             declare(load, loads, form);
-        saveTotals(stan, form.Text1, table);
+        saveTotals(stan, form.totals(), table);
     } catch (const RunTimeError& failure) {
         result.Blad = errorJson(failure);
     }

@@ -105,12 +105,13 @@ Single tenths(Single value) {
 void readCase(Stan& stan, const InputFields& fields, int c) {
     Obciazenia& loads = stan.obciazenia;
     const auto row = static_cast<std::size_t>(c - 1);
-    const auto cell = [row](const std::array<QString, MaxCases>& column, const char* control) {
-        return number(column.at(row), QString::fromLatin1(control).arg(row));
+    const LoadRow<QString>& typed = fields.loads.at(row);
+    const auto cell = [row](const QString& text, const char* control) {
+        return number(text, QString::fromLatin1(control).arg(row));
     };
     loads.Pierwsza_proba(c) = true;
 
-    loads.Sila_N(c) = cell(fields.Text6, "Text6_%1");
+    loads.Sila_N(c) = cell(typed.N, "Text6_%1");
     loads.Tablica_obc(1)(c) = tenths(loads.Sila_N(c));
     const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
     if (loads.Sila_N(c) < 0)
@@ -122,15 +123,15 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
                       title};
     loads.Sila_N_kG(c) = forceInKilograms(loads.Sila_N(c));
 
-    const Single M1 = cell(fields.Text7, "Text7_%1");
+    const Single M1 = cell(typed.M1, "Text7_%1");
     loads.Moment_M1(c) = M1;
     loads.Tablica_obc(2)(c) = tenths(M1);
-    const Single M2 = cell(fields.Text8, "Text8_%1");
+    const Single M2 = cell(typed.M2, "Text8_%1");
     loads.Moment_M2(c) = M2;
     loads.Tablica_obc(3)(c) = tenths(M2);
-    loads.Sila_Vx(c) = cell(fields.Text5, "Text5_%1");
+    loads.Sila_Vx(c) = cell(typed.Vx, "Text5_%1");
     loads.Tablica_obc(4)(c) = tenths(loads.Sila_Vx(c));
-    loads.Sila_Vy(c) = cell(fields.Text10, "Text10_%1");
+    loads.Sila_Vy(c) = cell(typed.Vy, "Text10_%1");
     loads.Tablica_obc(5)(c) = tenths(loads.Sila_Vy(c));
     loads.Klasa_znaku(c) = signClass(M1, M2);
 }
