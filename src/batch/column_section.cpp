@@ -22,7 +22,7 @@ const ValueKeys distributedValues{
 const ValueKeys momentValues{{"M", false, 0}};
 
 /// A load with exactly the values of its direction and kind.
-TaskObject loadObject(const Json& value, const std::string& path, int direction, int kind) {
+ObjectReader loadObject(const Json& value, const std::string& path, int direction, int kind) {
     if (direction == 0)
         return {value, path, {"kierunek", "rodzaj", "P", "ex", "ey"}};
     if (kind == 0)
@@ -39,7 +39,7 @@ const ValueKeys& valuesOf(int direction, int kind) {
 }
 
 ColumnTask::Load readLoad(const Json& value, const std::string& path) {
-    const TaskObject any(
+    ObjectReader any(
         value, path,
         {"kierunek", "rodzaj", "P", "ex", "ey", "H", "h", "p1", "p2", "h1", "h2", "M"});
     const std::string direction = any.oneOf("kierunek", {"pionowe", "ZX", "ZY"});
@@ -50,7 +50,7 @@ ColumnTask::Load readLoad(const Json& value, const std::string& path) {
                                  ? any.oneOf("rodzaj", {"sila"})
                                  : any.oneOf("rodzaj", {"sila", "ciagle", "moment"});
     load.optTypsily = kind == "sila" ? 0 : kind == "ciagle" ? 1 : 2;
-    const TaskObject object = loadObject(value, path, load.optTypObciaz, load.optTypsily);
+    ObjectReader object = loadObject(value, path, load.optTypObciaz, load.optTypsily);
     for (const ValueKey& key : valuesOf(load.optTypObciaz, load.optTypsily))
         (key.inText2 ? load.Text2 : load.Text1)[key.index] = object.fieldText(key.key);
     return load;
