@@ -47,7 +47,7 @@ const std::array<FieldKeys, PlateChecks> fieldKeys{
               {"S", false, Text3<7>}},
 };
 
-TaskObject checkObject(const Json& value, const std::string& path, int check) {
+ObjectReader checkObject(const Json& value, const std::string& path, int check) {
     switch (check) {
     case 1:
         return {value, path, {"bs", "ca", "S"}};
@@ -64,7 +64,7 @@ TaskObject checkObject(const Json& value, const std::string& path, int check) {
 }
 
 PlateTask::Check readCheck(const Json& value, const std::string& path, int check) {
-    const TaskObject object = checkObject(value, path, check);
+    ObjectReader object = checkObject(value, path, check);
     struct Typed {
         QString& (*field)(PlateFields&);
         QString text;
@@ -122,7 +122,7 @@ Json resultJson(const Stan& stan, const PlateForm& form) {
 } // namespace
 
 PlateTask readPlateTask(const Json& value, const std::string& path) {
-    const TaskObject object(
+    ObjectReader object(
         value, path,
         {"Nr_stali_blachy", "Blacha_nazwa", "Blacha_fd", "Blacha_t_max", "Grubosc", "Sprawdzenia"});
     const QString zero = QStringLiteral("0");
@@ -136,8 +136,8 @@ PlateTask readPlateTask(const Json& value, const std::string& path) {
         task.Grubosc = object.fieldText("Grubosc");
     if (!object.has("Sprawdzenia"))
         return task;
-    const TaskObject checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
-                            {"1", "2", "3", "4", "5", "6", "7", "8"});
+    ObjectReader checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
+                        {"1", "2", "3", "4", "5", "6", "7", "8"});
     for (const auto& item : object.at("Sprawdzenia").items())
         task.checks.push_back(
             readCheck(item.value(), checks.pathOf(item.key()), std::stoi(item.key())));

@@ -106,16 +106,16 @@ Single tenths(Single value) {
 void readCase(Stan& stan, const InputFields& fields, int c) {
     Obciazenia& loads = stan.obciazenia;
     const auto row = static_cast<std::size_t>(c - 1);
+    const LoadRow<QString>& typed = fields.loads.at(row);
     // A load and what the configuration keeps of it.
-    const auto load = [&](auto& place, int kept, const std::array<QString, MaxCases>& column,
-                          const char* control) {
+    const auto load = [&](auto& place, int kept, const QString& text, const char* control) {
         inControl(QString::fromLatin1(control).arg(row), [&] {
-            place = CSng(column.at(row));
+            place = CSng(text);
             loads.Tablica_obc(kept)(c) = tenths(CSng(place));
         });
     };
     loads.Pierwsza_proba(c) = true;
-    load(loads.Sila_N(c), 1, fields.Text6, "Text6_%1");
+    load(loads.Sila_N(c), 1, typed.N, "Text6_%1");
     const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
@@ -127,13 +127,11 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     loads.Sila_N_kG(c) = inControl(QStringLiteral("Text6_%1").arg(row),
                                    [&] { return forceInKilograms(loads.Sila_N(c)); });
 
-    load(loads.Moment_M1(c), 2, fields.Text7, "Text7_%1");
-    load(loads.Moment_M2(c), 3, fields.Text8, "Text8_%1");
-    load(loads.Sila_Vx(c), 4, fields.Text5, "Text5_%1");
-    load(loads.Sila_Vy(c), 5, fields.Text10, "Text10_%1");
-    const bool negativeM1 = loads.Moment_M1(c) < 0;
-    const bool negativeM2 = loads.Moment_M2(c) < 0;
-    loads.Klasa_znaku(c) = CInt(1 + (negativeM2 ? 1 : 0) + (negativeM1 ? 2 : 0));
+    load(loads.Moment_M1(c), 2, typed.M1, "Text7_%1");
+    load(loads.Moment_M2(c), 3, typed.M2, "Text8_%1");
+    load(loads.Sila_Vx(c), 4, typed.Vx, "Text5_%1");
+    load(loads.Sila_Vy(c), 5, typed.Vy, "Text10_%1");
+    loads.Klasa_znaku(c) = signClass(CSng(loads.Moment_M1(c)), CSng(loads.Moment_M2(c)));
 }
 
 /// A diameter off the series leaves the earlier area.

@@ -1,4 +1,5 @@
 #include "analysis/equilibrium.h"
+#include "analysis/load_case.h"
 #include "analysis/march_ahead.h"
 #include "analysis/search.h"
 #include "support/golden.h"
@@ -31,7 +32,7 @@ Double fullError(ColumnBase& base, Double c) {
     base.solver.C_linii = c;
     base.solver.Liczba_ocen = 0;
     try {
-        Rownowaga_c(base.solver, base.stan);
+        Rownowaga_c(base.solver, inputOf(base.stan));
     } catch (const RunTimeError&) {
         return std::nan("");
     }
@@ -66,7 +67,7 @@ TEST_P(RowOfErrors, HasTheBitsOfFullEvaluations) {
         const Double R = base.solver.Prom_R;
         if (!(R > 0) || base.stan.obciazenia.Nr_przyp < 1)
             continue;
-        const MarchAhead ahead(base.solver, base.stan, GetParam());
+        const MarchAhead ahead(base.solver, inputOf(base.stan), GetParam());
         for (int march = 0; march < 20; ++march) {
             const Double step = dice.between(-0.02, 0.02) * R * (march % 2 == 0 ? 1 : 1e-4);
             MarchAhead::Row distances;
@@ -92,7 +93,7 @@ TEST_P(RowOfErrors, IsNoNumberWhereTheEvaluationFails) {
     base.loads(100, 60, 40);
     base.calculate();
     turn(base, 0.7);
-    const MarchAhead ahead(base.solver, base.stan, GetParam());
+    const MarchAhead ahead(base.solver, inputOf(base.stan), GetParam());
     MarchAhead::Row distances;
     distances.fill(5);
     distances[1] = std::numeric_limits<Double>::infinity();

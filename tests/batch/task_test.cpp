@@ -57,7 +57,7 @@ TEST_F(Tasks, KeysLeftOutTakeTheirDefaults) {
     EXPECT_EQ(read.stan.plyta.Liczba_srub, 1);
     EXPECT_EQ(read.stan.plyta.X_kotwy(1), 25);
     EXPECT_EQ(read.stan.raport.Wiersze_srub(1), QStringLiteral("1.   M24  x=250 mm  y=150 mm"));
-    EXPECT_EQ(read.fields.Text7[0], QStringLiteral("12,5"));
+    EXPECT_EQ(read.fields.loads[0].M1, QStringLiteral("12,5"));
     EXPECT_EQ(read.stan.obciazenia.Liczba_przyp, 1);
 }
 
