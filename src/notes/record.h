@@ -30,9 +30,9 @@ bool sameTask(const Entered& a, const Entered& b);
 /// What a calculation has told about a load case.
 struct ToldCase {
     CaseOutcome outcome = CaseOutcome::NotComputed;
-    Double sigmaConcrete = 0;                       ///< MPa
-    std::array<Double, MaxAnchors> sigmaAnchor{};   ///< MPa, negative in tension, else 0
-    Double lastX = 0;                               ///< where the last anchor stood then, mm
+    Double sigmaConcrete = 0;                     ///< MPa
+    std::array<Double, MaxAnchors> sigmaAnchor{}; ///< MPa, negative in tension, else 0
+    Double lastX = 0;                             ///< where the last anchor stood then, mm
     Double lastY = 0;
     bool markOfWholePlate = false;
 };
@@ -44,12 +44,13 @@ bool solved(const ToldCase& told);
 
 /// What the checks of a plate section were given and have given; entries of check n at n - 1.
 struct PlateFacts {
-    std::array<bool, PlateChecks> refused{};     ///< asked for, and nothing came of it
-    std::array<Integer, PlateChecks> required{}; ///< thickness, mm; 0 where the check does not stand
-    PlateInputs inputs;                          ///< of the checks that stand
-    std::optional<Single> accepted;              ///< thickness in the report, mm
-    Double force = 0;                            ///< the greatest of an anchor as computed, kN
-    Double pressure = 0;                         ///< the greatest as computed, MPa
+    std::array<bool, PlateChecks> refused{}; ///< asked for, and nothing came of it
+    std::array<Integer, PlateChecks>
+        required{};                 ///< thickness, mm; 0 where the check does not stand
+    PlateInputs inputs;             ///< of the checks that stand
+    std::optional<Single> accepted; ///< thickness in the report, mm
+    Double force = 0;               ///< the greatest of an anchor as computed, kN
+    Double pressure = 0;            ///< the greatest as computed, MPa
 };
 /// `written`: the section stands in the report.
 PlateFacts plateFacts(const Stan& stan, const PlateForm& form, bool written);
