@@ -17,6 +17,7 @@
 #include "ui_Ferna3.h"
 #include "widgets/codepage_note.h"
 #include "widgets/environment_stop.h"
+#include "widgets/field_place.h"
 #include "widgets/form_tools.h"
 #include "widgets/notes.h"
 #include "widgets/number_field.h"
@@ -210,6 +211,7 @@ void Ferna3::load() {
     leaveText1();
     Rysuj_P3();
     ui_->SSTab1->setCurrentIndex(generalTab);
+    keepRoomForEveryTab(ui_->SSTab1);
     centreOnScreen(this);
 }
 
@@ -293,7 +295,7 @@ void Ferna3::tabChanged() {
 
 void Ferna3::focusFirstField() {
     const std::array<QWidget*, 4> first{ui_->txtNaz_proj, ui_->Text1, loads_[0][0], ui_->cmdDodaj4};
-    first.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex()))->setFocus();
+    goTo(first.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex())));
 }
 
 void Ferna3::leaveText1() {
