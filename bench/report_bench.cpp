@@ -2,8 +2,8 @@
 // sketches, and each of its writers; and the picture of its pages as the results form paints it.
 #include "batch/report_files.h"
 #include "batch/task_run.h"
-#include "platform/metafile.h"
-#include "platform/renderer_start.h"
+#include "pages/metafile.h"
+#include "protocol/renderer_start.h"
 #include "report/report_lines.h"
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"

@@ -1,6 +1,5 @@
 # Compiler options shared by every target, as one interface library.
 add_library(ferna_options INTERFACE)
-target_include_directories(ferna_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
 target_compile_options(ferna_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
     # The same bits from every compiler and every build type: no fused multiply-add, no fast-math.

@@ -1,6 +1,6 @@
 #include "fuzzing.h"
-#include "platform/metafile.h"
-#include "renderer/emf_writer.h"
+#include "pages/emf_writer.h"
+#include "pages/metafile.h"
 #include "renderer/layout.h"
 
 #include <QImage>

@@ -1,5 +1,5 @@
 #include "fuzzing.h"
-#include "platform/metafile.h"
+#include "pages/metafile.h"
 
 #include <QImage>
 #include <QPainter>

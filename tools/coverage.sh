@@ -8,7 +8,7 @@ cd "$(dirname "$(readlink -f "$0")")/.."
 source tools/setup.sh
 install_missing "${build_packages[@]}" "${run_packages[@]}" "${test_packages[@]}" "${long_test_packages[@]}"
 
-tests=(runtime design analysis batch batch_sections plate selection statics report input rtf
+tests=(runtime design analysis command batch batch_sections plate selection statics report input rtf
     document renderer faults)
 if [[ ${1:-} != --again ]]; then
     [[ -f build/coverage/build.ninja ]] || cmake --preset coverage >/dev/null

@@ -43,7 +43,7 @@ tidy() {
     }
     local file files=()
     while read -r file; do
-        [[ $file == *.cpp && -f $file && $file != src/platform/writer/* ]] && files+=("$file")
+        [[ $file == *.cpp && -f $file && $file != src/desktop/writer/* ]] && files+=("$file")
     done
     ((${#files[@]})) || return 0
     echo "clang-tidy: ${#files[@]} files"

@@ -1,6 +1,6 @@
 #include "app/command_line.h"
 
-#include "platform/screen.h"
+#include "runtime/screen.h"
 
 namespace ferna {
 

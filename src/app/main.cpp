@@ -1,17 +1,17 @@
 #include "app/command_line.h"
 #include "design/configuration.h"
 #include "design/start_up.h"
+#include "desktop/forms/Help_window.h"
+#include "desktop/program_folder.h"
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
-#include "platform/forms/Help_window.h"
-#include "platform/program_folder.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
 #include "runtime/qt_remarks.h"
-#include "runtime/widgets/hourglass.h"
-#include "runtime/widgets/qt_dialogs.h"
 #include "selection/forms/Dobor_fer.h"
+#include "widgets/hourglass.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QApplication>
 #include <QIcon>

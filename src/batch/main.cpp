@@ -2,7 +2,7 @@
 #include "batch/ordered_workers.h"
 #include "batch/report_files.h"
 #include "batch/task_run.h"
-#include "platform/program_folder.h"
+#include "desktop/program_folder.h"
 #include "runtime/format.h"
 #include "runtime/qt_remarks.h"
 #include "runtime/text_file.h"

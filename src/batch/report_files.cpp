@@ -1,6 +1,6 @@
 #include "batch/report_files.h"
 
-#include "platform/renderer_start.h"
+#include "protocol/renderer_start.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"

@@ -1,3 +1,4 @@
+#include "batch/equilibrium_section.h"
 #include "batch/task_run.h"
 
 #include <charconv>
@@ -100,6 +101,7 @@ Json resultOf(const ComputedTask& done) {
     if (done.computed)
         addResults(result, done);
     result.update(done.sections);
+    result["Rownowaga"] = equilibriaJson(done.equilibria);
     return result;
 }
 

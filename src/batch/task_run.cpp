@@ -1,9 +1,9 @@
 #include "batch/task_run.h"
 
-#include "design/calculation.h"
+#include "command/calculation.h"
 #include "design/language.h"
 #include "input/plate_drawing.h"
-#include "report/sketch_files.h"
+#include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
 
 namespace ferna::batch {
@@ -91,8 +91,11 @@ ComputedTask run(Task task, const RunOptions& options) {
     Czytaj_teksty(stan, options.catalogue.isEmpty()
                             ? options.dataFolder + u'/' + catalogueFile(stan.opcje.Nr_jezyka)
                             : options.catalogue);
-    if (done.task.column
-        && !keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields)))
+    const bool columnKept =
+        !done.task.column
+        || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));
+    done.equilibria = enteredEquilibria(stan, done.task.fields);
+    if (!columnKept)
         return done;
     HeadlessHost host(done, options);
     try {

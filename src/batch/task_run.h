@@ -2,6 +2,7 @@
 
 #include "analysis/stan_przypadku.h"
 #include "batch/task.h"
+#include "command/entered_equilibria.h"
 #include "report/report_lines.h"
 
 #include <QDateTime>
@@ -34,7 +35,8 @@ struct ComputedTask {
     Stan_przypadku solver;
     Raport raport;
     ScriptedDialogs dialogs;
-    QDateTime now;         ///< date and time of the title block
+    EnteredEquilibria equilibria; ///< of the task as typed
+    QDateTime now;                ///< date and time of the title block
     Json failure;          ///< the run-time error that stopped the run, null where there was none
     bool computed = false; ///< false where a validation ended the command
     bool reportReady = false;                   ///< the lines of the report stand

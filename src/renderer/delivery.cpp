@@ -1,7 +1,7 @@
 #include "renderer/delivery.h"
 
-#include "platform/metafile.h"
-#include "renderer/emf_writer.h"
+#include "pages/emf_writer.h"
+#include "pages/metafile.h"
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"

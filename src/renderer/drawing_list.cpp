@@ -1,7 +1,7 @@
 #include "renderer/drawing_list.h"
 
-#include "platform/drawing.h"
-#include "renderer/text_measure.h"
+#include "pages/drawing.h"
+#include "pages/text_measure.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderer/page.h"
+#include "pages/page.h"
 #include "renderer/records.h"
 
 #include <QHash>

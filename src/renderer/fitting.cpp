@@ -1,6 +1,6 @@
 #include "renderer/fitting.h"
 
-#include "renderer/text_measure.h"
+#include "pages/text_measure.h"
 
 namespace ferna::renderer {
 

@@ -1,9 +1,9 @@
 #include "renderer/layout.h"
 
+#include "pages/text_measure.h"
 #include "renderer/fitting.h"
 #include "renderer/grouping.h"
 #include "renderer/page_flow.h"
-#include "renderer/text_measure.h"
 #include "runtime/run_time_error.h"
 
 #include <QDir>

@@ -1,8 +1,8 @@
-#include "platform/drawing.h"
-#include "platform/screen.h"
+#include "pages/drawing.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
 #include "runtime/run_time_error.h"
+#include "runtime/screen.h"
 
 #include <QApplication>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "renderer/outputs.h"
 
-#include "platform/drawing.h"
-#include "renderer/emf_writer.h"
-#include "renderer/page_painter.h"
+#include "pages/drawing.h"
+#include "pages/emf_writer.h"
+#include "pages/page_painter.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
 

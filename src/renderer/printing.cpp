@@ -1,7 +1,7 @@
 #include "renderer/printing.h"
 
-#include "platform/drawing.h"
-#include "renderer/page_painter.h"
+#include "pages/drawing.h"
+#include "pages/page_painter.h"
 #include "renderer/print_queue.h"
 #include "runtime/run_time_error.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/word_processor.h"
+#include "desktop/word_processor.h"
 #include "report/report_lines.h"
 
 namespace ferna {

@@ -1,7 +1,7 @@
 #include "report/results_session.h"
 
 #include "design/configuration.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/renderer_start.h"
-#include "platform/word_processor.h"
+#include "desktop/word_processor.h"
+#include "protocol/renderer_start.h"
 #include "report/report_lines.h"
 
 #include <functional>

@@ -1,5 +1,5 @@
+#include "pages/sketch_files.h"
 #include "report/rtf_writer.h"
-#include "report/sketch_files.h"
 #include "report/zone_sketch.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "report/wyd_writer.h"
 
-#include "platform/renderer_files.h"
-#include "report/sketch_files.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_files.h"
 #include "report/zone_sketch.h"
 #include "runtime/format.h"
 

@@ -1,6 +1,6 @@
 // A program that is killed while it saves leaves the old file or the new one, never a mixture.
 #include "design/configuration.h"
-#include "platform/program_folder.h"
+#include "desktop/program_folder.h"
 #include "runtime/text_file.h"
 #include "support/folder.h"
 #include "support/random_tasks.h"

@@ -1,8 +1,8 @@
 // Where the program may live: a folder that cannot be written, a folder with blanks and Polish
 // letters, a folder that is in use, a system with another decimal sign.
+#include "desktop/program_folder.h"
 #include "faults/small_disk.h"
-#include "platform/program_folder.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "renderer/program_run.h"
 #include "runtime/text_file.h"
 #include "support/folder.h"

@@ -1,8 +1,8 @@
 #include "input/forms/FernaPon.h"
 #include "input/forms/Fernafi.h"
 #include "input/forms/KGM8.h"
-#include "input/forms/KGM8b.h"
 #include "input/forms/Nowa_Sruba.h"
+#include "plate/forms/KGM8b.h"
 #include "support/main_form.h"
 
 #include <QAbstractButton>

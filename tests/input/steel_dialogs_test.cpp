@@ -1,4 +1,4 @@
-#include "input/forms/KGM8b.h"
+#include "plate/forms/KGM8b.h"
 #include "support/main_form.h"
 
 using namespace ferna;

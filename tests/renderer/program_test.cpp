@@ -1,4 +1,4 @@
-#include "platform/metafile.h"
+#include "pages/metafile.h"
 #include "renderer/outputs.h"
 #include "renderer/page_checks.h"
 #include "renderer/program_run.h"

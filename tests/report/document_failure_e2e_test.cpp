@@ -24,8 +24,9 @@ TEST_F(DocumentFailure, MissingModuleSaysWhatToInstall) {
     EXPECT_EQ(noModule.number(), error::NoObject);
     EXPECT_TRUE(noModule.detail().startsWith(
         QStringLiteral("brak modułu zapisu dokumentów ") + place_.module
-        + QStringLiteral(" (program zbudowany ze źródeł: trzeba zainstalować pakiet libreoffice-dev "
-                         "i zbudować program od nowa;")))
+        + QStringLiteral(
+            " (program zbudowany ze źródeł: trzeba zainstalować pakiet libreoffice-dev "
+            "i zbudować program od nowa;")))
         << noModule.detail().toStdString();
     EXPECT_FALSE(noModule.detail().contains(QStringLiteral("libreoffice-writer")));
 }

@@ -1,15 +1,15 @@
 #include "design/configuration.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
 #include "report/forms/report_view.h"
 #include "runtime/picture_box.h"
-#include "runtime/widgets/qt_dialogs.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
 #include "support/modal_answers.h"
 #include "support/printing.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QAction>
 #include <QFileDialog>

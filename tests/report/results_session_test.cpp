@@ -1,4 +1,4 @@
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/results_session.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"

@@ -1,6 +1,6 @@
 #include "design/language.h"
-#include "platform/renderer_files.h"
-#include "report/sketch_files.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_files.h"
 #include "report/wyd_writer.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"

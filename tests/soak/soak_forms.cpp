@@ -3,14 +3,14 @@
 // grow.
 #include "design/start_up.h"
 #include "input/forms/Ferna3.h"
-#include "platform/renderer_files.h"
+#include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "runtime/text_file.h"
-#include "runtime/widgets/qt_dialogs.h"
 #include "soak/process_memory.h"
 #include "support/decimal_comma.h"
 #include "support/modal_answers.h"
 #include "support/printing.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QAction>
 #include <QApplication>

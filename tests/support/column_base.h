@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/load_case.h"
-#include "design/calculation.h"
+#include "command/calculation.h"
 #include "design/material_tables.h"
 #include "input/anchor_layout.h"
 #include "runtime/format.h"

@@ -3,10 +3,10 @@
 #include "design/start_up.h"
 #include "input/forms/Ferna3.h"
 #include "runtime/text_file.h"
-#include "runtime/widgets/qt_dialogs.h"
 #include "support/decimal_comma.h"
 #include "support/modal_answers.h"
 #include "support/printing.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QApplication>
 #include <QComboBox>

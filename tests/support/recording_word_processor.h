@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/word_processor.h"
+#include "desktop/word_processor.h"
 #include "runtime/run_time_error.h"
 
 #include <QFileInfo>

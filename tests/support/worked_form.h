@@ -1,11 +1,11 @@
 #pragma once
 
 #include "design/stan.h"
-#include "runtime/widgets/picture_view.h"
-#include "runtime/widgets/qt_dialogs.h"
 #include "support/decimal_comma.h"
 #include "support/modal_answers.h"
 #include "support/printing.h"
+#include "widgets/picture_view.h"
+#include "widgets/qt_dialogs.h"
 
 #include <QApplication>
 #include <QComboBox>

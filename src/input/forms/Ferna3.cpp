@@ -12,11 +12,11 @@
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
 #include "runtime/format.h"
-#include "runtime/widgets/codepage_note.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
 #include "statics/forms/StatykaS.h"
 #include "ui_Ferna3.h"
+#include "widgets/codepage_note.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/stan_przypadku.h"
-#include "design/calculation.h"
+#include "command/calculation.h"
 #include "input/anchor_layout.h"
 #include "statics/load_list.h"
 #include "statics/load_scheme.h"

@@ -1,9 +1,9 @@
 #include "input/forms/FernaPon.h"
 
 #include "input/material_fields.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
 #include "ui_FernaPon.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <array>
 

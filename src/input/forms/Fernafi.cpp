@@ -2,8 +2,8 @@
 
 #include "design/material_tables.h"
 #include "runtime/format.h"
-#include "runtime/widgets/form_tools.h"
 #include "ui_Fernafi.h"
+#include "widgets/form_tools.h"
 
 namespace ferna {
 

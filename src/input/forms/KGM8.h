@@ -1,6 +1,6 @@
 #pragma once
 
-#include "input/forms/steel_dialog.h"
+#include "widgets/steel_dialog.h"
 
 #include <memory>
 

@@ -2,9 +2,9 @@
 
 #include "design/material_tables.h"
 #include "runtime/format.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
 #include "ui_Nowa_Sruba.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <QKeyEvent>
 

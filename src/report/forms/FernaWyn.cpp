@@ -1,10 +1,10 @@
 #include "report/forms/FernaWyn.h"
 
 #include "report/forms/status_panel.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/hourglass.h"
 #include "selection/selection_form.h"
 #include "ui_FernaWyn.h"
+#include "widgets/environment_stop.h"
+#include "widgets/hourglass.h"
 
 #include <QApplication>
 #include <QCloseEvent>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/metafile.h"
+#include "pages/metafile.h"
 
 #include <QWidget>
 

@@ -1,9 +1,9 @@
 #include "selection/forms/Dobor_fer.h"
 
-#include "report/sketch_files.h"
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
+#include "pages/sketch_files.h"
 #include "ui_Dobor_fer.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <QShowEvent>
 

@@ -1,8 +1,8 @@
 #include "statics/forms/Obciazenie.h"
 
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
 #include "ui_Obciazenie.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <QShowEvent>
 

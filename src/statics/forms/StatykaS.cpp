@@ -1,10 +1,10 @@
 #include "statics/forms/StatykaS.h"
 
-#include "runtime/widgets/environment_stop.h"
-#include "runtime/widgets/form_tools.h"
 #include "statics/forms/Obciazenie.h"
 #include "statics/forms/Statyka_sch.h"
 #include "ui_StatykaS.h"
+#include "widgets/environment_stop.h"
+#include "widgets/form_tools.h"
 
 #include <QKeyEvent>
 

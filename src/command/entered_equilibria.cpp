@@ -1,0 +1,75 @@
+#include "command/entered_equilibria.h"
+
+#include "design/material_tables.h"
+#include "runtime/run_time_error.h"
+
+namespace ferna {
+
+namespace {
+
+/// A field as typed, with all its digits.
+std::optional<Double> number(const QString& field) {
+    try {
+        return CDbl(field);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
+/// A place in mm. The state holds the whole millimetres that were typed as a Single in cm, which
+/// cannot hold most tenths; a place that a calculation has moved is no whole number.
+Double millimetres(Single cm) {
+    const Double mm = 10.0 * static_cast<Double>(cm);
+    const Double whole = std::nearbyint(mm);
+    return static_cast<Single>(whole / 10.0) == cm ? whole : mm;
+}
+
+} // namespace
+
+std::optional<equilibrium::Base> enteredBase(const Stan& stan, const InputFields& fields) {
+    const std::optional<Double> length = number(fields.Text3);
+    const std::optional<Double> width = number(fields.Text4);
+    const std::optional<Double> n = number(fields.Text2);
+    if (!length || !width || !n)
+        return std::nullopt;
+    const Plyta_i_kotwy& plate = stan.plyta;
+    std::array<equilibrium::Anchor, equilibrium::mostAnchors> anchors;
+    const auto count = static_cast<std::size_t>(plate.Liczba_srub);
+    for (std::size_t i = 0; i < count; ++i) {
+        const int slot = static_cast<int>(i) + 1;
+        const std::optional<Double> area = coreArea(plate.Fi_kotwy(slot));
+        if (!area)
+            return std::nullopt;
+        anchors.at(i) = {millimetres(plate.X_kotwy(slot)), millimetres(plate.Y_kotwy(slot)),
+                         *area * 100};
+    }
+    const equilibrium::Base base(*length, *width, *n, {anchors.data(), count});
+    return base.usable() ? std::optional(base) : std::nullopt;
+}
+
+std::optional<equilibrium::Load> enteredLoad(const InputFields& fields, int c) {
+    constexpr Double most = 1e100;
+    const auto row = static_cast<std::size_t>(c - 1);
+    const std::optional<Double> N = number(fields.Text6.at(row));
+    const std::optional<Double> M1 = number(fields.Text7.at(row));
+    const std::optional<Double> M2 = number(fields.Text8.at(row));
+    if (!N || !M1 || !M2 || std::max({std::fabs(*N), std::fabs(*M1), std::fabs(*M2)}) > most)
+        return std::nullopt;
+    return equilibrium::Load{*N, *M1, *M2};
+}
+
+EnteredEquilibria enteredEquilibria(const Stan& stan, const InputFields& fields) {
+    EnteredEquilibria result;
+    result.cases = stan.obciazenia.Liczba_przyp;
+    result.anchors = stan.plyta.Liczba_srub;
+    const std::optional<equilibrium::Base> base = enteredBase(stan, fields);
+    if (!base)
+        return result;
+    result.hasBase = true;
+    for (int c = 1; c <= result.cases; ++c)
+        if (const std::optional<equilibrium::Load> load = enteredLoad(fields, c))
+            result.byCase.at(static_cast<std::size_t>(c - 1)) = base->solve(*load);
+    return result;
+}
+
+} // namespace ferna
