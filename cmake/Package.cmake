@@ -18,6 +18,8 @@ list(FILTER delivered_bitmaps INCLUDE REGEX "\\.bmp$")
 install(FILES ${delivered_texts} ${delivered_bitmaps} ${help_output} DESTINATION share/ferna)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/przyklady DESTINATION share/ferna
     FILES_MATCHING PATTERN *.json)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/schemat DESTINATION share/ferna
+    FILES_MATCHING PATTERN *.json)
 install(FILES ${packaging}/ferna.desktop DESTINATION share/applications)
 install(FILES ${CMAKE_SOURCE_DIR}/data/szkice/ferna.svg
     DESTINATION share/icons/hicolor/scalable/apps)

@@ -1,5 +1,6 @@
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
+#include "batch/remarks.h"
 #include "batch/report_files.h"
 #include "batch/task_run.h"
 #include "desktop/program_folder.h"
@@ -60,6 +61,8 @@ int runOne(const Options& options, const RunOptions& runOptions) {
         if (done.reportReady)
             for (const QString& file : options.reports)
                 writeReport(done, file, runOptions.pictures);
+        for (const std::string& remark : remarksOf(done))
+            std::cerr << "ferna-wsad: " << options.task.toStdString() << ": " << remark << '\n';
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "
