@@ -4,6 +4,7 @@
 
 build_packages=(
     g++ cmake ninja-build ccache
+    python3 cmark-gfm
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools libcups2-dev nlohmann-json3-dev
 )
 run_packages=(

@@ -28,8 +28,9 @@ std::vector<std::string> remarksOf(const ComputedTask& done) {
     if (done.task.plate && !wrote(done.sections, "Blacha", "Wiersze_blachy"))
         remarks.emplace_back("Blacha: nothing of the plate section stands in the report");
     if (done.task.anchor && done.task.stan.wyniki.Kotwy_OK == False)
-        remarks.emplace_back("Kotwa: not selected, as the stress of an anchor is above its strength; "
-                             "nothing of it stands in the report");
+        remarks.emplace_back(
+            "Kotwa: not selected, as the stress of an anchor is above its strength; "
+            "nothing of it stands in the report");
     else if (done.task.anchor && !wrote(done.sections, "Kotwa", "Wiersze_kotwy"))
         remarks.emplace_back("Kotwa: nothing of the anchor section stands in the report");
     return remarks;
