@@ -1,5 +1,6 @@
 #include "analysis/case_results.h"
 
+#include "analysis/clauses.h"
 #include "runtime/format.h"
 
 namespace ferna {
@@ -14,13 +15,9 @@ QString& nextLine(Wyniki& results, const QString& text) {
     return line;
 }
 
-Single inMPa(Double kGcm2) {
-    return CSng(kGcm2 * Gravity / 100);
-}
-
 void takeSigma_b(Stan& stan, int c, Double stress) {
     Wyniki& results = stan.wyniki;
-    results.Sigma_b(c) = inMPa(stress);
+    results.Sigma_b(c) = stressInMegapascals(stress);
     if (results.Sigma_b(c) > results.Sigma_b_max)
         results.Sigma_b_max = results.Sigma_b(c);
 }
@@ -59,13 +56,13 @@ void storeAnchor(Stan& stan, const Stan_przypadku& s, int i, int c) {
     Wyniki& r = stan.wyniki;
     const Double area = stan.plyta.Pole_kotwy(i);
     const Double n = stan.opcje.Wsp_n_val;
-    r.Sila_kotwy_kG(i) = CSng(stan.plyta.Odl_kotwy(i) * n * s.Wsp_k * area);
-    r.Sigma_kotwy_kG(i) = CSng(divided(r.Sila_kotwy_kG(i), area));
+    r.Sila_kotwy_kG(i) = anchorForce(stan.plyta.Odl_kotwy(i), n, s.Wsp_k, area);
+    r.Sigma_kotwy_kG(i) = anchorStress(r.Sila_kotwy_kG(i), area);
     Single& stress = r.Sigma_kotwy(i)(c);
-    stress = inMPa(r.Sigma_kotwy_kG(i));
+    stress = stressInMegapascals(r.Sigma_kotwy_kG(i));
     if (stress < r.Sigma_s_max)
         r.Sigma_s_max = stress;
-    r.Sila_kotwy(i) = CSng(stress * area * 0.1);
+    r.Sila_kotwy(i) = anchorForceOfStress(stress, area);
     if (r.Sila_kotwy(i) < r.Sila_kotwy_max) {
         r.Sila_kotwy_max = r.Sila_kotwy(i);
         r.Nr_kotwy_max = CInt(i);
@@ -81,26 +78,34 @@ void storeAnchor(Stan& stan, const Stan_przypadku& s, int i, int c) {
 void checkConcrete(Stan& stan, int c) {
     Wyniki& r = stan.wyniki;
     const Single Rb = stan.materialy.Rb_betonu;
-    if (r.Sigma_b(c) > 2.0 * Rb) {
+    switch (concreteVerdict(r.Sigma_b(c), Rb)) {
+    case ConcreteVerdict::AboveDouble:
         r.Wiersze_wynikow(r.Nr_wiersza) += stan.Teksty(4);
-    } else if (r.Sigma_b(c) < Rb) {
+        break;
+    case ConcreteVerdict::Satisfied:
         r.Wiersze_wynikow(r.Nr_wiersza) += QStringLiteral(" < Rb = ") + Format(Rb, u"###.0 MPa");
-    } else {
-        const Single ratio = CSng(divided(r.Sigma_b(c), Rb));
+        break;
+    case ConcreteVerdict::Exceeded:
+        const Single ratio = concreteRatio(r.Sigma_b(c), Rb);
         nextLine(r, stan.Teksty(5));
         r.Znak_wiersza(r.Nr_wiersza) = 1;
         r.Liczba_przekroczen = CInt(r.Liczba_przekroczen + 1);
         r.Tekst_przekroczenia(r.Liczba_przekroczen) =
             QStringLiteral(" = ") + Format(ratio, u"#0.0##");
+        break;
     }
 }
 
-/// One of three catalogue lines by the utilisation w: satisfied, exceeded by up to 5 %, exceeded.
-QString shearVerdict(const Stan& stan, Single w, int firstLine) {
-    if (w < 1)
+/// One of three catalogue lines by the utilisation w.
+QString shearLine(const Stan& stan, Single w, int firstLine) {
+    switch (shearVerdict(w)) {
+    case ShearVerdict::Satisfied:
         return stan.Teksty(firstLine);
-    if (w <= 1.05)
+    case ShearVerdict::WithinFivePercent:
         return stan.Teksty(firstLine + 1) + Format((Double{w} - 1) * 100, u"#0.0") + u'%';
+    case ShearVerdict::Exceeded:
+        break;
+    }
     return stan.Teksty(firstLine + 2);
 }
 
@@ -111,8 +116,7 @@ QString shearByTensionSide(const Stan& stan, const Stan_przypadku& s, Single V) 
     for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
         if (s.Typ_strefy == zone::WholePlate || stan.plyta.Odl_kotwy(i) < 0)
             A = CSng(A + stan.plyta.Pole_kotwy(i));
-    const Single t = CSng(divided(V, A) * 10);
-    return shearVerdict(stan, CSng(divided(t, stan.materialy.Fv_kotwy)), 47);
+    return shearLine(stan, shearUtilisation(anchorShear(V, A), stan.materialy.Fv_kotwy), 47);
 }
 
 /// The shear goes to all anchors, together with the tension of the most stressed one. Stresses that
@@ -124,23 +128,19 @@ QString shearByAllAnchors(const Stan& stan, int c, Single V) {
         A = CSng(A + stan.plyta.Pole_kotwy(i));
         sm = qMin(sm, stan.wyniki.Sigma_kotwy(i)(c));
     }
-    const Single t = CSng(divided(V, A) * 10);
-    const Double tension = divided(sm, stan.materialy.Fd2_kotwy);
-    const Double shear = divided(t, stan.materialy.Fv_kotwy);
-    return shearVerdict(stan, CSng(tension * tension + shear * shear), 50);
+    const Materialy& steel = stan.materialy;
+    const Single w = interactionUtilisation(sm, steel.Fd2_kotwy, anchorShear(V, A), steel.Fv_kotwy);
+    return shearLine(stan, w, 50);
 }
 
 void checkHorizontalForces(Stan& stan, const Stan_przypadku& s, int c) {
-    constexpr Double none = 0.01;    // kN
-    constexpr Double friction = 0.3; // between plate and concrete
+    constexpr Double none = 0.01; // kN
     const Obciazenia& loads = stan.obciazenia;
-    const Double Vx = loads.Sila_Vx(c);
-    const Double Vy = loads.Sila_Vy(c);
-    const Single V = CSng(Sqr(Vx * Vx + Vy * Vy));
+    const Single V = horizontalForce(loads.Sila_Vx(c), loads.Sila_Vy(c));
     if (V <= none)
         return;
     QString& line = nextLine(stan.wyniki, QString());
-    if (friction * loads.Sila_N(c) > V)
+    if (frictionForce(loads.Sila_N(c)) > V)
         line = stan.Teksty(46);
     else if (stan.opcje.Hsily_wszystkie != 0)
         line = shearByTensionSide(stan, s, V);
@@ -153,12 +153,11 @@ void checkHorizontalForces(Stan& stan, const Stan_przypadku& s, int c) {
 void Wyniki_calej_plyty(Stan& stan, Stan_przypadku& s) {
     const Obciazenia& loads = stan.obciazenia;
     const int c = loads.Nr_przyp;
-    s.Wy_plyty = s.Plyta_L * s.Plyta_B * s.Plyta_B / 6;
-    s.Wx_plyty = s.Plyta_B * s.Plyta_L * s.Plyta_L / 6;
+    s.Wy_plyty = sectionModulus(s.Plyta_L, s.Plyta_B);
+    s.Wx_plyty = sectionModulus(s.Plyta_B, s.Plyta_L);
     takeSigma_b(stan, c,
-                divided(loads.Sila_N_kG(c), s.Plyta_L * s.Plyta_B)
-                    + divided(loads.Moment_M1_kGcm, s.Wx_plyty)
-                    + divided(loads.Moment_M2_kGcm, s.Wy_plyty));
+                cornerStress(loads.Sila_N_kG(c), s.Plyta_L, s.Plyta_B, loads.Moment_M1_kGcm,
+                             s.Wx_plyty, loads.Moment_M2_kGcm, s.Wy_plyty));
     s.Typ_strefy = zone::WholePlate;
     stan.wyniki.Przyp_policzony(c) = True;
     nextLine(stan.wyniki, stan.Teksty(6));
@@ -176,7 +175,7 @@ void Wyniki_linii_obojetnej(Stan& stan, Stan_przypadku& s) {
             if (stan.plyta.Odl_kotwy(i) < 0)
                 storeAnchor(stan, s, i, c);
     }
-    takeSigma_b(stan, c, divided(s.Sila_C, s.V_strefy));
+    takeSigma_b(stan, c, concreteStress(s.Sila_C, s.V_strefy));
     nextLine(stan.wyniki, concreteLine(stan, c));
 }
 

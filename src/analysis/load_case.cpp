@@ -1,6 +1,7 @@
 #include "analysis/load_case.h"
 
 #include "analysis/case_results.h"
+#include "analysis/clauses.h"
 #include "analysis/search.h"
 
 namespace ferna {
@@ -92,30 +93,30 @@ void Ustal_momenty(Stan& stan, Stan_przypadku& s) {
     // The line of an axis-parallel moment is singular, so a vanishing moment becomes a small one.
     // The two branches are not alike: 0.009 stands in one threshold only.
     if (std::fabs(CSng(s.M1n)) <= none) {
-        M2k = (s.M2n * 100000) / Gravity;
+        M2k = momentInKilograms(s.M2n);
         M1k = substitute;
         if (substitute < 0.009 * std::fabs(M2k))
             M1k = 0.0009 * M2k;
     } else {
-        M1k = (s.M1n * 100000) / Gravity;
+        M1k = momentInKilograms(s.M1n);
     }
     if (std::fabs(CSng(s.M2n)) <= none) {
         M2k = substitute;
         if (substitute < 0.0009 * std::fabs(M1k))
             M2k = 0.0009 * M1k;
     } else {
-        M2k = (s.M2n * 100000) / Gravity;
+        M2k = momentInKilograms(s.M2n);
     }
 }
 
 void Ustal_mimosrody(Stan& stan, Stan_przypadku& s) {
     const Obciazenia& loads = stan.obciazenia;
     const Double Nk = loads.Sila_N_kG(loads.Nr_przyp);
-    s.Ex = divided(loads.Moment_M1_kGcm, Nk);
-    s.Ey = divided(loads.Moment_M2_kGcm, Nk);
+    s.Ex = eccentricity(loads.Moment_M1_kGcm, Nk);
+    s.Ey = eccentricity(loads.Moment_M2_kGcm, Nk);
     if (s.Ex != 0) {
         s.Alfa = std::atan(s.Ey / s.Ex);
-        s.Mimosrod = Sqr(s.Ey * s.Ey + s.Ex * s.Ex);
+        s.Mimosrod = eccentricityLength(s.Ex, s.Ey);
     }
     s.Pol_a = s.Plyta_L / 2;
     s.Pol_b = s.Plyta_B / 2;
@@ -131,7 +132,7 @@ bool Poza_rdzeniem(const Stan& stan, Stan_przypadku& s) {
         if (s.Ey > s.Plyta_B / 6)
             return true;
     }
-    s.Rdzen = divided(s.Plyta_B, 6 * (std::sin(s.Alfa) + s.Plyta_B / s.Plyta_L * std::cos(s.Alfa)));
+    s.Rdzen = kernRadius(s.Plyta_L, s.Plyta_B, s.Alfa);
     return s.Rdzen < s.Mimosrod;
 }
 

@@ -1,3 +1,4 @@
+#include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/remarks.h"
@@ -38,6 +39,12 @@ int refuse(const std::string& what) {
     return BadCall;
 }
 
+/// What is to be told beside a result; nothing where the text is empty.
+void remark(const QString& what) {
+    if (!what.isEmpty())
+        std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
+}
+
 std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
@@ -58,11 +65,14 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             print(result.toStdString());
         else
             writeFileWhole(options.result, result);
+        for (const QString& what : remarksOf(done))
+            remark(options.task + QStringLiteral(": ") + what);
+        if (done.reportReady && !options.reports.isEmpty())
+            for (const QString& what : nameRemarks(done.task))
+                remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady)
             for (const QString& file : options.reports)
-                writeReport(done, file, runOptions.pictures);
-        for (const std::string& remark : remarksOf(done))
-            std::cerr << "ferna-wsad: " << options.task.toStdString() << ": " << remark << '\n';
+                remark(writeReport(done, file, runOptions.pictures));
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "

@@ -10,29 +10,25 @@ bool wrote(const Json& sections, const char* section, const char* lines) {
     return found != sections.end() && found->is_object() && !found->at(lines).empty();
 }
 
-std::string onOneLine(const ScriptedDialogs::Box& box) {
-    return (box.title + QStringLiteral(": ") + box.text).simplified().toStdString();
-}
-
 } // namespace
 
-std::vector<std::string> remarksOf(const ComputedTask& done) {
-    std::vector<std::string> remarks;
+QStringList remarksOf(const ComputedTask& done) {
+    QStringList remarks;
     for (const ScriptedDialogs::Box& box : done.dialogs.messages)
-        remarks.push_back(onOneLine(box));
+        remarks += (box.title + QStringLiteral(": ") + box.text).simplified();
     if (!done.failure.is_null())
-        remarks.push_back("error " + done.failure.at("numer").dump() + ": "
-                          + done.failure.at("tekst").get<std::string>());
+        remarks += QStringLiteral("error %1: %2")
+                       .arg(done.failure.at("numer").get<int>())
+                       .arg(QString::fromStdString(done.failure.at("tekst").get<std::string>()));
     if (!done.reportReady)
         return remarks;
     if (done.task.plate && !wrote(done.sections, "Blacha", "Wiersze_blachy"))
-        remarks.emplace_back("Blacha: nothing of the plate section stands in the report");
+        remarks += QStringLiteral("Blacha: nothing of the plate section stands in the report");
     if (done.task.anchor && done.task.stan.wyniki.Kotwy_OK == False)
-        remarks.emplace_back(
-            "Kotwa: not selected, as the stress of an anchor is above its strength; "
-            "nothing of it stands in the report");
+        remarks += QStringLiteral("Kotwa: not selected, as the stress of an anchor is above its "
+                                  "strength; nothing of it stands in the report");
     else if (done.task.anchor && !wrote(done.sections, "Kotwa", "Wiersze_kotwy"))
-        remarks.emplace_back("Kotwa: nothing of the anchor section stands in the report");
+        remarks += QStringLiteral("Kotwa: nothing of the anchor section stands in the report");
     return remarks;
 }
 

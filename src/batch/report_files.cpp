@@ -1,5 +1,7 @@
 #include "batch/report_files.h"
 
+#include "batch/report_pictures.h"
+#include "pages/sketch_files.h"
 #include "protocol/renderer_start.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
@@ -15,37 +17,55 @@ namespace ferna::batch {
 
 namespace {
 
-void writeText(const ComputedTask& done, const QString& file, const QString& /*pictures*/) {
+QString writeText(const ComputedTask& done, const QString& file, const QString& /*pictures*/) {
     textReport(done.task.stan, done.raport).commit(file);
+    return {};
 }
 
-/// The print commands; their pictures go into the same folder.
-void writeCommands(const ComputedTask& done, const QString& file, const QString& pictures) {
+/// The print commands; their pictures go into the same folder, under names of their own.
+QString writeCommands(const ComputedTask& done, const QString& file, const QString& pictures) {
     const QString folder = QFileInfo(file).absolutePath();
     Buduj_wyd(done.task.stan, done.raport, pictures); // saves the anchor's sketch among the others
-    WydWriter writer(done.task.stan, done.raport, folder);
+    WydWriter writer(done.task.stan, done.raport, folder, picturePrefix(file));
     writer.body();
-    for (const QString& picture : writer.pictures())
-        writeFileWhole(folder + u'/' + picture, readFileWhole(pictures + u'/' + picture));
+    copyPictures(writer.pictures(), pictures, folder, picturePrefix(file));
     writer.file().commit(file);
+    return {};
 }
 
 /// Pages by the renderer, which is asked for them by `option`.
 template <const char* option>
-void writePages(const ComputedTask& done, const QString& file, const QString& pictures) {
+QString writePages(const ComputedTask& done, const QString& file, const QString& pictures) {
     Buduj_wyd(done.task.stan, done.raport, pictures);
     writeJob(pictures, RenderMode::ScreenPicture, done.task.stan.opcje.Nr_strony);
     runRenderer(pictures, {QString::fromLatin1(option), QFileInfo(file).absoluteFilePath()});
+    return {};
 }
 
-void writeRtf(const ComputedTask& done, const QString& file, const QString& /*pictures*/) {
+/// The RTF report and the pictures that its text links to.
+QString writeRtf(const ComputedTask& done, const QString& file, const QString& pictures) {
     Stan stan = done.task.stan; // the writer counts pages on
     Raport raport = done.raport;
-    saveRtfReport(stan, raport, done.now, file);
+    RtfWriter writer(stan, raport, done.now);
+    writer.document();
+    if (stan.raport.Liczba_wierszy_kotwy >= 1)
+        saveAnchorSketch(pictures, stan.raport.Typ_szkicu_kotwy);
+    const RtfPlace place = placeOfRtfPictures(file, writer.pictures(), pictures);
+    if (place.isOwn)
+        QDir().mkdir(place.pictures);
+    copyPictures(writer.pictures(), pictures, place.pictures);
+    writer.file().commit(file);
+    if (!place.isOwn)
+        return {};
+    writer.file().commit(place.copyOfReport);
+    return QStringLiteral("%1: the pictures beside it belong to another report; with its own "
+                          "pictures the report is %2")
+        .arg(QDir::toNativeSeparators(file), QDir::toNativeSeparators(place.copyOfReport));
 }
 
-void writeWordDocument(const ComputedTask& done, const QString& file, const QString& pictures) {
+QString writeWordDocument(const ComputedTask& done, const QString& file, const QString& pictures) {
     writeDocument(done.task.stan, done.raport, pictures, file);
+    return {};
 }
 
 constexpr char pdf[] = "--pdf";
@@ -55,12 +75,12 @@ constexpr char svg[] = "--svg";
 struct ReportFormat {
     const char* ending;
     bool pictures;
-    void (*write)(const ComputedTask& done, const QString& file, const QString& pictures);
+    QString (*write)(const ComputedTask& done, const QString& file, const QString& pictures);
 };
 
 // One row a format.
 constexpr std::array formats{
-    ReportFormat{".txt", false, writeText},        ReportFormat{".rtf", false, writeRtf},
+    ReportFormat{".txt", false, writeText},        ReportFormat{".rtf", true, writeRtf},
     ReportFormat{".wyd", true, writeCommands},     ReportFormat{".pdf", true, writePages<pdf>},
     ReportFormat{".emf", true, writePages<emf>},   ReportFormat{".svg", true, writePages<svg>},
     ReportFormat{".doc", true, writeWordDocument}, ReportFormat{".odt", true, writeWordDocument},
@@ -96,8 +116,8 @@ void deliverPictures(const QString& dataFolder, const QString& folder) {
         writeFileWhole(folder + u'/' + picture, readFileWhole(dataFolder + u'/' + picture));
 }
 
-void writeReport(const ComputedTask& done, const QString& file, const QString& pictures) {
-    formatOf(file)->write(done, file, pictures);
+QString writeReport(const ComputedTask& done, const QString& file, const QString& pictures) {
+    return formatOf(file)->write(done, file, pictures);
 }
 
 } // namespace ferna::batch

@@ -20,7 +20,8 @@ bool needsPictures(const QString& file);
 void deliverPictures(const QString& dataFolder, const QString& folder);
 
 /// Writes the report of a computed task; its ending chooses the format. `pictures` is the folder
-/// where the run has left the pictures. Errors of `writeFileWhole` and of the renderer.
-void writeReport(const ComputedTask& done, const QString& file, const QString& pictures);
+/// where the run has left the pictures. Returns what is to be told of it (English), mostly nothing.
+/// Errors of `writeFileWhole` and of the renderer.
+QString writeReport(const ComputedTask& done, const QString& file, const QString& pictures);
 
 } // namespace ferna::batch

@@ -5,6 +5,7 @@
 #include "runtime/text_file.h"
 
 #include <array>
+#include <limits>
 
 namespace ferna {
 
@@ -54,7 +55,18 @@ Single ratioFromHundredths(FieldReader& file) {
     return file.atLineEnd() ? 0.0F : CSng(file.integer() / 100.0);
 }
 
+/// n in whole hundredths, as the file holds it.
+Double hundredths(Single Wsp_n_val) {
+    return Int(CSng(Wsp_n_val * 100.0));
+}
+
 } // namespace
+
+bool canBeSaved(Single Wsp_n_val) {
+    const Double held = hundredths(Wsp_n_val);
+    return held >= std::numeric_limits<Integer>::min()
+           && held <= std::numeric_limits<Integer>::max();
+}
 
 RendererReply readRendererReply(const QString& path) {
     FieldReader file(path);
@@ -123,9 +135,8 @@ void Zapisz_cfg(Stan& stan, const QString& path, const QString& replyPath) {
     file.line(task.Nazwa_projektu);
     file.line(ZoneLine().number(task.Nr_betonu).text(u"Nrbetonu"));
     file.line(ZoneLine().number(task.Nr_stali).text(u"Nrstali"));
-    file.line(ZoneLine()
-                  .number(task.Tryb_wsp_n)
-                  .text(Format(Int(CSng(task.Wsp_n_val * 100.0)), u"#######")));
+    file.line(
+        ZoneLine().number(task.Tryb_wsp_n).text(Format(hundredths(task.Wsp_n_val), u"#######")));
     file.line(ZoneLine().number(task.Nr_jezyka).text(u"Jezyk 0-PL 1-P2 2-GB 3-FR 4-DE"));
     for (int c = 1; c <= MaxCases; ++c)
         file.line(loadLine(stan.obciazenia, c));

@@ -14,6 +14,10 @@ struct RendererReply {
 /// Errors of the field reader.
 RendererReply readRendererReply(const QString& path);
 
+/// True where the configuration can hold the ratio n: it keeps whole hundredths, as a number of 16
+/// bits, so n from -327.68 up to below 327.68.
+bool canBeSaved(Single Wsp_n_val);
+
 /// Takes the page number that the renderer reported, where it reported any, into `Nr_strony`.
 void takeNextPage(Stan& stan, const RendererReply& reply);
 

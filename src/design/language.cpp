@@ -16,7 +16,7 @@ QString catalogueFile(Integer Nr_jezyka) {
 }
 
 void Czytaj_teksty(Stan& stan, const QString& path) {
-    const QStringList lines = readLines(path);
+    const QStringList lines = readLines(path, TextFrom::Editor);
     if (lines.size() < CatalogueLines)
         throw RunTimeError(error::InputPastEnd,
                            QStringLiteral("%1, wiersz %2: katalog ma %3 wierszy")

@@ -10,6 +10,8 @@ namespace ferna {
 
 namespace {
 
+static_assert(wellFormed(ratioNClause));
+
 struct SteelRow {
     Integer Nr_stali;
     Integer upTo; // largest Fi_max of the row, mm

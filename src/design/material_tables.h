@@ -1,5 +1,6 @@
 #pragma once
 
+#include "design/clause.h"
 #include "runtime/numbers.h"
 
 #include <QStringList>
@@ -51,5 +52,7 @@ std::optional<Double> coreArea(Integer fi);
 
 /// Ratio n of Es = 205000 MPa to Eb in MPa, rounded to two decimals.
 Single ratioN(Single Eb_betonu);
+inline constexpr Clause ratioNClause{
+    {}, {u"n", u""}, u"int(20500000 / {Eb} + 0.5) / 100", {{{u"Eb", u"MPa"}}}};
 
 } // namespace ferna

@@ -7,17 +7,25 @@
 
 namespace ferna {
 
-void startUp(Stan& stan, const QString& folder) {
+void clearForStart(Stan& stan) {
     stan.opcje.Stopnie_na_radian = 180 / Pi;
     stan.wyniki.Przyp_policzony.fill(False);
     stan.materialy.Stal_uzytkownika = false;
-    Czytaj_cfg(stan, folder + QStringLiteral("/Ferna.cfg"));
-    Czytaj_teksty(stan, folder + u'/' + catalogueFile(stan.opcje.Nr_jezyka));
+}
+
+void readLastTask(Stan& stan, const QString& folder) {
+    Czytaj_cfg(stan, folder + u'/' + taskFile);
     const Concrete& row = concrete(stan.opcje.Nr_normy, stan.opcje.Nr_betonu);
     stan.materialy.Nazwa_betonu = QString::fromLatin1(row.name);
     stan.materialy.Eb_betonu = row.Eb_betonu;
     if (stan.opcje.Tryb_wsp_n != 1)
         stan.opcje.Wsp_n_val = ratioN(row.Eb_betonu);
+}
+
+void startUp(Stan& stan, const QString& folder) {
+    clearForStart(stan);
+    readLastTask(stan, folder);
+    Czytaj_teksty(stan, folder + u'/' + catalogueFile(stan.opcje.Nr_jezyka));
 }
 
 InputFields startFields(const Stan& stan) {

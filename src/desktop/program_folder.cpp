@@ -43,6 +43,7 @@ QString enterProgramFolder(const QString& beside, const QString& delivered, cons
             throw RunTimeError(error::PathNotFound, folder);
         bringDeliveredFiles(delivered, folder);
     }
+    removeLeftSavings(folder);
     QDir::setCurrent(folder);
     return folder;
 }
@@ -58,12 +59,6 @@ std::unique_ptr<QLockFile> lockProgramFolder(const QString& folder) {
                            detail
                                + QStringLiteral(" (z tego folderu korzysta już otwarty program)"));
     throw RunTimeError(error::PathAccess, detail);
-}
-
-void restoreDelivered(const QString& path, const QString& pristine) {
-    if (QFileInfo::exists(path))
-        writeFileWhole(path + QStringLiteral(".uszkodzony"), readFileWhole(path));
-    writeFileWhole(path, readFileWhole(pristine));
 }
 
 } // namespace ferna

@@ -15,7 +15,8 @@ QString deliveredDataFolder();
 
 /// The program folder: that of the executable where it can be written and holds the delivered data;
 /// otherwise the user's data folder, which `bringDeliveredFiles` fills and keeps up to date.
-/// Becomes the current folder. Errors 76 and those of `readFileWhole` and `writeFileWhole`.
+/// What a killed program has left of its savings goes. Becomes the current folder. Errors 76 and
+/// those of `readFileWhole` and `writeFileWhole`.
 QString enterProgramFolder();
 
 /// The same for given folders: `beside` that of the executable, `delivered` the data, `own` the
@@ -26,9 +27,5 @@ QString enterProgramFolder(const QString& beside, const QString& delivered, cons
 /// each other's pictures, page numbers and reports. A program that was killed leaves no lock
 /// behind. Error 70 where another one has the folder, 75 where it cannot be locked.
 std::unique_ptr<QLockFile> lockProgramFolder(const QString& folder);
-
-/// Puts a file back as it was delivered (`pristine`). A damaged one is kept under its name with
-/// ".uszkodzony" behind it. Errors of `readFileWhole` and `writeFileWhole`.
-void restoreDelivered(const QString& path, const QString& pristine);
 
 } // namespace ferna

@@ -1,5 +1,6 @@
 #include "input/material_fields.h"
 
+#include "design/configuration.h"
 #include "design/material_tables.h"
 #include "runtime/format.h"
 
@@ -23,6 +24,9 @@ void chooseNorm(Stan& stan, Integer k) {
         number = CInt(k == 1 ? number - 1 : qMin<int>(number + 1, lastOlderClass));
     }
     stan.opcje.Nr_normy = k;
+    takeEb(stan);
+    if (stan.opcje.Tryb_wsp_n == 0)
+        computeRatio(stan);
 }
 
 void chooseConcrete(Stan& stan, int index) {
@@ -40,6 +44,24 @@ void computeRatio(Stan& stan) {
 
 QString ratioText(const Stan& stan) {
     return asShown(stan.opcje.Wsp_n_val);
+}
+
+Single typedRatio(const QString& text) {
+    const Single n = CSng(text);
+    if (!canBeSaved(n))
+        throw RunTimeError(error::Overflow, QStringLiteral("n = %1, a zadanie (Ferna.cfg) mieści n "
+                                                           "od -327,68 do 327,67")
+                                                .arg(text.trimmed()));
+    return n;
+}
+
+void leaveRatio(const QString& text) {
+    try {
+        typedRatio(text);
+    } catch (const RunTimeError& failure) {
+        if (failure.number() != error::TypeMismatch)
+            throw;
+    }
 }
 
 RatioOffer ratioOffer(const Stan& stan) {
@@ -62,7 +84,7 @@ void chooseRatio(Stan& stan, int index, Dialogs& dialogs) {
     const QString answer = dialogs.input(
         QStringLiteral("Podaj stosunek współczynników sztywności n=E/Eb"),
         QStringLiteral("Stosunek współczynników sztywności"), general(stan.opcje.Wsp_n_val));
-    stan.opcje.Wsp_n_val = answer.isEmpty() ? recommendedRatio : CSng(answer);
+    stan.opcje.Wsp_n_val = answer.isEmpty() ? recommendedRatio : typedRatio(answer);
 }
 
 } // namespace ferna

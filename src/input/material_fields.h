@@ -20,6 +20,14 @@ void computeRatio(Stan& stan);
 /// The ratio n in force as its field shows it.
 QString ratioText(const Stan& stan);
 
+/// The ratio n that the engineer typed. Error 13 where the text is no number; 6 where it is one
+/// that the configuration cannot hold, so that the next start would refuse the whole task.
+Single typedRatio(const QString& text);
+
+/// Leaving the field of n with this text: error 6 as above. Letters pass, the calculation is the
+/// one to refuse them.
+void leaveRatio(const QString& text);
+
 /// The text of the dialog `FernaPon` and the caption of its middle button.
 struct RatioOffer {
     QString Label1;
@@ -28,7 +36,7 @@ struct RatioOffer {
 RatioOffer ratioOffer(const Stan& stan);
 
 /// Click of a button of `FernaPon`: 0 takes n = 6, 1 the computed value, 2 asks for another one; an
-/// empty answer gives 6. Error 13 for an answer that is no number.
+/// empty answer gives 6. Errors of `typedRatio`; n is then as it was.
 void chooseRatio(Stan& stan, int index, Dialogs& dialogs);
 
 } // namespace ferna

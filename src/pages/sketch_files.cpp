@@ -17,7 +17,8 @@ QString nth(const std::array<const char*, N>& files, int number) {
 }
 
 void save(const QString& folder, const QString& delivered, const QString& name) {
-    writeFileWhole(folder + u'/' + name, readFileWhole(folder + u'/' + delivered));
+    writeFileWhole(folder + u'/' + name, readFileWhole(folder + u'/' + delivered),
+                   Lasting::UntilNextUse);
 }
 
 } // namespace

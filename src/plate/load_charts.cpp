@@ -1,26 +1,11 @@
 #include "plate/load_charts.h"
 
+#include "plate/clauses.h"
 #include "plate/load_chart_data.h"
-#include "runtime/run_time_error.h"
-
-#include <cmath>
-#include <limits>
 
 namespace ferna {
 
 namespace {
-
-// The charts are read in the 80-bit format: a Single result can hang on its last bits.
-using Extended = long double;
-static_assert(std::numeric_limits<Extended>::digits == 64);
-
-/// Rounded once, from the widest precision to 32 bits. Error 6 beyond the range.
-Single storedSingle(Extended value) {
-    const auto single = static_cast<Single>(value);
-    if (!std::isfinite(single))
-        throw RunTimeError(error::Overflow);
-    return single;
-}
 
 /// The range that a segment serves, and its line.
 struct Segment {
@@ -156,8 +141,8 @@ ChartRow chartRow(int check, Single p) {
 
 ChartReading Interpoluj_wykres(int check, Integer b, Integer a, Integer c) {
     ChartReading reading;
-    reading.p = CSng(divided(b, c));
-    reading.q = CSng(divided(a, c));
+    reading.p = chartRatio(b, c);
+    reading.q = chartRatio(a, c);
     reading.message = beyondLimits(check, reading.p, reading.q);
     if (!reading.message.isEmpty())
         return reading;
@@ -172,9 +157,7 @@ ChartReading Interpoluj_wykres(int check, Integer b, Integer a, Integer c) {
         return reading;
     }
     const Double d = check == 8 && reading.row.k2 >= 30 ? 0.5 : 0.2;
-    reading.y = storedSingle((Extended{reading.y2} - Extended{reading.y1})
-                                 * (Extended{reading.p} - Extended{reading.row.L}) / Extended{d}
-                             + Extended{reading.y1});
+    reading.y = chartCoefficient(reading.y1, reading.y2, reading.p, reading.row.L, d);
     return reading;
 }
 

@@ -1,5 +1,6 @@
 #include "plate/plate_checks.h"
 
+#include "plate/clauses.h"
 #include "plate/load_charts.h"
 #include "plate/plate_tables.h"
 #include "runtime/format.h"
@@ -24,6 +25,17 @@ std::size_t at(int check) {
 void require(bool fulfilled, const QString& otherwise) {
     if (!fulfilled)
         throw Refusal{otherwise};
+}
+
+/// The field i of a control array, read as a number.
+template <typename Texts>
+Single number(const Texts& texts, std::size_t i, const char* control) {
+    return inControl(QString::fromLatin1(control).arg(i), [&] { return CSng(texts[i]); });
+}
+
+template <typename Texts>
+Integer wholeNumber(const Texts& texts, std::size_t i, const char* control) {
+    return inControl(QString::fromLatin1(control).arg(i), [&] { return CInt(texts[i]); });
 }
 
 /// The start common to all commands.
@@ -56,9 +68,7 @@ void cmdOblicz1(const PlateWork& work) {
     require(in.ca != 0, QStringLiteral("Musisz okreslić długość wspornika (ca)!"));
     in.S = CSng(fields.Text3[0]);
     require(in.S != 0, QStringLiteral("Musisz okreslić siłę w kotwie!"));
-    const Double Fd = work.stan.materialy.Fd_blachy;
-    // kN in N
-    finish(work, 1, CSng(2.2 * Sqr(divided(in.S * 1000.0 * in.ca, Fd * in.bs))));
+    finish(work, 1, tensionStripThickness(in.S, in.ca, in.bs, work.stan.materialy.Fd_blachy));
 }
 
 /// Cantilever strip in the compression zone, under a stress linear from sigma_p to sigma_k.
@@ -72,12 +82,8 @@ void cmdOblicz2(const PlateWork& work) {
     require(in.sigma_k > 0, QStringLiteral("Musisz podać naprężenia na końcu wspornika!"));
     in.sigma_p = CSng(fields.Text3[8]);
     require(in.sigma_p > 0, QStringLiteral("Musisz podać naprężenia na początku wspornika!"));
-    const Double ca = in.ca;
-    const Double sk = in.sigma_k;
-    const Double sp = in.sigma_p;
-    const Single M = sk < sp ? CSng(ca * ca * ((sp - sk) / 6 + sk * 0.5))
-                             : CSng(ca * ca * ((sk - sp) / 3 + sp * 0.5)); // N mm per mm
-    finish(work, 2, CSng(Sqr(divided(M * 6.0, work.stan.materialy.Fd_blachy))));
+    const Single M = compressionStripMoment(in.ca, in.sigma_k, in.sigma_p);
+    finish(work, 2, compressionStripThickness(M, work.stan.materialy.Fd_blachy));
 }
 
 /// A fragment check: its fields, its limits of r = b/l and the words beyond them.
@@ -119,31 +125,17 @@ PlateInputs::Fragment& inputsOf(const PlateWork& work, const FragmentCheck& chec
     return check.check == 3 ? inputs.check3 : check.check == 5 ? inputs.check5 : inputs.check6;
 }
 
-/// The coefficient of table B.2 times l, mm.
-Single coefficientTimes(Integer l, Single r, int check) {
-    const std::span<const FragmentNode> nodes = fragmentNodes(check);
-    std::size_t i = 0;
-    while (i + 2 < nodes.size() && !(r < nodes[i + 1].r))
-        ++i;
-    // The widths of the table on three edges are Singles.
-    const Single width = i + 2 == nodes.size() ? 0.5F : i + 3 == nodes.size() ? 0.3F : 0.1F;
-    const Double d = check == 5 ? Double{width} : 0.1;
-    const Double y0 = nodes[i].coefficient;
-    const Double y1 = nodes[i + 1].coefficient;
-    return CSng(((y1 - y0) * (r - nodes[i].r) / d + y0) * l);
-}
-
-/// A fragment supported on its edges, under the stress of the concrete (PN-B-03215, B.6).
+/// A fragment supported on its edges, under the stress of the concrete.
 void computeFragment(const PlateWork& work, const FragmentCheck& check) {
     PlateFields& fields = work.form.fields;
     takeGrade(work);
     PlateInputs::Fragment& in = inputsOf(work, check);
-    in.sigma = CSng(fields.Text3[check.sigma]);
+    in.sigma = number(fields.Text3, check.sigma, "Text3_%1");
     require(in.sigma != 0, QStringLiteral("Musisz okreslić naprężenia pod blachą!"));
-    in.l = CInt(fields.Text1[check.l]);
+    in.l = wholeNumber(fields.Text1, check.l, "Text1_%1");
     if (in.l == 0) // said, but it does not end the command
         show(work.dialogs, QStringLiteral("Musisz okreslić długość podpartego fragmentu blachy!"));
-    in.b = CInt(fields.Text2[check.b]);
+    in.b = wholeNumber(fields.Text2, check.b, "Text2_%1");
     require(in.b != 0, QStringLiteral("Musisz okreslić szrokość podpartego fragmentu blachy!"));
     if (in.l < in.b) {
         show(work.dialogs,
@@ -152,11 +144,12 @@ void computeFragment(const PlateWork& work, const FragmentCheck& check) {
         fields.Text2[check.b] = general(in.l);
         return;
     }
-    const Single r = CSng(divided(in.b, in.l));
+    const Single r = sideRatio(in.b, in.l);
     require(!(r < check.lowest), QString::fromUtf16(check.tooLong));
     require(!(r > check.highest), QString::fromUtf16(check.tooWide));
-    const Single share = coefficientTimes(in.l, r, check.check);
-    const Single t = CSng(share * Sqr(divided(in.sigma, work.stan.materialy.Fd_blachy)));
+    const FragmentInterval table = fragmentInterval(check.check, r);
+    const Single share = coefficientTimesLength(table.y0, table.y1, r, table.r0, table.d, in.l);
+    const Single t = edgeFragmentThickness(share, in.sigma, work.stan.materialy.Fd_blachy);
     disable(work, 4); // also where the thickness is then refused
     finish(work, check.check, t);
 }
@@ -171,7 +164,7 @@ void cmdOblicz33(const PlateWork& work) {
     computeFragment(work, onTwoEdges);
 }
 
-/// Base of an IPE or HEB column without stiffeners, elastic model (PN-B-03215, B.2).
+/// Base of an IPE or HEB column without stiffeners.
 void cmdOblicz4(const PlateWork& work) {
     const PlateFields& fields = work.form.fields;
     takeGrade(work);
@@ -181,42 +174,43 @@ void cmdOblicz4(const PlateWork& work) {
     in.sigma = CSng(fields.Text3[2]);
     require(in.sigma != 0, QStringLiteral("Musisz okreslić naprężenia pod blachą!"));
     const ColumnProfile& profile = columnProfile(in.Nr_profilu);
-    const Double load = Double{in.sigma} * profile.h * profile.s;
-    const Single t = CSng(1.7 * Sqr(divided(load, work.stan.materialy.Fd_blachy * profile.k)));
+    const Single t = columnBaseThickness(in.sigma, profile.h, profile.s, profile.k,
+                                         work.stan.materialy.Fd_blachy);
     for (const int fragment : {3, 5, 6})
         disable(work, fragment);
     finish(work, 4, t);
 }
 
-/// A fragment fixed on its edges, under the force of an anchor (PN-B-03215, B.2 and a chart).
+/// Where an anchor fragment has its fields: Text3(S), Text1(b), Text2(a), Text2(c).
+struct AnchorFragmentFields {
+    std::size_t S, b, a, c;
+};
+
+/// A fragment fixed on its edges, under the force of an anchor.
 void computeAnchorFragment(const PlateWork& work, int check, PlateInputs::AnchorFragment& in,
-                           const QString& S, const QString& b, const QString& a, const QString& c) {
+                           const AnchorFragmentFields& at) {
     takeGrade(work);
-    in.S = CSng(S);
+    const PlateFields& fields = work.form.fields;
+    in.S = number(fields.Text3, at.S, "Text3_%1");
     require(in.S != 0, QStringLiteral("Musisz okreslić siłę w kotwie!"));
-    in.b = CInt(b);
+    in.b = wholeNumber(fields.Text1, at.b, "Text1_%1");
     require(in.b != 0, QStringLiteral("Musisz okreslić szrokość podpartego fragmentu blachy!"));
-    in.a = CInt(a);
+    in.a = wholeNumber(fields.Text2, at.a, "Text2_%1");
     require(in.a != 0, QStringLiteral("Musisz okreslić położenie kotwy (wymiar a)!"));
-    in.c = CInt(c);
+    in.c = wholeNumber(fields.Text2, at.c, "Text2_%1");
     require(in.c != 0, QStringLiteral("Musisz okreslić położenie kotwy (wymiar c)!"));
     const ChartReading reading = Interpoluj_wykres(check, in.b, in.a, in.c);
     require(reading.message.isEmpty(), reading.message);
-    const Double Fd = work.stan.materialy.Fd_blachy;
-    // kN in N; a coefficient of 0 is the division by zero
-    finish(work, check, CSng(2.2 * Sqr(divided(in.S * 1000.0, Fd * reading.y))));
+    // A coefficient of 0 is the division by zero.
+    finish(work, check, anchorFragmentThickness(in.S, reading.y, work.stan.materialy.Fd_blachy));
 }
 
 void cmdOblicz51(const PlateWork& work) {
-    const PlateFields& f = work.form.fields;
-    computeAnchorFragment(work, 7, work.form.inputs.check7, f.Text3[6], f.Text1[4], f.Text2[5],
-                          f.Text2[6]);
+    computeAnchorFragment(work, 7, work.form.inputs.check7, {6, 4, 5, 6});
 }
 
 void cmdOblicz52(const PlateWork& work) {
-    const PlateFields& f = work.form.fields;
-    computeAnchorFragment(work, 8, work.form.inputs.check8, f.Text3[7], f.Text1[5], f.Text2[8],
-                          f.Text2[7]);
+    computeAnchorFragment(work, 8, work.form.inputs.check8, {7, 5, 8, 7});
 }
 
 using Command = void (*)(const PlateWork&);
@@ -242,17 +236,13 @@ TooThick tooThick(const char16_t* message) {
     return {QString::fromUtf16(message)};
 }
 
-Integer wholeThickness(Single t) {
-    return CInt(Int(t + 0.5));
-}
-
 /// Above `Max_grubosc`: refuses, or computes anew with the strength of the thicker plate.
 void correctForThickness(const PlateWork& work, Single& t, Single& Fd, Integer& g) {
     Materialy& materials = work.stan.materialy;
-    const auto again = [&](Double factor, Double divisor, const TooThick& beyond, Integer limit) {
+    const auto again = [&](Double found, Double holds, const TooThick& beyond, Integer limit) {
         if (g > limit)
             throw beyond;
-        t = CSng(divided(t * factor, divisor));
+        t = thicknessAtStrength(t, found, holds);
         g = wholeThickness(t);
         if (g > limit)
             throw beyond;
@@ -337,6 +327,8 @@ void computePlateCheck(const PlateWork& work, int check) {
         return;
     Integer& result = work.stan.raport.Spr_blachy(check);
     result = 0; // a failed attempt leaves the check absent
+    if (work.form.face.Label8[at(check)] != noPlateResult)
+        work.form.face.Label8_visible[at(check)] = false; // until there is a new result
     try {
         commands[at(check)](work);
     } catch (const Refusal& refusal) {

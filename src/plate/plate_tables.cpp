@@ -93,4 +93,15 @@ std::span<const FragmentNode> fragmentNodes(int check) {
     }
 }
 
+FragmentInterval fragmentInterval(int check, Single r) {
+    const std::span<const FragmentNode> nodes = fragmentNodes(check);
+    std::size_t i = 0;
+    while (i + 2 < nodes.size() && !(r < nodes[i + 1].r))
+        ++i;
+    // The widths of the table on three edges are Singles.
+    const Single width = i + 2 == nodes.size() ? 0.5F : i + 3 == nodes.size() ? 0.3F : 0.1F;
+    return {nodes[i].r, nodes[i].coefficient, nodes[i + 1].coefficient,
+            check == 5 ? Double{width} : 0.1};
+}
+
 } // namespace ferna

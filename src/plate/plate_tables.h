@@ -46,4 +46,16 @@ struct FragmentNode {
 /// Nodes of the fragment supported on four, three or two edges: check 3, 5 or 6.
 std::span<const FragmentNode> fragmentNodes(int check);
 
+/// The interval of a coefficient table that holds r: `y0` at `r0`, `y1` at its end, and the step
+/// `d` that the interpolation divides by.
+struct FragmentInterval {
+    Double r0;
+    Double y0;
+    Double y1;
+    Double d;
+};
+
+/// An interval holds its start and not its end; the last one holds both. `r` is within the table.
+FragmentInterval fragmentInterval(int check, Single r);
+
 } // namespace ferna

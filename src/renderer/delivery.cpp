@@ -2,16 +2,19 @@
 
 #include "pages/emf_writer.h"
 #include "pages/metafile.h"
+#include "protocol/renderer_news.h"
+#include "renderer/emf_writer.h"
+#include "renderer/news.h"
+#include "renderer/own_window.h"
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
+#include "widgets/save_question.h"
 
 #include <QClipboard>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
 
@@ -37,35 +40,20 @@ void toClipboard(const Report& report) {
         throw RunTimeError(error::DeviceIO, QStringLiteral("nie można zająć schowka"));
 }
 
-/// True where none of the files exists yet or the user wants them replaced.
-bool mayWrite(const QStringList& names) {
-    QStringList existing;
-    for (const QString& name : names)
-        if (QFileInfo::exists(name))
-            existing += QFileInfo(name).fileName();
-    return existing.isEmpty()
-           || QMessageBox::question(nullptr, QStringLiteral("Zapisz jako EMF"),
-                                    QStringLiteral("Zastąpić istniejące pliki: %1?")
-                                        .arg(existing.join(QStringLiteral(", "))))
-                  == QMessageBox::Yes;
-}
-
-/// Asks for a name until it is a new one, may be replaced, or the dialog is cancelled.
-void saveAsEmf(const Report& report, const Call& call, const Job& job) {
+void saveAsEmf(const Report& report, const Call& call) {
     const OutputFormat& emf = *outputFormat(QStringLiteral("emf"));
-    QFileDialog dialog(nullptr, QStringLiteral("Zapisz jako EMF"), job.folder,
-                       QStringLiteral("Metapliki (*.emf)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("emf"));
-    dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked for the names of the pages
-    dialog.selectFile(QStringLiteral("Raport.emf"));
-    QString name;
-    do {
-        if (dialog.exec() != QDialog::Accepted)
-            throw RunTimeError(error::Cancelled, QStringLiteral("okno zapisu pliku EMF"));
-        name = dialog.selectedFiles().constFirst();
-    } while (!mayWrite(fileNames(report, emf, name)));
-    writeReport(report, emf, name, call.dpi);
+    SaveSurroundings surroundings;
+    surroundings.files = [&](const QString& name) { return fileNames(report, emf, name); };
+    surroundings.run = runOwnWindow;
+    const std::optional<QString> name =
+        askWhereToSave({QStringLiteral("Zapisz jako EMF"), QStringLiteral("Raport.emf"),
+                        QStringLiteral(".emf"), QStringLiteral("Metapliki (*.emf)|*.emf")},
+                       surroundings);
+    if (!name)
+        throw RunTimeError(error::Cancelled, QStringLiteral("okno zapisu pliku EMF"));
+    writeReport(report, emf, *name, call.dpi);
+    for (const QString& file : fileNames(report, emf, *name))
+        tell(news::fileWritten(file));
 }
 
 } // namespace
@@ -76,6 +64,12 @@ bool needsScreen(const Call& call, const Job& job) {
                || job.mode == Mode::Clipboard);
 }
 
+bool keepsLastReply(const Call& call, const Job& job) {
+    const bool screenPicture = job.mode == Mode::ScreenFile || job.mode == Mode::Clipboard;
+    return call.format == nullptr && !screenPicture
+           && QFileInfo::exists(QDir(job.folder).filePath(QStringLiteral("W_X.txt")));
+}
+
 void deliver(const Report& report, const Call& call, const Job& job) {
     if (call.format != nullptr) {
         writeReport(report, *call.format, call.outputPath, call.dpi);
@@ -83,7 +77,8 @@ void deliver(const Report& report, const Call& call, const Job& job) {
     }
     switch (job.mode) {
     case Mode::ScreenFile:
-        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report));
+        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report),
+                       Lasting::UntilNextUse);
         break;
     case Mode::DefaultPrinter:
         printOnDefault(report);
@@ -92,7 +87,7 @@ void deliver(const Report& report, const Call& call, const Job& job) {
         printOnChosen(report);
         break;
     case Mode::SaveEmf:
-        saveAsEmf(report, call, job);
+        saveAsEmf(report, call);
         break;
     case Mode::Clipboard:
         toClipboard(report);

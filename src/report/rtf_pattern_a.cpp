@@ -68,7 +68,7 @@ struct RtfWriter::DeferredText {
 void RtfWriter::casesOfRow(ResultLines& results, int first, int last, int furtherLines) {
     Koniec_strony_RTF(Poz_rtf, 24);
     for (int c = first; c <= last; ++c)
-        placed(rtfFrame(caseHead, wholePlate(stan_, c) ? noSketch : zoneSketchFile(c)), gap);
+        placed(frame(caseHead, wholePlate(stan_, c) ? noSketch : zoneSketchFile(c)), gap);
     for (int c = first; c <= last; ++c) {
         caseTest(c, furtherLines);
         loadCase(results, c);
@@ -98,7 +98,7 @@ void RtfWriter::plateRow() {
         const int place = count + 1;
         if (block.height > 0 && (place == 1 || place == picturesInRow + 1))
             Koniec_strony_RTF(Poz_rtf, block.height);
-        placed(rtfFrame(block.head, QString::fromLatin1(block.file)), gap);
+        placed(frame(block.head, QString::fromLatin1(block.file)), gap);
         if (block.pair)
             text.Pary(text.index) = CInt(text.k + 1);
         if (block.nextPair)
@@ -133,7 +133,7 @@ void RtfWriter::Wyniki_RTF_ms() {
         const auto& lines = stan_.raport.Wiersze_kotwy;
         Koniec_strony_RTF(Poz_rtf, 30);
         spacer();
-        placed(rtfFrame(anchorHead, anchorSketchFile), gap);
+        placed(frame(anchorHead, anchorSketchFile), gap);
         Koniec_strony_RTF(Poz_rtf, 22.19);
         heading(lines(1));
         for (int i = 2; i <= stan_.raport.Liczba_wierszy_kotwy; ++i)

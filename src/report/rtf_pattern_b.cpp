@@ -57,8 +57,7 @@ void RtfWriter::plateColumns() {
         if (block.file[0] != '\0') {
             ++pictures;
             const bool even = pictures / 2 * 2 == pictures;
-            placed(
-                rtfFrame(even ? block.head.even : block.head.odd, QString::fromLatin1(block.file)));
+            placed(frame(even ? block.head.even : block.head.odd, QString::fromLatin1(block.file)));
         }
         for (int i = 1; i <= block.lines; ++i)
             afterFrameLine(lines(k + i));
@@ -73,8 +72,7 @@ void RtfWriter::Wyniki_RTF_so() {
     ResultLines results(stan_);
     for (int c = 1; c <= cases; ++c) {
         caseTest(c, 5);
-        loadCase(results, c,
-                 wholePlate(stan_, c) ? QString() : rtfFrame(caseHead, zoneSketchFile(c)));
+        loadCase(results, c, wholePlate(stan_, c) ? QString() : frame(caseHead, zoneSketchFile(c)));
     }
     if (cases > 1)
         summary();
@@ -86,7 +84,7 @@ void RtfWriter::Wyniki_RTF_so() {
         const auto& lines = stan_.raport.Wiersze_kotwy;
         Koniec_strony_RTF(Poz_rtf, 25);
         spacer();
-        placed(rtfFrame(anchorHead, anchorSketchFile));
+        placed(frame(anchorHead, anchorSketchFile));
         spacer();
         Koniec_strony_RTF(Poz_rtf, 6.34);
         heading(lines(1));

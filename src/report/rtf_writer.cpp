@@ -70,6 +70,16 @@ void RtfWriter::placed(const QString& frame, QStringView gap) {
     put(Rtf_pard, frame, gap, Rtf_pard);
 }
 
+void RtfWriter::notePicture(const QString& name) {
+    if (!pictures_.contains(name))
+        pictures_ += name;
+}
+
+QString RtfWriter::frame(QStringView head, const QString& name) {
+    notePicture(name);
+    return rtfFrame(head, name);
+}
+
 void RtfWriter::titleBlock(QStringView opening) {
     put(opening, raport_.Wiersze_naglowka(1));
     for (int i = 2; i <= 8; ++i)
@@ -90,8 +100,10 @@ void RtfWriter::Koniec_strony_RTF(Single& y, Double wysokosc) {
 }
 
 void RtfWriter::fixedPictures() {
+    notePicture(QStringLiteral("Ferogo2.bmp"));
     file_.line(generalView);
     file_.line(Rtf_pard);
+    notePicture(QStringLiteral("Ferrob.bmp"));
     file_.line(platePicture);
     file_.line(Rtf_pard);
 }

@@ -28,6 +28,8 @@ public:
     void Koniec_strony_RTF(Single& y, Double wysokosc);
 
     TextFileWriter& file() { return file_; }
+    /// Names of the pictures that the text links to, each once, in the order of the text.
+    const QStringList& pictures() const { return pictures_; }
     Single Poz_rtf = 0; ///< running height estimate of the page
 
 private:
@@ -52,6 +54,10 @@ private:
     /// `gap` stands between the frame and the end of its line.
     void placed(const QString& frame, QStringView gap = {});
 
+    /// A frame with a linked picture, which is noted.
+    QString frame(QStringView head, const QString& name);
+    void notePicture(const QString& name);
+
     void titleBlock(QStringView opening);
     void fixedPictures();
     void generalData();
@@ -70,6 +76,7 @@ private:
     Raport& raport_;
     QDateTime now_;
     TextFileWriter file_;
+    QStringList pictures_;
 };
 
 /// A frame with a linked picture: `head` is its size and place.

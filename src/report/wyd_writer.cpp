@@ -86,7 +86,7 @@ void WydWriter::underlinedLine(const QString& text) {
 /// The line behind a picture record.
 void WydWriter::placed(const QString& name) {
     pictures_ += name;
-    file_.line(wyd::pathLine(folder_, name));
+    file_.line(wyd::pathLine(folder_, prefix_ + name));
 }
 
 void WydWriter::picture(QLatin1String x, Single y, QStringView yPattern, QLatin1String size,
@@ -219,12 +219,12 @@ void WydWriter::body() {
 void Buduj_wyd(const Stan& stan, const Raport& raport, const QString& folder) {
     WydWriter frame(stan, raport, folder);
     frame.Naglowek_wyd();
-    frame.file().commit(folder + u'/' + wyd::frameFile);
+    frame.file().commit(folder + u'/' + wyd::frameFile, Lasting::UntilNextUse);
     WydWriter report(stan, raport, folder);
     report.body();
     if (stan.raport.Liczba_wierszy_kotwy >= 1)
         saveAnchorSketch(folder, stan.raport.Typ_szkicu_kotwy);
-    report.file().commit(folder + u'/' + wyd::bodyFile);
+    report.file().commit(folder + u'/' + wyd::bodyFile, Lasting::UntilNextUse);
 }
 
 } // namespace ferna

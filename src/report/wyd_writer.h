@@ -9,8 +9,9 @@ namespace ferna {
 /// and y downward from the top left corner of the frame; numbers always carry a point.
 class WydWriter {
 public:
-    WydWriter(const Stan& stan, const Raport& raport, QString folder)
-        : stan_(stan), raport_(raport), folder_(std::move(folder)) {}
+    /// `folder` is that of the pictures; `prefix` stands before their names in the records.
+    WydWriter(const Stan& stan, const Raport& raport, QString folder, QString prefix = {})
+        : stan_(stan), raport_(raport), folder_(std::move(folder)), prefix_(std::move(prefix)) {}
 
     /// The page frame with the title block.
     void Naglowek_wyd();
@@ -24,7 +25,7 @@ public:
     void KoniecZ98R(Single& y, Single& y2, Integer wysokosc);
 
     TextFileWriter& file() { return file_; }
-    /// Names of the pictures that the records place, all in the folder.
+    /// Names of the pictures that the records place, without the prefix.
     const QStringList& pictures() const { return pictures_; }
     Single Poz_y = 0;          ///< running y of the body, mm
     Single Poz_y_blachy = 0;   ///< y of the plate section's blocks, mm
@@ -47,6 +48,7 @@ private:
     const Stan& stan_;
     const Raport& raport_;
     QString folder_;
+    QString prefix_;
     TextFileWriter file_;
     QStringList pictures_;
 };

@@ -53,17 +53,6 @@ bool expectedInUtf8(char16_t character) {
     return character < 0x180 || character >= 0x2000;
 }
 
-/// True for text with letters that is UTF-8 and not code page 1250.
-bool isUtf8WithLetters(QByteArrayView bytes) {
-    const bool letters =
-        std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
-    if (!letters || !bytes.isValidUtf8())
-        return false;
-    const QString text = QString::fromUtf8(bytes);
-    return std::all_of(text.begin(), text.end(),
-                       [](QChar c) { return expectedInUtf8(c.unicode()); });
-}
-
 } // namespace
 
 bool holds(QChar character) {
@@ -82,9 +71,17 @@ QByteArray encoded(QStringView text) {
     return bytes;
 }
 
+bool looksLikeUtf8(QByteArrayView bytes) {
+    const bool letters =
+        std::any_of(bytes.begin(), bytes.end(), [](char c) { return (c & 0x80) != 0; });
+    if (!letters || !bytes.isValidUtf8())
+        return false;
+    const QString text = QString::fromUtf8(bytes);
+    return std::all_of(text.begin(), text.end(),
+                       [](QChar c) { return expectedInUtf8(c.unicode()); });
+}
+
 std::optional<QString> decoded(QByteArrayView bytes) {
-    if (isUtf8WithLetters(bytes))
-        return std::nullopt;
     const Page& known = page();
     QString text;
     text.reserve(bytes.size());

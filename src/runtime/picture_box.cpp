@@ -112,7 +112,7 @@ void PictureBox::saveBitmap(const QString& path) {
     QBuffer buffer(&bytes);
     if (!buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "BMP"))
         throw RunTimeError(error::DeviceIO, path);
-    writeFileWhole(path, bytes);
+    writeFileWhole(path, bytes, Lasting::UntilNextUse);
 }
 
 qreal printRatio(int widthPixels, qreal millimetres) {

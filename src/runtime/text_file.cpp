@@ -5,8 +5,12 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
 
 namespace ferna {
 
@@ -16,42 +20,80 @@ QString native(const QString& path) {
     return QDir::toNativeSeparators(path);
 }
 
-[[noreturn]] void cannotRead(const QString& path) {
-    const QFileInfo info(path);
-    if (!info.exists())
+[[noreturn]] void cannotRead(const QString& path, int reason) {
+    switch (reason) {
+    case ENOENT:
+    case ENOTDIR:
         throw RunTimeError(error::FileNotFound, native(path));
-    throw RunTimeError(info.isDir() ? error::PathAccess : error::PermissionDenied, native(path));
+    case EACCES:
+    case EPERM:
+        throw RunTimeError(error::PermissionDenied, native(path));
+    case EISDIR:
+        throw RunTimeError(error::PathAccess, native(path));
+    default:
+        throw RunTimeError(error::DeviceIO,
+                           native(path) + QStringLiteral(" (") + qt_error_string(reason) + u')');
+    }
 }
 
-[[noreturn]] void cannotWrite(const QString& path, const QFileDevice& file) {
-    const QFileInfo folder(QFileInfo(path).absolutePath());
-    const QString detail = native(path) + QStringLiteral(" (") + file.errorString() + u')';
-    if (!folder.exists())
-        throw RunTimeError(error::PathNotFound, detail);
-    if (file.error() == QFileDevice::ResourceError)
-        throw RunTimeError(error::DiskFull, detail);
-    if (QFileInfo(path).isDir())
-        throw RunTimeError(error::PathAccess, detail);
-    if (!folder.isWritable())
-        throw RunTimeError(error::PermissionDenied, detail);
-    throw RunTimeError(error::DeviceIO, detail);
-}
+/// A file that is open for as long as this lives. Opening a pipe that nobody writes would wait
+/// without end, so nothing waits here.
+class OpenFile {
+public:
+    explicit OpenFile(const QString& path)
+        : number_(::open(QFile::encodeName(path).constData(),
+                         O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {}
+    ~OpenFile() {
+        if (number_ >= 0)
+            ::close(number_);
+    }
+    OpenFile(const OpenFile&) = delete;
+    OpenFile& operator=(const OpenFile&) = delete;
+
+    int number() const { return number_; }
+
+private:
+    int number_;
+};
 
 } // namespace
 
-QByteArray readFileWhole(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        cannotRead(path);
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        throw RunTimeError(QFileInfo(path).isDir() ? error::PathAccess : error::DeviceIO,
-                           native(path));
+QByteArray readFileWhole(const QString& path, qsizetype most) {
+    const OpenFile file(path);
+    struct stat info {};
+    if (file.number() < 0 || ::fstat(file.number(), &info) != 0)
+        cannotRead(path, errno);
+    if (S_ISDIR(info.st_mode))
+        cannotRead(path, EISDIR);
+    if (!S_ISREG(info.st_mode))
+        throw RunTimeError(error::PathAccess,
+                           native(path) + QStringLiteral(" (to nie jest zwykły plik)"));
+    constexpr qsizetype block = 65536;
+    QByteArray bytes;
+    qsizetype read = 0;
+    // Some files of the system's own have no size; one more byte tells the end of the others.
+    bytes.resize(qBound<qsizetype>(block, info.st_size + 1, most + 1));
+    for (;;) {
+        const ssize_t count = ::read(file.number(), bytes.data() + read,
+                                     static_cast<std::size_t>(bytes.size() - read));
+        if (count < 0 && errno != EINTR)
+            cannotRead(path, errno);
+        if (count == 0)
+            break;
+        read += qMax<ssize_t>(count, 0);
+        if (read > most)
+            throw RunTimeError(
+                error::DeviceIO,
+                QStringLiteral("%1 (plik ma ponad %2 MB)").arg(native(path)).arg(most / megabyte));
+        if (read == bytes.size())
+            bytes.resize(qMin(2 * read, most + 1));
+    }
+    bytes.resize(read);
     return bytes;
 }
 
-QStringList readLines(const QString& path) {
-    QByteArray bytes = readFileWhole(path);
+QStringList readLines(const QString& path, TextFrom from) {
+    QByteArray bytes = readFileWhole(path, largestTextFile);
     if (bytes.endsWith('\x1a')) // the end-of-file mark of old editors
         bytes.chop(1);
     QStringList lines;
@@ -64,7 +106,7 @@ QStringList readLines(const QString& path) {
         if (line.endsWith('\r'))
             line.chop(1);
         const std::optional<QString> text = codepage::decoded(line);
-        if (!text)
+        if (!text || (from == TextFrom::Editor && codepage::looksLikeUtf8(line)))
             throw RunTimeError(error::DeviceIO,
                                QStringLiteral("%1, wiersz %2: to nie jest tekst w stronie kodowej "
                                               "1250")
@@ -98,18 +140,8 @@ void TextFileWriter::line(QStringView text) {
     bytes_ += "\r\n";
 }
 
-void TextFileWriter::commit(const QString& path) const {
-    writeFileWhole(path, bytes_);
-}
-
-void writeFileWhole(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        cannotWrite(path, file);
-    // Flushed by itself: a commit overlooks that the last bytes found no room, and would put an
-    // empty file in the place of the old one.
-    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
-        cannotWrite(path, file);
+void TextFileWriter::commit(const QString& path, Lasting lasting) const {
+    writeFileWhole(path, bytes_, lasting);
 }
 
 } // namespace ferna

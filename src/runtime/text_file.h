@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/saved_file.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -7,10 +9,16 @@ namespace ferna {
 
 /// Text files of the program: code page 1250, lines ended by carriage return and line feed.
 
+/// Who wrote a text file last.
+enum class TextFrom {
+    Program, ///< taken as code page 1250, whatever else its bytes may mean
+    Editor,  ///< may have been saved in UTF-8, which is told rather than read as garbage
+};
+
 /// The lines of a file. A line feed alone ends a line too; a last line end starts no further line.
-/// Errors 53, 70, 75 (missing, forbidden, a folder), 57 (unreadable, or no text in code page 1250:
-/// the detail names file and line).
-QStringList readLines(const QString& path);
+/// Errors of `readFileWhole` for files up to `largestTextFile`, and 57 for what is no text in code
+/// page 1250: the detail names file and line.
+QStringList readLines(const QString& path, TextFrom from = TextFrom::Program);
 
 /// A name as it was typed or pasted, fit for one line of a file: a line break or another control
 /// character becomes a blank, several in a row one, and those at the ends go.
@@ -26,17 +34,19 @@ public:
     /// What has been written so far, as bytes.
     const QByteArray& bytes() const { return bytes_; }
 
-    /// Errors 70, 75, 76, 61, 57 with the file's name.
-    void commit(const QString& path) const;
+    /// Errors of `writeFileWhole`.
+    void commit(const QString& path, Lasting lasting = Lasting::Kept) const;
 
 private:
     QByteArray bytes_;
 };
 
-/// Writes bytes under a temporary name in the same folder and renames. Errors as `commit`.
-void writeFileWhole(const QString& path, const QByteArray& bytes);
+inline constexpr qsizetype megabyte = 1'000'000;          ///< bytes
+inline constexpr qsizetype largestFile = 1000 * megabyte; ///< that is read
+inline constexpr qsizetype largestTextFile = 32 * megabyte;
 
-/// The bytes of a file. Errors 53, 70, 75, 57.
-QByteArray readFileWhole(const QString& path);
+/// The bytes of a plain file. Errors 53, 70, 75 (missing, forbidden, a folder or another thing that
+/// is no plain file), 57 (unreadable, or more than `most` bytes).
+QByteArray readFileWhole(const QString& path, qsizetype most = largestFile);
 
 } // namespace ferna

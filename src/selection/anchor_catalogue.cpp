@@ -1,5 +1,7 @@
 #include "selection/anchor_catalogue.h"
 
+#include "selection/clauses.h"
+
 #include <array>
 
 namespace ferna {
@@ -39,15 +41,11 @@ Integer straightLengthHooked(const CatalogueAnchor& row, Single Mnoznik_dlugosci
     const bool inSeries = row.Ld != none;
     if (row.Lk != fromArea || !inSeries)
         return row.Lk;
-    return CInt(Int(Mnoznik_dlugosci * A));
+    return anchorageOfArea(Mnoznik_dlugosci, A);
 }
 
 Integer straightLengthPlate(const CatalogueAnchor& row, Single Wsp_dlugosci) {
-    return CInt(Double{Wsp_dlugosci} * row.Lp0); // the Double product of two Singles is exact
-}
-
-Integer R50(Integer x) {
-    return CInt(50 * Int(x / 50.0 + 0.5));
+    return anchorageOfBase(Wsp_dlugosci, row.Lp0);
 }
 
 } // namespace ferna

@@ -25,7 +25,4 @@ Integer straightLengthHooked(const CatalogueAnchor& row, Single Mnoznik_dlugosci
 /// Straight length of the plate anchor, mm: `Wsp_dlugosci` times the base, rounded once.
 Integer straightLengthPlate(const CatalogueAnchor& row, Single Wsp_dlugosci);
 
-/// The nearest multiple of 50, a tie going up.
-Integer R50(Integer x);
-
 } // namespace ferna

@@ -2,6 +2,7 @@
 
 #include "runtime/format.h"
 #include "selection/anchor_catalogue.h"
+#include "selection/clauses.h"
 
 #include <QStringList>
 
@@ -12,21 +13,11 @@ namespace {
 constexpr Integer leastPlateAnchor = 20; // smallest diameter of a plate anchor, mm
 constexpr Integer leastWithRib = 48;     // smallest plate anchor with a rib, mm
 constexpr Integer largestSmallSketch = 42;
-constexpr Integer nutAllowance = 30; // added below the plate of an anchor without a rib, mm
 
 const QString mm = QStringLiteral(" mm");
 
 QString inMm(Integer length) {
     return general(length) + mm;
-}
-
-/// A sum of whole numbers, each partial sum within 16 bits.
-Integer sum(Integer x, Integer y) {
-    return CInt(x + y);
-}
-template <typename... Rest>
-Integer sum(Integer x, Integer y, Rest... rest) {
-    return sum(sum(x, y), rest...);
 }
 
 Integer askThickness(Dialogs& dialogs) {
@@ -52,14 +43,13 @@ struct PlateAnchorLengths {
 PlateAnchorLengths plateAnchorLengths(const Stan& stan, SelectionForm& form,
                                       const CatalogueAnchor& row) {
     const Integer Lp = straightLengthPlate(row, stan.materialy.Wsp_dlugosci);
-    const Integer LoP = sum(Lp, form.Grub_laczna, row.Ld);
-    Integer S = sum(LoP, row.t);
-    form.lblL1_visible = form.d >= leastWithRib;
-    if (form.lblL1_visible)
+    const Integer LoP = straightPart(Lp, form.Grub_laczna, row.Ld);
+    const bool hasRib = form.d >= leastWithRib;
+    const Integer LcP = plateAnchorLength(LoP, row.t, hasRib);
+    form.lblL1_visible = hasRib;
+    if (hasRib)
         form.lblL1 += inMm(row.L1);
-    else
-        S = sum(S, nutAllowance);
-    return {LoP, R50(S)};
+    return {LoP, LcP};
 }
 
 void fillCaptions(SelectionForm& form, const PlateAnchorLengths& plate) {
@@ -99,18 +89,18 @@ void load(Stan& stan, SelectionForm& form, Dialogs& dialogs) {
     const Integer nr = stan.wyniki.Nr_kotwy_max;
     stan.raport.Liczba_wierszy_kotwy = 0;
     form.d = stan.plyta.Fi_kotwy(nr);
-    form.D = form.d < 20 ? CInt(2.5 * form.d) : CInt(5 * form.d);
+    form.D = bendDiameter(form.d);
     form.Grub_laczna = askThickness(dialogs);
-    form.Lh = CInt(5 * form.d);
+    form.Lh = hookLength(form.d);
     const Double A = stan.plyta.Pole_kotwy(nr);
-    form.Nosnosc = CSng(A * (stan.materialy.Fd_kotwy * 0.1)); // cm2 MPa / 10 = kN
+    form.Nosnosc = anchorCapacity(A, stan.materialy.Fd_kotwy);
     const CatalogueAnchor row = catalogueAnchor(form.d);
     form.Ld = row.Ld;
     form.a = row.a;
     form.t = row.t;
     const Integer Lk = straightLengthHooked(row, stan.materialy.Mnoznik_dlugosci, A);
-    form.LoF = sum(Lk, form.Grub_laczna, form.Ld);
-    form.LcF = R50(sum(form.LoF, form.Lh));
+    form.LoF = straightPart(Lk, form.Grub_laczna, form.Ld);
+    form.LcF = hookedAnchorLength(form.LoF, form.Lh);
     fillCaptions(form, plateAnchorLengths(stan, form, row));
     if (form.d > largestSmallSketch)
         form.Picture1 = 3;

@@ -254,8 +254,7 @@ TEST_F(Configuration, ADamagedFileIsRefusedAndLeavesTheStateAlone) {
         {"an unknown RTF", error::Subscript, 20, put(20, " 3            Tryb_RTF")},
         {"a load missing", error::InputPastEnd, 10, put(10, "1000   0   0     0")},
         {"a steel without values", error::TypeMismatch, 18, put(18, " 305 S355")},
-        {"UTF-8", error::DeviceIO, 3, put(3, "Hala pó\xc5\x82nocna")},
-        {"UTF-8 with a mark", error::DeviceIO, 1,
+        {"a mark of UTF-8", error::TypeMismatch, 1,
          [](const QByteArray& b) { return "\xef\xbb\xbf" + b; }},
         {"UTF-16", error::DeviceIO, 1,
          [](const QByteArray& b) {
@@ -300,6 +299,29 @@ void readNeverHalf(const Folder& folder, const QByteArray& bytes, const QByteArr
     Stan fresh;
     Czytaj_cfg(fresh, path);
     ASSERT_EQ(written(stan).toStdString(), written(fresh).toStdString());
+}
+
+TEST_F(Configuration, ANameThatIsValidInAnotherEncodingTooIsReadAsItWasWritten) {
+    for (const QString& name : {QStringLiteral("Blachy zwężą"), QStringLiteral("Hala â€“ 2")}) {
+        stan.opcje.Nazwa_projektu = name;
+        load(written(stan));
+        EXPECT_EQ(stan.opcje.Nazwa_projektu, name);
+    }
+}
+
+TEST_F(Configuration, EveryRatioThatCanBeSavedIsReadAgainAndNoOther) {
+    stan.opcje.Tryb_wsp_n = 1;
+    for (const Single n : {-327.68F, -1.0F, 0.0F, 6.85F, 327.67F, 327.679F}) {
+        stan.opcje.Wsp_n_val = n;
+        EXPECT_TRUE(canBeSaved(n)) << n;
+        load(written(stan));
+        EXPECT_NEAR(stan.opcje.Wsp_n_val, n, 0.01) << n;
+    }
+    for (const Single n : {-327.69F, 327.68F, 400.0F, 1e30F}) {
+        stan.opcje.Wsp_n_val = n;
+        EXPECT_FALSE(canBeSaved(n)) << n;
+        EXPECT_EQ(errorNumberOf([&] { load(written(stan)); }), error::Overflow) << n;
+    }
 }
 
 TEST_F(Configuration, NoPrefixOfTheFileIsReadByHalf) {

@@ -83,13 +83,6 @@ TEST_F(ProgramFolder, BelongsToOneOpenProgramAtATime) {
     EXPECT_EQ(home.names(), QStringList()) << "nothing is left of the lock";
 }
 
-TEST_F(ProgramFolder, ADamagedFileIsKeptBesideTheDeliveredOne) {
-    const QString path = home.write(QStringLiteral("Ferna.cfg"), "uszkodzony");
-    restoreDelivered(path, Folder::delivered(QStringLiteral("Ferna.cfg")));
-    EXPECT_EQ(home.read(QStringLiteral("Ferna.cfg.uszkodzony")), QByteArray("uszkodzony"));
-    EXPECT_EQ(readFileWhole(path), readFileWhole(Folder::delivered(QStringLiteral("Ferna.cfg"))));
-}
-
 /// The built programs with their data in a folder of another name, under another locale.
 class Programs : public ::testing::Test {
 protected:

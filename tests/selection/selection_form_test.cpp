@@ -1,5 +1,6 @@
 #include "design/material_tables.h"
 #include "selection/anchor_catalogue.h"
+#include "selection/clauses.h"
 #include "selection/selection_form.h"
 #include "support/decimal_comma.h"
 #include "support/printing.h"

@@ -4,6 +4,7 @@
 #include "design/language.h"
 #include "design/material_tables.h"
 #include "design/start_up.h"
+#include "design/typed_names.h"
 #include "input/forms/FernaPon.h"
 #include "input/forms/Fernafi.h"
 #include "input/forms/KGM8.h"
@@ -17,10 +18,11 @@
 #include "widgets/codepage_note.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/notes.h"
+#include "widgets/number_field.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
-#include <QShortcut>
 #include <QTimer>
 
 namespace ferna {
@@ -41,17 +43,16 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     collectFields();
     for (QGroupBox* group : findChildren<QGroupBox*>())
         stopTabAtTheChoice(group);
-    showCodepageNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu);
+    showNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu, projectNote);
+    keepRoomForNote(ui_->lblZnaki_projektu);
+    showAsWarning(ui_->lblLista_nieaktualna, true);
+    keepTablesOut(this, {ui_->txtNaz_proj});
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
-    for (QWidget* field : {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->cmbBeton),
-                           static_cast<QWidget*>(ui_->cmbStal)})
+    for (QWidget* field :
+         {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
+          static_cast<QWidget*>(ui_->cmbBeton), static_cast<QWidget*>(ui_->cmbStal)})
         field->installEventFilter(this);
-    for (int tab = 0; tab < ui_->SSTab1->count(); ++tab) {
-        auto* const shortcut =
-            new QShortcut(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + tab)), this);
-        connect(shortcut, &QShortcut::activated, this,
-                [this, tab] { ui_->SSTab1->setCurrentIndex(tab); });
-    }
+    addTabKeys(this, ui_->SSTab1);
     connectGuarded(ui_->SSTab1, &QTabWidget::currentChanged, this, [this] { tabChanged(); });
     connect(ui_->SSTab1, &QTabWidget::tabBarClicked, this, [this](int tab) {
         if (tab == ui_->SSTab1->currentIndex())
@@ -93,6 +94,8 @@ void Ferna3::connectOptions() {
     onClick("Norma_%1", 2, [this](Integer i) {
         chooseNorm(stan_, i);
         fillConcretes();
+        if (ui_->Wsp_n_0->isChecked())
+            showRatio();
     });
     onClick("Wsp_n_%1", 2, [this](Integer i) { chooseRatioMode(i); });
 }
@@ -178,6 +181,8 @@ void Ferna3::returnTo(QWidget* field) {
 void Ferna3::leave(QWidget* field) {
     if (field == ui_->Text1)
         leaveText1();
+    else if (field == ui_->Text2)
+        leaveRatio(ui_->Text2->text());
     else if (field == ui_->cmbBeton)
         leaveConcrete();
     else if (field == ui_->cmbStal)
@@ -256,6 +261,7 @@ void Ferna3::showEvent(QShowEvent* event) {
     if (event->spontaneous())
         return;
     ui_->txtNr_strony->setText(general(stan_.opcje.Nr_strony));
+    ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
     ui_->SSTab1->setCurrentIndex(generalTab);
     focusFirstField();
 }
@@ -266,15 +272,19 @@ void Ferna3::closeEvent(QCloseEvent* event) {
     QCoreApplication::exit(0);
 }
 
-// With a number of cases that cannot be taken the change of tab is abandoned.
+// With a number of cases or a ratio n that cannot be taken the change of tab is abandoned.
 void Ferna3::tabChanged() {
-    left_.removeAll(ui_->Text1); // taken here
+    QLineEdit* taken = ui_->Text1;
     try {
-        leaveText1();
+        for (QLineEdit* field : {ui_->Text1, ui_->Text2}) {
+            left_.removeAll(field); // taken here
+            taken = field;
+            leave(field);
+        }
     } catch (const RunTimeError&) {
         const QSignalBlocker quiet(ui_->SSTab1);
         ui_->SSTab1->setCurrentIndex(generalTab);
-        returnTo(ui_->Text1);
+        returnTo(taken);
         left_.clear();
         throw;
     }
@@ -368,12 +378,17 @@ void Ferna3::changeDiameterOf(std::optional<Integer> anchor) {
     if (!anchor)
         return;
     Fernafi(stan_, *anchor, dialogs_, this).exec();
-    ui_->Text9->setPlainText(Lista_srub(stan_));
+    showAnchorList();
 }
 
 void Ferna3::showAnchors() {
-    ui_->Text9->setPlainText(Lista_srub(stan_));
+    showAnchorList();
     Rysuj_P3();
+}
+
+void Ferna3::showAnchorList() {
+    ui_->Text9->setPlainText(Lista_srub(stan_));
+    ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
 }
 
 void Ferna3::Rysuj_P3() {
@@ -382,10 +397,10 @@ void Ferna3::Rysuj_P3() {
 }
 
 // The picture shows the layout as it was drawn last, whatever has changed in the state since, and
-// is sharp in every size of the form.
+// is sharp in every size of the form. It is the picture of the report.
 void Ferna3::showPlate(bool drawn) {
-    ui_->Picture3->setDrawing([plate = stan_.plyta, drawn](QSize size, qreal ratio) {
-        PictureBox picture(size, ratio);
+    ui_->Picture3->setDrawing(platePictureSize, [plate = stan_.plyta, drawn](qreal ratio) {
+        PictureBox picture(platePictureSize, ratio);
         if (drawn)
             ferna::drawPlate(picture, plate);
         return picture.image();
