@@ -32,7 +32,7 @@ QChar symbol(QChar letter) {
 QString lettersOf(const QString& text, int font) {
     QString letters = text;
     for (QChar& c : letters) {
-        if (c == u'\t')
+        if (c.category() == QChar::Other_Control) // of no use on paper, and no part of SVG
             c = u' ';
         if (font == symbolFont)
             c = symbol(c);

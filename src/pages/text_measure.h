@@ -5,7 +5,7 @@
 namespace ferna::renderer {
 
 /// Text of the font with that number: 2 is the Symbol font, whose Latin letters mean Greek ones and
-/// become those; all others are the proportional text font.
+/// become those; all others are the proportional text font. A control character becomes a blank.
 QString lettersOf(const QString& text, int font);
 
 /// Sets the advances of a text for its letter height, shaped with kerning as painters draw it.

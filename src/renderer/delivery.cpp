@@ -3,13 +3,12 @@
 #include "pages/emf_writer.h"
 #include "pages/metafile.h"
 #include "protocol/renderer_news.h"
-#include "renderer/emf_writer.h"
 #include "renderer/news.h"
 #include "renderer/own_window.h"
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
-#include "widgets/save_question.h"
+#include "windows/save_question.h"
 
 #include <QClipboard>
 #include <QDir>

@@ -1,5 +1,6 @@
 // What the built program says on standard error beside a result.
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <QProcess>
@@ -21,7 +22,7 @@ struct Remarks : ::testing::Test {
     int call(const Json& task, const QString& from = QStringLiteral("-")) {
         const QByteArray text = QByteArray::fromStdString(task.dump());
         QProcess process;
-        process.start(QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"), {from});
+        process.start(places::bin("/ferna-wsad"), {from});
         process.write(text);
         process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished(120'000));
@@ -35,16 +36,13 @@ struct Remarks : ::testing::Test {
 
     Json task() const {
         return Json::parse(
-            Folder::bytesOf(QStringLiteral(FERNA_DATA_DIR "/przyklady/slup-hali.json"))
-                .toStdString());
+            Folder::bytesOf(places::data("/przyklady/slup-hali.json")).toStdString());
     }
 
     /// The first golden task of that name whose expected result has a message with these words.
     static Json goldenWith(const QString& name, const std::string& words) {
         const auto linesOf = [&name](const QString& ending) {
-            return Folder::bytesOf(QStringLiteral(FERNA_GOLDEN_DIR "/") + name + ending)
-                .trimmed()
-                .split('\n');
+            return Folder::bytesOf(places::golden("/") + name + ending).trimmed().split('\n');
         };
         const QList<QByteArray> expected = linesOf(QStringLiteral(".expected.jsonl"));
         for (qsizetype i = 0; i < expected.size(); ++i)
@@ -114,7 +112,7 @@ TEST_F(Remarks, AnAnchorThatIsNotSelectedIsALine) {
 TEST_F(Remarks, TheTaskOfADashIsThatOfStandardInput) {
     EXPECT_EQ(call(task()), 0);
     const QByteArray fromInput = out;
-    EXPECT_EQ(call({}, QStringLiteral(FERNA_DATA_DIR "/przyklady/slup-hali.json")), 0);
+    EXPECT_EQ(call({}, places::data("/przyklady/slup-hali.json")), 0);
     EXPECT_EQ(out, fromInput);
     EXPECT_EQ(call(Json::parse(R"({"Nr_normy": 7})")), 2);
     EXPECT_TRUE(err.startsWith("ferna-wsad: /dev/stdin, line 1: ")) << err.toStdString();

@@ -3,6 +3,7 @@
 #include "desktop/help_texts.h"
 #include "runtime/format.h"
 #include "support/decimal_comma.h"
+#include "support/places.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -25,9 +26,9 @@ bool leadsSomewhere(const QString& link, const QString& fromPage) {
     const QString anchor = link.section(u'#', 1);
     if (page.startsWith(u"szkice/"))
         return QFileInfo::exists(helpFolder + u'/' + page)
-               || QFileInfo::exists(QStringLiteral(FERNA_DATA_DIR "/") + page);
+               || QFileInfo::exists(places::data("/") + page);
     if (page.startsWith(u"przewodnik/")) // made of the guides by the build
-        return QFileInfo(QStringLiteral(FERNA_BIN_DIR "/../help/") + page).isFile();
+        return QFileInfo(places::bin("/../help/") + page).isFile();
     const QString target = page.isEmpty() ? fromPage : page;
     if (!QFileInfo(helpFolder + u'/' + target).isFile())
         return false;
@@ -78,7 +79,7 @@ TEST(HelpPages, EveryLinkAndPictureOfAPageExists) {
 
 // As the build has laid them: with their anchors, their pictures and the files they name.
 TEST(HelpPages, EveryLinkAndPictureOfAGuideExists) {
-    const QString root = QStringLiteral(FERNA_BIN_DIR "/../help/przewodnik");
+    const QString root = places::bin("/../help/przewodnik");
     int links = 0;
     for (const char* language : {"/en", "/pl"}) {
         const QDir folder(root + QLatin1String(language));
@@ -175,9 +176,9 @@ TEST(HelpPages, TheExampleOfTheFirstStepsIsWhatTheProgramComputes) {
     const QTemporaryDir folder;
     const QString report = folder.filePath(QStringLiteral("raport.txt"));
     QProcess batch;
-    batch.start(QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"),
+    batch.start(places::bin("/ferna-wsad"),
                 {QStringLiteral("--dziesietny"), QStringLiteral(","), QStringLiteral("--raport"),
-                 report, QStringLiteral(FERNA_DATA_DIR "/przyklady/slup-hali.json")});
+                 report, places::data("/przyklady/slup-hali.json")});
     ASSERT_TRUE(batch.waitForFinished());
     ASSERT_EQ(batch.exitCode(), 0) << batch.readAllStandardError().toStdString();
     QFile file(report);

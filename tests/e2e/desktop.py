@@ -40,7 +40,8 @@ class Desktop:
         self.env |= self.environment
         read, write = os.pipe()
         self.started.append(subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp",
+             "-r"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         os.close(write)
         with os.fdopen(read) as pipe:
