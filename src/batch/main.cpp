@@ -2,6 +2,7 @@
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/output_files.h"
+#include "batch/remarks.h"
 #include "batch/report_files.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
@@ -93,6 +94,8 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             print(result.toStdString());
         else
             writeFileWhole(options.result, result);
+        for (const QString& what : remarksOf(done))
+            remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady && !options.reports.isEmpty())
             for (const QString& what : nameRemarks(done.task))
                 remark(options.task + QStringLiteral(": ") + what);
