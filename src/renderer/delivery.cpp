@@ -2,6 +2,7 @@
 
 #include "pages/emf_writer.h"
 #include "pages/metafile.h"
+#include "protocol/renderer_files.h"
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
@@ -20,7 +21,7 @@ namespace ferna::renderer {
 namespace {
 
 /// The metafile on the clipboard, and a bitmap for programs that know no metafiles.
-void toClipboard(const Report& report) {
+void toClipboard(const pages::Report& report) {
     constexpr double pixelsPerMm = 6;
     const QByteArray bytes = emfOfAllPages(report);
     const Metafile file = Metafile::fromBytes(bytes);
@@ -51,7 +52,7 @@ bool mayWrite(const QStringList& names) {
 }
 
 /// Asks for a name until it is a new one, may be replaced, or the dialog is cancelled.
-void saveAsEmf(const Report& report, const Call& call, const Job& job) {
+void saveAsEmf(const pages::Report& report, const Call& call, const Job& job) {
     const OutputFormat& emf = *outputFormat(QStringLiteral("emf"));
     QFileDialog dialog(nullptr, QStringLiteral("Zapisz jako EMF"), job.folder,
                        QStringLiteral("Metapliki (*.emf)"));
@@ -72,30 +73,30 @@ void saveAsEmf(const Report& report, const Call& call, const Job& job) {
 
 bool needsScreen(const Call& call, const Job& job) {
     return call.format == nullptr
-           && (job.mode == Mode::ChosenPrinter || job.mode == Mode::SaveEmf
-               || job.mode == Mode::Clipboard);
+           && (job.mode == RenderMode::PrintChosen || job.mode == RenderMode::Emf
+               || job.mode == RenderMode::Clipboard);
 }
 
-void deliver(const Report& report, const Call& call, const Job& job) {
+void deliver(const pages::Report& report, const Call& call, const Job& job) {
     if (call.format != nullptr) {
         writeReport(report, *call.format, call.outputPath, call.dpi);
         return;
     }
     switch (job.mode) {
-    case Mode::ScreenFile:
-        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report),
+    case RenderMode::ScreenPicture:
+        writeFileWhole(QDir(job.folder).filePath(wyd::screenPicture), emfOfAllPages(report),
                        Lasting::UntilNextUse);
         break;
-    case Mode::DefaultPrinter:
+    case RenderMode::Print:
         printOnDefault(report);
         break;
-    case Mode::ChosenPrinter:
+    case RenderMode::PrintChosen:
         printOnChosen(report);
         break;
-    case Mode::SaveEmf:
+    case RenderMode::Emf:
         saveAsEmf(report, call, job);
         break;
-    case Mode::Clipboard:
+    case RenderMode::Clipboard:
         toClipboard(report);
         break;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "protocol/commands.h"
 #include "report/report_lines.h"
-#include "runtime/text_file.h"
 
 namespace ferna {
 
@@ -24,7 +24,7 @@ public:
     /// 290, a new page begins and y and y2 become 40.
     void KoniecZ98R(Single& y, Single& y2, Integer wysokosc);
 
-    TextFileWriter& file() { return file_; }
+    TextFileWriter& file() { return commands_.file(); }
     /// Names of the pictures that the records place, without the prefix.
     const QStringList& pictures() const { return pictures_; }
     Single Poz_y = 0;          ///< running y of the body, mm
@@ -32,11 +32,9 @@ public:
     Integer Licznik_stron = 0; ///< pages begun by the page tests
 
 private:
-    void bodyLine(const QString& text, QStringView yPattern = u"#0.0");
+    void bodyLine(const QString& text, QStringView yPattern = u"#0.0", bool underlined = false);
     void underlinedLine(const QString& text);
-    void placed(const QString& name);
-    void picture(QLatin1String x, Single y, QStringView yPattern, QLatin1String size,
-                 const QString& name);
+    void picture(const wyd::PictureFields& fields, const QString& name);
     void newPage();
     void generalData();
     void loadCase(ResultLines& results, int c);
@@ -49,7 +47,7 @@ private:
     const Raport& raport_;
     QString folder_;
     QString prefix_;
-    TextFileWriter file_;
+    wyd::CommandWriter commands_;
     QStringList pictures_;
 };
 

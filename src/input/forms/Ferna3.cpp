@@ -11,6 +11,7 @@
 #include "input/load_table.h"
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
+#include "protocol/renderer_files.h"
 #include "runtime/format.h"
 #include "statics/forms/StatykaS.h"
 #include "ui_Ferna3.h"
@@ -414,7 +415,7 @@ void Ferna3::calculate() {
 }
 
 void Ferna3::leaveProgram() {
-    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + QStringLiteral("/W_X.txt"));
+    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + u'/' + wyd::replyFile);
     hide();
     QCoreApplication::exit(0);
 }
