@@ -94,10 +94,11 @@ The package holds the program with windows (ferna), the companion for scripts
 and many tasks (ferna-wsad) and the page renderer (Wyd_drk). Reports as
 word-processor documents need LibreOffice Writer.")
 # The libraries are added by the script below. Pages are set in Liberation fonts, the windows in
-# DejaVu where no desktop has brought another font; the index of the help is an SQLite file.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation, fonts-dejavu-core, libqt6sql6-sqlite")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
-    "libreoffice-writer | libreoffice-writer-nogui, qt6-translations-l10n")
+# DejaVu where no desktop has brought another font; the index of the help is an SQLite file; the
+# toolkit's own dialogs are Polish.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+    "fonts-liberation, fonts-dejavu-core, libqt6sql6-sqlite, qt6-translations-l10n")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libreoffice-writer | libreoffice-writer-nogui")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "cups")
 set(CPACK_PRE_BUILD_SCRIPTS ${packaging}/libraries.cmake)
 include(CPack)

@@ -2,6 +2,7 @@
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "desktop/forms/damaged_file_box.h"
+#include "desktop/forms/help_key.h"
 #include "desktop/program_folder.h"
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
@@ -10,11 +11,11 @@
 #include "report/forms/renderer_wait.h"
 #include "runtime/qt_remarks.h"
 #include "selection/forms/Dobor_fer.h"
+#include "widgets/application.h"
 #include "widgets/hourglass.h"
 #include "widgets/qt_dialogs.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLockFile>
 #include <QMessageBox>
 
@@ -23,8 +24,6 @@
 namespace {
 
 using namespace ferna;
-
-constexpr int helpContext = 100;
 
 /// The forms of the program and how one leads to another.
 class Program {
@@ -43,17 +42,18 @@ private:
     void openResults() {
         auto session = std::make_unique<ResultsSession>(
             stan_, dialogs_, folder_, input_.firstNorm(),
-            [] { return QDateTime::currentDateTime(); }, [this] { render(); });
+            [] { return QDateTime::currentDateTime(); }, [this] { return render(); });
         results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
         input_.hide();
         results_->open();
     }
 
-    void render() {
+    RendererReport render() {
         const Hourglass hourglass;
         RendererWait wait(results_.get());
-        runRenderer(folder_, {},
-                    [&wait](std::chrono::milliseconds worked) { return wait.goOn(worked); });
+        return runRenderer(
+            folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
+            results_->winId());
     }
 
     FernaWyn::Links links() {
@@ -62,7 +62,7 @@ private:
                 [this](QWidget* parent) { Grub_bla(stan_, folder_, dialogs_, parent).exec(); },
             .anchorForm =
                 [this](QWidget* parent) { Dobor_fer(stan_, folder_, dialogs_, parent).exec(); },
-            .help = [this] { openHelp(folder_, helpContext); },
+            .help = [this] { openHelp(folder_, help::Start); },
             .back = [this] { input_.show(); },
             .endProgram =
                 [this] {
@@ -80,8 +80,9 @@ private:
     std::unique_ptr<FernaWyn> results_;
 };
 
-int runProgram() {
+int runProgram(QApplication& application) {
     const QString folder = enterProgramFolder();
+    openHelpByF1(application, [folder](int context) { openHelp(folder, context); });
     const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
     Stan stan;
     if (!restoreLastTask(stan, folder, QStringLiteral(":/dane"), wantsDeliveredFile))
@@ -103,17 +104,15 @@ int main(int argc, char** argv) {
     if (const auto answer = answerCall(arguments))
         return leave(*answer);
     hushMissingRuntimeFolder();
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
         return leave(*refusal);
     QApplication::setApplicationName(QStringLiteral("ferna"));
     QApplication::setApplicationVersion(QStringLiteral(FERNA_VERSION));
-    // The desktop entry and the icon of the windows go by this name.
-    QApplication::setDesktopFileName(QStringLiteral("ferna"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/szkice/ferna.svg")));
+    dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
     try {
-        return runProgram();
+        return runProgram(application);
     } catch (const ferna::RunTimeError& failure) {
         QMessageBox::critical(
             nullptr, ferna::programTitle,

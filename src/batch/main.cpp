@@ -1,3 +1,4 @@
+#include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/report_files.h"
@@ -63,6 +64,9 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             print(result.toStdString());
         else
             writeFileWhole(options.result, result);
+        if (done.reportReady && !options.reports.isEmpty())
+            for (const QString& what : nameRemarks(done.task))
+                remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures));

@@ -16,14 +16,18 @@ struct Refusal {
     QString title = programTitle;
 };
 
+Single number(const QString& text, const QString& control) {
+    return inControl(control, [&] { return CSng(text); });
+}
+
 void requireAnchors(const Stan& stan) {
     if (stan.plyta.Liczba_srub == 0)
         throw Refusal{QStringLiteral("Musisz okreslić położenie i średnicę śrub kotwiących")};
 }
 
 void requireLengthAboveWidth(const InputFields& fields) {
-    const Single L = CSng(fields.Text3);
-    const Single B = CSng(fields.Text4);
+    const Single L = number(fields.Text3, QStringLiteral("Text3"));
+    const Single B = number(fields.Text4, QStringLiteral("Text4"));
     if (B > L)
         throw Refusal{QStringLiteral("Długość płyty musi być większa od szerokości")};
 }
@@ -100,9 +104,12 @@ Single tenths(Single value) {
 void readCase(Stan& stan, const InputFields& fields, int c) {
     Obciazenia& loads = stan.obciazenia;
     const auto row = static_cast<std::size_t>(c - 1);
+    const auto cell = [row](const std::array<QString, MaxCases>& column, const char* control) {
+        return number(column.at(row), QString::fromLatin1(control).arg(row));
+    };
     loads.Pierwsza_proba(c) = true;
 
-    loads.Sila_N(c) = CSng(fields.Text6.at(row));
+    loads.Sila_N(c) = cell(fields.Text6, "Text6_%1");
     loads.Tablica_obc(1)(c) = tenths(loads.Sila_N(c));
     const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
     if (loads.Sila_N(c) < 0)
@@ -114,15 +121,15 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
                       title};
     loads.Sila_N_kG(c) = forceInKilograms(loads.Sila_N(c));
 
-    const Single M1 = CSng(fields.Text7.at(row));
+    const Single M1 = cell(fields.Text7, "Text7_%1");
     loads.Moment_M1(c) = M1;
     loads.Tablica_obc(2)(c) = tenths(M1);
-    const Single M2 = CSng(fields.Text8.at(row));
+    const Single M2 = cell(fields.Text8, "Text8_%1");
     loads.Moment_M2(c) = M2;
     loads.Tablica_obc(3)(c) = tenths(M2);
-    loads.Sila_Vx(c) = CSng(fields.Text5.at(row));
+    loads.Sila_Vx(c) = cell(fields.Text5, "Text5_%1");
     loads.Tablica_obc(4)(c) = tenths(loads.Sila_Vx(c));
-    loads.Sila_Vy(c) = CSng(fields.Text10.at(row));
+    loads.Sila_Vy(c) = cell(fields.Text10, "Text10_%1");
     loads.Tablica_obc(5)(c) = tenths(loads.Sila_Vy(c));
     loads.Klasa_znaku(c) = CInt(1 + (M2 < 0 ? 1 : 0) + (M1 < 0 ? 2 : 0));
 }
@@ -141,9 +148,10 @@ void prepare(Stan& stan, Stan_przypadku& przypadek, const InputFields& fields,
     requireLengthAboveWidth(fields);
     stan.opcje.Nazwa_projektu = oneLine(fields.txtNaz_proj);
     clearResults(stan);
-    stan.opcje.Nr_strony = CInt(fields.txtNr_strony);
+    stan.opcje.Nr_strony =
+        inControl(QStringLiteral("txtNr_strony"), [&] { return CInt(fields.txtNr_strony); });
     stan.materialy.Nazwa_betonu = concreteName(stan.opcje);
-    stan.opcje.Wsp_n_val = CSng(fields.Text2);
+    stan.opcje.Wsp_n_val = number(fields.Text2, QStringLiteral("Text2"));
     przypadek.Dane_skorygowane = false;
     stan.plyta.Fi_max = largestDiameter(stan.plyta);
     if (fields.cmbStal >= 0)

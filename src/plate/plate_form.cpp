@@ -37,7 +37,7 @@ PlateFields firstFields(const Stan& stan) {
 
 PlateFace firstFace() {
     PlateFace face;
-    face.Label8.fill(QStringLiteral("Wymagana ..."));
+    face.Label8.fill(noPlateResult);
     face.Label8_visible.fill(true);
     face.Label8_visible[0] = false;
     face.Label8_visible[1] = false;

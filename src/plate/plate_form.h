@@ -12,6 +12,9 @@ namespace ferna {
 
 inline constexpr int PlateChecks = 8;
 
+/// The line of a check before its first result.
+inline const QString noPlateResult = QStringLiteral("Wymagana ...");
+
 /// The fields of the form `Grub_bla` as they stand there; member names are those of the controls.
 struct PlateFields {
     int cmbStalb = -1;  ///< chosen item, -1 for none

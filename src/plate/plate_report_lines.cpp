@@ -128,7 +128,8 @@ constexpr std::array<PlateSketch, PlateChecks> sketches{{{1, "Szkic1.bmp"},
 } // namespace
 
 std::optional<PlateSection> writePlateSection(Stan& stan, const PlateForm& form, Dialogs& dialogs) {
-    const Single thickness = CSng(form.fields.Text4);
+    const Single thickness =
+        inControl(QStringLiteral("Text4"), [&] { return CSng(form.fields.Text4); });
     if (!(thickness > 0)) {
         dialogs.message(QStringLiteral("Musisz sprawdzić chociaż jeden warunek\n"
                                        "i podać przyjętą grubość blachy"),

@@ -1,6 +1,7 @@
 #include "protocol/renderer_start.h"
 
 #include "protocol/renderer_files.h"
+#include "protocol/renderer_news.h"
 #include "runtime/run_time_error.h"
 
 #include <QCoreApplication>
@@ -25,8 +26,9 @@ QString wordsOf(QProcess& process) {
     return words.isEmpty() ? words : QStringLiteral(": ") + words;
 }
 
-/// Waits for the end of the renderer. False where it was given up; it is gone then.
-bool waitFor(QProcess& process, const WaitOn& waitOn) {
+/// Waits for the end of the renderer and reads its news. False where it was given up; it is gone
+/// then.
+bool waitFor(QProcess& process, const WaitOn& waitOn, RendererNews& news) {
     constexpr int forEver = -1;
     constexpr int betweenQuestions = 50; // ms
     QElapsedTimer clock;
@@ -34,12 +36,16 @@ bool waitFor(QProcess& process, const WaitOn& waitOn) {
     while (!process.waitForFinished(waitOn ? betweenQuestions : forEver)) {
         if (process.state() == QProcess::NotRunning)
             break;
-        if (waitOn && !waitOn(std::chrono::milliseconds(clock.elapsed()))) {
+        news.read(process.readAllStandardOutput());
+        if (news.showsWindow())
+            clock.restart(); // its user's time is not its own
+        if (waitOn && !waitOn({std::chrono::milliseconds(clock.elapsed()), news.showsWindow()})) {
             process.kill();
             process.waitForFinished(forEver);
             return false;
         }
     }
+    news.read(process.readAllStandardOutput());
     return true;
 }
 
@@ -52,7 +58,8 @@ QString rendererPath(const QString& folder) {
                : QCoreApplication::applicationDirPath() + u'/' + rendererName;
 }
 
-void runRenderer(const QString& folder, const QStringList& options, const WaitOn& waitOn) {
+RendererReport runRenderer(const QString& folder, const QStringList& options, const WaitOn& waitOn,
+                           quintptr window) {
     const QString renderer = rendererPath(folder);
     if (!QFileInfo::exists(renderer))
         throw RunTimeError(error::FileNotFound,
@@ -60,24 +67,29 @@ void runRenderer(const QString& folder, const QStringList& options, const WaitOn
                                + QStringLiteral(" (program rysujący strony raportu)"));
     QProcess process;
     process.setWorkingDirectory(folder);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QLatin1String(news::variable), QString::number(window));
+    process.setProcessEnvironment(environment);
     process.start(renderer, QStringList(options)
                                 << QDir::toNativeSeparators(folder + u'/' + wyd::jobFile));
     if (!process.waitForStarted(-1))
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(": ") + process.errorString());
-    if (!waitFor(process, waitOn))
+    RendererNews told;
+    if (!waitFor(process, waitOn, told))
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(" nie skończył pracy (Przerwij)"));
     if (process.exitStatus() != QProcess::NormalExit)
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(" przerwał pracę") + wordsOf(process));
     if (process.exitCode() == wyd::CancelledByUser)
-        return;
+        return {};
     if (process.exitCode() != wyd::Done)
         throw RunTimeError(error::NoObject, QStringLiteral("%1 zakończył pracę z kodem %2%3")
                                                 .arg(rendererName)
                                                 .arg(process.exitCode())
                                                 .arg(wordsOf(process)));
+    return {told.written()};
 }
 
 } // namespace ferna

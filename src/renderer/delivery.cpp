@@ -3,16 +3,18 @@
 #include "pages/emf_writer.h"
 #include "pages/metafile.h"
 #include "protocol/renderer_files.h"
+#include "protocol/renderer_news.h"
+#include "renderer/news.h"
+#include "renderer/own_window.h"
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
+#include "widgets/save_question.h"
 
 #include <QClipboard>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
 
@@ -38,35 +40,20 @@ void toClipboard(const pages::Report& report) {
         throw RunTimeError(error::DeviceIO, QStringLiteral("nie można zająć schowka"));
 }
 
-/// True where none of the files exists yet or the user wants them replaced.
-bool mayWrite(const QStringList& names) {
-    QStringList existing;
-    for (const QString& name : names)
-        if (QFileInfo::exists(name))
-            existing += QFileInfo(name).fileName();
-    return existing.isEmpty()
-           || QMessageBox::question(nullptr, QStringLiteral("Zapisz jako EMF"),
-                                    QStringLiteral("Zastąpić istniejące pliki: %1?")
-                                        .arg(existing.join(QStringLiteral(", "))))
-                  == QMessageBox::Yes;
-}
-
-/// Asks for a name until it is a new one, may be replaced, or the dialog is cancelled.
-void saveAsEmf(const pages::Report& report, const Call& call, const Job& job) {
+void saveAsEmf(const pages::Report& report, const Call& call) {
     const OutputFormat& emf = *outputFormat(QStringLiteral("emf"));
-    QFileDialog dialog(nullptr, QStringLiteral("Zapisz jako EMF"), job.folder,
-                       QStringLiteral("Metapliki (*.emf)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("emf"));
-    dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked for the names of the pages
-    dialog.selectFile(QStringLiteral("Raport.emf"));
-    QString name;
-    do {
-        if (dialog.exec() != QDialog::Accepted)
-            throw RunTimeError(error::Cancelled, QStringLiteral("okno zapisu pliku EMF"));
-        name = dialog.selectedFiles().constFirst();
-    } while (!mayWrite(fileNames(report, emf, name)));
-    writeReport(report, emf, name, call.dpi);
+    SaveSurroundings surroundings;
+    surroundings.files = [&](const QString& name) { return fileNames(report, emf, name); };
+    surroundings.run = runOwnWindow;
+    const std::optional<QString> name =
+        askWhereToSave({QStringLiteral("Zapisz jako EMF"), QStringLiteral("Raport.emf"),
+                        QStringLiteral(".emf"), QStringLiteral("Metapliki (*.emf)|*.emf")},
+                       surroundings);
+    if (!name)
+        throw RunTimeError(error::Cancelled, QStringLiteral("okno zapisu pliku EMF"));
+    writeReport(report, emf, *name, call.dpi);
+    for (const QString& file : fileNames(report, emf, *name))
+        tell(news::fileWritten(file));
 }
 
 } // namespace
@@ -75,6 +62,13 @@ bool needsScreen(const Call& call, const Job& job) {
     return call.format == nullptr
            && (job.mode == RenderMode::PrintChosen || job.mode == RenderMode::Emf
                || job.mode == RenderMode::Clipboard);
+}
+
+bool keepsLastReply(const Call& call, const Job& job) {
+    const bool screenPicture =
+        job.mode == RenderMode::ScreenPicture || job.mode == RenderMode::Clipboard;
+    return call.format == nullptr && !screenPicture
+           && QFileInfo::exists(QDir(job.folder).filePath(wyd::replyFile));
 }
 
 void deliver(const pages::Report& report, const Call& call, const Job& job) {
@@ -94,7 +88,7 @@ void deliver(const pages::Report& report, const Call& call, const Job& job) {
         printOnChosen(report);
         break;
     case RenderMode::Emf:
-        saveAsEmf(report, call, job);
+        saveAsEmf(report, call);
         break;
     case RenderMode::Clipboard:
         toClipboard(report);

@@ -5,12 +5,11 @@
 #include "renderer/layout.h"
 #include "runtime/run_time_error.h"
 #include "runtime/screen.h"
+#include "widgets/application.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QFontInfo>
-#include <QLibraryInfo>
-#include <QTranslator>
 
 #include <cstdio>
 #include <memory>
@@ -40,10 +39,7 @@ std::unique_ptr<QGuiApplication> startQt(int& argc, char** argv, bool screen) {
     if (!hasScreen())
         throw RunTimeError(error::DeviceIO, QStringLiteral("ten tryb zlecenia wymaga ekranu"));
     auto application = std::make_unique<QApplication>(argc, argv);
-    auto* polish = new QTranslator(application.get()); // Qt's own texts in the dialogs
-    if (polish->load(QStringLiteral("qtbase_pl"),
-                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(polish);
+    dressApplication(*application);
     return application;
 }
 
@@ -59,6 +55,18 @@ void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage
         say(line);
     deliver(report, call, job);
     nextPage = job.firstPage + static_cast<int>(report.pages.size());
+}
+
+/// Reads the job; where it cannot be read the reply says so.
+Job jobOrFailure(const Call& call) {
+    try {
+        return readJob(call.jobPath);
+    } catch (const RunTimeError&) {
+        const QString folder = folderOf(call.jobPath);
+        if (QFileInfo(folder).isDir())
+            writeReply(folder, false, 1);
+        throw;
+    }
 }
 
 } // namespace
@@ -79,13 +87,11 @@ int main(int argc, char** argv) {
     }
     const QString folder = folderOf(call->jobPath);
     try {
+        const Job job = jobOrFailure(*call);
+        int page = job.firstPage;
         // The reply of a failure comes first: it stands also where the run is cut short.
-        int page = 1;
-        if (QFileInfo(folder).isDir())
+        if (!keepsLastReply(*call, job))
             writeReply(folder, false, page);
-        const Job job = readJob(call->jobPath);
-        page = job.firstPage;
-        writeReply(folder, false, page);
         run(argc, argv, *call, job, page);
         writeReply(folder, true, page);
         return wyd::Done;

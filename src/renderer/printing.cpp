@@ -2,9 +2,14 @@
 
 #include "pages/drawing.h"
 #include "pages/page_painter.h"
+#include "protocol/renderer_news.h"
+#include "renderer/news.h"
+#include "renderer/own_window.h"
+#include "renderer/page_painter.h"
 #include "renderer/print_queue.h"
 #include "runtime/run_time_error.h"
 
+#include <QFileInfo>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -95,10 +100,12 @@ void printOnChosen(const pages::Report& report) {
     dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
     dialog.setMinMax(1, static_cast<int>(report.pages.size()));
-    if (dialog.exec() != QDialog::Accepted)
+    if (runOwnWindow(dialog) != QDialog::Accepted)
         throw RunTimeError(error::Cancelled, QStringLiteral("okno wyboru drukarki"));
     printer.setFullPage(true);
     printOn(printer, report);
+    if (!printer.outputFileName().isEmpty())
+        tell(news::fileWritten(QFileInfo(printer.outputFileName()).absoluteFilePath()));
 }
 
 } // namespace ferna::renderer

@@ -1,14 +1,13 @@
 #include "report/report_lines.h"
 
 #include "design/material_tables.h"
+#include "design/typed_names.h"
 #include "runtime/format.h"
 #include "runtime/text_file.h"
 
 namespace ferna {
 
 namespace {
-
-constexpr qsizetype longestLabel = 32;
 
 QString steelLine(const Stan& stan) {
     const Materialy& m = stan.materialy;
@@ -60,7 +59,7 @@ void fillLoadTable(Stan& stan) {
 void Nazwa_zadania(Raport& raport, Dialogs& dialogs) {
     raport.Nazwa_stopy =
         oneLine(dialogs.input(QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"), programTitle,
-                              raport.Nazwa_stopy, QPoint(220, 300)))
+                              raport.Nazwa_stopy, QPoint(220, 300), labelNote))
             .left(longestLabel);
 }
 

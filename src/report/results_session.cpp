@@ -1,6 +1,7 @@
 #include "report/results_session.h"
 
 #include "design/configuration.h"
+#include "design/typed_names.h"
 #include "protocol/renderer_files.h"
 #include "report/document_writer.h"
 #include "report/rtf_writer.h"
@@ -12,11 +13,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace ferna {
 
 ResultsSession::ResultsSession(Stan& stan, Dialogs& dialogs, QString folder, bool norm0,
-                               std::function<QDateTime()> now, std::function<void()> render)
+                               std::function<QDateTime()> now,
+                               std::function<RendererReport()> render)
     : stan_(stan), dialogs_(dialogs), folder_(std::move(folder)), norm0_(norm0),
       now_(std::move(now)), render_(std::move(render)) {}
 
@@ -49,7 +52,8 @@ void ResultsSession::print(RenderMode mode) {
     retitle();
     writeJob(folder_, mode, stan_.opcje.Nr_strony);
     Buduj_wyd(stan_, raport_, folder_);
-    render_();
+    for (const QString& file : render_().written)
+        noteWritten(file);
 }
 
 void ResultsSession::printOnChosenPrinter() {
@@ -68,8 +72,9 @@ void ResultsSession::askPageNumber() {
 }
 
 void ResultsSession::askProjectName() {
-    stan_.opcje.Nazwa_projektu = oneLine(dialogs_.input(QStringLiteral("Podaj nazwe projektu"),
-                                                        programTitle, stan_.opcje.Nazwa_projektu));
+    stan_.opcje.Nazwa_projektu =
+        oneLine(dialogs_.input(QStringLiteral("Podaj nazwe projektu"), programTitle,
+                               stan_.opcje.Nazwa_projektu, std::nullopt, projectNote));
 }
 
 void ResultsSession::retitle() {
@@ -85,6 +90,10 @@ QString ResultsSession::askWhereToSave(const SaveQuestion& question) {
     return chosen.value_or(QDir::current().filePath(question.preset));
 }
 
+void ResultsSession::noteWritten(const QString& path) {
+    written_ += QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
 void ResultsSession::saveText() {
     const QString path =
         askWhereToSave({QStringLiteral("Podaj nazwę pliku tekstowego"), QStringLiteral("Wyniki"),
@@ -92,6 +101,7 @@ void ResultsSession::saveText() {
                         QStringLiteral("plik wyników (*.txt)|*.txt|wszystkie pliki (*.*)|*.*")});
     try {
         textReport(stan_, raport_).commit(path);
+        noteWritten(path);
     } catch (const RunTimeError&) { // ends silently
     }
     QDir::setCurrent(folder_);
@@ -102,6 +112,7 @@ void ResultsSession::saveRtf() {
     const Integer firstPage = stan_.opcje.Nr_strony;
     try {
         saveRtfReport(stan_, raport_, now_(), path);
+        noteWritten(path);
     } catch (const RunTimeError&) { // ends silently
     }
     if (stan_.opcje.Nr_strony != firstPage)
@@ -119,6 +130,7 @@ void ResultsSession::saveDocument(std::unique_ptr<WordProcessor> document) {
     const QString path = askWhereToSave(documentQuestion());
     try {
         ferna::saveDocument(*document, path);
+        noteWritten(path);
     } catch (const RunTimeError&) { // ends silently
         QDir::setCurrent(folder_);
         return;
@@ -136,10 +148,12 @@ QString ResultsSession::pagePanel() const {
     return QStringLiteral(" Strona ") + general(stan_.opcje.Nr_strony) + behindThePage_;
 }
 
+bool ResultsSession::exceeded() const {
+    return stan_.wyniki.Kotwy_OK == False || !stan_.wyniki.Beton_OK;
+}
+
 QString ResultsSession::statePanel() const {
-    return stan_.wyniki.Kotwy_OK != False && stan_.wyniki.Beton_OK
-               ? QStringLiteral("OK")
-               : QStringLiteral(" Przekroczone naprezenia !! ");
+    return exceeded() ? QStringLiteral(" Przekroczone naprezenia !! ") : QStringLiteral("OK");
 }
 
 } // namespace ferna

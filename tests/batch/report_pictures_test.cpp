@@ -3,6 +3,7 @@
 #include "renderer/program_run.h"
 #include "runtime/codepage.h"
 #include "support/folder.h"
+#include "support/printing.h"
 
 #include <QRegularExpression>
 
@@ -36,7 +37,11 @@ protected:
                                        {QStringLiteral("--raport"), folder.path(file),
                                         tasks.write(QStringLiteral("t.json"), task)});
         EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString() << run.output.toStdString();
-        return run.errors;
+        QStringList told; // by the program; the toolkit has words of its own on some machines
+        for (const QString& line : run.errors.split(u'\n'))
+            if (line.startsWith(u"ferna-wsad: "))
+                told += line;
+        return told.join(u'\n');
     }
 
     /// The pictures that a report names, without their folder.
@@ -94,7 +99,7 @@ TEST_F(Reports, AnRtfReportOfAnotherPlateLeavesThePicturesOfTheFirstAlone) {
     const QByteArray plateOfA = folder.read(QStringLiteral("Ferrob.bmp"));
     const QString told = report(taskOf(900), QStringLiteral("b.rtf"));
     EXPECT_EQ(told, QStringLiteral("ferna-wsad: %1: the pictures beside it belong to another "
-                                   "report; with its own pictures the report is %2\n")
+                                   "report; with its own pictures the report is %2")
                         .arg(folder.path(QStringLiteral("b.rtf")),
                              folder.path(QStringLiteral("b-rysunki/b.rtf"))));
     EXPECT_EQ(folder.read(QStringLiteral("Ferrob.bmp")), plateOfA);

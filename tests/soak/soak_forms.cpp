@@ -62,7 +62,7 @@ protected:
             auto session = std::make_unique<ResultsSession>(
                 stan, dialogs, folder.path(), input.firstNorm(),
                 [] { return QDateTime::currentDateTime(); },
-                [this] { runRenderer(folder.path()); });
+                [this] { return runRenderer(folder.path()); });
             results = std::make_unique<FernaWyn>(stan, std::move(session),
                                                  FernaWyn::Links{{},
                                                                  {},

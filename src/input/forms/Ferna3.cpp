@@ -4,6 +4,7 @@
 #include "design/language.h"
 #include "design/material_tables.h"
 #include "design/start_up.h"
+#include "design/typed_names.h"
 #include "input/forms/FernaPon.h"
 #include "input/forms/Fernafi.h"
 #include "input/forms/KGM8.h"
@@ -18,10 +19,11 @@
 #include "widgets/codepage_note.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/notes.h"
+#include "widgets/number_field.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
-#include <QShortcut>
 #include <QTimer>
 
 namespace ferna {
@@ -42,18 +44,16 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     collectFields();
     for (QGroupBox* group : findChildren<QGroupBox*>())
         stopTabAtTheChoice(group);
-    showCodepageNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu);
+    showNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu, projectNote);
+    keepRoomForNote(ui_->lblZnaki_projektu);
+    showAsWarning(ui_->lblLista_nieaktualna, true);
+    keepTablesOut(this, {ui_->txtNaz_proj});
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
     for (QWidget* field :
          {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
           static_cast<QWidget*>(ui_->cmbBeton), static_cast<QWidget*>(ui_->cmbStal)})
         field->installEventFilter(this);
-    for (int tab = 0; tab < ui_->SSTab1->count(); ++tab) {
-        auto* const shortcut =
-            new QShortcut(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + tab)), this);
-        connect(shortcut, &QShortcut::activated, this,
-                [this, tab] { ui_->SSTab1->setCurrentIndex(tab); });
-    }
+    addTabKeys(this, ui_->SSTab1);
     connectGuarded(ui_->SSTab1, &QTabWidget::currentChanged, this, [this] { tabChanged(); });
     connect(ui_->SSTab1, &QTabWidget::tabBarClicked, this, [this](int tab) {
         if (tab == ui_->SSTab1->currentIndex())
@@ -95,6 +95,8 @@ void Ferna3::connectOptions() {
     onClick("Norma_%1", 2, [this](Integer i) {
         chooseNorm(stan_, i);
         fillConcretes();
+        if (ui_->Wsp_n_0->isChecked())
+            showRatio();
     });
     onClick("Wsp_n_%1", 2, [this](Integer i) { chooseRatioMode(i); });
 }
@@ -260,6 +262,7 @@ void Ferna3::showEvent(QShowEvent* event) {
     if (event->spontaneous())
         return;
     ui_->txtNr_strony->setText(general(stan_.opcje.Nr_strony));
+    ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
     ui_->SSTab1->setCurrentIndex(generalTab);
     focusFirstField();
 }
@@ -376,12 +379,17 @@ void Ferna3::changeDiameterOf(std::optional<Integer> anchor) {
     if (!anchor)
         return;
     Fernafi(stan_, *anchor, dialogs_, this).exec();
-    ui_->Text9->setPlainText(Lista_srub(stan_));
+    showAnchorList();
 }
 
 void Ferna3::showAnchors() {
-    ui_->Text9->setPlainText(Lista_srub(stan_));
+    showAnchorList();
     Rysuj_P3();
+}
+
+void Ferna3::showAnchorList() {
+    ui_->Text9->setPlainText(Lista_srub(stan_));
+    ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
 }
 
 void Ferna3::Rysuj_P3() {
@@ -390,10 +398,10 @@ void Ferna3::Rysuj_P3() {
 }
 
 // The picture shows the layout as it was drawn last, whatever has changed in the state since, and
-// is sharp in every size of the form.
+// is sharp in every size of the form. It is the picture of the report.
 void Ferna3::showPlate(bool drawn) {
-    ui_->Picture3->setDrawing([plate = stan_.plyta, drawn](QSize size, qreal ratio) {
-        PictureBox picture(size, ratio);
+    ui_->Picture3->setDrawing(platePictureSize, [plate = stan_.plyta, drawn](qreal ratio) {
+        PictureBox picture(platePictureSize, ratio);
         if (drawn)
             ferna::drawPlate(picture, plate);
         return picture.image();

@@ -79,6 +79,7 @@ private:
     void addAnchorsBy(Adding way);
     void changeDiameterOf(std::optional<Integer> anchor);
     void showAnchors();
+    void showAnchorList();
     void Rysuj_P3();
     void showPlate(bool drawn);
 
