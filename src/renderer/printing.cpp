@@ -5,7 +5,6 @@
 #include "protocol/renderer_news.h"
 #include "renderer/news.h"
 #include "renderer/own_window.h"
-#include "renderer/page_painter.h"
 #include "renderer/print_queue.h"
 #include "runtime/run_time_error.h"
 
