@@ -1,6 +1,7 @@
 #include "analysis/case_results.h"
 
 #include "analysis/clauses.h"
+#include "design/catalogue.h"
 #include "runtime/format.h"
 
 namespace ferna {
@@ -23,7 +24,7 @@ void takeSigma_b(Stan& stan, int c, Double stress) {
 }
 
 QString concreteLine(const Stan& stan, int c) {
-    return stan.Teksty(3) + Format(stan.wyniki.Sigma_b(c), u"###0.0# MPa ");
+    return stan.Teksty(phrase::ConcreteStress) + Format(stan.wyniki.Sigma_b(c), u"###0.0# MPa ");
 }
 
 /// The two points where the neutral line leaves the plate, mirrored back to the axes of the input.
@@ -70,7 +71,7 @@ void storeAnchor(Stan& stan, const Stan_przypadku& s, int i, int c) {
     QString& line = nextLine(r, Format(i, u"##  ") + Format(stress, u"#########0.0# MPa      ")
                                     + Format(r.Sila_kotwy(i), u"########0.0 kN"));
     if (std::fabs(stress) > stan.materialy.Fd_kotwy) {
-        line += stan.Teksty(2);
+        line += stan.Teksty(phrase::AnchorExceeded);
         r.Kotwy_OK = False;
     }
 }
@@ -80,14 +81,14 @@ void checkConcrete(Stan& stan, int c) {
     const Single Rb = stan.materialy.Rb_betonu;
     switch (concreteVerdict(r.Sigma_b(c), Rb)) {
     case ConcreteVerdict::AboveDouble:
-        r.Wiersze_wynikow(r.Nr_wiersza) += stan.Teksty(4);
+        r.Wiersze_wynikow(r.Nr_wiersza) += stan.Teksty(phrase::ConcreteNotAcceptable);
         break;
     case ConcreteVerdict::Satisfied:
         r.Wiersze_wynikow(r.Nr_wiersza) += QStringLiteral(" < Rb = ") + Format(Rb, u"###.0 MPa");
         break;
     case ConcreteVerdict::Exceeded:
         const Single ratio = concreteRatio(r.Sigma_b(c), Rb);
-        nextLine(r, stan.Teksty(5));
+        nextLine(r, stan.Teksty(phrase::BearingFactorNeeded));
         r.Znak_wiersza(r.Nr_wiersza) = 1;
         r.Liczba_przekroczen = CInt(r.Liczba_przekroczen + 1);
         r.Tekst_przekroczenia(r.Liczba_przekroczen) =
@@ -116,7 +117,8 @@ QString shearByTensionSide(const Stan& stan, const Stan_przypadku& s, Single V) 
     for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
         if (s.Typ_strefy == zone::WholePlate || stan.plyta.Odl_kotwy(i) < 0)
             A = CSng(A + stan.plyta.Pole_kotwy(i));
-    return shearLine(stan, shearUtilisation(anchorShear(V, A), stan.materialy.Fv_kotwy), 47);
+    return shearLine(stan, shearUtilisation(anchorShear(V, A), stan.materialy.Fv_kotwy),
+                     phrase::ShearOfSomeAnchors);
 }
 
 /// The shear goes to all anchors, together with the tension of the most stressed one. Stresses that
@@ -130,7 +132,7 @@ QString shearByAllAnchors(const Stan& stan, int c, Single V) {
     }
     const Materialy& steel = stan.materialy;
     const Single w = interactionUtilisation(sm, steel.Fd2_kotwy, anchorShear(V, A), steel.Fv_kotwy);
-    return shearLine(stan, w, 50);
+    return shearLine(stan, w, phrase::ShearOfAllAnchors);
 }
 
 void checkHorizontalForces(Stan& stan, const Stan_przypadku& s, int c) {
@@ -141,7 +143,7 @@ void checkHorizontalForces(Stan& stan, const Stan_przypadku& s, int c) {
         return;
     QString& line = nextLine(stan.wyniki, QString());
     if (frictionForce(loads.Sila_N(c)) > V)
-        line = stan.Teksty(46);
+        line = stan.Teksty(phrase::ShearByFriction);
     else if (stan.opcje.Hsily_wszystkie != 0)
         line = shearByTensionSide(stan, s, V);
     else
@@ -160,7 +162,7 @@ void Wyniki_calej_plyty(Stan& stan, Stan_przypadku& s) {
                              s.Wx_plyty, loads.Moment_M2_kGcm, s.Wy_plyty));
     s.Typ_strefy = zone::WholePlate;
     stan.wyniki.Przyp_policzony(c) = True;
-    nextLine(stan.wyniki, stan.Teksty(6));
+    nextLine(stan.wyniki, stan.Teksty(phrase::WholePlateInCompression));
     nextLine(stan.wyniki, concreteLine(stan, c));
 }
 
@@ -169,7 +171,7 @@ void Wyniki_linii_obojetnej(Stan& stan, Stan_przypadku& s) {
     storeLineEnds(stan, s, c);
     stan.wyniki.Typ_strefy_przyp(c) = s.Typ_strefy;
     if (s.Suma_Ad == 0) {
-        nextLine(stan.wyniki, stan.Teksty(1));
+        nextLine(stan.wyniki, stan.Teksty(phrase::NoAnchorInTension));
     } else {
         for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
             if (stan.plyta.Odl_kotwy(i) < 0)
