@@ -17,16 +17,20 @@ namespace ferna::batch {
 
 namespace {
 
+ReportModel modelOf(const ComputedTask& done) {
+    return reportModel(done.task.stan, done.raport);
+}
+
 QString writeText(const ComputedTask& done, const QString& file, const QString& /*pictures*/) {
-    textReport(done.task.stan, done.raport).commit(file);
+    textReport(modelOf(done)).commit(file);
     return {};
 }
 
 /// The print commands; their pictures go into the same folder, under names of their own.
 QString writeCommands(const ComputedTask& done, const QString& file, const QString& pictures) {
     const QString folder = QFileInfo(file).absolutePath();
-    Buduj_wyd(done.task.stan, done.raport, pictures); // saves the anchor's sketch among the others
-    WydWriter writer(done.task.stan, done.raport, folder, picturePrefix(file));
+    Buduj_wyd(modelOf(done), pictures); // saves the anchor's sketch among the others
+    WydWriter writer(modelOf(done), folder, picturePrefix(file));
     writer.body();
     copyPictures(writer.pictures(), pictures, folder, picturePrefix(file));
     writer.file().commit(file);
@@ -36,7 +40,7 @@ QString writeCommands(const ComputedTask& done, const QString& file, const QStri
 /// Pages by the renderer, which is asked for them by `option`.
 template <const char* option>
 QString writePages(const ComputedTask& done, const QString& file, const QString& pictures) {
-    Buduj_wyd(done.task.stan, done.raport, pictures);
+    Buduj_wyd(modelOf(done), pictures);
     writeJob(pictures, RenderMode::ScreenPicture, done.task.stan.opcje.Nr_strony);
     runRenderer(pictures, {QString::fromLatin1(option), QFileInfo(file).absoluteFilePath()});
     return {};
@@ -44,12 +48,10 @@ QString writePages(const ComputedTask& done, const QString& file, const QString&
 
 /// The RTF report and the pictures that its text links to.
 QString writeRtf(const ComputedTask& done, const QString& file, const QString& pictures) {
-    Stan stan = done.task.stan; // the writer counts pages on
-    Raport raport = done.raport;
-    RtfWriter writer(stan, raport, done.now);
-    writer.document();
-    if (stan.raport.Liczba_wierszy_kotwy >= 1)
-        saveAnchorSketch(pictures, stan.raport.Typ_szkicu_kotwy);
+    const ReportModel report = modelOf(done);
+    RtfWriter writer = rtfReport(report, done.task.stan.opcje.Tryb_RTF, done.now);
+    if (report.anchor)
+        saveAnchorSketch(pictures, report.anchor->sketch);
     const RtfPlace place = placeOfRtfPictures(file, writer.pictures(), pictures);
     if (place.isOwn)
         QDir().mkdir(place.pictures);
@@ -64,7 +66,7 @@ QString writeRtf(const ComputedTask& done, const QString& file, const QString& p
 }
 
 QString writeWordDocument(const ComputedTask& done, const QString& file, const QString& pictures) {
-    writeDocument(done.task.stan, done.raport, pictures, file);
+    writeDocument(modelOf(done), pictures, file);
     return {};
 }
 

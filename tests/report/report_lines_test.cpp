@@ -39,7 +39,7 @@ struct ReportLines : ::testing::Test {
     }
 
     QStringList written() const {
-        return codepage::decoded(textReport(base.stan, raport).bytes())
+        return codepage::decoded(textReport(reportModel(base.stan, raport)).bytes())
             ->split(QStringLiteral("\r\n"));
     }
 };
@@ -288,8 +288,8 @@ TEST_P(GoldenReports, StandAsTheyWereAccepted) {
     const QString path = QStringLiteral(FERNA_GOLDEN_DIR "/report/")
                          + QString::fromLatin1(golden.name) + QStringLiteral(".txt");
     if (std::getenv("FERNA_ACCEPT_GOLDEN") != nullptr) // see tests/accept_golden.sh
-        textReport(base.stan, raport).commit(path);
-    EXPECT_EQ(textReport(base.stan, raport).bytes().toStdString(),
+        textReport(reportModel(base.stan, raport)).commit(path);
+    EXPECT_EQ(textReport(reportModel(base.stan, raport)).bytes().toStdString(),
               Folder::bytesOf(path).toStdString());
 }
 

@@ -12,6 +12,7 @@
 #include "input/load_table.h"
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
+#include "pages/sketch_files.h"
 #include "protocol/renderer_files.h"
 #include "runtime/format.h"
 #include "statics/forms/StatykaS.h"
@@ -413,7 +414,7 @@ void Ferna3::KGM8(Stan& stan) {
 }
 
 void Ferna3::drawPlate(Stan& stan, const InputFields& fields) {
-    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + QStringLiteral("/Ferrob.bmp")));
+    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + u'/' + platePictureFile));
 }
 
 void Ferna3::calculate() {
