@@ -16,7 +16,7 @@ test_packages=(
     git clang libclang-rt-14-dev clang-format-14 clang-tidy-14 shellcheck libgtest-dev
     libbenchmark-dev python3
     xvfb xdotool xauth x11-utils x11-apps x11-xkb-utils openbox icewm imagemagick
-    fonts-dejavu-core poppler-utils cups cups-client cups-filters time parallel
+    poppler-utils cups cups-client cups-filters time parallel
     libreoffice-writer-nogui locales
     lintian desktop-file-utils appstream man-db
     "${package_packages[@]}"

@@ -24,8 +24,9 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Computes column bases without windows: one task file, or a stream of "
-                       "tasks, one a line.\nExit codes: 0 computed; 1 refused or not solved; 2 bad "
-                       "call or unreadable task."));
+                       "tasks, one a line.\nExit codes: 0 computed; 1 refused or not solved, of a "
+                       "stream one task at least; 2 bad call, unreadable task or input.\n"
+                       "A task has at most 1,000,000 bytes, in a file as on a line of a stream."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
@@ -38,11 +39,14 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                                      QStringLiteral("Decimal sign of the report, a comma or a "
                                                     "point; the locale's without it."),
                                      QStringLiteral(",|."));
-    const QCommandLineOption report(QStringLiteral("raport"),
-                                    QStringLiteral("Write the report, its format by the file's "
-                                                   "ending (%1); may be given several times.")
-                                        .arg(reportEndings().join(QStringLiteral(", "))),
-                                    QStringLiteral("FILE"));
+    const QCommandLineOption report(
+        QStringLiteral("raport"),
+        QStringLiteral("Write the report, its format by the file's ending (%1); may be given "
+                       "several times. The pages of an EMF or SVG report of several go into "
+                       "F-strona-1-z-3.svg and so on. No file is both read and written by a "
+                       "call.")
+            .arg(reportEndings().join(QStringLiteral(", "))),
+        QStringLiteral("FILE"));
     const QCommandLineOption result(
         QStringLiteral("wynik"), QStringLiteral("Write the result here, not to standard output."),
         QStringLiteral("FILE.json"));

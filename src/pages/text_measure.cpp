@@ -30,7 +30,7 @@ QChar symbol(QChar letter) {
 QString lettersOf(const QString& text, bool symbolFont) {
     QString letters = text;
     for (QChar& c : letters) {
-        if (c == u'\t')
+        if (c.category() == QChar::Other_Control) // of no use on paper, and no part of SVG
             c = u' ';
         if (symbolFont)
             c = symbol(c);

@@ -5,7 +5,7 @@
 namespace ferna::pages {
 
 /// The letters of a text as the text font has them. The Latin letters of the Symbol font mean Greek
-/// ones and become those.
+/// ones and become those; a control character becomes a blank.
 QString lettersOf(const QString& text, bool symbolFont);
 
 /// Sets the advances of a text for its letter height, shaped with kerning as painters draw it.

@@ -63,6 +63,7 @@ struct PlateForm {
     PlateFields fields;
     PlateFace face;
     PlateInputs inputs;
+    std::array<bool, PlateChecks> refused{}; ///< check n at n - 1: pressed last without a result
     Integer Nr_stali_blachy = 0; ///< item of cmbStalb plus 1, as last taken
 };
 

@@ -2,6 +2,7 @@
 
 #include "protocol/renderer_files.h"
 #include "protocol/renderer_news.h"
+#include "runtime/passing_folder.h"
 #include "runtime/run_time_error.h"
 
 #include <QCoreApplication>
@@ -70,6 +71,8 @@ RendererReport runRenderer(const QString& folder, const QStringList& options, co
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QLatin1String(news::variable), QString::number(window));
     process.setProcessEnvironment(environment);
+    process.setChildProcessModifier(
+        [parent = QCoreApplication::applicationPid()] { endWithParent(parent); });
     process.start(renderer, QStringList(options)
                                 << QDir::toNativeSeparators(folder + u'/' + wyd::jobFile));
     if (!process.waitForStarted(-1))

@@ -9,7 +9,7 @@
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
-#include "widgets/save_question.h"
+#include "windows/save_question.h"
 
 #include <QClipboard>
 #include <QDir>

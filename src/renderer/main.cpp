@@ -5,7 +5,7 @@
 #include "renderer/layout.h"
 #include "runtime/run_time_error.h"
 #include "runtime/screen.h"
-#include "widgets/application.h"
+#include "windows/application.h"
 
 #include <QApplication>
 #include <QFileInfo>

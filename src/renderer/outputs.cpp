@@ -66,7 +66,7 @@ QByteArray svg(const pages::Report& report, std::size_t page, int) {
     generator.setResolution(static_cast<int>(mmPerInch * drawing::unitsPerMm));
     generator.setSize(units);
     generator.setViewBox(QRect(QPoint(0, 0), units));
-    generator.setTitle(documentTitle(report));
+    generator.setTitle(documentTitle(report).toHtmlEscaped()); // written as it stands
     QPainter painter;
     if (!painter.begin(&generator))
         cannotDraw("SVG");
@@ -127,7 +127,8 @@ QString pageFileName(const QString& name, const OutputFormat& format, std::size_
     const bool has = name.endsWith(suffix, Qt::CaseInsensitive);
     if (pages == 1)
         return name;
-    return (has ? name.chopped(suffix.size()) : name) + u'-' + QString::number(page + 1)
+    return (has ? name.chopped(suffix.size()) : name)
+           + QStringLiteral("-strona-%1-z-%2").arg(page + 1).arg(pages)
            + (has ? name.right(suffix.size()) : suffix);
 }
 

@@ -22,8 +22,10 @@ std::span<const OutputFormat> outputFormats();
 /// The format with that option; null where there is none.
 const OutputFormat* outputFormat(const QString& option);
 
-/// Name of the file of a page, index from 0: as given where there is one page, else with "-1",
-/// "-2" ... before the format's suffix, which is added where it is missing.
+/// Name of the file of a page, index from 0: as given where there is one page, else with
+/// "-strona-1-z-3" before the format's suffix, which is added where it is missing. So no page has a
+/// name that another report is given by accident, and a page of an earlier, longer report is told
+/// from those of the present one.
 QString pageFileName(const QString& name, const OutputFormat& format, std::size_t page,
                      std::size_t pages);
 

@@ -1,6 +1,6 @@
 #include "widgets/form_tools.h"
 
-#include "widgets/window_dress.h"
+#include "windows/window_dress.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -3,7 +3,7 @@
 #include "design/typed_names.h"
 #include "widgets/codepage_note.h"
 #include "widgets/number_field.h"
-#include "widgets/save_question.h"
+#include "windows/save_question.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

@@ -3,6 +3,7 @@
 #include "desktop/help_texts.h"
 #include "runtime/format.h"
 #include "support/decimal_comma.h"
+#include "support/places.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -24,7 +25,7 @@ bool leadsSomewhere(const QString& link, const QString& fromPage) {
     const QString anchor = link.section(u'#', 1);
     if (page.startsWith(u"szkice/"))
         return QFileInfo::exists(helpFolder + u'/' + page)
-               || QFileInfo::exists(QStringLiteral(FERNA_DATA_DIR "/") + page);
+               || QFileInfo::exists(places::data("/") + page);
     const QString target = page.isEmpty() ? fromPage : page;
     if (!QFileInfo(helpFolder + u'/' + target).isFile())
         return false;
@@ -149,9 +150,9 @@ TEST(HelpPages, TheExampleOfTheFirstStepsIsWhatTheProgramComputes) {
     const QTemporaryDir folder;
     const QString report = folder.filePath(QStringLiteral("raport.txt"));
     QProcess batch;
-    batch.start(QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"),
+    batch.start(places::bin("/ferna-wsad"),
                 {QStringLiteral("--dziesietny"), QStringLiteral(","), QStringLiteral("--raport"),
-                 report, QStringLiteral(FERNA_DATA_DIR "/przyklady/slup-hali.json")});
+                 report, places::data("/przyklady/slup-hali.json")});
     ASSERT_TRUE(batch.waitForFinished());
     ASSERT_EQ(batch.exitCode(), 0) << batch.readAllStandardError().toStdString();
     QFile file(report);

@@ -36,7 +36,8 @@ class Desktop:
                     "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb"} | self.environment
         read, write = os.pipe()
         self.started.append(subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp",
+             "-r"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         os.close(write)
         with os.fdopen(read) as pipe:

@@ -62,9 +62,12 @@ class Day:
         self.desktop.xdotool("windowactivate", window)
         wait_for("the keyboard", lambda: self.desktop.xdotool("getactivewindow") == window)
 
-    def cancelled_print(self, results):
+    def good_reply(self):
         reply = read(self.folder, "W_X.txt")
-        expect(float(reply.split(b",")[0]) > 0, "no good reply of the screen picture")
+        return reply if float(reply.split(b",")[0]) > 0 else None
+
+    def cancelled_print(self, results):
+        reply = wait_for("the reply of the screen picture", self.good_reply, 60)
         window = self.begin(results, "u", PRINT)
         self.stands_alone(window, "print")
         self.desktop.keys("Escape")

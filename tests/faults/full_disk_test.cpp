@@ -7,6 +7,7 @@
 #include "runtime/picture_box.h"
 #include "runtime/text_file.h"
 #include "support/column_base.h"
+#include "support/places.h"
 #include "support/run_time_errors.h"
 
 #include <sys/resource.h>
@@ -93,8 +94,8 @@ TEST_F(FullDisk, AReadOnlyOneIsToldAndKeepsTheOldFile) {
 
 class FullDiskOfTheCompanion : public FullDisk {
 protected:
-    const QString program = QStringLiteral(FERNA_BIN_DIR "/ferna-wsad");
-    const QString task = QStringLiteral(FERNA_DATA_DIR "/przyklady/slup-hali.json");
+    const QString program = places::bin("/ferna-wsad");
+    const QString task = places::data("/przyklady/slup-hali.json");
 };
 
 TEST_F(FullDiskOfTheCompanion, IsAFailureOfTheRun) {
@@ -110,12 +111,11 @@ TEST_F(FullDiskOfTheCompanion, IsAFailureOfTheRun) {
 }
 
 TEST(FullOutput, OfTheCompanionIsAFailureOfTheRun) {
-    const QString program = QStringLiteral(FERNA_BIN_DIR "/ferna-wsad");
+    const QString program = places::bin("/ferna-wsad");
     for (const char* call : {"$0 $1 > /dev/full", "tr -d '\\n' < $1 | $0 --linie > /dev/full"}) {
-        const Outcome run =
-            runProgram(QStringLiteral("/bin/sh"),
-                       {QStringLiteral("-c"), QLatin1String(call), program,
-                        QStringLiteral(FERNA_DATA_DIR "/przyklady/slup-hali.json")});
+        const Outcome run = runProgram(QStringLiteral("/bin/sh"),
+                                       {QStringLiteral("-c"), QLatin1String(call), program,
+                                        places::data("/przyklady/slup-hali.json")});
         EXPECT_EQ(run.exitCode, 2) << call;
         EXPECT_TRUE(run.errors.contains(QStringLiteral("standard output")))
             << run.errors.toStdString();

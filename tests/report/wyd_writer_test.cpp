@@ -5,6 +5,7 @@
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/printing.h"
 #include "support/run_time_errors.h"
 
@@ -40,8 +41,7 @@ protected:
     QStringList bodyLines() { return QString::fromLatin1(body()).split(QStringLiteral("\r\n")); }
 
     void expectGolden(const char* name) {
-        const QString path =
-            QStringLiteral(FERNA_GOLDEN_DIR "/report/") + QString::fromLatin1(name);
+        const QString path = places::golden("/report/") + QString::fromLatin1(name);
         if (std::getenv("FERNA_ACCEPT_GOLDEN") != nullptr) // see tests/accept_golden.sh
             writeFileWhole(path, body());
         EXPECT_EQ(body().toStdString(), Folder::bytesOf(path).toStdString());

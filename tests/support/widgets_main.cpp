@@ -1,6 +1,6 @@
 #include "runtime/qt_remarks.h"
 #include "support/own_settings.h"
-#include "widgets/application.h"
+#include "windows/application.h"
 
 #include <QApplication>
 #include <QFont>

@@ -1,4 +1,4 @@
-#include "desktop/settings.h"
+#include "runtime/settings.h"
 
 #include <QDir>
 #include <QSettings>

@@ -1,6 +1,6 @@
-#include "widgets/save_question.h"
+#include "windows/save_question.h"
 
-#include "desktop/settings.h"
+#include "runtime/settings.h"
 
 #include <QFileDialog>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
-#include "widgets/application.h"
+#include "windows/application.h"
 
-#include "widgets/entered_fields.h"
-#include "widgets/window_dress.h"
+#include "windows/entered_fields.h"
+#include "windows/window_dress.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -28,7 +28,7 @@ void dressApplication(QApplication& application) {
     speakPolish(application);
     // The desktop entry and the icon of the windows go by this name.
     QApplication::setDesktopFileName(QStringLiteral("ferna"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/szkice/ferna.svg")));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/ikony/ferna.svg")));
     selectEnteredFields(application);
     dressWindows(application);
 }

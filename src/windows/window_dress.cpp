@@ -1,4 +1,4 @@
-#include "widgets/window_dress.h"
+#include "windows/window_dress.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,4 +1,4 @@
-#include "widgets/entered_fields.h"
+#include "windows/entered_fields.h"
 
 #include <QApplication>
 #include <QFocusEvent>
