@@ -12,6 +12,8 @@
 #include "input/load_table.h"
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_files.h"
 #include "runtime/format.h"
 #include "statics/forms/StatykaS.h"
 #include "ui_Ferna3.h"
@@ -411,7 +413,7 @@ void Ferna3::KGM8(Stan& stan) {
 }
 
 void Ferna3::drawPlate(Stan& stan, const InputFields& fields) {
-    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + QStringLiteral("/Ferrob.bmp")));
+    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + u'/' + platePictureFile));
 }
 
 void Ferna3::calculate() {
@@ -421,7 +423,7 @@ void Ferna3::calculate() {
 }
 
 void Ferna3::leaveProgram() {
-    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + QStringLiteral("/W_X.txt"));
+    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + u'/' + wyd::replyFile);
     hide();
     QCoreApplication::exit(0);
 }
