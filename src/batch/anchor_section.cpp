@@ -4,7 +4,7 @@
 
 namespace ferna::batch {
 
-AnchorTask readAnchorTask(const Json& value, const std::string& path) {
+AnchorTask readAnchorTask(const TaskValue& value, const std::string& path) {
     const TaskObject object(value, path, {"rodzaj", "g"});
     object.require("g");
     return {object.oneOf("rodzaj", {"F", "P"}) == "P" ? 1 : 0,

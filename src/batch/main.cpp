@@ -81,11 +81,11 @@ int runOne(const Options& options, const RunOptions& runOptions) {
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     try {
         const ComputedTask done = run(readTask(parsed(text)), runOptions);
-        const QByteArray result = QByteArray::fromStdString(resultOf(done).dump(1)) + '\n';
+        const std::string result = resultText(done, JsonWriter::Layout::Indented) + '\n';
         if (options.result.isEmpty())
-            print(result.toStdString());
+            print(result);
         else
-            writeFileWhole(options.result, result);
+            writeFileWhole(options.result, QByteArray::fromStdString(result));
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures, outputs));
@@ -115,7 +115,7 @@ std::string resultLine(const std::string& text, long number, const RunOptions& r
         const ComputedTask done = run(readTask(parsed(text)), runOptions);
         if (!solved(done))
             all = false;
-        return oneLine(resultOf(done));
+        return resultText(done, JsonWriter::Layout::OneLine);
     } catch (const TaskError& failure) {
         return refused(failure.what());
     } catch (const RunTimeError& failure) {

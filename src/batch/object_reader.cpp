@@ -1,11 +1,13 @@
 #include "batch/object_reader.h"
 
+#include <algorithm>
+
 namespace ferna::batch {
 
 namespace {
 
-std::string found(const Json& value) {
-    std::string text = value.dump(-1, ' ', false, Json::error_handler_t::replace);
+std::string found(const TaskValue& value) {
+    std::string text = value.written();
     if (text.size() > 40)
         text = text.substr(0, 37) + "...";
     return ", found " + text;
@@ -17,26 +19,30 @@ std::string range(Integer least, Integer most) {
 
 } // namespace
 
-ObjectReader::ObjectReader(const Json& value, std::string path)
+ObjectReader::ObjectReader(const TaskValue& value, std::string path)
     : value_(objectOf(value, path)), path_(std::move(path)) {}
 
 std::string ObjectReader::pathOf(const std::string& key) const {
     return path_.empty() ? key : path_ + '.' + key;
 }
 
-const Json& ObjectReader::at(const char* key) {
-    known_.emplace(key);
-    return value_.at(key);
+void ObjectReader::know(const char* key) {
+    known_.at(knownKeys_++) = key;
 }
 
-const Json& ObjectReader::required(const char* key) {
+const TaskValue& ObjectReader::at(const char* key) {
+    know(key);
+    return *value_.find(key);
+}
+
+const TaskValue& ObjectReader::required(const char* key) {
     if (!has(key))
         throw TaskError(pathOf(key), "this key is required and is missing");
     return at(key);
 }
 
 Integer ObjectReader::integer(const char* key, Integer preset, Integer least, Integer most) {
-    known_.emplace(key);
+    know(key);
     return has(key) ? integerOf(at(key), pathOf(key), least, most) : preset;
 }
 
@@ -45,7 +51,7 @@ Integer ObjectReader::requiredInteger(const char* key) {
 }
 
 double ObjectReader::number(const char* key, double preset) {
-    known_.emplace(key);
+    know(key);
     return has(key) ? numberOf(at(key), pathOf(key)) : preset;
 }
 
@@ -54,43 +60,44 @@ double ObjectReader::requiredNumber(const char* key) {
 }
 
 QString ObjectReader::text(const char* key, const QString& preset) {
-    known_.emplace(key);
+    know(key);
     return has(key) ? textOf(at(key), pathOf(key)) : preset;
 }
 
 void ObjectReader::finish() const {
-    for (const auto& [key, value] : value_.items())
-        if (!known_.contains(key))
-            throw TaskError(pathOf(key), "unknown key");
+    const auto end = known_.begin() + knownKeys_;
+    for (const TaskValue& part : value_.parts())
+        if (std::find(known_.begin(), end, part.key) == end)
+            throw TaskError(pathOf(std::string(part.key)), "unknown key");
 }
 
-Integer integerOf(const Json& value, const std::string& path, Integer least, Integer most) {
-    const bool whole = value.is_number() && value.get<double>() == Int(value.get<double>());
-    if (!whole || value.get<double>() < least || value.get<double>() > most)
+Integer integerOf(const TaskValue& value, const std::string& path, Integer least, Integer most) {
+    const bool whole = value.isNumber() && value.number == Int(value.number);
+    if (!whole || value.number < least || value.number > most)
         throw TaskError(path, range(least, most) + found(value));
-    return CInt(value.get<double>());
+    return CInt(value.number);
 }
 
-double numberOf(const Json& value, const std::string& path) {
-    if (!value.is_number())
+double numberOf(const TaskValue& value, const std::string& path) {
+    if (!value.isNumber())
         throw TaskError(path, "expected a number" + found(value));
-    return value.get<double>();
+    return value.number;
 }
 
-QString textOf(const Json& value, const std::string& path) {
-    if (!value.is_string())
+QString textOf(const TaskValue& value, const std::string& path) {
+    if (!value.isText())
         throw TaskError(path, "expected a text" + found(value));
-    return QString::fromStdString(value.get_ref<const std::string&>());
+    return QString::fromUtf8(value.text.data(), static_cast<qsizetype>(value.text.size()));
 }
 
-const Json& objectOf(const Json& value, const std::string& path) {
-    if (!value.is_object())
+const TaskValue& objectOf(const TaskValue& value, const std::string& path) {
+    if (!value.isObject())
         throw TaskError(path, "expected an object" + found(value));
     return value;
 }
 
-const Json& arrayOf(const Json& value, const std::string& path) {
-    if (!value.is_array())
+const TaskValue& arrayOf(const TaskValue& value, const std::string& path) {
+    if (!value.isArray())
         throw TaskError(path, "expected an array" + found(value));
     return value;
 }

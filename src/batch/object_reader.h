@@ -1,13 +1,14 @@
 #pragma once
 
 #include "batch/task_error.h"
+#include "batch/task_value.h"
 #include "runtime/numbers.h"
 
 #include <QString>
 
 #include <nlohmann/json.hpp>
 
-#include <set>
+#include <array>
 #include <string>
 
 namespace ferna::batch {
@@ -20,13 +21,13 @@ using Json = nlohmann::ordered_json;
 class ObjectReader {
 public:
     /// Refuses a value that is no object. `path` names it, empty for the task itself.
-    ObjectReader(const Json& value, std::string path);
+    ObjectReader(const TaskValue& value, std::string path);
 
-    bool has(const char* key) const { return value_.contains(key); }
+    bool has(const char* key) const { return value_.find(key) != nullptr; }
     /// The value of a key that has been checked with `has`.
-    const Json& at(const char* key);
+    const TaskValue& at(const char* key);
     /// The same, refused where the key is missing.
-    const Json& required(const char* key);
+    const TaskValue& required(const char* key);
     std::string pathOf(const std::string& key) const;
 
     /// A whole number of 16 bits between `least` and `most`.
@@ -40,19 +41,23 @@ public:
     void finish() const;
 
 private:
-    const Json& value_;
+    const TaskValue& value_;
     std::string path_;
-    std::set<std::string, std::less<>> known_;
+    void know(const char* key);
+
+    static constexpr std::size_t mostKeys = 32; // keys that an object may have
+    std::array<const char*, mostKeys> known_{};
+    std::size_t knownKeys_ = 0;
 };
 
 /// A value as a whole number of 16 bits between `least` and `most`.
-Integer integerOf(const Json& value, const std::string& path, Integer least = -32768,
+Integer integerOf(const TaskValue& value, const std::string& path, Integer least = -32768,
                   Integer most = 32767);
-double numberOf(const Json& value, const std::string& path);
-QString textOf(const Json& value, const std::string& path);
+double numberOf(const TaskValue& value, const std::string& path);
+QString textOf(const TaskValue& value, const std::string& path);
 /// A value as an object.
-const Json& objectOf(const Json& value, const std::string& path);
+const TaskValue& objectOf(const TaskValue& value, const std::string& path);
 /// A value as an array.
-const Json& arrayOf(const Json& value, const std::string& path);
+const TaskValue& arrayOf(const TaskValue& value, const std::string& path);
 
 } // namespace ferna::batch

@@ -47,7 +47,7 @@ const std::array<FieldKeys, PlateChecks> fieldKeys{
               {"S", false, Text3<7>}},
 };
 
-TaskObject checkObject(const Json& value, const std::string& path, int check) {
+TaskObject checkObject(const TaskValue& value, const std::string& path, int check) {
     switch (check) {
     case 1:
         return {value, path, {"bs", "ca", "S"}};
@@ -63,7 +63,7 @@ TaskObject checkObject(const Json& value, const std::string& path, int check) {
     }
 }
 
-PlateTask::Check readCheck(const Json& value, const std::string& path, int check) {
+PlateTask::Check readCheck(const TaskValue& value, const std::string& path, int check) {
     const TaskObject object = checkObject(value, path, check);
     struct Typed {
         QString& (*field)(PlateFields&);
@@ -121,7 +121,7 @@ Json resultJson(const Stan& stan, const PlateForm& form) {
 
 } // namespace
 
-PlateTask readPlateTask(const Json& value, const std::string& path) {
+PlateTask readPlateTask(const TaskValue& value, const std::string& path) {
     const TaskObject object(
         value, path,
         {"Nr_stali_blachy", "Blacha_nazwa", "Blacha_fd", "Blacha_t_max", "Grubosc", "Sprawdzenia"});
@@ -132,15 +132,16 @@ PlateTask readPlateTask(const Json& value, const std::string& path) {
     task.steel = {object.text("Blacha_nazwa"),
                   {object.fieldText("Blacha_fd").value_or(zero),
                    object.wholeFieldText("Blacha_t_max").value_or(zero)}};
-    if (object.has("Grubosc") && !object.at("Grubosc").is_null())
+    if (object.has("Grubosc") && !object.at("Grubosc").isNull())
         task.Grubosc = object.fieldText("Grubosc");
     if (!object.has("Sprawdzenia"))
         return task;
     const TaskObject checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
                             {"1", "2", "3", "4", "5", "6", "7", "8"});
-    for (const auto& item : object.at("Sprawdzenia").items())
-        task.checks.push_back(
-            readCheck(item.value(), checks.pathOf(item.key()), std::stoi(item.key())));
+    for (const TaskValue& part : object.at("Sprawdzenia").parts()) {
+        const std::string number(part.key);
+        task.checks.push_back(readCheck(part, checks.pathOf(number), std::stoi(number)));
+    }
     return task;
 }
 

@@ -28,7 +28,7 @@ struct PlateSectionResult : SectionResult {
 };
 
 /// Throws TaskError.
-PlateTask readPlateTask(const Json& value, const std::string& path = "Blacha");
+PlateTask readPlateTask(const TaskValue& value, const std::string& path = "Blacha");
 
 /// Opens the form on the results in the state, chooses the grade and leaves its list, runs the
 /// checks in their order, types the thickness and confirms. A run-time error ends the run where it

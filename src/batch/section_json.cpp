@@ -20,12 +20,13 @@ Json errorJson(const RunTimeError& failure, std::optional<int> przypadek) {
     return error;
 }
 
-TaskObject::TaskObject(const Json& value, std::string path, std::initializer_list<const char*> keys)
+TaskObject::TaskObject(const TaskValue& value, std::string path,
+                       std::initializer_list<const char*> keys)
     : value_(objectOf(value, path)), path_(std::move(path)) {
-    for (const auto& item : value.items()) {
-        const auto isKey = [&](const char* key) { return item.key() == key; };
+    for (const TaskValue& part : value.parts()) {
+        const auto isKey = [&](const char* key) { return part.key == key; };
         if (std::none_of(keys.begin(), keys.end(), isKey))
-            throw TaskError(pathOf(item.key()), "unknown key");
+            throw TaskError(pathOf(std::string(part.key)), "unknown key");
     }
 }
 
@@ -67,7 +68,7 @@ std::string TaskObject::oneOf(const char* key, std::initializer_list<const char*
     require(key);
     std::string expected;
     for (const char* choice : choices) {
-        if (at(key) == choice)
+        if (at(key).isText() && at(key).text == choice)
             return choice;
         expected += (expected.empty() ? "\"" : " or \"") + std::string(choice) + '"';
     }

@@ -24,10 +24,10 @@ Json errorJson(const RunTimeError& failure, std::optional<int> przypadek = {});
 class TaskObject {
 public:
     /// An object that holds no other keys than these.
-    TaskObject(const Json& value, std::string path, std::initializer_list<const char*> keys);
+    TaskObject(const TaskValue& value, std::string path, std::initializer_list<const char*> keys);
 
-    bool has(const char* key) const { return value_.contains(key); }
-    const Json& at(const char* key) const { return value_.at(key); }
+    bool has(const char* key) const { return value_.find(key) != nullptr; }
+    const TaskValue& at(const char* key) const { return *value_.find(key); }
     std::string pathOf(const std::string& key) const { return path_ + '.' + key; }
     /// Refuses the object without the key.
     void require(const char* key) const;
@@ -46,7 +46,7 @@ public:
 private:
     std::optional<double> number(const char* key) const;
 
-    const Json& value_;
+    const TaskValue& value_;
     std::string path_;
 };
 

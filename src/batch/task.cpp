@@ -61,14 +61,14 @@ void readSteel(ObjectReader& task, Task& out) {
 }
 
 void readAnchors(ObjectReader& task, Task& out) {
-    const Json& anchors = arrayOf(task.required("Kotwy"), "Kotwy");
-    if (anchors.size() > MaxAnchors)
+    const TaskValue& anchors = arrayOf(task.required("Kotwy"), "Kotwy");
+    if (anchors.count > MaxAnchors)
         throw TaskError("Kotwy", "expected at most " + std::to_string(MaxAnchors)
-                                     + " anchors, found " + std::to_string(anchors.size()));
+                                     + " anchors, found " + std::to_string(anchors.count));
     Plyta_i_kotwy& plate = out.stan.plyta;
-    for (std::size_t i = 0; i < anchors.size(); ++i) {
-        const std::string path = element("Kotwy", i);
-        ObjectReader anchor(anchors[i], path);
+    std::size_t i = 0;
+    for (const TaskValue& part : anchors.parts()) {
+        ObjectReader anchor(part, element("Kotwy", i));
         const auto coordinate = [&](const char* key) -> Integer {
             const double mm = anchor.requiredNumber(key);
             if (!(std::fabs(mm) <= 32767))
@@ -78,7 +78,7 @@ void readAnchors(ObjectReader& task, Task& out) {
         };
         const Integer x = coordinate("x");
         const Integer y = coordinate("y");
-        plate.Liczba_srub = CInt(static_cast<int>(i) + 1);
+        plate.Liczba_srub = CInt(static_cast<int>(++i));
         storeAnchorAt(plate, plate.Liczba_srub, x, y, anchor.requiredInteger("fi"));
         anchor.finish();
     }
@@ -86,28 +86,30 @@ void readAnchors(ObjectReader& task, Task& out) {
 }
 
 void readCases(ObjectReader& task, Task& out) {
-    const Json& cases = arrayOf(task.required("Przypadki"), "Przypadki");
+    const TaskValue& cases = arrayOf(task.required("Przypadki"), "Przypadki");
     const std::size_t most = out.column ? MaxCases - 1 : MaxCases;
-    if (cases.empty() || cases.size() > most)
+    if (cases.count == 0 || cases.count > most)
         throw TaskError("Przypadki", "expected 1 to " + std::to_string(most)
                                          + (out.column ? " cases and a column" : " cases")
-                                         + ", found " + std::to_string(cases.size()));
+                                         + ", found " + std::to_string(cases.count));
     InputFields& fields = out.fields;
-    for (std::size_t r = 0; r < cases.size(); ++r) {
-        ObjectReader loads(cases[r], element("Przypadki", r));
+    std::size_t r = 0;
+    for (const TaskValue& part : cases.parts()) {
+        ObjectReader loads(part, element("Przypadki", r));
         fields.Text6[r] = general(loads.requiredNumber("N"));
         fields.Text7[r] = general(loads.requiredNumber("M1"));
         fields.Text8[r] = general(loads.requiredNumber("M2"));
         fields.Text5[r] = general(loads.requiredNumber("Vx"));
         fields.Text10[r] = general(loads.requiredNumber("Vy"));
         loads.finish();
+        ++r;
     }
-    out.stan.obciazenia.Liczba_przyp = CInt(static_cast<int>(cases.size()));
+    out.stan.obciazenia.Liczba_przyp = CInt(static_cast<int>(cases.count));
 }
 
 } // namespace
 
-Task readTask(const Json& json) {
+Task readTask(const TaskValue& json) {
     Task out;
     ObjectReader task(json, "");
     readOptions(task, out);

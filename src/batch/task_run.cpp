@@ -1,7 +1,6 @@
 #include "batch/task_run.h"
 
 #include "command/calculation.h"
-#include "design/language.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
@@ -104,9 +103,10 @@ ComputedTask run(Task task, const RunOptions& options) {
     done.task = std::move(task);
     done.now = options.now;
     Stan& stan = done.task.stan;
-    Czytaj_teksty(stan, options.catalogue.isEmpty()
-                            ? options.dataFolder + u'/' + catalogueFile(stan.opcje.Nr_jezyka)
-                            : options.catalogue);
+    stan.Teksty = options.catalogues->texts(options.catalogue.isEmpty()
+                                                ? options.dataFolder + u'/'
+                                                      + catalogueFile(stan.opcje.Nr_jezyka)
+                                                : options.catalogue);
     const bool columnKept =
         !done.task.column
         || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "analysis/stan_przypadku.h"
+#include "batch/json_writer.h"
 #include "batch/task.h"
 #include "command/entered_equilibria.h"
+#include "design/language.h"
 #include "report/report_lines.h"
 
 #include <QDateTime>
 
+#include <memory>
 #include <optional>
 
 namespace ferna::batch {
@@ -17,6 +20,7 @@ struct RunOptions {
     QString dataFolder;    ///< where the delivered catalogues are
     QDateTime now;         ///< date and time of the title block
     QString pictures = {}; ///< folder for the pictures of the report; empty: none are made
+    std::shared_ptr<Catalogues> catalogues = std::make_shared<Catalogues>(); ///< of all tasks
 };
 
 /// What the solver leaves behind a case and the next case overwrites.
@@ -49,7 +53,10 @@ struct ComputedTask {
 /// into the result.
 ComputedTask run(Task task, const RunOptions& options);
 
-/// The result of a computed task, or of a refused one.
+/// The result of a computed task as it is written.
+std::string resultText(const ComputedTask& done, JsonWriter::Layout layout);
+
+/// The same as a value.
 Json resultOf(const ComputedTask& done);
 
 /// The result line of a task that the companion itself refuses.

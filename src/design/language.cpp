@@ -16,7 +16,7 @@ QString catalogueFile(Integer Nr_jezyka) {
     return QString::fromLatin1(files[static_cast<std::size_t>(Nr_jezyka)]);
 }
 
-void Czytaj_teksty(Stan& stan, const QString& path) {
+CatalogueTexts catalogueTexts(const QString& path) {
     const QStringList lines = readLines(path, TextFrom::Editor);
     if (lines.size() < CatalogueLines)
         throw RunTimeError(error::InputPastEnd,
@@ -24,8 +24,21 @@ void Czytaj_teksty(Stan& stan, const QString& path) {
                                .arg(QDir::toNativeSeparators(path))
                                .arg(lines.size() + 1)
                                .arg(CatalogueLines));
+    CatalogueTexts texts;
     for (int n = 1; n <= CatalogueLines; ++n)
-        stan.Teksty(n) = lines[n - 1];
+        texts(n) = lines[n - 1];
+    return texts;
+}
+
+void Czytaj_teksty(Stan& stan, const QString& path) {
+    stan.Teksty = catalogueTexts(path);
+}
+
+const CatalogueTexts& Catalogues::texts(const QString& path) {
+    const std::lock_guard lock(mutex_);
+    const auto known = read_.find(path);
+    return known != read_.end() ? known->second
+                                : read_.emplace(path, catalogueTexts(path)).first->second;
 }
 
 } // namespace ferna

@@ -2,6 +2,8 @@
 
 #include "pages/drawing.h"
 #include "pages/text_measure.h"
+#include "runtime/run_time_error.h"
+#include "runtime/text_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -181,6 +183,13 @@ void RecordInterpreter::picture(const PictureRecord& record, int line) {
     Block block;
     block.rect = {*pictureX_, *pictureY_, *pictureWidth_, *pictureHeight_};
     block.picture = {block.rect, image(record.path, line)};
+    pictureBytes_ += block.picture.image.sizeInBytes();
+    if (pictureBytes_ > mostPictureBytes)
+        throw RunTimeError(error::DeviceIO, QStringLiteral("%1, wiersz %2: rysunki mają razem "
+                                                           "ponad %3 MB")
+                                                .arg(QDir::toNativeSeparators(path_))
+                                                .arg(line)
+                                                .arg(mostPictureBytes / megabyte));
     if (block.picture.image.isNull())
         standIn(block, QFileInfo(QDir::fromNativeSeparators(record.path)).fileName());
     segment_.blocks.push_back(std::move(block));
@@ -192,7 +201,9 @@ QImage RecordInterpreter::image(const QString& path, int line) {
     const auto known = images_.constFind(full);
     if (known != images_.constEnd())
         return *known;
-    const QImage image = isCutShort(full) ? QImage() : QImage(full);
+    // A pipe would be waited for without end.
+    const bool isReadable = QFileInfo(full).isFile() && !isCutShort(full);
+    const QImage image = isReadable ? QImage(full) : QImage();
     if (image.isNull())
         complaints_.add(path_, line,
                         (QFileInfo::exists(full) ? QStringLiteral("nie można wczytać rysunku %1")

@@ -1,4 +1,5 @@
 #include "pages/drawing.h"
+#include "protocol/renderer_files.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
 #include "runtime/run_time_error.h"
@@ -12,6 +13,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <new>
 
 using namespace ferna;
 using namespace ferna::renderer;
@@ -79,9 +81,10 @@ int main(int argc, char** argv) {
     }
     const QString folder = folderOf(call->jobPath);
     try {
-        // The reply of a failure comes first: it stands also where the run is cut short.
+        // The reply of a failure comes first: it stands also where the run is cut short. Beside a
+        // file that is no job of ours nothing is written.
         int page = 1;
-        if (QFileInfo(folder).isDir())
+        if (QFileInfo(call->jobPath).fileName() == wyd::jobFile && QFileInfo(folder).isDir())
             writeReply(folder, false, page);
         const Job job = readJob(call->jobPath);
         page = job.firstPage;
@@ -93,6 +96,8 @@ int main(int argc, char** argv) {
         if (failure.number() == error::Cancelled)
             return CancelledByUser;
         say(failure.text());
+    } catch (const std::bad_alloc&) {
+        say(QStringLiteral("brak pamięci"));
     } catch (const std::exception& failure) {
         say(QString::fromLocal8Bit(failure.what()));
     }

@@ -1,0 +1,154 @@
+#include "batch/json_writer.h"
+
+#include <array>
+#include <bit>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+
+namespace ferna::batch {
+
+namespace {
+
+constexpr int numberLength = 64; // letters that no number exceeds
+
+} // namespace
+
+void JsonWriter::lineOfLevel() {
+    if (isIndented_) {
+        bytes_ += '\n';
+        bytes_.append(static_cast<std::size_t>(level_), ' ');
+    }
+}
+
+/// What stands in front of a part: nothing behind its key.
+void JsonWriter::part() {
+    if (std::exchange(hasKey_, false) || level_ == 0)
+        return;
+    if (!std::exchange(isFirst_, false))
+        bytes_ += ',';
+    lineOfLevel();
+}
+
+void JsonWriter::begin(char bracket) {
+    part();
+    bytes_ += bracket;
+    ++level_;
+    isFirst_ = true;
+}
+
+void JsonWriter::end(char bracket) {
+    --level_;
+    if (!std::exchange(isFirst_, false))
+        lineOfLevel();
+    bytes_ += bracket;
+}
+
+void JsonWriter::word(std::string_view letters) {
+    part();
+    bytes_ += letters;
+}
+
+void JsonWriter::key(std::string_view name) {
+    part();
+    bytes_ += '"';
+    bytes_ += name;
+    bytes_ += isIndented_ ? "\": " : "\":";
+    hasKey_ = true;
+}
+
+void JsonWriter::whole(int value) {
+    std::array<char, numberLength> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    word({digits.data(), end});
+}
+
+void JsonWriter::number(Double value) {
+    if (std::bit_cast<std::uint64_t>(value) == 0) {
+        word("0.0");
+        return;
+    }
+    if (!std::isfinite(value)) {
+        null();
+        return;
+    }
+    // The library's own, whose digits are not always those of `std::to_chars`.
+    std::array<char, numberLength> digits;
+    const char* const end =
+        nlohmann::detail::to_chars(digits.data(), digits.data() + digits.size(), value);
+    word({digits.data(), end});
+}
+
+void JsonWriter::single(Single value) {
+    if (std::bit_cast<std::uint32_t>(value) == 0) { // most anchors are not in tension
+        word("0.0");
+        return;
+    }
+    std::array<char, numberLength> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    Double shortest = 0;
+    std::from_chars(digits.data(), end, shortest);
+    number(shortest);
+}
+
+/// A letter below U+0080.
+void JsonWriter::escaped(char16_t letter) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    constexpr std::string_view named = "\"\\\b\f\n\r\t";
+    constexpr std::string_view names = "\"\\bfnrt";
+    constexpr unsigned firstPlain = 0x20;
+    const auto byte = static_cast<char>(letter);
+    if (const std::size_t at = named.find(byte); at != std::string_view::npos) {
+        bytes_ += '\\';
+        bytes_ += names[at];
+    } else if (letter < firstPlain) {
+        bytes_ += "\\u00";
+        bytes_ += digits[letter >> 4U];
+        bytes_ += digits[letter & 15U];
+    } else {
+        bytes_ += byte;
+    }
+}
+
+void JsonWriter::text(const QString& value) {
+    part();
+    bytes_ += '"';
+    for (qsizetype i = 0; i < value.size(); ++i) {
+        const char16_t letter = value[i].unicode();
+        if (letter >= 0x20 && letter < 0x80 && letter != u'"' && letter != u'\\') {
+            bytes_ += static_cast<char>(letter);
+        } else if (letter < 0x80) {
+            escaped(letter);
+        } else if (letter < 0x800) {
+            bytes_ += static_cast<char>(0xC0 | letter >> 6U);
+            bytes_ += static_cast<char>(0x80 | (letter & 0x3FU));
+        } else {
+            const bool isPair = QChar::isHighSurrogate(letter) && i + 1 < value.size()
+                                && value[i + 1].isLowSurrogate();
+            const QByteArray bytes = QStringView(value).mid(i, isPair ? 2 : 1).toUtf8();
+            bytes_.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+            i += isPair ? 1 : 0;
+        }
+    }
+    bytes_ += '"';
+}
+
+void JsonWriter::value(const Json& value) {
+    if (value.is_object()) {
+        beginObject();
+        for (const auto& [name, part] : value.items()) {
+            key(name);
+            this->value(part);
+        }
+        endObject();
+    } else if (value.is_array()) {
+        beginArray();
+        for (const Json& part : value)
+            this->value(part);
+        endArray();
+    } else {
+        word(value.dump(-1, ' ', false, Json::error_handler_t::replace));
+    }
+}
+
+} // namespace ferna::batch
