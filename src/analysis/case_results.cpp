@@ -2,6 +2,7 @@
 
 #include "analysis/clauses.h"
 #include "runtime/format.h"
+#include "runtime/line_of_text.h"
 
 namespace ferna {
 
@@ -23,7 +24,7 @@ void takeSigma_b(Stan& stan, int c, Double stress) {
 }
 
 QString concreteLine(const Stan& stan, int c) {
-    return stan.Teksty(3) + Format(stan.wyniki.Sigma_b(c), u"###0.0# MPa ");
+    return LineOfText().add(stan.Teksty(3)).number(stan.wyniki.Sigma_b(c), u"###0.0# MPa ");
 }
 
 /// The two points where the neutral line leaves the plate, mirrored back to the axes of the input.
@@ -67,8 +68,10 @@ void storeAnchor(Stan& stan, const Stan_przypadku& s, int i, int c) {
         r.Sila_kotwy_max = r.Sila_kotwy(i);
         r.Nr_kotwy_max = CInt(i);
     }
-    QString& line = nextLine(r, Format(i, u"##  ") + Format(stress, u"#########0.0# MPa      ")
-                                    + Format(r.Sila_kotwy(i), u"########0.0 kN"));
+    QString& line = nextLine(r, LineOfText()
+                                    .number(i, u"##  ")
+                                    .number(stress, u"#########0.0# MPa      ")
+                                    .number(r.Sila_kotwy(i), u"########0.0 kN"));
     if (std::fabs(stress) > stan.materialy.Fd_kotwy) {
         line += stan.Teksty(2);
         r.Kotwy_OK = False;
@@ -83,7 +86,10 @@ void checkConcrete(Stan& stan, int c) {
         r.Wiersze_wynikow(r.Nr_wiersza) += stan.Teksty(4);
         break;
     case ConcreteVerdict::Satisfied:
-        r.Wiersze_wynikow(r.Nr_wiersza) += QStringLiteral(" < Rb = ") + Format(Rb, u"###.0 MPa");
+        r.Wiersze_wynikow(r.Nr_wiersza) = LineOfText()
+                                              .add(r.Wiersze_wynikow(r.Nr_wiersza))
+                                              .add(u" < Rb = ")
+                                              .number(Rb, u"###.0 MPa");
         break;
     case ConcreteVerdict::Exceeded:
         const Single ratio = concreteRatio(r.Sigma_b(c), Rb);

@@ -12,6 +12,11 @@ namespace {
 
 constexpr int numberLength = 64; // letters that no number exceeds
 
+/// A letter that stands for itself in one byte.
+bool isPlain(char16_t letter) {
+    return letter >= 0x20 && letter < 0x80 && letter != u'"' && letter != u'\\';
+}
+
 } // namespace
 
 void JsonWriter::lineOfLevel() {
@@ -113,30 +118,46 @@ void JsonWriter::escaped(char16_t letter) {
 void JsonWriter::text(const QString& value) {
     part();
     bytes_ += '"';
+    std::array<char, 128> piece;
+    std::size_t filled = 0;
+    const auto flush = [&] {
+        bytes_.append(piece.data(), filled);
+        filled = 0;
+    };
     for (qsizetype i = 0; i < value.size(); ++i) {
         const char16_t letter = value[i].unicode();
-        if (letter >= 0x20 && letter < 0x80 && letter != u'"' && letter != u'\\') {
-            bytes_ += static_cast<char>(letter);
-        } else if (letter < 0x80) {
-            escaped(letter);
-        } else if (letter < 0x800) {
-            bytes_ += static_cast<char>(0xC0 | letter >> 6U);
-            bytes_ += static_cast<char>(0x80 | (letter & 0x3FU));
+        if (filled + 2 > piece.size())
+            flush();
+        if (isPlain(letter)) {
+            piece[filled++] = static_cast<char>(letter);
+        } else if (letter >= 0x80 && letter < 0x800) {
+            piece[filled++] = static_cast<char>(0xC0 | letter >> 6U);
+            piece[filled++] = static_cast<char>(0x80 | (letter & 0x3FU));
         } else {
-            const bool isPair = QChar::isHighSurrogate(letter) && i + 1 < value.size()
-                                && value[i + 1].isLowSurrogate();
-            const QByteArray bytes = QStringView(value).mid(i, isPair ? 2 : 1).toUtf8();
-            bytes_.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-            i += isPair ? 1 : 0;
+            flush();
+            i += other(QStringView(value).mid(i));
         }
     }
+    flush();
     bytes_ += '"';
+}
+
+/// The first letter of a text, of any kind; returns how many more units it has taken.
+int JsonWriter::other(QStringView text) {
+    if (text[0].unicode() < 0x80) {
+        escaped(text[0].unicode());
+        return 0;
+    }
+    const bool isPair = text[0].isHighSurrogate() && text.size() > 1 && text[1].isLowSurrogate();
+    const QByteArray bytes = text.left(isPair ? 2 : 1).toUtf8();
+    bytes_.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    return isPair ? 1 : 0;
 }
 
 void JsonWriter::value(const Json& value) {
     if (value.is_object()) {
         beginObject();
-        for (const auto& [name, part] : value.items()) {
+        for (const auto& [name, part] : value.get_ref<const Json::object_t&>()) {
             key(name);
             this->value(part);
         }
@@ -146,6 +167,8 @@ void JsonWriter::value(const Json& value) {
         for (const Json& part : value)
             this->value(part);
         endArray();
+    } else if (value.is_string()) {
+        text(QString::fromStdString(value.get_ref<const std::string&>()));
     } else {
         word(value.dump(-1, ' ', false, Json::error_handler_t::replace));
     }

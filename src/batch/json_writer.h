@@ -16,7 +16,10 @@ class JsonWriter {
 public:
     enum class Layout { OneLine, Indented };
 
-    explicit JsonWriter(Layout layout) : isIndented_(layout == Layout::Indented) {}
+    explicit JsonWriter(Layout layout) : isIndented_(layout == Layout::Indented) {
+        constexpr std::size_t usual = 16'384; // bytes of a result
+        bytes_.reserve(usual);
+    }
 
     void beginObject() { begin('{'); }
     void endObject() { end('}'); }
@@ -45,12 +48,13 @@ private:
     void part();
     void lineOfLevel();
     void escaped(char16_t letter);
+    int other(QStringView text);
 
     std::string bytes_;
     int level_ = 0;
     bool isIndented_;
-    bool isFirst_ = true;   // of its object or array
-    bool hasKey_ = false;   // the value's place is told
+    bool isFirst_ = true; // of its object or array
+    bool hasKey_ = false; // the value's place is told
 };
 
 } // namespace ferna::batch

@@ -107,7 +107,7 @@ std::string resultLine(const std::string& text, long number, const RunOptions& r
                        std::atomic<bool>& all) {
     const auto refused = [&](const std::string& what) {
         all = false;
-        return oneLine(resultOfRefused("line " + std::to_string(number) + ": " + what));
+        return oneLine(resultOfRefused("line " + std::to_string(number) + ": " + what)) + '\n';
     };
     if (text.size() > longestTask)
         return refused("expected at most " + std::to_string(longestTask) + " bytes");
@@ -115,7 +115,7 @@ std::string resultLine(const std::string& text, long number, const RunOptions& r
         const ComputedTask done = run(readTask(parsed(text)), runOptions);
         if (!solved(done))
             all = false;
-        return resultText(done, JsonWriter::Layout::OneLine);
+        return resultText(done, JsonWriter::Layout::OneLine) += '\n';
     } catch (const TaskError& failure) {
         return refused(failure.what());
     } catch (const RunTimeError& failure) {
@@ -131,7 +131,7 @@ int runLines(const Options& options, const RunOptions& runOptions) {
                 [&](const std::string& item, long number) {
                     return resultLine(item, number, runOptions, all);
                 },
-                [](const std::string& result) { print(result + '\n'); }, [&] { input.cancel(); }});
+                [](const std::string& result) { print(result); }, [&] { input.cancel(); }});
     return all ? Computed : NotSolved;
 }
 

@@ -1,6 +1,7 @@
 #include "batch/task_value.h"
 
 #include "batch/object_reader.h"
+#include "batch/plain_json.h"
 #include "batch/task_error.h"
 
 #include <array>
@@ -58,8 +59,8 @@ public:
     bool number_unsigned(Json::number_unsigned_t value) {
         return number(static_cast<double>(value), fits(value));
     }
-    bool number_float(double value, const std::string& /*text*/) { return number(value, false); }
-    bool string(const std::string& value) {
+    bool number_float(double value, std::string_view /*text*/) { return number(value, false); }
+    bool string(std::string_view value) {
         const std::string_view text = lettersOf(value);
         keep(TaskValue::Kind::Text).text = text;
         return true;
@@ -70,7 +71,7 @@ public:
     bool start_array(std::size_t /*count*/) { return open(TaskValue::Kind::Array); }
     bool end_array() { return close(); }
 
-    bool key(const std::string& name) {
+    bool key(std::string_view name) {
         Level& level = levels_[depth_ - 1];
         level.key = lettersOf(name);
         const TaskValue& object = document_.values[level.begin];
@@ -90,12 +91,12 @@ public:
 
 private:
     struct Level {
-        std::size_t begin;    // of the object or array among the values
-        std::string_view key; // the last one
+        std::size_t begin;               // of the object or array among the values
+        std::string_view key;            // the last one
         std::set<std::string_view> keys; // of an object with many
     };
 
-    std::string_view lettersOf(const std::string& text) {
+    std::string_view lettersOf(std::string_view text) {
         const std::size_t begin = document_.letters.size();
         document_.letters.insert(document_.letters.end(), text.begin(), text.end());
         return {document_.letters.data() + begin, text.size()};
@@ -139,8 +140,7 @@ private:
 
     bool close() {
         const std::size_t begin = levels_[--depth_].begin;
-        document_.values[begin].span =
-            static_cast<std::uint32_t>(document_.values.size() - begin);
+        document_.values[begin].span = static_cast<std::uint32_t>(document_.values.size() - begin);
         return true;
     }
 
@@ -198,8 +198,12 @@ std::string TaskValue::written() const {
 TaskDocument parsed(std::string_view text) {
     TaskDocument document;
     Keeper keeper(document, text.size());
-    Json::sax_parse(text, &keeper);
-    return document;
+    if (PlainJson(text, keeper).read())
+        return document;
+    TaskDocument again;
+    Keeper other(again, text.size());
+    Json::sax_parse(text, &other);
+    return again;
 }
 
 } // namespace ferna::batch

@@ -2,6 +2,7 @@
 
 #include "design/material_tables.h"
 #include "runtime/format.h"
+#include "runtime/line_of_text.h"
 #include "runtime/text_file.h"
 
 namespace ferna {
@@ -23,18 +24,18 @@ QString steelLine(const Stan& stan) {
 }
 
 void fillDataLines(Raport& raport, const Stan& stan) {
-    const auto millimetres = [](Single cm) {
-        return Format(cm * 10.0, u"## ###") + QStringLiteral(" mm");
+    const auto millimetres = [](const QString& label, QStringView axis, Single cm) {
+        return LineOfText().add(label).add(axis).number(cm * 10.0, u"## ###").add(u" mm");
     };
-    raport.Wiersze_danych(1) =
-        stan.Teksty(10) + QStringLiteral("x = ") + millimetres(stan.plyta.Dlugosc_plyty);
-    raport.Wiersze_danych(2) =
-        stan.Teksty(11) + QStringLiteral("y = ") + millimetres(stan.plyta.Szerokosc_plyty);
-    raport.Wiersze_danych(3) = stan.Teksty(12) + stan.materialy.Nazwa_betonu
-                               + stan.Teksty(33 + stan.opcje.Stopa_betonowa)
-                               + QStringLiteral("       Eb = ")
-                               + Format(stan.materialy.Eb_betonu, u"####### MPa      E/Eb = ")
-                               + general(stan.opcje.Wsp_n_val);
+    raport.Wiersze_danych(1) = millimetres(stan.Teksty(10), u"x = ", stan.plyta.Dlugosc_plyty);
+    raport.Wiersze_danych(2) = millimetres(stan.Teksty(11), u"y = ", stan.plyta.Szerokosc_plyty);
+    raport.Wiersze_danych(3) = LineOfText()
+                                   .add(stan.Teksty(12))
+                                   .add(stan.materialy.Nazwa_betonu)
+                                   .add(stan.Teksty(33 + stan.opcje.Stopa_betonowa))
+                                   .add(u"       Eb = ")
+                                   .number(stan.materialy.Eb_betonu, u"####### MPa      E/Eb = ")
+                                   .general(stan.opcje.Wsp_n_val);
     raport.Wiersze_danych(4) = steelLine(stan);
 }
 
@@ -46,12 +47,14 @@ void fillLoadTable(Stan& stan) {
         QStringLiteral("                    N                      M1                       M2 "
                        "                   Vx                 Vy");
     for (int c = 1; c <= loads.Liczba_przyp; ++c)
-        lines(c + 1) = stan.Teksty(15) + Format(c, u"##     ")
-                       + Format(loads.Sila_N(c), u"### ##0.00 kN     ")
-                       + Format(CSng(loads.Moment_M1(c)), u"### ##0.00 kNm     ")
-                       + Format(CSng(loads.Moment_M2(c)), u"### ##0.00 kNm    ")
-                       + Format(loads.Sila_Vx(c), u"### ##0.00 kN      ")
-                       + Format(loads.Sila_Vy(c), u"### ##0.00 kN");
+        lines(c + 1) = LineOfText()
+                           .add(stan.Teksty(15))
+                           .number(c, u"##     ")
+                           .number(loads.Sila_N(c), u"### ##0.00 kN     ")
+                           .number(CSng(loads.Moment_M1(c)), u"### ##0.00 kNm     ")
+                           .number(CSng(loads.Moment_M2(c)), u"### ##0.00 kNm    ")
+                           .number(loads.Sila_Vx(c), u"### ##0.00 kN      ")
+                           .number(loads.Sila_Vy(c), u"### ##0.00 kN");
     lines(loads.Liczba_przyp + 2) = QString();
 }
 
@@ -90,11 +93,18 @@ void Wypelnij_wiersze(Raport& raport, Stan& stan) {
 }
 
 QString Wiersz_strefy(const Stan& stan, int c) {
-    const auto millimetres = [](Single cm) { return general(Int(CSng(cm * 10.0))); };
+    const auto millimetres = [](Single cm) { return Int(CSng(cm * 10.0)); };
     const Wyniki& r = stan.wyniki;
-    return stan.Teksty(45) + millimetres(r.Przec_a(c)) + u',' + millimetres(r.Przec_b(c))
-           + QStringLiteral("), B(") + millimetres(r.Przec_c(c)) + u',' + millimetres(r.Przec_d(c))
-           + u')';
+    return LineOfText()
+        .add(stan.Teksty(45))
+        .general(millimetres(r.Przec_a(c)))
+        .add(u",")
+        .general(millimetres(r.Przec_b(c)))
+        .add(u"), B(")
+        .general(millimetres(r.Przec_c(c)))
+        .add(u",")
+        .general(millimetres(r.Przec_d(c)))
+        .add(u")");
 }
 
 std::array<QString, 3> Wiersze_podsumowania(const Stan& stan) {

@@ -85,7 +85,9 @@ TEST_F(PlateSectionOfATask, AnUnreadableFieldOfTheLaterChecksStopsTheRun) {
         readPlateTask(
             parsed(R"({"Nr_stali_blachy": 2, "Grubosc": 30, "Sprawdzenia": {"7": {"S": 50}}})")),
         stan, dialogs);
-    EXPECT_EQ(result.Blad.dump(), R"({"numer":13,"tekst":"Type mismatch","klucz":"Blacha.Sprawdzenia.7","szczegol":"\" \""})");
+    EXPECT_EQ(
+        result.Blad.dump(),
+        R"({"numer":13,"tekst":"Type mismatch","klucz":"Blacha.Sprawdzenia.7","szczegol":"\" \""})");
     EXPECT_EQ(result.value.at("Grubosc"), "0");
     EXPECT_TRUE(result.value.at("Wiersze_blachy").empty());
     EXPECT_FALSE(result.section);
