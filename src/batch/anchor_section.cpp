@@ -23,10 +23,11 @@ SectionResult runAnchorTask(const AnchorTask& task, Stan& stan, ScriptedDialogs&
     Json lines = Json::array();
     for (int i = 1; i <= stan.raport.Liczba_wierszy_kotwy; ++i)
         lines.push_back(stan.raport.Wiersze_kotwy(i).toStdString());
-    return {{{"Wiersze_kotwy", lines},
-             {"Typ_szkicu_kotwy", stan.raport.Typ_szkicu_kotwy},
-             {"Nosnosc", Double{form.Nosnosc}}},
-            {}};
+    SectionResult result;
+    result.value["Wiersze_kotwy"] = std::move(lines);
+    result.value["Typ_szkicu_kotwy"] = stan.raport.Typ_szkicu_kotwy;
+    result.value["Nosnosc"] = Double{form.Nosnosc};
+    return result;
 }
 
 } // namespace ferna::batch

@@ -95,7 +95,7 @@ Json resultJson(const StaticsForm& form) {
     const char* const names[] = {"N", "M1", "M2", "Vx", "Vy"};
     for (std::size_t i = 0; i < std::size(names); ++i)
         result[names[i]] = form.Text1[i].toStdString();
-    result["lista"] = list;
+    result["lista"] = std::move(list);
     return result;
 }
 

@@ -77,6 +77,11 @@ void JsonWriter::number(Double value) {
         null();
         return;
     }
+    constexpr Double largestPlain = 1e15; // from there on with an exponent
+    if (value == std::floor(value) && std::fabs(value) < largestPlain && value != 0) {
+        wholeNumber(value);
+        return;
+    }
     // The library's own, whose digits are not always those of `std::to_chars`.
     std::array<char, numberLength> digits;
     const char* const end =
@@ -84,9 +89,24 @@ void JsonWriter::number(Double value) {
     word({digits.data(), end});
 }
 
+void JsonWriter::wholeNumber(Double value) {
+    std::array<char, numberLength> digits;
+    char* const end = std::to_chars(digits.data(), digits.data() + digits.size(),
+                                    static_cast<std::int64_t>(value))
+                          .ptr;
+    end[0] = '.';
+    end[1] = '0';
+    word({digits.data(), end + 2});
+}
+
 void JsonWriter::single(Single value) {
     if (std::bit_cast<std::uint32_t>(value) == 0) { // most anchors are not in tension
         word("0.0");
+        return;
+    }
+    constexpr Single allWhole = 16'777'216; // up to here a whole number is its shortest decimal
+    if (value == std::floor(value) && std::fabs(value) < allWhole) {
+        number(value);
         return;
     }
     std::array<char, numberLength> digits;
@@ -154,6 +174,18 @@ int JsonWriter::other(QStringView text) {
     return isPair ? 1 : 0;
 }
 
+/// A text in UTF-8, which is sound: it comes from the program's own.
+void JsonWriter::utf8(std::string_view text) {
+    part();
+    bytes_ += '"';
+    for (const char byte : text)
+        if (const auto letter = static_cast<unsigned char>(byte); letter < 0x80)
+            escaped(letter);
+        else
+            bytes_ += byte;
+    bytes_ += '"';
+}
+
 void JsonWriter::value(const Json& value) {
     if (value.is_object()) {
         beginObject();
@@ -168,7 +200,9 @@ void JsonWriter::value(const Json& value) {
             this->value(part);
         endArray();
     } else if (value.is_string()) {
-        text(QString::fromStdString(value.get_ref<const std::string&>()));
+        utf8(value.get_ref<const std::string&>());
+    } else if (value.is_number_float()) {
+        number(value.get<Double>());
     } else {
         word(value.dump(-1, ' ', false, Json::error_handler_t::replace));
     }

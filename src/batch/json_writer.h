@@ -35,7 +35,7 @@ public:
     /// The shortest decimal that reads back to the same Single.
     void single(Single value);
     void text(const QString& value);
-    /// A value that is there already.
+    /// A value that is there already; its texts are UTF-8.
     void value(const Json& value);
 
     /// Everything so far; the writer is empty then.
@@ -47,6 +47,8 @@ private:
     void word(std::string_view letters);
     void part();
     void lineOfLevel();
+    void utf8(std::string_view text);
+    void wholeNumber(Double value);
     void escaped(char16_t letter);
     int other(QStringView text);
 

@@ -22,71 +22,80 @@ std::string range(Integer least, Integer most) {
 ObjectReader::ObjectReader(const TaskValue& value, std::string path)
     : value_(objectOf(value, path)), path_(std::move(path)) {}
 
-std::string ObjectReader::pathOf(const std::string& key) const {
-    return path_.empty() ? key : path_ + '.' + key;
+std::string Place::path() const {
+    std::string path(whole);
+    if (!path.empty())
+        path += '.';
+    return path += key;
 }
 
-void ObjectReader::know(const char* key) {
+std::string ObjectReader::pathOf(std::string_view key) const {
+    return Place{path_, key}.path();
+}
+
+/// The value of a key, which is known from now on; null where the object lacks it.
+const TaskValue* ObjectReader::ask(std::string_view key) {
     known_.at(knownKeys_++) = key;
+    return value_.find(key);
 }
 
-const TaskValue& ObjectReader::at(const char* key) {
-    know(key);
-    return *value_.find(key);
+const TaskValue& ObjectReader::at(std::string_view key) {
+    return *ask(key);
 }
 
-const TaskValue& ObjectReader::required(const char* key) {
-    if (!has(key))
+const TaskValue& ObjectReader::required(std::string_view key) {
+    const TaskValue* const value = ask(key);
+    if (value == nullptr)
         throw TaskError(pathOf(key), "this key is required and is missing");
-    return at(key);
+    return *value;
 }
 
-Integer ObjectReader::integer(const char* key, Integer preset, Integer least, Integer most) {
-    know(key);
-    return has(key) ? integerOf(at(key), pathOf(key), least, most) : preset;
+Integer ObjectReader::integer(std::string_view key, Integer preset, Integer least, Integer most) {
+    const TaskValue* const value = ask(key);
+    return value == nullptr ? preset : integerOf(*value, {path_, key}, least, most);
 }
 
-Integer ObjectReader::requiredInteger(const char* key) {
-    return integerOf(required(key), pathOf(key));
+Integer ObjectReader::requiredInteger(std::string_view key) {
+    return integerOf(required(key), {path_, key});
 }
 
-double ObjectReader::number(const char* key, double preset) {
-    know(key);
-    return has(key) ? numberOf(at(key), pathOf(key)) : preset;
+double ObjectReader::number(std::string_view key, double preset) {
+    const TaskValue* const value = ask(key);
+    return value == nullptr ? preset : numberOf(*value, {path_, key});
 }
 
-double ObjectReader::requiredNumber(const char* key) {
-    return numberOf(required(key), pathOf(key));
+double ObjectReader::requiredNumber(std::string_view key) {
+    return numberOf(required(key), {path_, key});
 }
 
-QString ObjectReader::text(const char* key, const QString& preset) {
-    know(key);
-    return has(key) ? textOf(at(key), pathOf(key)) : preset;
+QString ObjectReader::text(std::string_view key, const QString& preset) {
+    const TaskValue* const value = ask(key);
+    return value == nullptr ? preset : textOf(*value, {path_, key});
 }
 
 void ObjectReader::finish() const {
     const auto end = known_.begin() + knownKeys_;
     for (const TaskValue& part : value_.parts())
         if (std::find(known_.begin(), end, part.key) == end)
-            throw TaskError(pathOf(std::string(part.key)), "unknown key");
+            throw TaskError(pathOf(part.key), "unknown key");
 }
 
-Integer integerOf(const TaskValue& value, const std::string& path, Integer least, Integer most) {
+Integer integerOf(const TaskValue& value, const Place& place, Integer least, Integer most) {
     const bool whole = value.isNumber() && value.number == Int(value.number);
     if (!whole || value.number < least || value.number > most)
-        throw TaskError(path, range(least, most) + found(value));
+        throw TaskError(place.path(), range(least, most) + found(value));
     return CInt(value.number);
 }
 
-double numberOf(const TaskValue& value, const std::string& path) {
+double numberOf(const TaskValue& value, const Place& place) {
     if (!value.isNumber())
-        throw TaskError(path, "expected a number" + found(value));
+        throw TaskError(place.path(), "expected a number" + found(value));
     return value.number;
 }
 
-QString textOf(const TaskValue& value, const std::string& path) {
+QString textOf(const TaskValue& value, const Place& place) {
     if (!value.isText())
-        throw TaskError(path, "expected a text" + found(value));
+        throw TaskError(place.path(), "expected a text" + found(value));
     return QString::fromUtf8(value.text.data(), static_cast<qsizetype>(value.text.size()));
 }
 

@@ -65,24 +65,15 @@ TaskObject checkObject(const TaskValue& value, const std::string& path, int chec
 
 PlateTask::Check readCheck(const TaskValue& value, const std::string& path, int check) {
     const TaskObject object = checkObject(value, path, check);
-    struct Typed {
-        QString& (*field)(PlateFields&);
-        QString text;
-    };
-    std::vector<Typed> typed;
-    for (const FieldKey& key : fieldKeys[static_cast<std::size_t>(check - 1)])
-        if (const auto text =
-                key.whole ? object.wholeFieldText(key.key) : object.fieldText(key.key))
-            typed.push_back({key.field, *text});
-    std::optional<int> profile;
+    PlateTask::Check out{check, {}, {}};
+    const FieldKeys& keys = fieldKeys[static_cast<std::size_t>(check - 1)];
+    out.typed.reserve(keys.size());
+    for (const FieldKey& key : keys)
+        if (auto text = key.whole ? object.wholeFieldText(key.key) : object.fieldText(key.key))
+            out.typed.push_back({key.field, std::move(*text)});
     if (check == 4)
-        profile = object.listNumber("Nr_profilu", 1, static_cast<int>(profileNames().size()));
-    return {check, [typed, profile](PlateFields& fields) {
-                for (const Typed& one : typed)
-                    one.field(fields) = one.text;
-                if (profile)
-                    fields.cmbProfil = *profile - 1;
-            }};
+        out.profile = object.listNumber("Nr_profilu", 1, static_cast<int>(profileNames().size()));
+    return out;
 }
 
 /// The dialog of the user's plate steel, filled from the task; a refusal is followed by a cancel.
@@ -113,13 +104,22 @@ Json resultJson(const Stan& stan, const PlateForm& form) {
     Json results = Json::array();
     for (int n = 1; n <= PlateChecks; ++n)
         results.push_back(stan.raport.Spr_blachy(n));
-    return {{"Spr_blachy", results},
-            {"Fd_blachy", Double{stan.materialy.Fd_blachy}},
-            {"Grubosc", form.fields.Text4.toStdString()},
-            {"Wiersze_blachy", linesJson(stan.raport)}};
+    Json section;
+    section["Spr_blachy"] = std::move(results);
+    section["Fd_blachy"] = Double{stan.materialy.Fd_blachy};
+    section["Grubosc"] = form.fields.Text4.toStdString();
+    section["Wiersze_blachy"] = linesJson(stan.raport);
+    return section;
 }
 
 } // namespace
+
+void PlateTask::Check::type(PlateFields& fields) const {
+    for (const Typed& one : typed)
+        one.field(fields) = one.text;
+    if (profile)
+        fields.cmbProfil = *profile - 1;
+}
 
 PlateTask readPlateTask(const TaskValue& value, const std::string& path) {
     const TaskObject object(

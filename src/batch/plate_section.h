@@ -5,16 +5,24 @@
 #include "plate/plate_form.h"
 #include "plate/plate_report_lines.h"
 
-#include <functional>
+#include <optional>
 #include <vector>
 
 namespace ferna::batch {
 
 /// The key "Blacha" of a task: what the engineer types and presses in the plate form, in order.
 struct PlateTask {
+    /// What is typed for a check before its command.
     struct Check {
+        struct Typed {
+            QString& (*field)(PlateFields&);
+            QString text;
+        };
+        void type(PlateFields& fields) const;
+
         int check; ///< 1..8
-        std::function<void(PlateFields&)> type;
+        std::vector<Typed> typed;
+        std::optional<int> profile; ///< of check 4, from 1
     };
     std::string path; ///< key of the section
     int cmbStalb = -1;

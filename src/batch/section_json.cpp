@@ -26,25 +26,25 @@ TaskObject::TaskObject(const TaskValue& value, std::string path,
     for (const TaskValue& part : value.parts()) {
         const auto isKey = [&](const char* key) { return part.key == key; };
         if (std::none_of(keys.begin(), keys.end(), isKey))
-            throw TaskError(pathOf(std::string(part.key)), "unknown key");
+            throw TaskError(pathOf(part.key), "unknown key");
     }
 }
 
-void TaskObject::require(const char* key) const {
+void TaskObject::require(std::string_view key) const {
     if (!has(key))
         throw TaskError(pathOf(key), "this key is required and is missing");
 }
 
-std::optional<double> TaskObject::number(const char* key) const {
-    return has(key) ? std::optional(numberOf(at(key), pathOf(key))) : std::nullopt;
+std::optional<double> TaskObject::number(std::string_view key) const {
+    return has(key) ? std::optional(numberOf(at(key), {path_, key})) : std::nullopt;
 }
 
-std::optional<QString> TaskObject::fieldText(const char* key) const {
+std::optional<QString> TaskObject::fieldText(std::string_view key) const {
     const std::optional<double> value = number(key);
     return value ? std::optional(general(*value)) : std::nullopt;
 }
 
-std::optional<QString> TaskObject::wholeFieldText(const char* key) const {
+std::optional<QString> TaskObject::wholeFieldText(std::string_view key) const {
     const std::optional<double> value = number(key);
     if (!value)
         return std::nullopt;
@@ -54,17 +54,18 @@ std::optional<QString> TaskObject::wholeFieldText(const char* key) const {
     return general(*value);
 }
 
-std::optional<int> TaskObject::listNumber(const char* key, int first, int last) const {
+std::optional<int> TaskObject::listNumber(std::string_view key, int first, int last) const {
     if (!has(key))
         return std::nullopt;
-    return integerOf(at(key), pathOf(key), CInt(first), CInt(last));
+    return integerOf(at(key), {path_, key}, CInt(first), CInt(last));
 }
 
-QString TaskObject::text(const char* key) const {
-    return has(key) ? textOf(at(key), pathOf(key)) : QString();
+QString TaskObject::text(std::string_view key) const {
+    return has(key) ? textOf(at(key), {path_, key}) : QString();
 }
 
-std::string TaskObject::oneOf(const char* key, std::initializer_list<const char*> choices) const {
+std::string TaskObject::oneOf(std::string_view key,
+                              std::initializer_list<const char*> choices) const {
     require(key);
     std::string expected;
     for (const char* choice : choices) {

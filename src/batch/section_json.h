@@ -26,25 +26,25 @@ public:
     /// An object that holds no other keys than these.
     TaskObject(const TaskValue& value, std::string path, std::initializer_list<const char*> keys);
 
-    bool has(const char* key) const { return value_.find(key) != nullptr; }
-    const TaskValue& at(const char* key) const { return *value_.find(key); }
-    std::string pathOf(const std::string& key) const { return path_ + '.' + key; }
+    bool has(std::string_view key) const { return value_.find(key) != nullptr; }
+    const TaskValue& at(std::string_view key) const { return *value_.find(key); }
+    std::string pathOf(std::string_view key) const { return Place{path_, key}.path(); }
     /// Refuses the object without the key.
-    void require(const char* key) const;
+    void require(std::string_view key) const;
 
     /// A number as the text of a field, with the locale's decimal sign; empty without the key.
-    std::optional<QString> fieldText(const char* key) const;
+    std::optional<QString> fieldText(std::string_view key) const;
     /// The same for a field that is read as a whole number: it must fit 16 bits.
-    std::optional<QString> wholeFieldText(const char* key) const;
+    std::optional<QString> wholeFieldText(std::string_view key) const;
     /// A number of a list, `first`..`last`; empty without the key.
-    std::optional<int> listNumber(const char* key, int first, int last) const;
+    std::optional<int> listNumber(std::string_view key, int first, int last) const;
     /// A text; empty without the key.
-    QString text(const char* key) const;
+    QString text(std::string_view key) const;
     /// One of these texts; the key is required.
-    std::string oneOf(const char* key, std::initializer_list<const char*> choices) const;
+    std::string oneOf(std::string_view key, std::initializer_list<const char*> choices) const;
 
 private:
-    std::optional<double> number(const char* key) const;
+    std::optional<double> number(std::string_view key) const;
 
     const TaskValue& value_;
     std::string path_;

@@ -44,7 +44,7 @@ void readSteel(ObjectReader& task, Task& out) {
     if (!task.has("Stal"))
         return;
     ObjectReader steel(task.at("Stal"), "Stal");
-    const auto single = [&steel](const char* key) {
+    const auto single = [&steel](std::string_view key) {
         const double value = steel.number(key, 0);
         if (!std::isfinite(static_cast<Single>(value)))
             throw TaskError(steel.pathOf(key), "expected a number that fits 32 bits");
@@ -69,7 +69,7 @@ void readAnchors(ObjectReader& task, Task& out) {
     std::size_t i = 0;
     for (const TaskValue& part : anchors.parts()) {
         ObjectReader anchor(part, element("Kotwy", i));
-        const auto coordinate = [&](const char* key) -> Integer {
+        const auto coordinate = [&](std::string_view key) -> Integer {
             const double mm = anchor.requiredNumber(key);
             if (!(std::fabs(mm) <= 32767))
                 throw TaskError(anchor.pathOf(key),

@@ -5,7 +5,7 @@ namespace ferna::batch {
 
 namespace {
 
-void texts(JsonWriter& json, const char* key, int first, int last, const auto& textAt) {
+void texts(JsonWriter& json, std::string_view key, int first, int last, const auto& textAt) {
     json.key(key);
     json.beginArray();
     for (int i = first; i <= last; ++i)
@@ -13,22 +13,22 @@ void texts(JsonWriter& json, const char* key, int first, int last, const auto& t
     json.endArray();
 }
 
-void single(JsonWriter& json, const char* key, Single value) {
+void single(JsonWriter& json, std::string_view key, Single value) {
     json.key(key);
     json.single(value);
 }
 
-void whole(JsonWriter& json, const char* key, int value) {
+void whole(JsonWriter& json, std::string_view key, int value) {
     json.key(key);
     json.whole(value);
 }
 
-void boolean(JsonWriter& json, const char* key, bool value) {
+void boolean(JsonWriter& json, std::string_view key, bool value) {
     json.key(key);
     json.boolean(value);
 }
 
-void text(JsonWriter& json, const char* key, const QString& value) {
+void text(JsonWriter& json, std::string_view key, const QString& value) {
     json.key(key);
     json.text(value);
 }
@@ -52,7 +52,7 @@ void writeMaterials(JsonWriter& json, const Stan& stan) {
 
 /// The line that the search has found; a whole plate has none.
 void writeLine(JsonWriter& json, const CaseTrace& trace) {
-    const auto value = [&](const char* key, Double number) {
+    const auto value = [&](std::string_view key, Double number) {
         json.key(key);
         if (trace.wholePlate)
             json.null();
@@ -150,9 +150,11 @@ std::string resultText(const ComputedTask& done, JsonWriter::Layout layout) {
     boolean(json, "Przerwij_obliczenia", done.solver.Przerwij_obliczenia);
     if (done.computed)
         writeResults(json, done);
-    for (const auto& [key, section] : done.sections.items()) {
-        json.key(key);
-        json.value(section);
+    if (done.sections.is_object()) {
+        for (const auto& [key, section] : done.sections.get_ref<const Json::object_t&>()) {
+            json.key(key);
+            json.value(section);
+        }
     }
     json.key("Rownowaga");
     writeEquilibria(json, done.equilibria);

@@ -99,14 +99,9 @@ void prepareReport(ComputedTask& done, const RunOptions& options) {
 } // namespace
 
 ComputedTask run(Task task, const RunOptions& options) {
-    ComputedTask done;
-    done.task = std::move(task);
-    done.now = options.now;
+    ComputedTask done(std::move(task), options.now);
     Stan& stan = done.task.stan;
-    stan.Teksty = options.catalogues->texts(options.catalogue.isEmpty()
-                                                ? options.dataFolder + u'/'
-                                                      + catalogueFile(stan.opcje.Nr_jezyka)
-                                                : options.catalogue);
+    stan.Teksty = options.catalogues->texts(stan.opcje.Nr_jezyka);
     const bool columnKept =
         !done.task.column
         || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));

@@ -20,7 +20,8 @@ struct RunOptions {
     QString dataFolder;    ///< where the delivered catalogues are
     QDateTime now;         ///< date and time of the title block
     QString pictures = {}; ///< folder for the pictures of the report; empty: none are made
-    std::shared_ptr<Catalogues> catalogues = std::make_shared<Catalogues>(); ///< of all tasks
+    std::shared_ptr<CatalogueStock> catalogues =
+        std::make_shared<CatalogueStock>(dataFolder, catalogue); ///< as read for all tasks
 };
 
 /// What the solver leaves behind a case and the next case overwrites.
@@ -35,17 +36,19 @@ struct CaseTrace {
 
 /// A task with everything that its computation left behind.
 struct ComputedTask {
+    ComputedTask(Task&& asked, QDateTime moment) : task(std::move(asked)), now(std::move(moment)) {}
+
     Task task;
+    QDateTime now; ///< date and time of the title block
     Stan_przypadku solver;
     Raport raport;
     ScriptedDialogs dialogs;
     EnteredEquilibria equilibria; ///< of the task as typed
-    QDateTime now;                ///< date and time of the title block
     Json failure;          ///< the run-time error that stopped the run, null where there was none
     bool computed = false; ///< false where a validation ended the command
     bool reportReady = false;                   ///< the lines of the report stand
     std::array<CaseTrace, MaxCases + 1> traces; ///< by case
-    Json sections = Json::object();             ///< results of "Slup", "Blacha", "Kotwa"
+    Json sections;                              ///< results of "Slup", "Blacha", "Kotwa"
 };
 
 /// Computes a task as "Oblicz" would and prepares the lines of its report.

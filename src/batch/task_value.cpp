@@ -5,6 +5,7 @@
 #include "batch/task_error.h"
 
 #include <array>
+#include <map>
 #include <set>
 
 namespace ferna::batch {
@@ -91,11 +92,9 @@ public:
 
 private:
     struct Level {
-        std::size_t begin;               // of the object or array among the values
-        std::string_view key;            // the last one
-        std::set<std::string_view> keys; // of an object with many
+        std::size_t begin = 0;     // of the object or array among the values
+        std::string_view key = {}; // the last one
     };
-
     std::string_view lettersOf(std::string_view text) {
         const std::size_t begin = document_.letters.size();
         document_.letters.insert(document_.letters.end(), text.begin(), text.end());
@@ -134,7 +133,7 @@ private:
                                               + " objects and arrays within one another");
         const std::size_t begin = document_.values.size();
         keep(kind);
-        levels_[depth_++] = {begin, {}, {}};
+        levels_[depth_++] = {begin, {}};
         return true;
     }
 
@@ -145,7 +144,7 @@ private:
     }
 
     /// True where the present key of the object that is being read stands before.
-    bool isKnown(Level& level, const TaskValue& object) {
+    bool isKnown(const Level& level, const TaskValue& object) {
         constexpr std::uint32_t few = 32;
         if (object.count < few) {
             const TaskValue* part = &object + 1;
@@ -154,12 +153,13 @@ private:
                     return true;
             return false;
         }
-        if (level.keys.empty()) {
+        std::set<std::string_view>& keys = manyKeys_[level.begin];
+        if (keys.empty()) {
             const TaskValue* part = &object + 1;
             for (std::uint32_t i = 0; i < object.count; ++i, part += part->span)
-                level.keys.insert(part->key);
+                keys.insert(part->key);
         }
-        return !level.keys.insert(level.key).second;
+        return !keys.insert(level.key).second;
     }
 
     /// Key path of what is being read in the innermost of so many levels.
@@ -179,6 +179,7 @@ private:
     TaskDocument& document_;
     std::array<Level, deepest> levels_;
     std::size_t depth_ = 0;
+    std::map<std::size_t, std::set<std::string_view>> manyKeys_; // of objects with many
 };
 
 } // namespace

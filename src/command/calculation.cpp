@@ -126,14 +126,14 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     };
 
     load(loads.Sila_N(c), 1, "N", fields.Text6);
-    const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
+    const auto title = [c] { return QStringLiteral("Schemat nr ") + Format(c, u"###"); };
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
-                      title};
+                      title()};
     if (loads.Sila_N(c) == 0)
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
-                      title};
+                      title()};
     loads.Sila_N_kG(c) = keyed(
         "N", [&] { return forceInKilograms(loads.Sila_N(c)); }, c - 1);
 

@@ -34,11 +34,17 @@ void Czytaj_teksty(Stan& stan, const QString& path) {
     stan.Teksty = catalogueTexts(path);
 }
 
-const CatalogueTexts& Catalogues::texts(const QString& path) {
+CatalogueStock::CatalogueStock(QString folder, QString replacement)
+    : folder_(std::move(folder)), replacement_(std::move(replacement)) {}
+
+const CatalogueTexts& CatalogueStock::texts(Integer Nr_jezyka) {
     const std::lock_guard lock(mutex_);
-    const auto known = read_.find(path);
-    return known != read_.end() ? known->second
-                                : read_.emplace(path, catalogueTexts(path)).first->second;
+    const auto known = read_.find(Nr_jezyka);
+    if (known != read_.end())
+        return known->second;
+    const QString path =
+        replacement_.isEmpty() ? folder_ + u'/' + catalogueFile(Nr_jezyka) : replacement_;
+    return read_.emplace(Nr_jezyka, catalogueTexts(path)).first->second;
 }
 
 } // namespace ferna

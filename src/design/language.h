@@ -25,14 +25,19 @@ CatalogueTexts catalogueTexts(const QString& path);
 void Czytaj_teksty(Stan& stan, const QString& path);
 
 /// Catalogues for many tasks: each file is read once. May be used by several threads.
-class Catalogues {
+class CatalogueStock {
 public:
-    /// Errors of `catalogueTexts`; a file that failed is tried again.
-    const CatalogueTexts& texts(const QString& path);
+    /// Those of a folder; `replacement`, where it is not empty, is taken for every language.
+    CatalogueStock(QString folder, QString replacement);
+
+    /// Errors of `catalogueFile` and `catalogueTexts`; a file that failed is tried again.
+    const CatalogueTexts& texts(Integer Nr_jezyka);
 
 private:
+    QString folder_;
+    QString replacement_;
     std::mutex mutex_;
-    std::map<QString, CatalogueTexts> read_;
+    std::map<Integer, CatalogueTexts> read_;
 };
 
 } // namespace ferna

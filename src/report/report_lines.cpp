@@ -13,14 +13,22 @@ constexpr qsizetype longestLabel = 32;
 
 QString steelLine(const Stan& stan) {
     const Materialy& m = stan.materialy;
-    const QString mpa = QStringLiteral(" MPa");
+    LineOfText line;
+    line.add(stan.Teksty(13));
     if (stan.opcje.Nr_stali == userSteel)
-        return stan.Teksty(13) + m.Stal_nazwa + QStringLiteral("  fd = ")
-               + Format(m.Fd_kotwy, u"####") + mpa + QStringLiteral("  Re = ")
-               + Format(m.Stal_Re, u"####") + mpa + QStringLiteral("  Rm = ")
-               + Format(m.Stal_Rm, u"####") + mpa;
-    return stan.Teksty(13) + steelNames().at(stan.opcje.Nr_stali - 1) + m.Klasa_stali
-           + QStringLiteral("  fd = ") + Format(m.Fd_kotwy, u"####") + mpa;
+        return line.add(m.Stal_nazwa)
+            .add(u"  fd = ")
+            .number(m.Fd_kotwy, u"####")
+            .add(u" MPa  Re = ")
+            .number(m.Stal_Re, u"####")
+            .add(u" MPa  Rm = ")
+            .number(m.Stal_Rm, u"####")
+            .add(u" MPa");
+    return line.add(steelNames().at(stan.opcje.Nr_stali - 1))
+        .add(m.Klasa_stali)
+        .add(u"  fd = ")
+        .number(m.Fd_kotwy, u"####")
+        .add(u" MPa");
 }
 
 void fillDataLines(Raport& raport, const Stan& stan) {
@@ -67,6 +75,27 @@ void Nazwa_zadania(Raport& raport, Dialogs& dialogs) {
             .left(longestLabel);
 }
 
+namespace {
+
+/// "09/03/24     14:05".
+QString momentText(const QDateTime& now) {
+    constexpr int century = 100;
+    const QDate date = now.date();
+    const QTime time = now.time();
+    return LineOfText()
+        .number(date.day(), u"00")
+        .add(u"/")
+        .number(date.month(), u"00")
+        .add(u"/")
+        .number(date.year() % century, u"00")
+        .add(u"     ")
+        .number(time.hour(), u"00")
+        .add(u":")
+        .number(time.minute(), u"00");
+}
+
+} // namespace
+
 void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now,
               Dialogs& dialogs) {
     Nazwa_zadania(raport, dialogs);
@@ -76,7 +105,7 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
     title(2) = QString();
     title(3) = QString();
     title(4) = stan.opcje.Nazwa_projektu;
-    title(5) = now.toString(u"dd/MM/yy") + QStringLiteral("     ") + now.toString(u"hh:mm");
+    title(5) = momentText(now);
     title(6) = QStringLiteral("Strona ");
     title(7) = raport.Nazwa_stopy;
     title(8) = QString();
