@@ -1,5 +1,6 @@
 #include "batch/json_writer.h"
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
@@ -17,12 +18,32 @@ bool isPlain(char16_t letter) {
     return letter >= 0x20 && letter < 0x80 && letter != u'"' && letter != u'\\';
 }
 
+/// The double nearest to the shortest decimal that reads back to the same Single, which is no whole
+/// number.
+Double shortestOf(Single value) {
+    // With up to six decimals both products and the quotient are exact or rounded once.
+    constexpr Double most = 1e6;
+    if (std::fabs(value) < most) {
+        for (Double scale = 10; scale <= most; scale *= 10) {
+            const Double decimal = std::nearbyint(value * scale) / scale;
+            if (static_cast<Single>(decimal) == value)
+                return decimal;
+        }
+    }
+    std::array<char, numberLength> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    Double shortest = 0;
+    std::from_chars(digits.data(), end, shortest);
+    return shortest;
+}
+
 } // namespace
 
 void JsonWriter::lineOfLevel() {
     if (isIndented_) {
         bytes_ += '\n';
-        bytes_.append(static_cast<std::size_t>(level_), ' ');
+        for (int i = 0; i < level_; ++i)
+            bytes_ += ' ';
     }
 }
 
@@ -56,9 +77,14 @@ void JsonWriter::word(std::string_view letters) {
 
 void JsonWriter::key(std::string_view name) {
     part();
-    bytes_ += '"';
-    bytes_ += name;
-    bytes_ += isIndented_ ? "\": " : "\":";
+    char* at = bytes_.room(name.size() + 4);
+    *at++ = '"';
+    at = std::copy(name.begin(), name.end(), at);
+    *at++ = '"';
+    *at++ = ':';
+    if (isIndented_)
+        *at++ = ' ';
+    bytes_.take(at);
     hasKey_ = true;
 }
 
@@ -109,11 +135,7 @@ void JsonWriter::single(Single value) {
         number(value);
         return;
     }
-    std::array<char, numberLength> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-    Double shortest = 0;
-    std::from_chars(digits.data(), end, shortest);
-    number(shortest);
+    number(shortestOf(value));
 }
 
 /// A letter below U+0080.
@@ -141,7 +163,7 @@ void JsonWriter::text(const QString& value) {
     std::array<char, 128> piece;
     std::size_t filled = 0;
     const auto flush = [&] {
-        bytes_.append(piece.data(), filled);
+        bytes_ += {piece.data(), filled};
         filled = 0;
     };
     for (qsizetype i = 0; i < value.size(); ++i) {
@@ -170,7 +192,7 @@ int JsonWriter::other(QStringView text) {
     }
     const bool isPair = text[0].isHighSurrogate() && text.size() > 1 && text[1].isLowSurrogate();
     const QByteArray bytes = text.left(isPair ? 2 : 1).toUtf8();
-    bytes_.append(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    bytes_ += {bytes.constData(), static_cast<std::size_t>(bytes.size())};
     return isPair ? 1 : 0;
 }
 
@@ -178,11 +200,13 @@ int JsonWriter::other(QStringView text) {
 void JsonWriter::utf8(std::string_view text) {
     part();
     bytes_ += '"';
-    for (const char byte : text)
-        if (const auto letter = static_cast<unsigned char>(byte); letter < 0x80)
-            escaped(letter);
-        else
+    for (const char byte : text) {
+        const auto letter = static_cast<unsigned char>(byte);
+        if (letter >= 0x80 || isPlain(letter))
             bytes_ += byte;
+        else
+            escaped(letter);
+    }
     bytes_ += '"';
 }
 

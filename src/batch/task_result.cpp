@@ -159,7 +159,7 @@ std::string resultText(const ComputedTask& done, JsonWriter::Layout layout) {
     json.key("Rownowaga");
     writeEquilibria(json, done.equilibria);
     json.endObject();
-    return json.take();
+    return json.written();
 }
 
 Json resultOf(const ComputedTask& done) {

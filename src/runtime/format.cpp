@@ -92,12 +92,14 @@ Decimal digitsOf(Double magnitude, int count) {
     const auto end =
         std::to_chars(text, text + sizeof text, magnitude, std::chars_format::scientific, count - 1)
             .ptr;
-    const std::string_view written(text, static_cast<std::size_t>(end - text));
-    const std::size_t exponent = written.find('e');
+    // "d.ddde-dd" with `count` digits
+    const std::size_t exponent = static_cast<std::size_t>(count) + 1;
+    int power = 0;
+    std::from_chars(text + exponent + 2, end, power);
     Decimal result;
-    result.digits.push_back(written.front());
-    result.digits.append(written.substr(2, exponent - 2));
-    result.point = std::atoi(written.data() + exponent + 1) + 1;
+    result.digits.push_back(text[0]);
+    result.digits.append({text + 2, static_cast<std::size_t>(count - 1)});
+    result.point = (text[exponent + 1] == '-' ? -power : power) + 1;
     return result;
 }
 
