@@ -100,8 +100,10 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
               Dialogs& dialogs) {
     Nazwa_zadania(raport, dialogs);
     auto& title = raport.Wiersze_naglowka;
-    title(1) = QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz ")
-               + (norm0 ? QStringLiteral("PN-84/B-03264") : QStringLiteral("PN-B-03264:1999"));
+    title(1) = norm0 ? QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
+                                      "PN-84/B-03264")
+                     : QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
+                                      "PN-B-03264:1999");
     title(2) = QString();
     title(3) = QString();
     title(4) = stan.opcje.Nazwa_projektu;

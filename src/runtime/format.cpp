@@ -273,11 +273,11 @@ QString Format_kropka(Double value, QStringView pattern) {
 }
 
 QString general(Single value) {
-    return LineOfText().general(value);
+    return value == 0 ? QStringLiteral("0") : QString(LineOfText().general(value));
 }
 
 QString general(Double value) {
-    return LineOfText().general(value);
+    return value == 0 ? QStringLiteral("0") : QString(LineOfText().general(value));
 }
 
 LineOfText& LineOfText::number(Single value, QStringView pattern) {
