@@ -2,6 +2,7 @@
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "desktop/forms/damaged_file_box.h"
+#include "desktop/forms/help_key.h"
 #include "desktop/program_folder.h"
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
@@ -13,11 +14,12 @@
 #include "selection/forms/Dobor_fer.h"
 #include "widgets/hourglass.h"
 #include "widgets/qt_dialogs.h"
+#include "windows/application.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLockFile>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <cstdio>
 
@@ -37,7 +39,7 @@ bool wantsFolderOf(const FolderHolder& holder) {
         QStringLiteral("Dwa programy w jednym folderze mieszają sobie rysunki i numery stron. "
                        "Przejmij folder tylko wtedy, gdy tamten program już nie działa.\n%1")
             .arg(holder.lock));
-    const QPushButton* const take =
+    const QAbstractButton* const take =
         box.addButton(QStringLiteral("&Przejmij folder"), QMessageBox::AcceptRole);
     QPushButton* const end =
         box.addButton(QStringLiteral("&Zakończ program"), QMessageBox::RejectRole);
@@ -46,8 +48,6 @@ bool wantsFolderOf(const FolderHolder& holder) {
     box.exec();
     return box.clickedButton() == take;
 }
-
-constexpr int helpContext = 100;
 
 /// The forms of the program and how one leads to another.
 class Program {
@@ -66,17 +66,18 @@ private:
     void openResults() {
         auto session = std::make_unique<ResultsSession>(
             stan_, dialogs_, folder_, input_.firstNorm(),
-            [] { return QDateTime::currentDateTime(); }, [this] { render(); });
+            [] { return QDateTime::currentDateTime(); }, [this] { return render(); });
         results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
         input_.hide();
         results_->open();
     }
 
-    void render() {
+    RendererReport render() {
         const Hourglass hourglass;
         RendererWait wait(results_.get());
-        runRenderer(folder_, {},
-                    [&wait](std::chrono::milliseconds worked) { return wait.goOn(worked); });
+        return runRenderer(
+            folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
+            results_->winId());
     }
 
     FernaWyn::Links links() {
@@ -85,7 +86,7 @@ private:
                 [this](QWidget* parent) { Grub_bla(stan_, folder_, dialogs_, parent).exec(); },
             .anchorForm =
                 [this](QWidget* parent) { Dobor_fer(stan_, folder_, dialogs_, parent).exec(); },
-            .help = [this] { openHelp(folder_, helpContext); },
+            .help = [this] { openHelp(folder_, help::Start); },
             .back = [this] { input_.show(); },
             .endProgram =
                 [this] {
@@ -103,8 +104,9 @@ private:
     std::unique_ptr<FernaWyn> results_;
 };
 
-int runProgram() {
+int runProgram(QApplication& application) {
     const QString folder = enterProgramFolder();
+    openHelpByF1(application, [folder](int context) { openHelp(folder, context); });
     const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder, wantsFolderOf);
     Stan stan;
     if (!restoreLastTask(stan, folder, QStringLiteral(":/dane"), wantsDeliveredFile))
@@ -126,18 +128,16 @@ int main(int argc, char** argv) {
     if (const auto answer = answerCall(arguments))
         return leave(*answer);
     hushMissingRuntimeFolder();
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
         return leave(*refusal);
     QApplication::setApplicationName(QStringLiteral("ferna"));
     QApplication::setApplicationVersion(QStringLiteral(FERNA_VERSION));
-    // The desktop entry and the icon of the windows go by this name.
-    QApplication::setDesktopFileName(QStringLiteral("ferna"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/szkice/ferna.svg")));
+    dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
     const TidyEnd tidyEnd;
     try {
-        return runProgram();
+        return runProgram(application);
     } catch (const ferna::RunTimeError& failure) {
         QMessageBox::critical(
             nullptr, ferna::programTitle,

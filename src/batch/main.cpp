@@ -1,6 +1,8 @@
+#include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/output_files.h"
+#include "batch/remarks.h"
 #include "batch/report_files.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
@@ -54,6 +56,12 @@ void remark(const QString& what) {
         std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
 }
 
+/// What is doubtful about a task, a line each.
+void tellNotes(const ComputedTask& done) {
+    for (const notes::Note& note : notes::notesOf(done.record))
+        remark(QStringLiteral("uwaga: ") + note.text);
+}
+
 std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
@@ -86,9 +94,15 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             print(result);
         else
             writeFileWhole(options.result, QByteArray::fromStdString(result));
+        for (const QString& what : remarksOf(done))
+            remark(options.task + QStringLiteral(": ") + what);
+        if (done.reportReady && !options.reports.isEmpty())
+            for (const QString& what : nameRemarks(done.task))
+                remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures, outputs));
+        tellNotes(done);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "

@@ -1,6 +1,10 @@
 #include "batch/object_reader.h"
 
+#include "runtime/format.h"
+
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace ferna::batch {
 
@@ -21,6 +25,14 @@ std::string range(Integer least, Integer most) {
 
 ObjectReader::ObjectReader(const TaskValue& value, std::string path)
     : value_(objectOf(value, path)), path_(std::move(path)) {}
+
+ObjectReader::ObjectReader(const TaskValue& value, std::string path,
+                           std::initializer_list<const char*> keys)
+    : ObjectReader(value, std::move(path)) {
+    for (const char* key : keys)
+        known_.at(knownKeys_++) = key;
+    finish();
+}
 
 std::string Place::path() const {
     std::string path(whole);
@@ -71,6 +83,44 @@ double ObjectReader::requiredNumber(std::string_view key) {
 QString ObjectReader::text(std::string_view key, const QString& preset) {
     const TaskValue* const value = ask(key);
     return value == nullptr ? preset : textOf(*value, {path_, key});
+}
+
+std::string ObjectReader::oneOf(std::string_view key, std::initializer_list<const char*> choices) {
+    const TaskValue& value = required(key);
+    std::string expected;
+    for (const char* choice : choices) {
+        if (value.isText() && value.text == choice)
+            return choice;
+        expected += (expected.empty() ? "\"" : " or \"") + std::string(choice) + '"';
+    }
+    throw TaskError(pathOf(key), "expected " + expected);
+}
+
+std::optional<double> ObjectReader::optionalNumber(std::string_view key) {
+    const TaskValue* const value = ask(key);
+    return value != nullptr ? std::optional(numberOf(*value, {path_, key})) : std::nullopt;
+}
+
+std::optional<QString> ObjectReader::fieldText(std::string_view key) {
+    const std::optional<double> value = optionalNumber(key);
+    return value ? std::optional(general(*value)) : std::nullopt;
+}
+
+std::optional<QString> ObjectReader::wholeFieldText(std::string_view key) {
+    const std::optional<double> value = optionalNumber(key);
+    if (!value)
+        return std::nullopt;
+    const double whole = std::nearbyint(*value);
+    if (whole < std::numeric_limits<Integer>::min() || whole > std::numeric_limits<Integer>::max())
+        throw TaskError(pathOf(key), "expected a whole number of 16 bits");
+    return general(*value);
+}
+
+std::optional<int> ObjectReader::listNumber(std::string_view key, int first, int last) {
+    const TaskValue* const value = ask(key);
+    if (value == nullptr)
+        return std::nullopt;
+    return integerOf(*value, {path_, key}, CInt(first), CInt(last));
 }
 
 void ObjectReader::finish() const {

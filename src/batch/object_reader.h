@@ -9,6 +9,8 @@
 #include <nlohmann/json.hpp>
 
 #include <array>
+#include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,12 +19,14 @@ namespace ferna::batch {
 using Json = nlohmann::ordered_json;
 
 /// Takes the keys of one JSON object apart and refuses what does not belong there. Every refusal is
-/// a TaskError that names the key and what was expected. `finish` refuses the keys nobody asked
-/// for.
+/// a TaskError that names the key and what was expected. Keys that nobody knows are refused at once
+/// where all keys are told beforehand, else by `finish`.
 class ObjectReader {
 public:
     /// Refuses a value that is no object. `path` names it, empty for the task itself.
     ObjectReader(const TaskValue& value, std::string path);
+    /// Refuses also an object that holds other keys than these.
+    ObjectReader(const TaskValue& value, std::string path, std::initializer_list<const char*> keys);
 
     bool has(std::string_view key) const { return value_.find(key) != nullptr; }
     /// The value of a key that has been checked with `has`.
@@ -37,17 +41,30 @@ public:
     Integer requiredInteger(std::string_view key);
     double number(std::string_view key, double preset);
     double requiredNumber(std::string_view key);
-    QString text(std::string_view key, const QString& preset);
+    QString text(std::string_view key, const QString& preset = {});
+    /// One of these texts; the key is required.
+    std::string oneOf(std::string_view key, std::initializer_list<const char*> choices);
+
+    // What is typed into a field of a form; empty without the key.
+
+    /// A number as a text with the locale's decimal sign.
+    std::optional<QString> fieldText(std::string_view key);
+    /// The same for a field that is read as a whole number: it must fit 16 bits.
+    std::optional<QString> wholeFieldText(std::string_view key);
+    /// A number of a list, `first`..`last`.
+    std::optional<int> listNumber(std::string_view key, int first, int last);
 
     /// Refuses keys that were not asked for.
     void finish() const;
 
 private:
-    const TaskValue& value_;
-    std::string path_;
+    std::optional<double> optionalNumber(std::string_view key);
+
     const TaskValue* ask(std::string_view key);
 
-    static constexpr std::size_t mostKeys = 32; // keys that an object may have
+    static constexpr std::size_t mostKeys = 48; // that are told and asked for
+    const TaskValue& value_;
+    std::string path_;
     std::array<std::string_view, mostKeys> known_;
     std::size_t knownKeys_ = 0;
 };

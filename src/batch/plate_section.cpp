@@ -47,7 +47,7 @@ const std::array<FieldKeys, PlateChecks> fieldKeys{
               {"S", false, Text3<7>}},
 };
 
-TaskObject checkObject(const TaskValue& value, const std::string& path, int check) {
+ObjectReader checkObject(const TaskValue& value, const std::string& path, int check) {
     switch (check) {
     case 1:
         return {value, path, {"bs", "ca", "S"}};
@@ -64,7 +64,7 @@ TaskObject checkObject(const TaskValue& value, const std::string& path, int chec
 }
 
 PlateTask::Check readCheck(const TaskValue& value, const std::string& path, int check) {
-    const TaskObject object = checkObject(value, path, check);
+    ObjectReader object = checkObject(value, path, check);
     PlateTask::Check out{check, {}, {}};
     const FieldKeys& keys = fieldKeys[static_cast<std::size_t>(check - 1)];
     out.typed.reserve(keys.size());
@@ -122,7 +122,7 @@ void PlateTask::Check::type(PlateFields& fields) const {
 }
 
 PlateTask readPlateTask(const TaskValue& value, const std::string& path) {
-    const TaskObject object(
+    ObjectReader object(
         value, path,
         {"Nr_stali_blachy", "Blacha_nazwa", "Blacha_fd", "Blacha_t_max", "Grubosc", "Sprawdzenia"});
     const QString zero = QStringLiteral("0");
@@ -136,8 +136,8 @@ PlateTask readPlateTask(const TaskValue& value, const std::string& path) {
         task.Grubosc = object.fieldText("Grubosc");
     if (!object.has("Sprawdzenia"))
         return task;
-    const TaskObject checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
-                            {"1", "2", "3", "4", "5", "6", "7", "8"});
+    ObjectReader checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
+                        {"1", "2", "3", "4", "5", "6", "7", "8"});
     for (const TaskValue& part : object.at("Sprawdzenia").parts()) {
         const std::string number(part.key);
         task.checks.push_back(readCheck(part, checks.pathOf(number), std::stoi(number)));
@@ -151,6 +151,9 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
     std::string at = task.path; // what is being done
     TypedPlateSteel host(task.steel, dialogs);
     const PlateWork work{stan, form, dialogs, host};
+    std::array<bool, PlateChecks> asked{}; // and not run yet
+    for (const PlateTask::Check& check : task.checks)
+        asked.at(static_cast<std::size_t>(check.check - 1)) = true;
     try {
         form = openPlateForm(stan);
         form.fields.cmbStalb = task.cmbStalb;
@@ -158,6 +161,7 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
         for (const PlateTask::Check& check : task.checks) {
             at = task.path + ".Sprawdzenia." + std::to_string(check.check);
             check.type(form.fields);
+            asked.at(static_cast<std::size_t>(check.check - 1)) = false;
             computePlateCheck(work, check.check);
         }
         at = task.path + ".Grubosc";
@@ -166,6 +170,9 @@ PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dial
     } catch (const RunTimeError& failure) {
         result.Blad = errorJson(failure.of(at));
     }
+    for (std::size_t i = 0; i < asked.size(); ++i)
+        form.refused[i] = form.refused[i] || asked[i];
+    result.facts = notes::plateFacts(stan, form, result.section.has_value());
     result.value = resultJson(stan, form);
     return result;
 }

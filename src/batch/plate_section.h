@@ -2,6 +2,7 @@
 
 #include "batch/section_json.h"
 #include "design/user_steels.h"
+#include "notes/record.h"
 #include "plate/plate_form.h"
 #include "plate/plate_report_lines.h"
 
@@ -33,6 +34,7 @@ struct PlateTask {
 
 struct PlateSectionResult : SectionResult {
     std::optional<PlateSection> section; ///< empty where nothing entered the report
+    notes::PlateFacts facts;             ///< what the notes go by
 };
 
 /// Throws TaskError.

@@ -1,4 +1,5 @@
 #include "batch/equilibrium_section.h"
+#include "batch/note_section.h"
 #include "batch/task_run.h"
 
 namespace ferna::batch {
@@ -158,6 +159,8 @@ std::string resultText(const ComputedTask& done, JsonWriter::Layout layout) {
     }
     json.key("Rownowaga");
     writeEquilibria(json, done.equilibria);
+    json.key("Uwagi");
+    json.value(notesJson(notes::notesOf(done.record)));
     json.endObject();
     return json.written();
 }

@@ -1,5 +1,6 @@
 #include "batch/task_run.h"
 
+#include "batch/field_keys.h"
 #include "command/calculation.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
@@ -24,7 +25,7 @@ public:
     void drawPlate(Stan& stan, const InputFields& fields) override {
         if (!options_.pictures.isEmpty())
             savePlatePicture(stan, fields, done_.dialogs,
-                             options_.pictures + QStringLiteral("/Ferrob.bmp"));
+                             options_.pictures + u'/' + platePictureFile);
     }
 
     int casesEnded() const { return casesEnded_; }
@@ -39,7 +40,10 @@ public:
         trace.Beta = done_.solver.Beta;
         trace.C_linii = done_.solver.C_linii;
         trace.Wsp_k = done_.solver.Wsp_k;
+        done_.record.caseEnded(done_.task.stan, c);
     }
+
+    void caseRefused(int c) override { done_.record.caseRefused(done_.task.stan, c); }
 
 private:
     ComputedTask& done_;
@@ -70,6 +74,7 @@ void runSections(ComputedTask& done, const RunOptions& options) {
     Stan& stan = done.task.stan;
     if (done.task.plate) {
         PlateSectionResult result = runPlateTask(*done.task.plate, stan, done.dialogs);
+        done.record.plateWorked(result.facts);
         if (result.section && !options.pictures.isEmpty())
             for (const PlateSketch& sketch : result.section->sketches)
                 savePlateSketch(options.pictures, sketch.image, QString::fromLatin1(sketch.file));
@@ -106,6 +111,7 @@ ComputedTask run(Task task, const RunOptions& options) {
         !done.task.column
         || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));
     done.equilibria = enteredEquilibria(stan, done.task.fields);
+    done.record.begin(notes::entered(stan, done.task.fields, done.equilibria));
     if (!columnKept)
         return done;
     HeadlessHost host(done, options);
@@ -116,7 +122,8 @@ ComputedTask run(Task task, const RunOptions& options) {
             prepareReport(done, options);
             runSections(done, options);
         }
-    } catch (const RunTimeError& failure) {
+    } catch (const RunTimeError& raised) {
+        const RunTimeError failure = raised.of(keyOfControl(raised.control()));
         const std::optional<int> stopped = caseOf(failure, host.casesEnded(), stan);
         done.failure = errorJson(failure, stopped);
         if (done.task.column && !failure.key().empty() && stopped == stan.obciazenia.Liczba_przyp)

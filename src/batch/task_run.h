@@ -5,6 +5,7 @@
 #include "batch/task.h"
 #include "command/entered_equilibria.h"
 #include "design/language.h"
+#include "notes/notes.h"
 #include "report/report_lines.h"
 
 #include <QDateTime>
@@ -44,6 +45,7 @@ struct ComputedTask {
     Raport raport;
     ScriptedDialogs dialogs;
     EnteredEquilibria equilibria; ///< of the task as typed
+    notes::Record record;         ///< what the notes go by
     Json failure;          ///< the run-time error that stopped the run, null where there was none
     bool computed = false; ///< false where a validation ended the command
     bool reportReady = false;                   ///< the lines of the report stand

@@ -14,21 +14,11 @@ namespace {
 struct Refusal {
     QString text;
     QString title = programTitle;
+    int loadCase = 0; ///< that was refused for its axial force
 };
 
-/// Reads a field; an error of it knows the key of the field's value, `row` being that of the load
-/// table.
-template <typename Read>
-auto keyed(const char* key, const Read& read, int row = -1) {
-    try {
-        return read();
-    } catch (const RunTimeError& failure) {
-        throw failure.of(row < 0 ? key : "Przypadki[" + std::to_string(row) + "]." + key);
-    }
-}
-
-Single plateSide(const char* key, const QString& text) {
-    return keyed(key, [&] { return CSng(text); });
+Single number(const QString& text, const QString& control) {
+    return inControl(control, [&] { return CSng(text); });
 }
 
 void requireAnchors(const Stan& stan) {
@@ -37,8 +27,8 @@ void requireAnchors(const Stan& stan) {
 }
 
 void requireLengthAboveWidth(const InputFields& fields) {
-    const Single L = plateSide("Dlug_plyty_mm", fields.Text3);
-    const Single B = plateSide("Szer_plyty_mm", fields.Text4);
+    const Single L = number(fields.Text3, QStringLiteral("Text3"));
+    const Single B = number(fields.Text4, QStringLiteral("Text4"));
     if (B > L)
         throw Refusal{QStringLiteral("Długość płyty musi być większa od szerokości")};
 }
@@ -51,6 +41,7 @@ void clearResults(Stan& stan) {
     results.Sila_kotwy_max = 0;
     results.Nr_kotwy_max = 0;
     results.Nr_wiersza = 0;
+    results.outcomes.fill(CaseOutcome::NotComputed);
     results.Kotwy_OK = True;
     results.Beton_OK = true;
     stan.raport.Liczba_wierszy_kotwy = 0;
@@ -115,35 +106,32 @@ Single tenths(Single value) {
 void readCase(Stan& stan, const InputFields& fields, int c) {
     Obciazenia& loads = stan.obciazenia;
     const auto row = static_cast<std::size_t>(c - 1);
-    loads.Pierwsza_proba(c) = true;
+    const LoadRow<QString>& typed = fields.loads.at(row);
     // A load and what the configuration keeps of it.
-    const auto load = [&](auto& place, int kept, const char* key, const auto& texts) {
-        const auto read = [&] {
-            place = CSng(texts.at(row));
+    const auto load = [&](auto& place, int kept, const QString& text, const char* control) {
+        inControl(QString::fromLatin1(control).arg(row), [&] {
+            place = CSng(text);
             loads.Tablica_obc(kept)(c) = tenths(CSng(place));
-        };
-        keyed(key, read, c - 1);
+        });
     };
-
-    load(loads.Sila_N(c), 1, "N", fields.Text6);
+    loads.Pierwsza_proba(c) = true;
+    load(loads.Sila_N(c), 1, typed.N, "Text6_%1");
     const auto title = [c] { return QStringLiteral("Schemat nr ") + Format(c, u"###"); };
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
-                      title()};
+                      title(), c};
     if (loads.Sila_N(c) == 0)
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
-                      title()};
-    loads.Sila_N_kG(c) = keyed(
-        "N", [&] { return forceInKilograms(loads.Sila_N(c)); }, c - 1);
+                      title(), c};
+    loads.Sila_N_kG(c) = inControl(QStringLiteral("Text6_%1").arg(row),
+                                   [&] { return forceInKilograms(loads.Sila_N(c)); });
 
-    load(loads.Moment_M1(c), 2, "M1", fields.Text7);
-    load(loads.Moment_M2(c), 3, "M2", fields.Text8);
-    load(loads.Sila_Vx(c), 4, "Vx", fields.Text5);
-    load(loads.Sila_Vy(c), 5, "Vy", fields.Text10);
-    const bool negativeM1 = loads.Moment_M1(c) < 0;
-    const bool negativeM2 = loads.Moment_M2(c) < 0;
-    loads.Klasa_znaku(c) = CInt(1 + (negativeM2 ? 1 : 0) + (negativeM1 ? 2 : 0));
+    load(loads.Moment_M1(c), 2, typed.M1, "Text7_%1");
+    load(loads.Moment_M2(c), 3, typed.M2, "Text8_%1");
+    load(loads.Sila_Vx(c), 4, typed.Vx, "Text5_%1");
+    load(loads.Sila_Vy(c), 5, typed.Vy, "Text10_%1");
+    loads.Klasa_znaku(c) = signClass(loads.Moment_M1(c), loads.Moment_M2(c));
 }
 
 /// A diameter off the series leaves the earlier area.
@@ -160,9 +148,10 @@ void prepare(Stan& stan, Stan_przypadku& przypadek, const InputFields& fields,
     requireLengthAboveWidth(fields);
     stan.opcje.Nazwa_projektu = oneLine(fields.txtNaz_proj);
     clearResults(stan);
-    stan.opcje.Nr_strony = keyed("Nr_strony", [&] { return CInt(fields.txtNr_strony); });
+    stan.opcje.Nr_strony =
+        inControl(QStringLiteral("txtNr_strony"), [&] { return CInt(fields.txtNr_strony); });
     stan.materialy.Nazwa_betonu = concreteName(stan.opcje);
-    stan.opcje.Wsp_n_val = keyed("Wsp_n_val", [&] { return CSng(fields.Text2); });
+    stan.opcje.Wsp_n_val = number(fields.Text2, QStringLiteral("Text2"));
     przypadek.Dane_skorygowane = false;
     stan.plyta.Fi_max = largestDiameter(stan.plyta);
     if (fields.cmbStal >= 0)
@@ -184,6 +173,8 @@ CalculationEnd Oblicz(Stan& stan, Stan_przypadku& przypadek, const InputFields& 
     try {
         prepare(stan, przypadek, fields, host);
     } catch (const Refusal& refusal) {
+        if (refusal.loadCase != 0)
+            host.caseRefused(refusal.loadCase);
         dialogs.message(refusal.text, refusal.title, MessageStyle::Stop);
         return CalculationEnd::Refused;
     }

@@ -1,6 +1,8 @@
 #include "report/report_lines.h"
 
+#include "design/catalogue.h"
 #include "design/material_tables.h"
+#include "design/typed_names.h"
 #include "runtime/format.h"
 #include "runtime/line_of_text.h"
 #include "runtime/text_file.h"
@@ -9,54 +11,44 @@ namespace ferna {
 
 namespace {
 
-constexpr qsizetype longestLabel = 32;
-
 QString steelLine(const Stan& stan) {
     const Materialy& m = stan.materialy;
-    LineOfText line;
-    line.add(stan.Teksty(13));
+    const QString mpa = QStringLiteral(" MPa");
     if (stan.opcje.Nr_stali == userSteel)
-        return line.add(m.Stal_nazwa)
-            .add(u"  fd = ")
-            .number(m.Fd_kotwy, u"####")
-            .add(u" MPa  Re = ")
-            .number(m.Stal_Re, u"####")
-            .add(u" MPa  Rm = ")
-            .number(m.Stal_Rm, u"####")
-            .add(u" MPa");
-    return line.add(steelNames().at(stan.opcje.Nr_stali - 1))
-        .add(m.Klasa_stali)
-        .add(u"  fd = ")
-        .number(m.Fd_kotwy, u"####")
-        .add(u" MPa");
+        return stan.Teksty(phrase::AnchorSteel) + m.Stal_nazwa + QStringLiteral("  fd = ")
+               + Format(m.Fd_kotwy, u"####") + mpa + QStringLiteral("  Re = ")
+               + Format(m.Stal_Re, u"####") + mpa + QStringLiteral("  Rm = ")
+               + Format(m.Stal_Rm, u"####") + mpa;
+    return stan.Teksty(phrase::AnchorSteel) + steelNames().at(stan.opcje.Nr_stali - 1)
+           + m.Klasa_stali + QStringLiteral("  fd = ") + Format(m.Fd_kotwy, u"####") + mpa;
 }
 
 void fillDataLines(Raport& raport, const Stan& stan) {
-    const auto millimetres = [](const QString& label, QStringView axis, Single cm) {
-        return LineOfText().add(label).add(axis).number(cm * 10.0, u"## ###").add(u" mm");
+    const auto millimetres = [](Single cm) {
+        return Format(cm * 10.0, u"## ###") + QStringLiteral(" mm");
     };
-    raport.Wiersze_danych(1) = millimetres(stan.Teksty(10), u"x = ", stan.plyta.Dlugosc_plyty);
-    raport.Wiersze_danych(2) = millimetres(stan.Teksty(11), u"y = ", stan.plyta.Szerokosc_plyty);
-    raport.Wiersze_danych(3) = LineOfText()
-                                   .add(stan.Teksty(12))
-                                   .add(stan.materialy.Nazwa_betonu)
-                                   .add(stan.Teksty(33 + stan.opcje.Stopa_betonowa))
-                                   .add(u"       Eb = ")
-                                   .number(stan.materialy.Eb_betonu, u"####### MPa      E/Eb = ")
-                                   .general(stan.opcje.Wsp_n_val);
+    raport.Wiersze_danych(1) = stan.Teksty(phrase::PlateLength) + QStringLiteral("x = ")
+                               + millimetres(stan.plyta.Dlugosc_plyty);
+    raport.Wiersze_danych(2) = stan.Teksty(phrase::PlateWidth) + QStringLiteral("y = ")
+                               + millimetres(stan.plyta.Szerokosc_plyty);
+    raport.Wiersze_danych(3) = stan.Teksty(phrase::Concrete) + stan.materialy.Nazwa_betonu
+                               + stan.Teksty(phrase::PlainFooting + stan.opcje.Stopa_betonowa)
+                               + QStringLiteral("       Eb = ")
+                               + Format(stan.materialy.Eb_betonu, u"####### MPa      E/Eb = ")
+                               + general(stan.opcje.Wsp_n_val);
     raport.Wiersze_danych(4) = steelLine(stan);
 }
 
 void fillLoadTable(Stan& stan) {
     const Obciazenia& loads = stan.obciazenia;
     auto& lines = stan.raport.Wiersze_obciazen;
-    lines(0) = stan.Teksty(14);
+    lines(0) = stan.Teksty(phrase::LoadsHeading);
     lines(1) =
         QStringLiteral("                    N                      M1                       M2 "
                        "                   Vx                 Vy");
     for (int c = 1; c <= loads.Liczba_przyp; ++c)
         lines(c + 1) = LineOfText()
-                           .add(stan.Teksty(15))
+                           .add(stan.Teksty(phrase::LoadsOfCase))
                            .number(c, u"##     ")
                            .number(loads.Sila_N(c), u"### ##0.00 kN     ")
                            .number(CSng(loads.Moment_M1(c)), u"### ##0.00 kNm     ")
@@ -71,7 +63,7 @@ void fillLoadTable(Stan& stan) {
 void Nazwa_zadania(Raport& raport, Dialogs& dialogs) {
     raport.Nazwa_stopy =
         oneLine(dialogs.input(QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"), programTitle,
-                              raport.Nazwa_stopy, QPoint(220, 300)))
+                              raport.Nazwa_stopy, QPoint(220, 300), labelNote))
             .left(longestLabel);
 }
 
@@ -100,10 +92,8 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
               Dialogs& dialogs) {
     Nazwa_zadania(raport, dialogs);
     auto& title = raport.Wiersze_naglowka;
-    title(1) = norm0 ? QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
-                                      "PN-84/B-03264")
-                     : QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
-                                      "PN-B-03264:1999");
+    title(1) = QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz ")
+               + (norm0 ? QStringLiteral("PN-84/B-03264") : QStringLiteral("PN-B-03264:1999"));
     title(2) = QString();
     title(3) = QString();
     title(4) = stan.opcje.Nazwa_projektu;
@@ -114,11 +104,11 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
 }
 
 void Wypelnij_wiersze(Raport& raport, Stan& stan) {
-    stan.raport.Wiersze_srub(0) = stan.Teksty(7);
-    raport.Wiersze_stale(0) = stan.Teksty(8);
-    raport.Wiersze_stale(1) = stan.Teksty(9);
+    stan.raport.Wiersze_srub(0) = stan.Teksty(phrase::AnchorsHeading);
+    raport.Wiersze_stale(0) = stan.Teksty(phrase::ResultsHeading);
+    raport.Wiersze_stale(1) = stan.Teksty(phrase::AnchorsInTensionHeading);
     raport.Wiersze_stale(2) = QString();
-    raport.Wiersze_stale(3) = stan.Teksty(17);
+    raport.Wiersze_stale(3) = stan.Teksty(phrase::SummaryHeading);
     fillDataLines(raport, stan);
     fillLoadTable(stan);
 }
@@ -127,7 +117,7 @@ QString Wiersz_strefy(const Stan& stan, int c) {
     const auto millimetres = [](Single cm) { return Int(CSng(cm * 10.0)); };
     const Wyniki& r = stan.wyniki;
     return LineOfText()
-        .add(stan.Teksty(45))
+        .add(stan.Teksty(phrase::NeutralAxis))
         .general(millimetres(r.Przec_a(c)))
         .add(u",")
         .general(millimetres(r.Przec_b(c)))
@@ -140,9 +130,9 @@ QString Wiersz_strefy(const Stan& stan, int c) {
 
 std::array<QString, 3> Wiersze_podsumowania(const Stan& stan) {
     const Wyniki& r = stan.wyniki;
-    return {stan.Teksty(18) + Format(r.Sigma_b_max, u"##0.0# MPa"),
-            stan.Teksty(19) + Format(r.Sigma_s_max, u"# ##0.0# MPa"),
-            stan.Teksty(20) + Format(r.Sila_kotwy_max, u"## ##0.0# kN")};
+    return {stan.Teksty(phrase::LargestConcreteStress) + Format(r.Sigma_b_max, u"##0.0# MPa"),
+            stan.Teksty(phrase::LargestAnchorStress) + Format(r.Sigma_s_max, u"# ##0.0# MPa"),
+            stan.Teksty(phrase::LargestAnchorForce) + Format(r.Sila_kotwy_max, u"## ##0.0# kN")};
 }
 
 QChar omegaSubscript(const Stan& stan) {
@@ -150,7 +140,7 @@ QChar omegaSubscript(const Stan& stan) {
 }
 
 QString caseTitle(const Stan& stan, int c) {
-    return stan.Teksty(16) + general(c);
+    return stan.Teksty(phrase::CaseTitle) + general(c);
 }
 
 } // namespace ferna

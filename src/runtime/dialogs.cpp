@@ -7,13 +7,15 @@ void ScriptedDialogs::message(const QString& text, const QString& title, Message
 }
 
 bool ScriptedDialogs::confirm(const QString& text, const QString& title) {
-    return input(text, title, {}, {}) == u"tak";
+    return input(text, title, {}, {}, {}) == u"tak";
 }
 
 QString ScriptedDialogs::input(const QString& prompt, const QString& title, const QString& preset,
-                               std::optional<QPoint> /*position*/) {
-    questions.push_back({prompt, title, MessageStyle::Question});
-    return nextAnswer().value_or(preset);
+                               std::optional<QPoint> /*position*/, const NoteOf& noteOf) {
+    QString answer = nextAnswer().value_or(preset);
+    questions.push_back(
+        {prompt, title, MessageStyle::Question, noteOf ? noteOf(answer) : QString()});
+    return answer;
 }
 
 std::optional<QString> ScriptedDialogs::saveFile(const SaveQuestion& question) {

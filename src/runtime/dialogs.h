@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -25,6 +26,9 @@ struct SaveQuestion {
     QString filter;    ///< "text (*.ext)|*.ext|..."
 };
 
+/// What is to be said beside a field as its text is typed; empty for nothing.
+using NoteOf = std::function<QString(const QString& typed)>;
+
 /// Message boxes and input boxes as core code sees them: core code never opens a window.
 class Dialogs {
 public:
@@ -33,9 +37,10 @@ public:
     virtual void message(const QString& text, const QString& title, MessageStyle style) = 0;
     /// A question with Yes and No; true for Yes.
     virtual bool confirm(const QString& text, const QString& title) = 0;
-    /// The text typed; empty where the box was cancelled.
+    /// The text typed; empty where the box was cancelled. `noteOf` what is typed stands beside the
+    /// field; without it what any text loses in the program's files.
     virtual QString input(const QString& prompt, const QString& title, const QString& preset,
-                          std::optional<QPoint> position = {}) = 0;
+                          std::optional<QPoint> position = {}, const NoteOf& noteOf = {}) = 0;
     /// The path chosen; none where the question was cancelled.
     virtual std::optional<QString> saveFile(const SaveQuestion& question) = 0;
 };
@@ -47,6 +52,7 @@ public:
         QString text;
         QString title;
         MessageStyle style = MessageStyle::Plain;
+        QString note = {}; ///< what stood beside the field of an input box with its answer
     };
 
     void message(const QString& text, const QString& title, MessageStyle style) override;
@@ -54,7 +60,7 @@ public:
     bool confirm(const QString& text, const QString& title) override;
     /// The next answer; without one the preset, as by Enter.
     QString input(const QString& prompt, const QString& title, const QString& preset,
-                  std::optional<QPoint> position) override;
+                  std::optional<QPoint> position, const NoteOf& noteOf) override;
     /// The next answer; without one the question is cancelled.
     std::optional<QString> saveFile(const SaveQuestion& question) override;
 

@@ -16,11 +16,12 @@ constexpr std::size_t longestNumber = 400;      // characters of a typed number,
 constexpr long longestExponent = 1'000'000'000; // stands for every exponent beyond a long
 
 /// The typed number with blanks left out and the decimal sign as a point.
-/// Returns its length, 0 where a character cannot stand in a number.
+/// Returns its length, 0 where a character cannot stand in a number: a tab or a line break between
+/// digits parts two numbers.
 std::size_t normalised(QStringView text, std::array<char, longestNumber>& out) {
     std::size_t length = 0;
-    for (const QChar c : text) {
-        if (c.isSpace()) // also the no-break spaces that group digits
+    for (const QChar c : text.trimmed()) {
+        if (c.category() == QChar::Separator_Space) // also the no-break ones that group digits
             continue;
         if (length == out.size())
             return 0;

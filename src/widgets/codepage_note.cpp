@@ -1,28 +1,27 @@
 #include "widgets/codepage_note.h"
 
-#include "runtime/codepage.h"
-
 #include <QLabel>
 #include <QLineEdit>
 
 namespace ferna {
 
-void showCodepageNote(QLineEdit* field, QLabel* note) {
-    const auto renew = [note](const QString& text) {
-        QString missing;
-        for (const QChar c : text)
-            if (!codepage::holds(c) && !missing.contains(c))
-                missing += c;
-        note->setText(
-            QStringLiteral("Tych znaków nie ma w stronie kodowej 1250, zamiast nich będzie "
-                           "\"?\": %1")
-                .arg(missing));
-        note->setVisible(!missing.isEmpty());
+void showNote(QLineEdit* field, QLabel* note, const NoteOf& noteOf) {
+    const auto renew = [note, noteOf](const QString& text) {
+        note->setText(noteOf(text));
+        note->setVisible(!note->text().isEmpty());
     };
     note->setTextFormat(Qt::PlainText);
     note->setWordWrap(true);
     QObject::connect(field, &QLineEdit::textChanged, note, renew);
     renew(field->text());
+}
+
+void keepRoomForNote(QLabel* note) {
+    constexpr int lines = 2;
+    note->setMinimumHeight(lines * note->fontMetrics().lineSpacing());
+    QSizePolicy policy = note->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    note->setSizePolicy(policy);
 }
 
 } // namespace ferna

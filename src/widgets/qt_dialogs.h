@@ -10,7 +10,7 @@ public:
     void message(const QString& text, const QString& title, MessageStyle style) override;
     bool confirm(const QString& text, const QString& title) override;
     QString input(const QString& prompt, const QString& title, const QString& preset,
-                  std::optional<QPoint> position) override;
+                  std::optional<QPoint> position, const NoteOf& noteOf) override;
     std::optional<QString> saveFile(const SaveQuestion& question) override;
 };
 

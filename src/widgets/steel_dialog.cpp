@@ -1,8 +1,10 @@
 #include "widgets/steel_dialog.h"
 
+#include "design/typed_names.h"
 #include "widgets/codepage_note.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -15,7 +17,9 @@ void SteelDialog::wire(QLineEdit* name, QLabel* note, QList<QLineEdit*> numbers,
     numbers_ = std::move(numbers);
     for (QLineEdit* field : std::as_const(numbers_))
         allowOnlyNumbers(field);
-    showCodepageNote(name, note);
+    keepTablesOut(this, {name});
+    showNote(name, note, steelNote);
+    keepRoomForNote(note);
     connect(ok, &QPushButton::clicked, this, &SteelDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &SteelDialog::reject);
     centreOnScreen(this);

@@ -1,5 +1,6 @@
 // Where the built program writes, and what it leaves alone.
 #include "batch/program.h"
+#include "support/places.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -75,8 +76,7 @@ TEST_F(Outputs, SvgIsWellFormedWhateverTheProjectIsCalled) {
 }
 
 TEST_F(Outputs, ControlCharactersOfACatalogueBreakNoSvg) {
-    QByteArray catalogue =
-        Folder::bytesOf(QStringLiteral(FERNA_DATA_DIR "/Ferpl.txt")).replace(" ", "\x01");
+    QByteArray catalogue = Folder::bytesOf(places::data("/Ferpl.txt")).replace(" ", "\x01");
     const QString file = folder.write(QStringLiteral("k.txt"), catalogue);
     ASSERT_EQ(call({QStringLiteral("--katalog"), file, QStringLiteral("--raport"), path("r.svg"),
                     task(good)}),
@@ -180,8 +180,8 @@ TEST_F(Outputs, NeverTakeThePlaceOfAnInput) {
         EXPECT_TRUE(err.contains("this call reads the file")) << err.toStdString();
         EXPECT_EQ(folder.read(QStringLiteral("t.json")), good);
     }
-    const QString catalogue = folder.write(
-        QStringLiteral("k.txt"), Folder::bytesOf(QStringLiteral(FERNA_DATA_DIR "/Ferpl.txt")));
+    const QString catalogue =
+        folder.write(QStringLiteral("k.txt"), Folder::bytesOf(places::data("/Ferpl.txt")));
     EXPECT_EQ(call({QStringLiteral("--katalog"), catalogue, QStringLiteral("--raport"), catalogue,
                     input}),
               2);
@@ -210,7 +210,7 @@ TEST_F(Outputs, AreWrittenThroughWhatIsNoPlainFile) {
 }
 
 TEST_F(Outputs, APipeAsATaskIsReadWhereSomebodyWritesIt) {
-    const QString program = QStringLiteral(FERNA_BIN_DIR "/ferna-wsad");
+    const QString program = places::bin("/ferna-wsad");
     const QString input = task(good);
     for (const char* shell : {"cat \"$1\" | \"$0\" /dev/stdin", "\"$0\" /dev/stdin < \"$1\"",
                               "\"$0\" <(sleep 0.3; cat \"$1\")"}) {
@@ -239,7 +239,7 @@ protected:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("TMPDIR"), path("tmp"));
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"),
+        process.start(places::bin("/ferna-wsad"),
                       {QStringLiteral("--raport"), path("r.pdf"), task(longTask())});
         QElapsedTimer clock;
         clock.start();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <QProcess>
@@ -29,7 +30,7 @@ struct Program : ::testing::Test {
         if (!epoch.isEmpty())
             environment.insert(QStringLiteral("SOURCE_DATE_EPOCH"), epoch);
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"), arguments);
+        process.start(places::bin("/ferna-wsad"), arguments);
         process.write(input);
         process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished(120'000));

@@ -1,5 +1,6 @@
 // The built program, driven from outside.
 #include "batch/program.h"
+#include "support/places.h"
 
 #include <sys/resource.h>
 
@@ -83,8 +84,7 @@ TEST_F(Program, ABadLineOfAStreamBecomesItsResult) {
 }
 
 TEST_F(Program, SeveralThreadsGiveTheSameStream) {
-    const QByteArray tasks =
-        Folder::bytesOf(QStringLiteral(FERNA_GOLDEN_DIR "/solver.tasks.jsonl"));
+    const QByteArray tasks = Folder::bytesOf(places::golden("/solver.tasks.jsonl"));
     const auto one = stream(tasks, {QStringLiteral("--watki"), QStringLiteral("1")}, 1);
     EXPECT_EQ(stream(tasks, {QStringLiteral("--watki"), QStringLiteral("3")}, 1), one);
     EXPECT_EQ(one.size(), tasks.trimmed().count('\n') + 1);
@@ -99,7 +99,7 @@ TEST_F(Program, AStreamLeavesWithOneWhereATaskWasRefusedOrNotSolved) {
 
 TEST_F(Program, AStreamThatCannotBeReadIsAFailure) {
     const QStringList shell{QStringLiteral("-c"), QStringLiteral("\"$0\" --linie < /"),
-                            QStringLiteral(FERNA_BIN_DIR "/ferna-wsad")};
+                            places::bin("/ferna-wsad")};
     QProcess process;
     process.start(QStringLiteral("/bin/sh"), shell);
     ASSERT_TRUE(process.waitForFinished());
@@ -117,7 +117,7 @@ TEST_F(Program, AnswersEveryLineBeforeTheNextIsSent) {
     for (const char* threads : {"1", "2", "4"}) {
         QProcess process;
         process.start(
-            QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"),
+            places::bin("/ferna-wsad"),
             {QStringLiteral("--linie"), QStringLiteral("--watki"), QLatin1String(threads)});
         for (int i = 0; i < 20; ++i) {
             process.write(good + '\n');

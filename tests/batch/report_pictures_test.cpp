@@ -3,6 +3,8 @@
 #include "renderer/program_run.h"
 #include "runtime/codepage.h"
 #include "support/folder.h"
+#include "support/places.h"
+#include "support/printing.h"
 
 #include <QRegularExpression>
 
@@ -32,11 +34,15 @@ class Reports : public ::testing::Test {
 protected:
     /// Computes a task and writes its report there. Returns what was told beside it.
     QString report(const QByteArray& task, const QString& file) {
-        const Outcome run = runProgram(QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"),
-                                       {QStringLiteral("--raport"), folder.path(file),
-                                        tasks.write(QStringLiteral("t.json"), task)});
+        const Outcome run =
+            runProgram(places::bin("/ferna-wsad"), {QStringLiteral("--raport"), folder.path(file),
+                                                    tasks.write(QStringLiteral("t.json"), task)});
         EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString() << run.output.toStdString();
-        return run.errors;
+        QStringList told; // by the program; the toolkit has words of its own on some machines
+        for (const QString& line : run.errors.split(u'\n'))
+            if (line.startsWith(u"ferna-wsad: "))
+                told += line;
+        return told.join(u'\n');
     }
 
     /// The pictures that a report names, without their folder.
@@ -94,7 +100,7 @@ TEST_F(Reports, AnRtfReportOfAnotherPlateLeavesThePicturesOfTheFirstAlone) {
     const QByteArray plateOfA = folder.read(QStringLiteral("Ferrob.bmp"));
     const QString told = report(taskOf(900), QStringLiteral("b.rtf"));
     EXPECT_EQ(told, QStringLiteral("ferna-wsad: %1: the pictures beside it belong to another "
-                                   "report; with its own pictures the report is %2\n")
+                                   "report; with its own pictures the report is %2")
                         .arg(folder.path(QStringLiteral("b.rtf")),
                              folder.path(QStringLiteral("b-rysunki/b.rtf"))));
     EXPECT_EQ(folder.read(QStringLiteral("Ferrob.bmp")), plateOfA);

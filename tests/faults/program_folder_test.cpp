@@ -6,6 +6,7 @@
 #include "renderer/program_run.h"
 #include "runtime/text_file.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/run_time_errors.h"
 
 #include <QFileInfo>
@@ -154,7 +155,7 @@ class Programs : public ::testing::Test {
 protected:
     void install(const QString& folder) {
         QDir().mkpath(folder);
-        const QDir built(QStringLiteral(FERNA_BIN_DIR));
+        const QDir built(places::bin());
         for (const QString& file : built.entryList(
                  {QStringLiteral("ferna-wsad"), QStringLiteral("Wyd_drk"), QStringLiteral("*.txt"),
                   QStringLiteral("*.cfg"), QStringLiteral("*.bmp")},
@@ -175,8 +176,8 @@ protected:
         return runProgram(folder + QStringLiteral("/ferna-wsad"),
                           more
                               + QStringList{QStringLiteral("--raport"), file,
-                                            QStringLiteral(FERNA_DATA_DIR "/przyklady/"
-                                                                          "slup-hali.json")},
+                                            places::data("/przyklady/"
+                                                         "slup-hali.json")},
                           environment);
     }
 
@@ -208,7 +209,7 @@ TEST_F(Programs, WorkInAFolderWithBlanksAndPolishLetters) {
 TEST_F(Programs, GiveTheSameReportUnderALocaleWithACommaAndWithAPoint) {
     if (!makePolishLocale())
         GTEST_SKIP() << "no sources of locales";
-    const QString folder = QStringLiteral(FERNA_BIN_DIR);
+    const QString folder = places::bin();
     const auto made = [&](const char* locale, const QStringList& more, const char* ending) {
         const QString file = here.path(QStringLiteral("raport.") + QLatin1String(ending));
         QFile::remove(file);

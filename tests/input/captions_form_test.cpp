@@ -1,40 +1,10 @@
+#include "support/captions.h"
 #include "support/main_form.h"
-
-#include <QGroupBox>
 
 using namespace ferna;
 using namespace ferna::testing;
 
 namespace {
-
-struct Control {
-    const char* name;
-    const char* caption;
-    const char* tip = "";
-};
-
-/// What the engineer reads on a control: its text, or the title of a group.
-QString captionOf(const QWidget& widget) {
-    const auto* const group = qobject_cast<const QGroupBox*>(&widget);
-    return group != nullptr ? group->title() : widget.property("text").toString();
-}
-
-void expectControls(const QWidget& form, const std::vector<Control>& controls) {
-    for (const Control& control : controls) {
-        const auto* const widget = form.findChild<QWidget*>(QString::fromLatin1(control.name));
-        ASSERT_NE(widget, nullptr) << control.name;
-        EXPECT_EQ(captionOf(*widget), QString::fromUtf8(control.caption)) << control.name;
-        EXPECT_EQ(widget->toolTip(), QString::fromUtf8(control.tip)) << control.name;
-    }
-}
-
-QStringList itemsOf(const QWidget& form, const char* list) {
-    const auto* const box = form.findChild<QComboBox*>(QString::fromLatin1(list));
-    QStringList items;
-    for (int i = 0; i < box->count(); ++i)
-        items += box->itemText(i);
-    return items;
-}
 
 class Captions : public MainForm {
 protected:
@@ -110,14 +80,14 @@ TEST_F(Captions, OfTheLoadTable) {
 }
 
 TEST_F(Captions, OfTheAnchorCommands) {
-    expectControls(*form, {{"cmdDodaj1s", "Dodaj 1 śrubę"},
-                           {"cmdDodaj2x", "Dodaj 2 śruby rozmieszczone symetr. wzgl. osi X"},
-                           {"cmdDodaj2y", "Dodaj 2 śruby rozmieszczone symetr. wzgl. osi Y"},
-                           {"cmdDodaj4", "Dodaj 4 śruby rozmieszczone symetrycznie"},
-                           {"cmdUsun1s", "Usuń 1 śrubę"},
-                           {"cmdUsunws", "Usuń wszystkie śruby"},
-                           {"cmdZmien1fi", "Zmień średnicę 1 śruby"},
-                           {"cmdZmienwfi", "Zmień średnicę wszystkich śrub"}});
+    expectControls(*form, {{"cmdDodaj1s", "&Dodaj 1 śrubę"},
+                           {"cmdDodaj2x", "Dodaj 2 śruby rozmieszczone symetr. wzgl. osi &X"},
+                           {"cmdDodaj2y", "Dodaj 2 śruby rozmieszczone symetr. wzgl. osi &Y"},
+                           {"cmdDodaj4", "Dodaj 4 śruby &rozmieszczone symetrycznie"},
+                           {"cmdUsun1s", "&Usuń 1 śrubę"},
+                           {"cmdUsunws", "Usuń w&szystkie śruby"},
+                           {"cmdZmien1fi", "Z&mień średnicę 1 śruby"},
+                           {"cmdZmienwfi", "Zmień śr&ednicę wszystkich śrub"}});
     EXPECT_EQ(tip("Text9"), QStringLiteral("Lista już zadeklarowanych śrub"));
     EXPECT_EQ(tip("Picture3"), QStringLiteral("Proporcje płyty i rozmieszczenie śrub"));
     EXPECT_EQ(the<QPlainTextEdit>("Text9")->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);

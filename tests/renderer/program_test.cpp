@@ -259,6 +259,26 @@ TEST_F(Renderer, AModeWithADialogNeedsAScreen) {
     }
 }
 
+TEST_F(Renderer, AnEarlierReplyOutlivesAPrintOrASaveThatDidNotComeAbout) {
+    QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        bare.remove(QLatin1String(name));
+    bare.insert(QStringLiteral("CUPS_SERVER"), path("no.sock")); // nothing to print on
+    ASSERT_EQ(runRenderer({job()}).exitCode, 0);
+    ASSERT_EQ(reply(), QStringLiteral(" 1 , 14 "));
+    for (const char* mode : {"1", " 2", "-1"}) {
+        sample = SampleReport(folder.path());
+        EXPECT_EQ(runRenderer({job(QLatin1String(mode))}, bare).exitCode, 1) << mode;
+        EXPECT_EQ(reply(), QStringLiteral(" 1 , 14 ")) << mode;
+    }
+    EXPECT_EQ(runRenderer({job(QStringLiteral("3"))}, bare).exitCode, 1);
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 ")) << "the screen picture is what the pages are of";
+}
+
+TEST_F(Renderer, TellsNothingWhereNoProgramListens) {
+    EXPECT_EQ(runRenderer({job()}).output, QString());
+}
+
 TEST(PageFileNames, NumberStandsBeforeTheSuffix) {
     const auto& emf = *renderer::outputFormat(QStringLiteral("emf"));
     EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/Name.emf"), emf, 0, 1),

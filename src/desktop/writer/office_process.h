@@ -15,7 +15,6 @@ namespace ferna::writer {
 class ProcessGroup {
 public:
     void set(qint64 leader) { leader_ = leader; }
-    bool running() const { return leader_ != 0; }
     /// Kills the whole group.
     void kill() const;
 

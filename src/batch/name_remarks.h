@@ -1,0 +1,13 @@
+#pragma once
+
+#include "batch/task.h"
+
+#include <QStringList>
+
+namespace ferna::batch {
+
+/// What the names of a task lose on their way into its report, one line each, with the key of the
+/// name in front (English); mostly none.
+QStringList nameRemarks(const Task& task);
+
+} // namespace ferna::batch
