@@ -154,7 +154,8 @@ TEST(Equilibrium, TipsAboutTheLineFromACornerToAnAnchorBesideThePlate) {
     const Result result = problem.solved();
     ASSERT_FALSE(result.exists);
     EXPECT_TRUE(turnsFreely(problem, result.tippingAxis));
-    // Lifted at y = 100: through (-300, -200) and (-500, 0), which is farther than the other corner.
+    // Lifted at y = 100: through (-300, -200) and (-500, 0), which is farther than the other
+    // corner.
     for (const Point& point : result.tippingAxis)
         EXPECT_NEAR(point.x + point.y, -500, 1e-9);
 }

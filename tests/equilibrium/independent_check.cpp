@@ -86,8 +86,8 @@ std::vector<Vector> bearingForces(const BaseAndLoad& problem) {
     std::vector<Vector> forces{{1, 1, 1}, {1, -1, 1}, {1, -1, -1}, {1, 1, -1}};
     for (const equilibrium::Anchor& anchor : problem.anchors)
         if (anchor.area > 0 && problem.n > 0)
-            forces.push_back({-1, -anchor.x / (problem.length / 2),
-                              -anchor.y / (problem.width / 2)});
+            forces.push_back(
+                {-1, -anchor.x / (problem.length / 2), -anchor.y / (problem.width / 2)});
     return forces;
 }
 
@@ -174,7 +174,8 @@ bool turnsFreely(const BaseAndLoad& problem, const equilibrium::Segment& axis) {
                    < offset - slack - 1e-9 * (std::fabs(anchor.x) + std::fabs(anchor.y)))
             return false;
     const Forces load = applied(problem);
-    const auto moment = static_cast<double>(normalX * load.M1 + normalY * load.M2 - offset * load.N);
+    const auto moment =
+        static_cast<double>(normalX * load.M1 + normalY * load.M2 - offset * load.N);
     return moment > -1e-9 * problem.size() * reach;
 }
 

@@ -30,10 +30,10 @@ struct Imbalance {
 };
 Imbalance imbalanceOf(const BaseAndLoad& problem, const equilibrium::Result& result);
 
-/// True where forces pressing at the corners of the plate and pulling at the anchors, three of them at
-/// most, add up to the load with a further force of `pressed` (a share of the load's size) pulling at
-/// the centre. So with a positive one true means that an equilibrium exists, and with a negative one
-/// false that none does.
+/// True where forces pressing at the corners of the plate and pulling at the anchors, three of them
+/// at most, add up to the load with a further force of `pressed` (a share of the load's size)
+/// pulling at the centre. So with a positive one true means that an equilibrium exists, and with a
+/// negative one false that none does.
 bool forcesCarry(const BaseAndLoad& problem, double pressed);
 
 /// True where the base can turn about this axis with the load driving it: no corner goes down, no

@@ -22,8 +22,8 @@ void ordinary(BaseAndLoad& p, Dice& dice) {
     const double area = areaOf(dice);
     if (dice.oneIn(4)) {
         for (int i = dice.whole(0, 12); i > 0; --i)
-            p.anchors.push_back({std::round(dice.between(-x, x)), std::round(dice.between(-y, y)),
-                                 area});
+            p.anchors.push_back(
+                {std::round(dice.between(-x, x)), std::round(dice.between(-y, y)), area});
     } else {
         p.anchors = {{x, y, area}, {-x, y, area}, {x, -y, area}, {-x, -y, area}};
         if (dice.oneIn(2))
@@ -78,8 +78,7 @@ void strange(BaseAndLoad& p, Dice& dice) {
         parts[1] = 1 - magnitude(dice, -9, -1);
     }
     const double size = magnitude(dice, -6, 6);
-    p.load = {size * parts[0], size * parts[1] * p.length / 2000,
-              size * parts[2] * p.width / 2000};
+    p.load = {size * parts[0], size * parts[1] * p.length / 2000, size * parts[2] * p.width / 2000};
 }
 
 } // namespace
