@@ -9,6 +9,7 @@
 #include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
+#include "runtime/passing_folder.h"
 #include "runtime/qt_remarks.h"
 #include "selection/forms/Dobor_fer.h"
 #include "widgets/hourglass.h"
@@ -18,12 +19,35 @@
 #include <QApplication>
 #include <QLockFile>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <cstdio>
 
 namespace {
 
 using namespace ferna;
+
+/// Tells that a program of another computer has the folder. True where the engineer knows better.
+bool wantsFolderOf(const FolderHolder& holder) {
+    QMessageBox box(QMessageBox::Warning, programTitle,
+                    QStringLiteral("Z folderu programu korzysta program na komputerze \"%1\" "
+                                   "(proces nr %2).")
+                        .arg(holder.host)
+                        .arg(holder.process));
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        QStringLiteral("Dwa programy w jednym folderze mieszają sobie rysunki i numery stron. "
+                       "Przejmij folder tylko wtedy, gdy tamten program już nie działa.\n%1")
+            .arg(holder.lock));
+    const QAbstractButton* const take =
+        box.addButton(QStringLiteral("&Przejmij folder"), QMessageBox::AcceptRole);
+    QPushButton* const end =
+        box.addButton(QStringLiteral("&Zakończ program"), QMessageBox::RejectRole);
+    box.setDefaultButton(end);
+    box.setEscapeButton(end);
+    box.exec();
+    return box.clickedButton() == take;
+}
 
 /// The forms of the program and how one leads to another.
 class Program {
@@ -83,7 +107,7 @@ private:
 int runProgram(QApplication& application) {
     const QString folder = enterProgramFolder();
     openHelpByF1(application, [folder](int context) { openHelp(folder, context); });
-    const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
+    const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder, wantsFolderOf);
     Stan stan;
     if (!restoreLastTask(stan, folder, QStringLiteral(":/dane"), wantsDeliveredFile))
         return 1;
@@ -111,6 +135,7 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(FERNA_VERSION));
     dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
+    const TidyEnd tidyEnd;
     try {
         return runProgram(application);
     } catch (const ferna::RunTimeError& failure) {

@@ -14,6 +14,7 @@ namespace {
 struct Refusal {
     QString text;
     QString title = programTitle;
+    int loadCase = 0; ///< that was refused for its axial force
 };
 
 Single number(const QString& text, const QString& control) {
@@ -40,6 +41,7 @@ void clearResults(Stan& stan) {
     results.Sila_kotwy_max = 0;
     results.Nr_kotwy_max = 0;
     results.Nr_wiersza = 0;
+    results.outcomes.fill(CaseOutcome::NotComputed);
     results.Kotwy_OK = True;
     results.Beton_OK = true;
     stan.raport.Liczba_wierszy_kotwy = 0;
@@ -104,34 +106,32 @@ Single tenths(Single value) {
 void readCase(Stan& stan, const InputFields& fields, int c) {
     Obciazenia& loads = stan.obciazenia;
     const auto row = static_cast<std::size_t>(c - 1);
-    const auto cell = [row](const std::array<QString, MaxCases>& column, const char* control) {
-        return number(column.at(row), QString::fromLatin1(control).arg(row));
+    const LoadRow<QString>& typed = fields.loads.at(row);
+    // A load and what the configuration keeps of it.
+    const auto load = [&](auto& place, int kept, const QString& text, const char* control) {
+        inControl(QString::fromLatin1(control).arg(row), [&] {
+            place = CSng(text);
+            loads.Tablica_obc(kept)(c) = tenths(CSng(place));
+        });
     };
     loads.Pierwsza_proba(c) = true;
-
-    loads.Sila_N(c) = cell(fields.Text6, "Text6_%1");
-    loads.Tablica_obc(1)(c) = tenths(loads.Sila_N(c));
+    load(loads.Sila_N(c), 1, typed.N, "Text6_%1");
     const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
-                      title};
+                      title, c};
     if (loads.Sila_N(c) == 0)
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
-                      title};
-    loads.Sila_N_kG(c) = forceInKilograms(loads.Sila_N(c));
+                      title, c};
+    loads.Sila_N_kG(c) = inControl(QStringLiteral("Text6_%1").arg(row),
+                                   [&] { return forceInKilograms(loads.Sila_N(c)); });
 
-    const Single M1 = cell(fields.Text7, "Text7_%1");
-    loads.Moment_M1(c) = M1;
-    loads.Tablica_obc(2)(c) = tenths(M1);
-    const Single M2 = cell(fields.Text8, "Text8_%1");
-    loads.Moment_M2(c) = M2;
-    loads.Tablica_obc(3)(c) = tenths(M2);
-    loads.Sila_Vx(c) = cell(fields.Text5, "Text5_%1");
-    loads.Tablica_obc(4)(c) = tenths(loads.Sila_Vx(c));
-    loads.Sila_Vy(c) = cell(fields.Text10, "Text10_%1");
-    loads.Tablica_obc(5)(c) = tenths(loads.Sila_Vy(c));
-    loads.Klasa_znaku(c) = CInt(1 + (M2 < 0 ? 1 : 0) + (M1 < 0 ? 2 : 0));
+    load(loads.Moment_M1(c), 2, typed.M1, "Text7_%1");
+    load(loads.Moment_M2(c), 3, typed.M2, "Text8_%1");
+    load(loads.Sila_Vx(c), 4, typed.Vx, "Text5_%1");
+    load(loads.Sila_Vy(c), 5, typed.Vy, "Text10_%1");
+    loads.Klasa_znaku(c) = signClass(loads.Moment_M1(c), loads.Moment_M2(c));
 }
 
 /// A diameter off the series leaves the earlier area.
@@ -173,6 +173,8 @@ CalculationEnd Oblicz(Stan& stan, Stan_przypadku& przypadek, const InputFields& 
     try {
         prepare(stan, przypadek, fields, host);
     } catch (const Refusal& refusal) {
+        if (refusal.loadCase != 0)
+            host.caseRefused(refusal.loadCase);
         dialogs.message(refusal.text, refusal.title, MessageStyle::Stop);
         return CalculationEnd::Refused;
     }

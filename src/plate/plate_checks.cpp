@@ -323,6 +323,8 @@ void Sprawdz_grubosc(const PlateWork& work, Single& t, Single& Fd, Integer n, In
 }
 
 void computePlateCheck(const PlateWork& work, int check) {
+    bool& refused = work.form.refused.at(at(check));
+    refused = true; // until it has a result
     if (!work.form.face.cmdOblicz_enabled.at(at(check)))
         return;
     Integer& result = work.stan.raport.Spr_blachy(check);
@@ -340,6 +342,7 @@ void computePlateCheck(const PlateWork& work, int check) {
             throw;
         showRunTimeError(work.dialogs, failure.number());
     }
+    refused = result <= 0;
 }
 
 } // namespace ferna

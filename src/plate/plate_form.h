@@ -63,7 +63,8 @@ struct PlateForm {
     PlateFields fields;
     PlateFace face;
     PlateInputs inputs;
-    Integer Nr_stali_blachy = 0; ///< item of cmbStalb plus 1, as last taken
+    std::array<bool, PlateChecks> refused{}; ///< check n at n - 1: pressed last without a result
+    Integer Nr_stali_blachy = 0;             ///< item of cmbStalb plus 1, as last taken
 };
 
 /// A tab of the form, in the order on the screen.

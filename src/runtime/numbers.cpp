@@ -60,6 +60,17 @@ bool isBelowOne(std::string_view number) {
     return places + (negative ? -exponent : exponent) <= 0;
 }
 
+/// Does `convert` with the number that a text holds; an overflow names the text.
+template <typename Convert>
+auto converted(QStringView text, const Convert& convert) {
+    const Double value = CDbl(text);
+    try {
+        return convert(value);
+    } catch (const RunTimeError& failure) {
+        throw RunTimeError(failure.number(), QStringLiteral("\"%1\"").arg(text));
+    }
+}
+
 } // namespace
 
 Integer CInt(Double value) {
@@ -77,7 +88,7 @@ Integer CInt(int value) {
 }
 
 Integer CInt(QStringView text) {
-    return CInt(CDbl(text));
+    return converted(text, [](Double value) { return CInt(value); });
 }
 
 Single CSng(Double value) {
@@ -88,7 +99,7 @@ Single CSng(Double value) {
 }
 
 Single CSng(QStringView text) {
-    return CSng(CDbl(text));
+    return converted(text, [](Double value) { return CSng(value); });
 }
 
 Double CDbl(QStringView text) {

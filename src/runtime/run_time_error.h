@@ -45,6 +45,11 @@ public:
     /// the command can be another form's; empty where it was none.
     const QString& control() const noexcept { return control_; }
     void setControl(const QString& name) { control_ = name; }
+    /// Which value of the task was at fault, by its key ("Przypadki[0].N"); empty where none is
+    /// known.
+    const std::string& key() const noexcept { return key_; }
+    /// The same error with the key of the value at fault, unless it has one already.
+    RunTimeError of(const std::string& key) const;
     /// Polish: the text of the number, and behind a colon the detail where there is one.
     QString text() const;
     const char* what() const noexcept override { return what_.c_str(); }
@@ -54,6 +59,7 @@ private:
     QString detail_;
     QString control_;
     std::string what_;
+    std::string key_;
 };
 
 /// Takes the text of a control; an error that this raises names the control. Gives what `take`

@@ -52,7 +52,7 @@ TEST(TypedNames, NotesSayWhatIsLost) {
     EXPECT_EQ(projectNote(QStringLiteral("Hala A")), QString());
     EXPECT_EQ(projectNote(longName),
               QStringLiteral("Nazwa nie mieści się w wierszu nagłówka: na stronach raportu będzie "
-                             "pismem 8,3 pt zamiast 9,9 pt"));
+                             "pismem 8,1 pt zamiast 9,9 pt"));
     EXPECT_EQ(steelNote(QStringLiteral("S355 J2")), QString());
     EXPECT_EQ(steelNote(QStringLiteral("S355, J2")),
               QStringLiteral("W zapisanym zadaniu nazwa kończy się przed przecinkiem"));

@@ -102,6 +102,22 @@ def run(desktop, folder, work, task):
     expect(read(folder, "Ferna.cfg.uszkodzony") == damaged, "the damaged file was not kept")
     expect(b"Projekt" in read(folder, "Ferna.cfg"), "the delivered settings did not come back")
 
+    # A damaged catalogue is told by its own name and replaced alone.
+    last_task = read(folder, "Ferna.cfg")
+    catalogue = read(folder, "Ferpl.txt")
+    damaged = b"\r\n".join(catalogue.split(b"\r\n")[:60])
+    with open(os.path.join(folder, "Ferpl.txt"), "wb") as file:
+        file.write(damaged)
+    program = Program(desktop, folder)
+    desktop.window(TITLE)
+    desktop.screenshot(os.path.join(work, "catalogue.png"))
+    desktop.keys("alt+d")
+    program.ready()
+    expect(read(folder, "Ferna.cfg") == last_task, "a damaged catalogue cost the task")
+    program.leave()
+    expect(read(folder, "Ferpl.txt") == catalogue, "the delivered catalogue did not come back")
+    expect(read(folder, "Ferpl.txt.uszkodzony") == damaged, "the damaged catalogue was not kept")
+
 
 def main():
     programs, sample = sys.argv[1:]

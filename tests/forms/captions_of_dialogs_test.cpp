@@ -15,7 +15,7 @@ namespace {
 class CaptionsOfDialogs : public WorkedForm {};
 
 TEST_F(CaptionsOfDialogs, OfTheAnchorSteel) {
-    const KGM8 form(stan, dialogs, nullptr);
+    KGM8 form(stan, dialogs, nullptr);
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Stal użytkownika (kotwy)"));
     expectControls(form, {{"Label1", "Nazwa materiału"},
                           {"Label2_0", "fd="},
@@ -31,7 +31,7 @@ TEST_F(CaptionsOfDialogs, OfTheAnchorSteel) {
                           {"Label4_3", "=MPa"},
                           {"cmdOK", "O&K", "Kontynuacja.."},
                           {"cmdCancel", "&Anuluj", "Powrót do poprzedniego okna"}});
-    const Hand hand(const_cast<KGM8&>(form));
+    const Hand hand(form);
     EXPECT_EQ(hand.the("Text2_0")->toolTip(), QStringLiteral("Wytrzymałość obliczeniowa"));
     EXPECT_EQ(hand.the("Text2_1")->toolTip(), QStringLiteral("Re<Rm"));
     EXPECT_EQ(hand.the("Text2_2")->toolTip(), QStringLiteral("Wytrzymałość na rozciąganie"));
@@ -39,7 +39,7 @@ TEST_F(CaptionsOfDialogs, OfTheAnchorSteel) {
 }
 
 TEST_F(CaptionsOfDialogs, OfThePlateSteel) {
-    const KGM8b form(stan, dialogs, nullptr);
+    KGM8b form(stan, dialogs, nullptr);
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Stal użytkownika (blacha)"));
     expectControls(form, {{"Label1", "Nazwa materiału"},
                           {"Label2_0", "fd="},
@@ -49,7 +49,7 @@ TEST_F(CaptionsOfDialogs, OfThePlateSteel) {
                           {"Label4_0", "=MPa"},
                           {"cmdOK", "O&K", "Kontynuacja.."},
                           {"cmdCancel", "&Anuluj", "Powrót do poprzedniego okna"}});
-    const Hand hand(const_cast<KGM8b&>(form));
+    const Hand hand(form);
     EXPECT_EQ(hand.the("Text2_0")->toolTip(), QStringLiteral("Wtrzymałość obliczeniowa"));
     EXPECT_EQ(hand.the("Text2_1")->toolTip(), QStringLiteral("Re<Rm"));
 }

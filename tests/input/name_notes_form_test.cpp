@@ -51,7 +51,7 @@ TEST_F(NameNotes, OtherQuestionsTellLettersOnly) {
                                               "nich będzie \"?\": Ω"));
         QTest::keyClick(field, Qt::Key_Return);
     });
-    dialogs.input(QStringLiteral("Pytanie"), programTitle, {});
+    dialogs.input(QStringLiteral("Pytanie"), programTitle, {}, {}, {});
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include "support/decimal_comma.h"
 #include "support/folder.h"
 #include "support/modal_answers.h"
+#include "support/places.h"
 #include "support/printing.h"
 #include "widgets/qt_dialogs.h"
 
@@ -49,7 +50,7 @@ protected:
     std::unique_ptr<FernaWyn> form;
 
     void SetUp() override {
-        const QDir programs(QStringLiteral(FERNA_BIN_DIR));
+        const QDir programs(places::bin());
         for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
             QFile::copy(programs.filePath(picture), folder.path(picture));
         QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
@@ -570,7 +571,7 @@ TEST_F(ResultsForm, OffersToGiveUpARendererThatHangs) {
     EXPECT_TRUE(form->isEnabled());
     render = [this] { return runRenderer(path()); };
     QFile::remove(folder.path(QStringLiteral("Wyd_drk")));
-    QFile::link(QStringLiteral(FERNA_BIN_DIR "/Wyd_drk"), folder.path(QStringLiteral("Wyd_drk")));
+    QFile::link(places::bin("/Wyd_drk"), folder.path(QStringLiteral("Wyd_drk")));
     answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
                   QStringLiteral("12"), QStringLiteral("13"));
     clickPanel(2);

@@ -12,6 +12,8 @@
 #include "input/load_table.h"
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_files.h"
 #include "runtime/format.h"
 #include "statics/forms/StatykaS.h"
 #include "ui_Ferna3.h"
@@ -204,12 +206,8 @@ void Ferna3::load() {
     (start.optHsruby_0 ? ui_->optHsruby_0 : ui_->optHsruby_1)->setChecked(true);
     ui_->txtNaz_proj->setText(start.txtNaz_proj);
     ui_->Text2->setText(start.Text2);
-    for (std::size_t r = 0; r < MaxCases; ++r) {
-        const std::array texts{start.Text6[r], start.Text7[r], start.Text8[r], start.Text5[r],
-                               start.Text10[r]};
-        for (std::size_t column = 0; column < texts.size(); ++column)
-            loads_[r][column]->setText(texts[column]);
-    }
+    for (int r = 0; r < MaxCases; ++r)
+        setRow(r, start.loads.at(static_cast<std::size_t>(r)));
     ui_->Text3->setText(start.Text3);
     ui_->Text4->setText(start.Text4);
     leaveText1();
@@ -230,11 +228,9 @@ InputFields Ferna3::fields() const {
     out.Option1_0 = ui_->Option1_0->isChecked();
     out.optHsruby_0 = ui_->optHsruby_0->isChecked();
     for (std::size_t r = 0; r < MaxCases; ++r) {
-        out.Text6[r] = loads_[r][0]->text();
-        out.Text7[r] = loads_[r][1]->text();
-        out.Text8[r] = loads_[r][2]->text();
-        out.Text5[r] = loads_[r][3]->text();
-        out.Text10[r] = loads_[r][4]->text();
+        const auto& row = loads_[r];
+        out.loads[r] = {row[0]->text(), row[1]->text(), row[2]->text(), row[3]->text(),
+                        row[4]->text()};
     }
     return out;
 }
@@ -247,10 +243,13 @@ void Ferna3::setCount(const QString& text) {
     ui_->Text1->setText(text);
 }
 
-void Ferna3::setRow(int r, const std::array<QString, 5>& texts) {
-    auto& row = loads_.at(static_cast<std::size_t>(r));
-    for (std::size_t column = 0; column < row.size(); ++column)
-        row[column]->setText(texts[column]);
+void Ferna3::setRow(int r, const LoadRow<QString>& texts) {
+    const auto& row = loads_.at(static_cast<std::size_t>(r));
+    row[0]->setText(texts.N);
+    row[1]->setText(texts.M1);
+    row[2]->setText(texts.M2);
+    row[3]->setText(texts.Vx);
+    row[4]->setText(texts.Vy);
 }
 
 void Ferna3::showRow(int r) {
@@ -414,7 +413,7 @@ void Ferna3::KGM8(Stan& stan) {
 }
 
 void Ferna3::drawPlate(Stan& stan, const InputFields& fields) {
-    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + QStringLiteral("/Ferrob.bmp")));
+    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + u'/' + platePictureFile));
 }
 
 void Ferna3::calculate() {
@@ -424,7 +423,7 @@ void Ferna3::calculate() {
 }
 
 void Ferna3::leaveProgram() {
-    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + QStringLiteral("/W_X.txt"));
+    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + u'/' + wyd::replyFile);
     hide();
     QCoreApplication::exit(0);
 }

@@ -1,13 +1,11 @@
 #include "plate/forms/Grub_bla.h"
 
-#include "input/forms/KGM8b.h"
 #include "pages/sketch_files.h"
 #include "plate/forms/KGM8b.h"
 #include "plate/forms/result_age.h"
 #include "plate/plate_checks.h"
 #include "plate/plate_report_lines.h"
 #include "plate/plate_tables.h"
-#include "report/sketch_files.h"
 #include "ui_Grub_bla.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"

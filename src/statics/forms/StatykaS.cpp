@@ -82,7 +82,7 @@ void StatykaS::save() {
     readForm();
     Statyka_sch(stan_.obciazenia.Liczba_przyp, this).exec();
     try {
-        saveTotals(stan_, form_.Text1, table_);
+        saveTotals(stan_, form_.totals(), table_);
     } catch (const RunTimeError& failure) {
         if (failure.number() != error::Subscript)
             throw;
