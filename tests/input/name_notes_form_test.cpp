@@ -51,7 +51,8 @@ TEST_F(NameNotes, OtherQuestionsTellLettersOnly) {
                                               "nich będzie \"?\": Ω"));
         QTest::keyClick(field, Qt::Key_Return);
     });
-    dialogs.input(QStringLiteral("Pytanie"), programTitle, {});
+    Dialogs& asked = dialogs;
+    asked.input(QStringLiteral("Pytanie"), programTitle, QString());
 }
 
 } // namespace
