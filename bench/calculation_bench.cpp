@@ -33,13 +33,14 @@ void Evaluation(benchmark::State& state) {
     anchorsAround(base, static_cast<int>(state.range(0)));
     base.loads(200, 120, 60);
     base.calculate();
+    const CaseInput in = inputOf(base.stan);
     const Double c = base.solver.C_linii;
     Double shift = 0;
     for (auto _ : state) {
         base.solver.Liczba_ocen = 0;
         base.solver.C_linii = c + shift;
         shift = shift > 1 ? 0 : shift + 0.001;
-        Rownowaga_c(base.solver, base.stan);
+        Rownowaga_c(base.solver, in);
         benchmark::DoNotOptimize(base.solver.Reszta_c);
     }
 }
@@ -86,7 +87,7 @@ void reportOf(ColumnBase& base) {
             raport.Wiersze_strefy(c - 1) = Wiersz_strefy(base.stan, c);
     base.dialogs.answers.push_back(QStringLiteral("F-1"));
     Naglowek(raport, base.stan, true, QDateTime(QDate(2026, 1, 1), QTime(12, 0)), base.dialogs);
-    benchmark::DoNotOptimize(textReport(base.stan, raport).bytes().size());
+    benchmark::DoNotOptimize(textReport(reportModel(base.stan, raport)).bytes().size());
     base.dialogs.questions.clear();
 }
 

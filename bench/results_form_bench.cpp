@@ -45,7 +45,7 @@ public:
                                            std::make_unique<ResultsSession>(
                                                base_.stan, base_.dialogs, folder_.path(), true,
                                                [] { return QDateTime::currentDateTime(); },
-                                               [this] { runRenderer(folder_.path()); }),
+                                               [this] { return runRenderer(folder_.path()); }),
                                            FernaWyn::Links{});
         form_->open();
         QCoreApplication::processEvents();

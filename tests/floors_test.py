@@ -67,12 +67,15 @@ class Floors(unittest.TestCase):
         folders = {path.name for path in (SOURCE / "src").iterdir() if any(path.rglob("*.cpp"))}
         self.assertEqual(rooms, folders)
 
-    def test_the_renderer_shares_runtime_pages_and_protocol_and_nothing_of_the_state(self):
-        self.assertEqual(rooms_of("Wyd_drk"), {"renderer", "runtime", "pages", "protocol"})
+    def test_the_renderer_shares_windows_pages_and_protocol_and_nothing_of_the_state(self):
+        self.assertEqual(rooms_of("Wyd_drk"),
+                         {"renderer", "runtime", "pages", "protocol", "windows"})
+        self.assertEqual(rooms_of("ferna_windows"), {"runtime"})
 
     def test_the_companion_and_the_rooms_that_compute_link_no_widgets(self):
         computing = [target for target in GRAPH if not target.endswith("_forms")
-                     and target not in ("ferna", "ferna_widgets", "ferna_renderer", "Wyd_drk")]
+                     and target not in ("ferna", "ferna_widgets", "ferna_windows", "ferna_renderer",
+                                       "Wyd_drk")]
         self.assertGreater(len(computing), 10)
         for target in computing:
             self.assertNotIn("Qt6::Widgets", reachable(target), target)

@@ -1,6 +1,7 @@
 #include "analysis/case_results.h"
 
 #include "analysis/clauses.h"
+#include "design/catalogue.h"
 #include "runtime/format.h"
 
 namespace ferna {
@@ -8,71 +9,58 @@ namespace ferna {
 namespace {
 
 /// Adds a line and returns it.
-QString& nextLine(Wyniki& results, const QString& text) {
+QString& nextLine(Wyniki& results, QString text) {
     results.Nr_wiersza = CInt(results.Nr_wiersza + 1);
     QString& line = results.Wiersze_wynikow(results.Nr_wiersza);
-    line = text;
+    line = std::move(text);
     return line;
 }
 
-void takeSigma_b(Stan& stan, int c, Double stress) {
+void takeSigma_b(Stan& stan, int c, Single stress) {
     Wyniki& results = stan.wyniki;
-    results.Sigma_b(c) = stressInMegapascals(stress);
-    if (results.Sigma_b(c) > results.Sigma_b_max)
-        results.Sigma_b_max = results.Sigma_b(c);
+    results.Sigma_b(c) = stress;
+    if (stress > results.Sigma_b_max)
+        results.Sigma_b_max = stress;
 }
 
-QString concreteLine(const Stan& stan, int c) {
-    return stan.Teksty(3) + Format(stan.wyniki.Sigma_b(c), u"###0.0# MPa ");
-}
-
-/// The two points where the neutral line leaves the plate, mirrored back to the axes of the input.
-void storeLineEnds(Stan& stan, const Stan_przypadku& s, int c) {
-    const Double a = s.Pol_a;
-    const Double b = s.Pol_b;
-    Double x1 = s.Pk_xT;
-    Double y1 = b;
-    Double x2 = a;
-    Double y2 = s.Pk_yR;
-    if (s.Typ_strefy == zone::AlongLength || s.Typ_strefy == zone::LessTriangle) {
-        x1 = -a;
-        y1 = s.Pk_yL;
-    }
-    if (s.Typ_strefy == zone::AlongWidth || s.Typ_strefy == zone::LessTriangle) {
-        x2 = s.Pk_xB;
-        y2 = -b;
-    }
-    const Integer signs = stan.obciazenia.Klasa_znaku(c);
-    const Double signX = signs == 3 || signs == 4 ? -1 : 1;
-    const Double signY = signs == 2 || signs == 4 ? -1 : 1;
-    stan.wyniki.Przec_a(c) = CSng(signX * x1);
-    stan.wyniki.Przec_b(c) = CSng(signY * y1);
-    stan.wyniki.Przec_c(c) = CSng(signX * x2);
-    stan.wyniki.Przec_d(c) = CSng(signY * y2);
+QString concreteLine(const Stan& stan, Single stress) {
+    return stan.Teksty(phrase::ConcreteStress) + Format(stress, u"###0.0# MPa ");
 }
 
 /// Force, stress and line of an anchor in tension.
-void storeAnchor(Stan& stan, const Stan_przypadku& s, int i, int c) {
+void storeAnchor(Stan& stan, const AnchorTension& anchor, int c) {
     Wyniki& r = stan.wyniki;
-    const Double area = stan.plyta.Pole_kotwy(i);
-    const Double n = stan.opcje.Wsp_n_val;
-    r.Sila_kotwy_kG(i) = anchorForce(stan.plyta.Odl_kotwy(i), n, s.Wsp_k, area);
-    r.Sigma_kotwy_kG(i) = anchorStress(r.Sila_kotwy_kG(i), area);
-    Single& stress = r.Sigma_kotwy(i)(c);
-    stress = stressInMegapascals(r.Sigma_kotwy_kG(i));
-    if (stress < r.Sigma_s_max)
-        r.Sigma_s_max = stress;
-    r.Sila_kotwy(i) = anchorForceOfStress(stress, area);
-    if (r.Sila_kotwy(i) < r.Sila_kotwy_max) {
-        r.Sila_kotwy_max = r.Sila_kotwy(i);
-        r.Nr_kotwy_max = CInt(i);
+    const Integer i = anchor.anchor;
+    r.Sila_kotwy_kG(i) = anchor.force_kG;
+    r.Sigma_kotwy_kG(i) = anchor.stress_kGcm2;
+    r.Sigma_kotwy(i)(c) = anchor.stress;
+    if (anchor.stress < r.Sigma_s_max)
+        r.Sigma_s_max = anchor.stress;
+    r.Sila_kotwy(i) = anchor.force;
+    if (anchor.force < r.Sila_kotwy_max) {
+        r.Sila_kotwy_max = anchor.force;
+        r.Nr_kotwy_max = i;
     }
-    QString& line = nextLine(r, Format(i, u"##  ") + Format(stress, u"#########0.0# MPa      ")
-                                    + Format(r.Sila_kotwy(i), u"########0.0 kN"));
-    if (std::fabs(stress) > stan.materialy.Fd_kotwy) {
-        line += stan.Teksty(2);
+    QString& line =
+        nextLine(r, Format(i, u"##  ") + Format(anchor.stress, u"#########0.0# MPa      ")
+                        + Format(anchor.force, u"########0.0 kN"));
+    if (std::fabs(anchor.stress) > stan.materialy.Fd_kotwy) {
+        line += stan.Teksty(phrase::AnchorExceeded);
         r.Kotwy_OK = False;
     }
+}
+
+void storeLineOfPlate(Stan& stan, const CaseResult& result, int c) {
+    Wyniki& r = stan.wyniki;
+    r.Przec_a(c) = result.line->a;
+    r.Przec_b(c) = result.line->b;
+    r.Przec_c(c) = result.line->c;
+    r.Przec_d(c) = result.line->d;
+    r.Typ_strefy_przyp(c) = result.zone;
+    if (!result.anchorsInTension)
+        nextLine(r, stan.Teksty(phrase::NoAnchorInTension));
+    for (int i = 0; i < result.tensions; ++i)
+        storeAnchor(stan, result.tension[static_cast<std::size_t>(i)], c);
 }
 
 void checkConcrete(Stan& stan, int c) {
@@ -80,14 +68,14 @@ void checkConcrete(Stan& stan, int c) {
     const Single Rb = stan.materialy.Rb_betonu;
     switch (concreteVerdict(r.Sigma_b(c), Rb)) {
     case ConcreteVerdict::AboveDouble:
-        r.Wiersze_wynikow(r.Nr_wiersza) += stan.Teksty(4);
+        r.Wiersze_wynikow(r.Nr_wiersza) += stan.Teksty(phrase::ConcreteNotAcceptable);
         break;
     case ConcreteVerdict::Satisfied:
-        r.Wiersze_wynikow(r.Nr_wiersza) += QStringLiteral(" < Rb = ") + Format(Rb, u"###.0 MPa");
+        r.Wiersze_wynikow(r.Nr_wiersza).append(u" < Rb = ").append(Format(Rb, u"###.0 MPa"));
         break;
     case ConcreteVerdict::Exceeded:
         const Single ratio = concreteRatio(r.Sigma_b(c), Rb);
-        nextLine(r, stan.Teksty(5));
+        nextLine(r, stan.Teksty(phrase::BearingFactorNeeded));
         r.Znak_wiersza(r.Nr_wiersza) = 1;
         r.Liczba_przekroczen = CInt(r.Liczba_przekroczen + 1);
         r.Tekst_przekroczenia(r.Liczba_przekroczen) =
@@ -111,29 +99,30 @@ QString shearLine(const Stan& stan, Single w, int firstLine) {
 
 /// The shear goes to the anchors on the tension side of the neutral line; where the whole plate is
 /// compressed, to all of them.
-QString shearByTensionSide(const Stan& stan, const Stan_przypadku& s, Single V) {
+QString shearByTensionSide(const Stan& stan, Integer zoneShape, Single V) {
     Single A = 0;
     for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
-        if (s.Typ_strefy == zone::WholePlate || stan.plyta.Odl_kotwy(i) < 0)
+        if (zoneShape == zone::WholePlate || stan.plyta.Odl_kotwy(i) < 0)
             A = CSng(A + stan.plyta.Pole_kotwy(i));
-    return shearLine(stan, shearUtilisation(anchorShear(V, A), stan.materialy.Fv_kotwy), 47);
+    return shearLine(stan, shearUtilisation(anchorShear(V, A), stan.materialy.Fv_kotwy),
+                     phrase::ShearOfSomeAnchors);
 }
 
 /// The shear goes to all anchors, together with the tension of the most stressed one. Stresses that
 /// an earlier calculation left for the case take part.
-QString shearByAllAnchors(const Stan& stan, int c, Single V) {
+QString shearByAllAnchors(const Stan& stan, const ByAnchor<Single>& stresses, Single V) {
     Single A = 0;
     Single sm = 0;
     for (int i = 1; i <= stan.plyta.Liczba_srub; ++i) {
         A = CSng(A + stan.plyta.Pole_kotwy(i));
-        sm = qMin(sm, stan.wyniki.Sigma_kotwy(i)(c));
+        sm = qMin(sm, stresses(i));
     }
     const Materialy& steel = stan.materialy;
     const Single w = interactionUtilisation(sm, steel.Fd2_kotwy, anchorShear(V, A), steel.Fv_kotwy);
-    return shearLine(stan, w, 50);
+    return shearLine(stan, w, phrase::ShearOfAllAnchors);
 }
 
-void checkHorizontalForces(Stan& stan, const Stan_przypadku& s, int c) {
+void checkHorizontalForces(Stan& stan, Integer zoneShape, const ByAnchor<Single>& stresses, int c) {
     constexpr Double none = 0.01; // kN
     const Obciazenia& loads = stan.obciazenia;
     const Single V = horizontalForce(loads.Sila_Vx(c), loads.Sila_Vy(c));
@@ -141,48 +130,41 @@ void checkHorizontalForces(Stan& stan, const Stan_przypadku& s, int c) {
         return;
     QString& line = nextLine(stan.wyniki, QString());
     if (frictionForce(loads.Sila_N(c)) > V)
-        line = stan.Teksty(46);
+        line = stan.Teksty(phrase::ShearByFriction);
     else if (stan.opcje.Hsily_wszystkie != 0)
-        line = shearByTensionSide(stan, s, V);
+        line = shearByTensionSide(stan, zoneShape, V);
     else
-        line = shearByAllAnchors(stan, c, V);
+        line = shearByAllAnchors(stan, stresses, V);
 }
 
 } // namespace
 
-void Wyniki_calej_plyty(Stan& stan, Stan_przypadku& s) {
-    const Obciazenia& loads = stan.obciazenia;
-    const int c = loads.Nr_przyp;
-    s.Wy_plyty = sectionModulus(s.Plyta_L, s.Plyta_B);
-    s.Wx_plyty = sectionModulus(s.Plyta_B, s.Plyta_L);
-    takeSigma_b(stan, c,
-                cornerStress(loads.Sila_N_kG(c), s.Plyta_L, s.Plyta_B, loads.Moment_M1_kGcm,
-                             s.Wx_plyty, loads.Moment_M2_kGcm, s.Wy_plyty));
-    s.Typ_strefy = zone::WholePlate;
-    stan.wyniki.Przyp_policzony(c) = True;
-    nextLine(stan.wyniki, stan.Teksty(6));
-    nextLine(stan.wyniki, concreteLine(stan, c));
+ByAnchor<Single> stressesOf(const Stan& stan, int c) {
+    ByAnchor<Single> stresses;
+    const ByCase<Single>* const ofAnchor = stan.wyniki.Sigma_kotwy.data();
+    for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
+        stresses(i) = ofAnchor[i](c);
+    return stresses;
 }
 
-void Wyniki_linii_obojetnej(Stan& stan, Stan_przypadku& s) {
+void Zapisz_wyniki(Stan& stan, const CaseResult& result) {
     const int c = stan.obciazenia.Nr_przyp;
-    storeLineEnds(stan, s, c);
-    stan.wyniki.Typ_strefy_przyp(c) = s.Typ_strefy;
-    if (s.Suma_Ad == 0) {
-        nextLine(stan.wyniki, stan.Teksty(1));
-    } else {
-        for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
-            if (stan.plyta.Odl_kotwy(i) < 0)
-                storeAnchor(stan, s, i, c);
+    if (result.line)
+        storeLineOfPlate(stan, result, c);
+    if (!result.Sigma_b)
+        return;
+    takeSigma_b(stan, c, *result.Sigma_b);
+    if (result.zone == zone::WholePlate) {
+        stan.wyniki.Przyp_policzony(c) = True;
+        nextLine(stan.wyniki, stan.Teksty(phrase::WholePlateInCompression));
     }
-    takeSigma_b(stan, c, concreteStress(s.Sila_C, s.V_strefy));
-    nextLine(stan.wyniki, concreteLine(stan, c));
+    nextLine(stan.wyniki, concreteLine(stan, *result.Sigma_b));
 }
 
-void Sprawdz_beton_i_sily_poziome(Stan& stan, const Stan_przypadku& s) {
+void Sprawdz_beton_i_sily_poziome(Stan& stan, Integer zoneShape, const ByAnchor<Single>& stresses) {
     const int c = stan.obciazenia.Nr_przyp;
     checkConcrete(stan, c);
-    checkHorizontalForces(stan, s, c);
+    checkHorizontalForces(stan, zoneShape, stresses, c);
     stan.wyniki.Ostatni_wiersz(c) = stan.wyniki.Nr_wiersza;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "analysis/stan_przypadku.h"
+#include "analysis/case_values.h"
+#include "analysis/equilibrium_formulas.h"
 
 #include <array>
 
@@ -20,7 +21,7 @@ public:
     enum class Instructions { Plain, Avx2 };
     static Instructions best();
 
-    MarchAhead(const Stan_przypadku& s, const Stan& stan, Instructions instructions = best());
+    MarchAhead(const Stan_przypadku& s, const CaseInput& in, Instructions instructions = best());
 
     /// The errors at the first distances of a row, so many as a short or a long row has; not a
     /// number where `Rownowaga_c` would end in a run-time error.
@@ -28,17 +29,11 @@ public:
 
     /// What stays the same on all lines of one angle, in cm and kG.
     struct Angle {
-        Double a, b; ///< half the plate
-        Double m;    ///< slope of the line
-        Double sine, cosine;
+        LineAngle line;
+        AxialForce force;
         Double volume; ///< m^2 / 6
         Double x;      ///< m^2 / 24
         Double y;      ///< 1 / 24 / m
-        Double corner; ///< distance of the corner (a, b) from the centre, along the normal
-        Double axial;  ///< the same of the point of the axial force
-        Double Ex, Ey;
-        Double N; ///< axial force, kG
-        Double n; ///< Es / Eb
         int anchors;
         std::array<Double, MaxAnchors> projection; ///< of the anchors on the normal
         std::array<Double, MaxAnchors> area;       ///< cm2

@@ -32,13 +32,13 @@ void countSteps(Stan_przypadku& s, int steps) {
 }
 
 /// Cold start: marches until the error is negative; where it stops falling, steps back and refines.
-void marchToNegative(Stan_przypadku& s, Stan& stan, Stride& stride) {
+void marchToNegative(Stan_przypadku& s, const CaseInput& in, Stride& stride) {
     const auto falls = [](Double error, Double before) { return error >= 0 && error < before; };
-    Rownowaga_c(s, stan);
+    Rownowaga_c(s, in);
     for (;;) {
         s.C_linii += s.Krok_c;
         s.Reszta_c_poprz = s.Reszta_c;
-        Rownowaga_c(s, stan);
+        Rownowaga_c(s, in);
         if (s.Reszta_c < 0)
             return;
         if (s.Reszta_c < s.Reszta_c_poprz) {
@@ -51,7 +51,7 @@ void marchToNegative(Stan_przypadku& s, Stan& stan, Stride& stride) {
 }
 
 /// Marches until the error changes its sign, reversing at a tenth of the step where it moves away.
-void marchToSignChange(Stan_przypadku& s, Stan& stan, Stride& stride) {
+void marchToSignChange(Stan_przypadku& s, const CaseInput& in, Stride& stride) {
     const auto nears = [](Double error, Double before) {
         return !(before * error < 0) && movesTowardsZero(error, before);
     };
@@ -59,7 +59,7 @@ void marchToSignChange(Stan_przypadku& s, Stan& stan, Stride& stride) {
         countSteps(s, 1);
         s.Reszta_c_poprz = s.Reszta_c;
         s.C_linii += s.Krok_c;
-        Rownowaga_c(s, stan);
+        Rownowaga_c(s, in);
         if (s.Reszta_c_poprz * s.Reszta_c < 0)
             return;
         if (movesTowardsZero(s.Reszta_c, s.Reszta_c_poprz)) {
@@ -97,21 +97,21 @@ bool interpolateC(Stan_przypadku& s, Double oneDegree) {
 }
 
 /// Interpolates the angle at the change of sign. True where the search ends.
-bool interpolateBeta(Stan_przypadku& s, Stan& stan) {
+bool interpolateBeta(Stan_przypadku& s, const CaseInput& in) {
     s.Beta -= stepBack(s.Krok_beta, s.Reszta_beta, s.Reszta_beta_poprz);
-    Szukaj_c(s, stan);
+    Szukaj_c(s, in);
     if (!s.Jest_rozw) // cannot be: the angle lies between two admissible ones
         throw RunTimeError(error::Internal);
-    Rownowaga_beta(s, stan);
+    Rownowaga_beta(s, in);
     if (std::fabs(s.Reszta_beta) < fineTolerance)
         return true;
     s.Krok_beta = 0.1 * s.Krok_beta;
-    return std::fabs(s.Krok_beta) < smallestStepBetaDegrees / stan.opcje.Stopnie_na_radian;
+    return std::fabs(s.Krok_beta) < smallestStepBetaDegrees / in.degreesPerRadian;
 }
 
 } // namespace
 
-void Szukaj_c(Stan_przypadku& s, Stan& stan) {
+void Szukaj_c(Stan_przypadku& s, const CaseInput& in) {
     s.Reszta_c_poprz = 0;
     s.Nawroty = 0;
     s.Sin_beta = std::sin(s.Beta);
@@ -123,43 +123,41 @@ void Szukaj_c(Stan_przypadku& s, Stan& stan) {
     }
     s.Jest_rozw = true;
 
-    Stride stride(s, stan);
-    const Double oneDegree = 1 / stan.opcje.Stopnie_na_radian;
+    Stride stride(s, in);
+    const Double oneDegree = 1 / in.degreesPerRadian;
     if (s.Drugie_wejscie == 1) { // warm start; Kroki_c counts on
         s.C_linii -= s.Plyta_L / 20;
-        Rownowaga_c(s, stan);
+        Rownowaga_c(s, in);
         s.Krok_c = 1;
     } else {
-        marchToNegative(s, stan, stride);
+        marchToNegative(s, in, stride);
         if (interpolateC(s, oneDegree))
             return;
         s.Kroki_c = 0;
     }
     for (;;) {
-        marchToSignChange(s, stan, stride);
+        marchToSignChange(s, in, stride);
         if (interpolateC(s, oneDegree))
             return;
         s.Kroki_c = 0;
     }
 }
 
-void Szukaj_beta(Stan_przypadku& s, Stan& stan, Dialogs& dialogs) {
+void Szukaj_beta(Stan_przypadku& s, const CaseInput& in) {
     s.Reszta_c_poprz = 0;
-    Rownowaga_beta(s, stan);
+    Rownowaga_beta(s, in);
     s.Nawroty = 0;
     RoundTrip roundTrip(s);
     for (;;) {
         roundTrip.lookBack();
         s.Reszta_beta_poprz = s.Reszta_beta;
         s.Beta += s.Krok_beta;
-        Szukaj_c(s, stan);
-        if (!s.Jest_rozw) {
-            Ponow_probe(s, stan, dialogs);
+        Szukaj_c(s, in);
+        if (!s.Jest_rozw)
             return;
-        }
-        Rownowaga_beta(s, stan);
+        Rownowaga_beta(s, in);
         if (s.Reszta_beta_poprz * s.Reszta_beta < 0) {
-            if (interpolateBeta(s, stan))
+            if (interpolateBeta(s, in))
                 return;
             continue;
         }
@@ -176,29 +174,24 @@ void Szukaj_beta(Stan_przypadku& s, Stan& stan, Dialogs& dialogs) {
     }
 }
 
-void Ponow_probe(Stan_przypadku& s, Stan& stan, Dialogs& dialogs) {
+Retry Ponow_probe(Stan_przypadku& s, Carry& carry, std::vector<CaseMessage>& messages) {
     s.Jest_rozw = false;
-    Obciazenia& loads = stan.obciazenia;
-    if (loads.Pierwsza_proba(loads.Nr_przyp)) {
-        loads.Pierwsza_proba(loads.Nr_przyp) = false;
-        if (std::fabs(loads.Moment_M2_kGcm) < std::fabs(loads.Moment_M1_kGcm))
-            loads.Moment_M2_kGcm = 1.1 * loads.Moment_M2_kGcm;
-        else
-            loads.Moment_M1_kGcm = 1.1 * loads.Moment_M1_kGcm;
-        return;
+    if (carry.mayRaiseMoment) {
+        carry.mayRaiseMoment = false;
+        Double& smaller = std::fabs(s.M2k) < std::fabs(s.M1k) ? s.M2k : s.M1k;
+        smaller = 1.1 * smaller;
+        return Retry::RaisedMoment;
     }
-    dialogs.message(QStringLiteral("Brak ścisłego rozwiazania!\nRozwiązanie przybliżone."),
-                    programTitle, MessageStyle::Plain);
-    if (!s.Dane_skorygowane) {
-        s.Dane_skorygowane = true;
-        const int last = stan.plyta.Liczba_srub;
-        stan.plyta.X_kotwy(last) = CSng(stan.plyta.X_kotwy(last) * 0.995);
-        stan.plyta.Y_kotwy(last) = CSng(stan.plyta.Y_kotwy(last) * 0.995);
-        return;
+    messages.push_back(CaseMessage::Approximate);
+    if (!carry.anchorMoved) {
+        carry.anchorMoved = true;
+        carry.lastX = CSng(carry.lastX * 0.995);
+        carry.lastY = CSng(carry.lastY * 0.995);
+        return Retry::MovedAnchor;
     }
-    dialogs.message(QStringLiteral("BRAK ROZWIĄZANIA\nZmodyfikuj nieco dane"), programTitle,
-                    MessageStyle::Plain);
-    s.Przerwij_obliczenia = true;
+    messages.push_back(CaseMessage::NoSolution);
+    carry.gaveUp = true;
+    return Retry::None;
 }
 
 } // namespace ferna

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "analysis/equilibrium.h"
-#include "runtime/dialogs.h"
 
 namespace ferna {
 
@@ -13,15 +12,18 @@ namespace ferna {
 /// The distance `C_linii` for the angle `Beta`. Sets `Jest_rozw` false and returns where the angle
 /// is outside 0..pi/2. A cold start marches from the present distance; with `Drugie_wejscie` = 1
 /// the march starts behind the distance of the previous angle.
-void Szukaj_c(Stan_przypadku& s, Stan& stan);
+void Szukaj_c(Stan_przypadku& s, const CaseInput& in);
 
-/// The angle `Beta`, from the present one. Ends with `Jest_rozw` true, or, where the angle left its
-/// range, after `Ponow_probe`.
-void Szukaj_beta(Stan_przypadku& s, Stan& stan, Dialogs& dialogs);
+/// The angle `Beta`, from the present one. Ends with `Jest_rozw` true, or false where the angle
+/// left its range.
+void Szukaj_beta(Stan_przypadku& s, const CaseInput& in);
+
+/// What is tried after a failed attempt.
+enum class Retry { None, RaisedMoment, MovedAnchor };
 
 /// What follows a failed attempt: first the smaller moment of the case grows by a tenth; then, once
 /// in a calculation, the last anchor moves towards the centre by 0.5 % and stays there; then the
-/// case is given up, with `Przerwij_obliczenia` set. Leaves `Jest_rozw` false.
-void Ponow_probe(Stan_przypadku& s, Stan& stan, Dialogs& dialogs);
+/// case is given up. Leaves `Jest_rozw` false and adds what is to be said.
+Retry Ponow_probe(Stan_przypadku& s, Carry& carry, std::vector<CaseMessage>& messages);
 
 } // namespace ferna

@@ -17,7 +17,7 @@ namespace ferna {
 /// Takes at once all the steps of a march that no longer moves.
 class Stride {
 public:
-    Stride(Stan_przypadku& s, const Stan& stan) : s_(s), stan_(stan) {}
+    Stride(Stan_przypadku& s, const CaseInput& in) : s_(s), in_(in) {}
 
     /// After a plain step. `isPlain(error, error before)` tells one, `count(steps)` counts them.
     template <typename IsPlain, typename Count>
@@ -28,7 +28,7 @@ public:
             return;
         }
         if (!ahead_)
-            ahead_.emplace(s_, stan_);
+            ahead_.emplace(s_, in_);
         std::size_t length = MarchAhead::shortRow; // most marches are short
         while (takeRow(length, isPlain, count))
             length = MarchAhead::longRow;
@@ -66,7 +66,7 @@ private:
     }
 
     Stan_przypadku& s_;
-    const Stan& stan_;
+    const CaseInput& in_;
     std::optional<MarchAhead> ahead_;
 };
 

@@ -24,6 +24,8 @@ struct Stan_przypadku {
     // Preparation
     Double M1n = 0; ///< moments after sign normalisation, kNm
     Double M2n = 0;
+    Double M1k = 0; ///< working moments, kG cm: substituted where they vanish, raised by a retry
+    Double M2k = 0;
     ByAnchor<Double> Xn; ///< anchors after sign normalisation, cm
     ByAnchor<Double> Yn;
     Double Plyta_L = 0;
@@ -59,6 +61,7 @@ struct Stan_przypadku {
     int Liczba_ocen = 0;              ///< evaluations of Rownowaga_c in this attempt
 
     // Compressed zone and equilibrium at the last evaluation
+    ByAnchor<Double> Odl_kotwy; ///< distances of the anchors from the line, cm
     Integer Typ_strefy = 0;
     Double Pk_xT = 0; ///< x where the line meets y = b
     Double Pk_yR = 0; ///< y where the line meets x = a

@@ -2,27 +2,52 @@
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "desktop/forms/damaged_file_box.h"
+#include "desktop/forms/help_key.h"
 #include "desktop/program_folder.h"
 #include "input/forms/Ferna3.h"
 #include "plate/forms/Grub_bla.h"
 #include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
+#include "runtime/passing_folder.h"
 #include "runtime/qt_remarks.h"
 #include "selection/forms/Dobor_fer.h"
 #include "widgets/hourglass.h"
 #include "widgets/qt_dialogs.h"
+#include "windows/application.h"
 
 #include <QApplication>
-#include <QIcon>
 #include <QLockFile>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <cstdio>
 
 namespace {
 
 using namespace ferna;
+
+/// Tells that a program of another computer has the folder. True where the engineer knows better.
+bool wantsFolderOf(const FolderHolder& holder) {
+    QMessageBox box(QMessageBox::Warning, programTitle,
+                    QStringLiteral("Z folderu programu korzysta program na komputerze \"%1\" "
+                                   "(proces nr %2).")
+                        .arg(holder.host)
+                        .arg(holder.process));
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText(
+        QStringLiteral("Dwa programy w jednym folderze mieszają sobie rysunki i numery stron. "
+                       "Przejmij folder tylko wtedy, gdy tamten program już nie działa.\n%1")
+            .arg(holder.lock));
+    const QAbstractButton* const take =
+        box.addButton(QStringLiteral("&Przejmij folder"), QMessageBox::AcceptRole);
+    QPushButton* const end =
+        box.addButton(QStringLiteral("&Zakończ program"), QMessageBox::RejectRole);
+    box.setDefaultButton(end);
+    box.setEscapeButton(end);
+    box.exec();
+    return box.clickedButton() == take;
+}
 
 /// The forms of the program and how one leads to another.
 class Program {
@@ -41,17 +66,18 @@ private:
     void openResults() {
         auto session = std::make_unique<ResultsSession>(
             stan_, dialogs_, folder_, input_.firstNorm(),
-            [] { return QDateTime::currentDateTime(); }, [this] { render(); });
+            [] { return QDateTime::currentDateTime(); }, [this] { return render(); });
         results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
         input_.hide();
         results_->open();
     }
 
-    void render() {
+    RendererReport render() {
         const Hourglass hourglass;
         RendererWait wait(results_.get());
-        runRenderer(folder_, {},
-                    [&wait](std::chrono::milliseconds worked) { return wait.goOn(worked); });
+        return runRenderer(
+            folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
+            results_->winId());
     }
 
     FernaWyn::Links links() {
@@ -78,9 +104,10 @@ private:
     std::unique_ptr<FernaWyn> results_;
 };
 
-int runProgram() {
+int runProgram(QApplication& application) {
     const QString folder = enterProgramFolder();
-    const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder);
+    openHelpByF1(application, [folder](int context) { openHelp(folder, context); });
+    const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder, wantsFolderOf);
     Stan stan;
     if (!restoreLastTask(stan, folder, QStringLiteral(":/dane"), wantsDeliveredFile))
         return 1;
@@ -101,17 +128,16 @@ int main(int argc, char** argv) {
     if (const auto answer = answerCall(arguments))
         return leave(*answer);
     hushMissingRuntimeFolder();
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
         return leave(*refusal);
     QApplication::setApplicationName(QStringLiteral("ferna"));
     QApplication::setApplicationVersion(QStringLiteral(FERNA_VERSION));
-    // The desktop entry and the icon of the windows go by this name.
-    QApplication::setDesktopFileName(QStringLiteral("ferna"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/szkice/ferna.svg")));
+    dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
+    const TidyEnd tidyEnd;
     try {
-        return runProgram();
+        return runProgram(application);
     } catch (const ferna::RunTimeError& failure) {
         QMessageBox::critical(
             nullptr, ferna::programTitle,

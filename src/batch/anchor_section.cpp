@@ -5,8 +5,8 @@
 namespace ferna::batch {
 
 AnchorTask readAnchorTask(const Json& value, const std::string& path) {
-    const TaskObject object(value, path, {"rodzaj", "g"});
-    object.require("g");
+    ObjectReader object(value, path, {"rodzaj", "g"});
+    object.required("g");
     return {object.oneOf("rodzaj", {"F", "P"}) == "P" ? 1 : 0,
             object.wholeFieldText("g").value_or(QString())};
 }

@@ -22,7 +22,7 @@ const ValueKeys distributedValues{
 const ValueKeys momentValues{{"M", false, 0}};
 
 /// A load with exactly the values of its direction and kind.
-TaskObject loadObject(const Json& value, const std::string& path, int direction, int kind) {
+ObjectReader loadObject(const Json& value, const std::string& path, int direction, int kind) {
     if (direction == 0)
         return {value, path, {"kierunek", "rodzaj", "P", "ex", "ey"}};
     if (kind == 0)
@@ -39,7 +39,7 @@ const ValueKeys& valuesOf(int direction, int kind) {
 }
 
 ColumnTask::Load readLoad(const Json& value, const std::string& path) {
-    const TaskObject any(
+    ObjectReader any(
         value, path,
         {"kierunek", "rodzaj", "P", "ex", "ey", "H", "h", "p1", "p2", "h1", "h2", "M"});
     const std::string direction = any.oneOf("kierunek", {"pionowe", "ZX", "ZY"});
@@ -50,7 +50,7 @@ ColumnTask::Load readLoad(const Json& value, const std::string& path) {
                                  ? any.oneOf("rodzaj", {"sila"})
                                  : any.oneOf("rodzaj", {"sila", "ciagle", "moment"});
     load.optTypsily = kind == "sila" ? 0 : kind == "ciagle" ? 1 : 2;
-    const TaskObject object = loadObject(value, path, load.optTypObciaz, load.optTypsily);
+    ObjectReader object = loadObject(value, path, load.optTypObciaz, load.optTypsily);
     for (const ValueKey& key : valuesOf(load.optTypObciaz, load.optTypsily))
         (key.inText2 ? load.Text2 : load.Text1)[key.index] = object.fieldText(key.key);
     return load;
@@ -73,13 +73,8 @@ public:
     explicit FieldTable(InputFields& fields) : fields_(fields) {}
 
     void setCount(const QString& /*text*/) override {}
-    void setRow(int r, const std::array<QString, 5>& texts) override {
-        const auto row = static_cast<std::size_t>(r);
-        fields_.Text6.at(row) = texts[0];
-        fields_.Text7.at(row) = texts[1];
-        fields_.Text8.at(row) = texts[2];
-        fields_.Text5.at(row) = texts[3];
-        fields_.Text10.at(row) = texts[4];
+    void setRow(int r, const LoadRow<QString>& texts) override {
+        fields_.loads.at(static_cast<std::size_t>(r)) = texts;
     }
     void showRow(int /*r*/) override {}
 
@@ -105,6 +100,7 @@ ColumnTask readColumnTask(const Json& value, const std::string& path) {
     if (!value.is_array())
         throw TaskError(path, "expected an array of loads");
     ColumnTask task;
+    task.path = path;
     for (std::size_t i = 0; i < value.size(); ++i)
         task.loads.push_back(readLoad(value[i], path + '[' + std::to_string(i) + ']'));
     return task;
@@ -115,12 +111,16 @@ SectionResult runColumnTask(const ColumnTask& task, Stan& stan, InputFields& fie
     StaticsForm form = openStatics(loads);
     FieldTable table(fields);
     SectionResult result;
+    std::string at; // what is being done
     try {
-        for (const ColumnTask::Load& load : task.loads)
-            declare(load, loads, form);
-        saveTotals(stan, form.Text1, table);
+        for (std::size_t i = 0; i < task.loads.size(); ++i) {
+            at = task.path + '[' + std::to_string(i) + ']';
+            declare(task.loads[i], loads, form);
+        }
+        at = task.path;
+        saveTotals(stan, form.totals(), table);
     } catch (const RunTimeError& failure) {
-        result.Blad = errorJson(failure);
+        result.Blad = errorJson(failure.of(at));
     }
     result.value = resultJson(form);
     return result;

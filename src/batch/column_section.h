@@ -18,6 +18,7 @@ struct ColumnTask {
         std::array<std::optional<QString>, 2> Text1;
         std::array<std::optional<QString>, 2> Text2;
     };
+    std::string path; ///< key of the section
     std::vector<Load> loads;
 };
 

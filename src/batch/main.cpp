@@ -1,20 +1,32 @@
 #include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
+#include "batch/output_files.h"
+#include "batch/remarks.h"
 #include "batch/report_files.h"
+#include "batch/task_input.h"
 #include "batch/task_run.h"
+#include "design/language.h"
 #include "desktop/program_folder.h"
 #include "runtime/format.h"
+#include "runtime/passing_folder.h"
 #include "runtime/qt_remarks.h"
 #include "runtime/text_file.h"
 
 #include <QGuiApplication>
-#include <QTemporaryDir>
 #include <QTimeZone>
 
+#include <unistd.h>
+
 #include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
 #include <iostream>
 #include <memory>
+#include <new>
+#include <system_error>
 
 namespace {
 
@@ -44,6 +56,12 @@ void remark(const QString& what) {
         std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
 }
 
+/// What is doubtful about a task, a line each.
+void tellNotes(const ComputedTask& done) {
+    for (const notes::Note& note : notes::notesOf(done.record))
+        remark(QStringLiteral("uwaga: ") + note.text);
+}
+
 std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
@@ -54,8 +72,20 @@ void print(const std::string& text) {
         throw RunTimeError(error::DeviceIO, QStringLiteral("standard output"));
 }
 
+/// Everything that a call for one task reads.
+QStringList inputsOf(const Options& options, const QString& dataFolder) {
+    QStringList inputs{options.task, options.catalogue};
+    for (int language = 0; language < Languages; ++language)
+        inputs += dataFolder + u'/' + catalogueFile(CInt(language));
+    return inputs;
+}
+
 int runOne(const Options& options, const RunOptions& runOptions) {
-    const QByteArray bytes = readFileWhole(options.task);
+    OutputFiles outputs(inputsOf(options, runOptions.dataFolder));
+    for (const QString& file : options.reports + QStringList(options.result))
+        if (!file.isEmpty())
+            outputs.claim(file);
+    const QByteArray bytes = readTaskText(options.task);
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     try {
         const ComputedTask done = run(readTask(parsed(text)), runOptions);
@@ -64,12 +94,15 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             print(result.toStdString());
         else
             writeFileWhole(options.result, result);
+        for (const QString& what : remarksOf(done))
+            remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady && !options.reports.isEmpty())
             for (const QString& what : nameRemarks(done.task))
                 remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady)
             for (const QString& file : options.reports)
-                remark(writeReport(done, file, runOptions.pictures));
+                remark(writeReport(done, file, runOptions.pictures, outputs));
+        tellNotes(done);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "
@@ -82,54 +115,89 @@ std::string oneLine(const Json& result) {
     return result.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-/// One task of a stream; a bad line becomes that line's result.
-std::string resultLine(const std::string& text, long number, const RunOptions& runOptions) {
-    const auto line = [number](const std::string& what) {
-        return "line " + std::to_string(number) + ": " + what;
+/// One task of a stream; a bad line becomes that line's result. `all` is no longer true where the
+/// task was refused or not solved.
+std::string resultLine(const std::string& text, long number, const RunOptions& runOptions,
+                       std::atomic<bool>& all) {
+    const auto refused = [&](const std::string& what) {
+        all = false;
+        return oneLine(resultOfRefused("line " + std::to_string(number) + ": " + what));
     };
+    if (text.size() > longestTask)
+        return refused("expected at most " + std::to_string(longestTask) + " bytes");
     try {
-        return oneLine(resultOf(run(readTask(parsed(text)), runOptions)));
+        const ComputedTask done = run(readTask(parsed(text)), runOptions);
+        if (!solved(done))
+            all = false;
+        return oneLine(resultOf(done));
     } catch (const TaskError& failure) {
-        return oneLine(resultOfRefused(line(failure.what())));
+        return refused(failure.what());
     } catch (const RunTimeError& failure) {
-        return oneLine(resultOfRefused(line(textOf(failure))));
+        return refused(textOf(failure));
     }
 }
 
 int runLines(const Options& options, const RunOptions& runOptions) {
-    std::ios::sync_with_stdio(false);
-    runOrdered(
-        options.threads,
-        [](std::string& item) { return static_cast<bool>(std::getline(std::cin, item)); },
-        [&](const std::string& item, long number) { return resultLine(item, number, runOptions); },
-        [](const std::string& result) { print(result + '\n'); });
-    return Computed;
+    LineInput input(STDIN_FILENO);
+    std::atomic<bool> all = true;
+    runOrdered(options.threads,
+               {[&](std::string& item) { return input.next(item); },
+                [&](const std::string& item, long number) {
+                    return resultLine(item, number, runOptions, all);
+                },
+                [](const std::string& result) { print(result + '\n'); }, [&] { input.cancel(); }});
+    return all ? Computed : NotSolved;
 }
 
-/// The folder of the pictures, where a report shows some.
-std::unique_ptr<QTemporaryDir> pictureFolder(const Options& options, const QString& dataFolder) {
-    if (std::none_of(options.reports.begin(), options.reports.end(), needsPictures))
-        return nullptr;
-    auto folder = std::make_unique<QTemporaryDir>();
-    if (!folder->isValid())
-        throw RunTimeError(error::PathAccess, folder->errorString());
-    deliverPictures(dataFolder, folder->path());
-    return folder;
+bool anyNeedsPictures(const Options& options) {
+    return std::any_of(options.reports.begin(), options.reports.end(), needsPictures);
 }
+
+/// The folder of the pictures, where a report shows some, and its tidy end.
+class Pictures {
+public:
+    explicit Pictures(const QString& dataFolder) { deliverPictures(dataFolder, path()); }
+    QString path() const { return folder_.path(); }
+
+private:
+    TidyEnd tidyEnd_;
+    PassingFolder folder_{QStringLiteral("wsad")};
+};
 
 int runProgram(const Options& options) {
     if (options.decimalSign)
         setDecimalSign(*options.decimalSign);
     const QString dataFolder = deliveredDataFolder();
-    const std::unique_ptr<QTemporaryDir> pictures = pictureFolder(options, dataFolder);
+    const std::unique_ptr<Pictures> pictures =
+        anyNeedsPictures(options) ? std::make_unique<Pictures>(dataFolder) : nullptr;
     const RunOptions runOptions{options.catalogue, dataFolder, reportTime(),
                                 pictures ? pictures->path() : QString()};
     return options.lines ? runLines(options, runOptions) : runOne(options, runOptions);
 }
 
+constexpr const char* outOfMemory = "out of memory";
+
+/// For an end in the middle of something that cannot be left otherwise, as where Qt finds no
+/// memory: also that is a line and an exit code.
+[[noreturn]] void leaveAtOnce() {
+    const char* what = outOfMemory;
+    try {
+        if (const std::exception_ptr failure = std::current_exception())
+            std::rethrow_exception(failure);
+        std::abort();
+    } catch (const std::bad_alloc&) {
+    } catch (const std::exception& failure) {
+        what = failure.what();
+    } catch (...) {
+        what = "unknown failure";
+    }
+    std::fprintf(stderr, "ferna-wsad: %s\n", what);
+    std::_Exit(BadCall);
+}
+
 /// Qt without a screen; its fonts are started only where pictures are drawn.
 std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options& options) {
-    if (std::none_of(options.reports.begin(), options.reports.end(), needsPictures))
+    if (!anyNeedsPictures(options))
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     hushMissingRuntimeFolder();
@@ -139,6 +207,7 @@ std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options&
 } // namespace
 
 int main(int argc, char** argv) {
+    std::set_terminate(leaveAtOnce);
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments += QString::fromLocal8Bit(argv[i]);
@@ -153,5 +222,9 @@ int main(int argc, char** argv) {
         return runProgram(options);
     } catch (const RunTimeError& failure) {
         return refuse(textOf(failure));
+    } catch (const std::bad_alloc&) {
+        return refuse(outOfMemory);
+    } catch (const std::system_error& failure) {
+        return refuse(std::string("the system gives no more: ") + failure.what());
     }
 }

@@ -1,5 +1,10 @@
 #include "batch/object_reader.h"
 
+#include "runtime/format.h"
+
+#include <cmath>
+#include <limits>
+
 namespace ferna::batch {
 
 namespace {
@@ -19,6 +24,14 @@ std::string range(Integer least, Integer most) {
 
 ObjectReader::ObjectReader(const Json& value, std::string path)
     : value_(objectOf(value, path)), path_(std::move(path)) {}
+
+ObjectReader::ObjectReader(const Json& value, std::string path,
+                           std::initializer_list<const char*> keys)
+    : ObjectReader(value, std::move(path)) {
+    for (const char* key : keys)
+        known_.emplace(key);
+    finish();
+}
 
 std::string ObjectReader::pathOf(const std::string& key) const {
     return path_.empty() ? key : path_ + '.' + key;
@@ -56,6 +69,42 @@ double ObjectReader::requiredNumber(const char* key) {
 QString ObjectReader::text(const char* key, const QString& preset) {
     known_.emplace(key);
     return has(key) ? textOf(at(key), pathOf(key)) : preset;
+}
+
+std::string ObjectReader::oneOf(const char* key, std::initializer_list<const char*> choices) {
+    const Json& value = required(key);
+    std::string expected;
+    for (const char* choice : choices) {
+        if (value == choice)
+            return choice;
+        expected += (expected.empty() ? "\"" : " or \"") + std::string(choice) + '"';
+    }
+    throw TaskError(pathOf(key), "expected " + expected);
+}
+
+std::optional<double> ObjectReader::optionalNumber(const char* key) {
+    return has(key) ? std::optional(numberOf(at(key), pathOf(key))) : std::nullopt;
+}
+
+std::optional<QString> ObjectReader::fieldText(const char* key) {
+    const std::optional<double> value = optionalNumber(key);
+    return value ? std::optional(general(*value)) : std::nullopt;
+}
+
+std::optional<QString> ObjectReader::wholeFieldText(const char* key) {
+    const std::optional<double> value = optionalNumber(key);
+    if (!value)
+        return std::nullopt;
+    const double whole = std::nearbyint(*value);
+    if (whole < std::numeric_limits<Integer>::min() || whole > std::numeric_limits<Integer>::max())
+        throw TaskError(pathOf(key), "expected a whole number of 16 bits");
+    return general(*value);
+}
+
+std::optional<int> ObjectReader::listNumber(const char* key, int first, int last) {
+    if (!has(key))
+        return std::nullopt;
+    return integerOf(at(key), pathOf(key), CInt(first), CInt(last));
 }
 
 void ObjectReader::finish() const {

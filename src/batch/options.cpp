@@ -1,6 +1,7 @@
 #include "batch/options.h"
 
 #include "batch/report_files.h"
+#include "batch/schemas.h"
 
 #include <QCommandLineParser>
 
@@ -18,14 +19,22 @@ QString helpOf(const QCommandLineParser& parser) {
                                      QStringLiteral("ferna-wsad"));
 }
 
+/// The schema of that name, or that there is none.
+Leave schemaLeave(const QString& name) {
+    if (const std::optional<std::string> schema = schemaOf(name))
+        return {*schema, 0};
+    return badCall(QStringLiteral("--schemat: expected zadanie or wynik and not \"%1\"").arg(name));
+}
+
 } // namespace
 
 std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Computes column bases without windows: one task file, or a stream of "
-                       "tasks, one a line.\nExit codes: 0 computed; 1 refused or not solved; 2 bad "
-                       "call or unreadable task."));
+                       "tasks, one a line.\nExit codes: 0 computed; 1 refused or not solved, of a "
+                       "stream one task at least; 2 bad call, unreadable task or input.\n"
+                       "A task has at most 1,000,000 bytes, in a file as on a line of a stream."));
     const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
                                   QStringLiteral("Show this help."));
     const QCommandLineOption version({QStringLiteral("v"), QStringLiteral("version")},
@@ -38,11 +47,14 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                                      QStringLiteral("Decimal sign of the report, a comma or a "
                                                     "point; the locale's without it."),
                                      QStringLiteral(",|."));
-    const QCommandLineOption report(QStringLiteral("raport"),
-                                    QStringLiteral("Write the report, its format by the file's "
-                                                   "ending (%1); may be given several times.")
-                                        .arg(reportEndings().join(QStringLiteral(", "))),
-                                    QStringLiteral("FILE"));
+    const QCommandLineOption report(
+        QStringLiteral("raport"),
+        QStringLiteral("Write the report, its format by the file's ending (%1); may be given "
+                       "several times. The pages of an EMF or SVG report of several go into "
+                       "F-strona-1-z-3.svg and so on. No file is both read and written by a "
+                       "call.")
+            .arg(reportEndings().join(QStringLiteral(", "))),
+        QStringLiteral("FILE"));
     const QCommandLineOption result(
         QStringLiteral("wynik"), QStringLiteral("Write the result here, not to standard output."),
         QStringLiteral("FILE.json"));
@@ -52,8 +64,13 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     const QCommandLineOption threads(QStringLiteral("watki"),
                                      QStringLiteral("Threads of a stream, 1 to 256."),
                                      QStringLiteral("N"), QStringLiteral("1"));
-    parser.addOptions({help, version, catalogue, decimal, report, result, lines, threads});
-    parser.addPositionalArgument(QStringLiteral("TASK.json"), QStringLiteral("The task."));
+    const QCommandLineOption schema(
+        QStringLiteral("schemat"),
+        QStringLiteral("Print the JSON schema of a task (zadanie) or of a result (wynik)."),
+        QStringLiteral("zadanie|wynik"));
+    parser.addOptions({help, version, catalogue, decimal, report, result, lines, threads, schema});
+    parser.addPositionalArgument(QStringLiteral("TASK.json"),
+                                 QStringLiteral("The task; - is standard input."));
 
     if (!parser.parse(QStringList{QStringLiteral("ferna-wsad")} + arguments))
         return badCall(parser.errorText());
@@ -61,6 +78,8 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         return Leave{helpOf(parser).toStdString(), 0};
     if (parser.isSet(version))
         return Leave{"ferna-wsad " FERNA_VERSION "\n", 0};
+    if (parser.isSet(schema))
+        return schemaLeave(parser.value(schema));
 
     Options options;
     options.catalogue = parser.value(catalogue);
@@ -96,7 +115,7 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         return badCall(QStringLiteral("--watki goes with --linie"));
     if (tasks.size() != 1)
         return badCall(QStringLiteral("expected one task file (see --help)"));
-    options.task = tasks.front();
+    options.task = tasks.front() == u"-" ? QStringLiteral("/dev/stdin") : tasks.front();
     return options;
 }
 

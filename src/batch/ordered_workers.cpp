@@ -11,73 +11,101 @@ namespace ferna::batch {
 
 namespace {
 
-/// What the threads share. Items are numbered from 1 in the order of the stream.
-struct Shared {
-    std::mutex mutex;
-    std::condition_variable delivered;
-    std::map<long, std::string> finished; // results that wait for an earlier one
-    long taken = 0;
-    long nextToDeliver = 1;
-    bool ended = false;
-    std::exception_ptr failure;
-};
-
 constexpr long itemsUnderWayPerThread = 32;
+
+/// What the threads share. Items are numbered from 1 in the order of the stream.
+class Crew {
+public:
+    Crew(int threads, const Stream& stream)
+        : stream_(stream), window_(itemsUnderWayPerThread * threads) {}
+
+    /// What each thread does: takes items and works on them until there are no more.
+    void work() {
+        try {
+            std::string item;
+            for (long number = take(item); number != 0; number = take(item))
+                hand(number, stream_.work(std::move(item), number));
+        } catch (...) {
+            fail(std::current_exception());
+        }
+    }
+
+    /// Ends the stream; a thread that waits for input comes back.
+    void fail(std::exception_ptr failure) {
+        {
+            const std::lock_guard lock(mutex_);
+            if (!failure_)
+                failure_ = std::move(failure);
+            ended_ = true;
+        }
+        delivered_.notify_all();
+        if (stream_.cancel)
+            stream_.cancel();
+    }
+
+    void rethrow() const {
+        if (failure_)
+            std::rethrow_exception(failure_);
+    }
+
+private:
+    /// Waits for the next item, but never with what the others need for their results. 0 at the
+    /// end.
+    long take(std::string& item) {
+        const std::lock_guard turn(input_);
+        {
+            std::unique_lock lock(mutex_);
+            delivered_.wait(lock,
+                            [this] { return ended_ || taken_ - nextToDeliver_ + 1 < window_; });
+            if (ended_)
+                return 0;
+        }
+        const bool more = stream_.next(item);
+        const std::lock_guard lock(mutex_);
+        ended_ = ended_ || !more;
+        delivered_.notify_all();
+        return ended_ ? 0 : ++taken_;
+    }
+
+    void hand(long number, std::string result) {
+        const std::lock_guard lock(mutex_);
+        finished_.emplace(number, std::move(result));
+        while (!finished_.empty() && finished_.begin()->first == nextToDeliver_) {
+            if (!failure_)
+                stream_.deliver(finished_.begin()->second);
+            finished_.erase(finished_.begin());
+            ++nextToDeliver_;
+        }
+        delivered_.notify_all();
+    }
+
+    const Stream& stream_;
+    const long window_;
+    std::mutex input_; // held by the thread whose turn it is to read, before the other one
+    std::mutex mutex_; // of everything below
+    std::condition_variable delivered_;
+    std::map<long, std::string> finished_; // results that wait for an earlier one
+    long taken_ = 0;
+    long nextToDeliver_ = 1;
+    bool ended_ = false;
+    std::exception_ptr failure_;
+};
 
 } // namespace
 
-void runOrdered(int threads, const std::function<bool(std::string& item)>& next,
-                const std::function<std::string(std::string item, long number)>& work,
-                const std::function<void(const std::string& result)>& deliver) {
-    Shared shared;
-    const long window = itemsUnderWayPerThread * threads;
-
-    const auto worker = [&] {
-        std::unique_lock lock(shared.mutex);
-        for (;;) {
-            shared.delivered.wait(lock, [&] {
-                return shared.ended || shared.taken - shared.nextToDeliver + 1 < window;
-            });
-            std::string item;
-            if (shared.ended || !next(item)) {
-                shared.ended = true;
-                shared.delivered.notify_all();
-                return;
-            }
-            const long number = ++shared.taken;
-            lock.unlock();
-            std::string result = work(std::move(item), number);
-            lock.lock();
-            shared.finished.emplace(number, std::move(result));
-            while (!shared.finished.empty()
-                   && shared.finished.begin()->first == shared.nextToDeliver) {
-                deliver(shared.finished.begin()->second);
-                shared.finished.erase(shared.finished.begin());
-                ++shared.nextToDeliver;
-            }
-            shared.delivered.notify_all();
-        }
-    };
-    const auto guarded = [&] {
-        try {
-            worker();
-        } catch (...) {
-            const std::lock_guard lock(shared.mutex);
-            if (!shared.failure)
-                shared.failure = std::current_exception();
-            shared.ended = true;
-            shared.delivered.notify_all();
-        }
-    };
-
+void runOrdered(int threads, const Stream& stream) {
+    Crew crew(threads, stream);
     {
         std::vector<std::jthread> team;
-        for (int i = 1; i < threads; ++i)
-            team.emplace_back(guarded);
-        guarded();
+        try {
+            for (int i = 1; i < threads; ++i)
+                team.emplace_back([&crew] { crew.work(); });
+        } catch (...) { // no more threads to be had
+            crew.fail(std::current_exception());
+        }
+        crew.work();
     }
-    if (shared.failure)
-        std::rethrow_exception(shared.failure);
+    crew.rethrow();
 }
 
 } // namespace ferna::batch

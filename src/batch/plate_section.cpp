@@ -47,7 +47,7 @@ const std::array<FieldKeys, PlateChecks> fieldKeys{
               {"S", false, Text3<7>}},
 };
 
-TaskObject checkObject(const Json& value, const std::string& path, int check) {
+ObjectReader checkObject(const Json& value, const std::string& path, int check) {
     switch (check) {
     case 1:
         return {value, path, {"bs", "ca", "S"}};
@@ -64,7 +64,7 @@ TaskObject checkObject(const Json& value, const std::string& path, int check) {
 }
 
 PlateTask::Check readCheck(const Json& value, const std::string& path, int check) {
-    const TaskObject object = checkObject(value, path, check);
+    ObjectReader object = checkObject(value, path, check);
     struct Typed {
         QString& (*field)(PlateFields&);
         QString text;
@@ -122,11 +122,12 @@ Json resultJson(const Stan& stan, const PlateForm& form) {
 } // namespace
 
 PlateTask readPlateTask(const Json& value, const std::string& path) {
-    const TaskObject object(
+    ObjectReader object(
         value, path,
         {"Nr_stali_blachy", "Blacha_nazwa", "Blacha_fd", "Blacha_t_max", "Grubosc", "Sprawdzenia"});
     const QString zero = QStringLiteral("0");
     PlateTask task;
+    task.path = path;
     task.cmbStalb = object.listNumber("Nr_stali_blachy", 1, userPlateSteel).value_or(0) - 1;
     task.steel = {object.text("Blacha_nazwa"),
                   {object.fieldText("Blacha_fd").value_or(zero),
@@ -135,8 +136,8 @@ PlateTask readPlateTask(const Json& value, const std::string& path) {
         task.Grubosc = object.fieldText("Grubosc");
     if (!object.has("Sprawdzenia"))
         return task;
-    const TaskObject checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
-                            {"1", "2", "3", "4", "5", "6", "7", "8"});
+    ObjectReader checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
+                        {"1", "2", "3", "4", "5", "6", "7", "8"});
     for (const auto& item : object.at("Sprawdzenia").items())
         task.checks.push_back(
             readCheck(item.value(), checks.pathOf(item.key()), std::stoi(item.key())));
@@ -146,21 +147,31 @@ PlateTask readPlateTask(const Json& value, const std::string& path) {
 PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dialogs) {
     PlateSectionResult result;
     PlateForm form;
+    std::string at = task.path; // what is being done
     TypedPlateSteel host(task.steel, dialogs);
     const PlateWork work{stan, form, dialogs, host};
+    std::array<bool, PlateChecks> asked{}; // and not run yet
+    for (const PlateTask::Check& check : task.checks)
+        asked.at(static_cast<std::size_t>(check.check - 1)) = true;
     try {
         form = openPlateForm(stan);
         form.fields.cmbStalb = task.cmbStalb;
         leaveGradeList(stan, form, dialogs, host);
         for (const PlateTask::Check& check : task.checks) {
+            at = task.path + ".Sprawdzenia." + std::to_string(check.check);
             check.type(form.fields);
+            asked.at(static_cast<std::size_t>(check.check - 1)) = false;
             computePlateCheck(work, check.check);
         }
+        at = task.path + ".Grubosc";
         form.fields.Text4 = task.Grubosc.value_or(form.fields.Text4);
         result.section = writePlateSection(stan, form, dialogs);
     } catch (const RunTimeError& failure) {
-        result.Blad = errorJson(failure);
+        result.Blad = errorJson(failure.of(at));
     }
+    for (std::size_t i = 0; i < asked.size(); ++i)
+        form.refused[i] = form.refused[i] || asked[i];
+    result.facts = notes::plateFacts(stan, form, result.section.has_value());
     result.value = resultJson(stan, form);
     return result;
 }

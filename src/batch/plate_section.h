@@ -2,6 +2,7 @@
 
 #include "batch/section_json.h"
 #include "design/user_steels.h"
+#include "notes/record.h"
 #include "plate/plate_form.h"
 #include "plate/plate_report_lines.h"
 
@@ -16,6 +17,7 @@ struct PlateTask {
         int check; ///< 1..8
         std::function<void(PlateFields&)> type;
     };
+    std::string path; ///< key of the section
     int cmbStalb = -1;
     PlateSteelFields steel; ///< typed into the dialog of the user's plate steel
     std::vector<Check> checks;
@@ -24,6 +26,7 @@ struct PlateTask {
 
 struct PlateSectionResult : SectionResult {
     std::optional<PlateSection> section; ///< empty where nothing entered the report
+    notes::PlateFacts facts;             ///< what the notes go by
 };
 
 /// Throws TaskError.

@@ -7,6 +7,7 @@
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"
 #include "report/wyd_writer.h"
+#include "runtime/run_time_error.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -17,54 +18,75 @@ namespace ferna::batch {
 
 namespace {
 
-QString writeText(const ComputedTask& done, const QString& file, const QString& /*pictures*/) {
-    textReport(done.task.stan, done.raport).commit(file);
+/// Where a report goes.
+struct Destination {
+    QString file;
+    QString pictures; ///< the folder where the run has left them
+    OutputFiles& outputs;
+};
+
+ReportModel modelOf(const ComputedTask& done) {
+    return reportModel(done.task.stan, done.raport);
+}
+
+QString writeText(const ComputedTask& done, const Destination& to) {
+    textReport(modelOf(done)).commit(to.file);
     return {};
 }
 
 /// The print commands; their pictures go into the same folder, under names of their own.
-QString writeCommands(const ComputedTask& done, const QString& file, const QString& pictures) {
-    const QString folder = QFileInfo(file).absolutePath();
-    Buduj_wyd(done.task.stan, done.raport, pictures); // saves the anchor's sketch among the others
-    WydWriter writer(done.task.stan, done.raport, folder, picturePrefix(file));
+QString writeCommands(const ComputedTask& done, const Destination& to) {
+    const QString folder = QFileInfo(to.file).absolutePath();
+    Buduj_wyd(modelOf(done), to.pictures); // saves the anchor's sketch too
+    WydWriter writer(modelOf(done), folder, picturePrefix(to.file));
     writer.body();
-    copyPictures(writer.pictures(), pictures, folder, picturePrefix(file));
-    writer.file().commit(file);
+    copyPictures(writer.pictures(), to.pictures, folder, picturePrefix(to.file));
+    writer.file().commit(to.file);
     return {};
 }
 
-/// Pages by the renderer, which is asked for them by `option`.
+/// Pages by the renderer, which is asked for them by `option`. It makes them in a folder of its
+/// own, so that every file of the call is written here.
 template <const char* option>
-QString writePages(const ComputedTask& done, const QString& file, const QString& pictures) {
-    Buduj_wyd(done.task.stan, done.raport, pictures);
-    writeJob(pictures, RenderMode::ScreenPicture, done.task.stan.opcje.Nr_strony);
-    runRenderer(pictures, {QString::fromLatin1(option), QFileInfo(file).absoluteFilePath()});
+QString writePages(const ComputedTask& done, const Destination& to) {
+    const QString stem = QStringLiteral("raport");
+    const QString made = to.pictures + QStringLiteral("/strony");
+    QDir(made).removeRecursively();
+    QDir().mkpath(made);
+    Buduj_wyd(modelOf(done), to.pictures);
+    writeJob(to.pictures, RenderMode::ScreenPicture, done.task.stan.opcje.Nr_strony);
+    runRenderer(to.pictures, {QString::fromLatin1(option),
+                              made + u'/' + stem + to.file.mid(to.file.lastIndexOf(u'.'))});
+    const QStringList pages = QDir(made).entryList(QDir::Files);
+    if (pages.size() > 1)
+        for (const QString& page : pages)
+            to.outputs.claim(pageName(to.file, stem, page));
+    for (const QString& page : pages)
+        writeFileWhole(pageName(to.file, stem, page), readFileWhole(made + u'/' + page));
     return {};
 }
 
 /// The RTF report and the pictures that its text links to.
-QString writeRtf(const ComputedTask& done, const QString& file, const QString& pictures) {
-    Stan stan = done.task.stan; // the writer counts pages on
-    Raport raport = done.raport;
-    RtfWriter writer(stan, raport, done.now);
-    writer.document();
-    if (stan.raport.Liczba_wierszy_kotwy >= 1)
-        saveAnchorSketch(pictures, stan.raport.Typ_szkicu_kotwy);
-    const RtfPlace place = placeOfRtfPictures(file, writer.pictures(), pictures);
+QString writeRtf(const ComputedTask& done, const Destination& to) {
+    const ReportModel report = modelOf(done);
+    RtfWriter writer = rtfReport(report, done.task.stan.opcje.Tryb_RTF, done.now);
+    if (report.anchor)
+        saveAnchorSketch(to.pictures, report.anchor->sketch);
+    const RtfPlace place = placeOfRtfPictures(to.file, writer.pictures(), to.pictures);
     if (place.isOwn)
         QDir().mkdir(place.pictures);
-    copyPictures(writer.pictures(), pictures, place.pictures);
-    writer.file().commit(file);
+    copyPictures(writer.pictures(), to.pictures, place.pictures);
+    writer.file().commit(to.file);
     if (!place.isOwn)
         return {};
     writer.file().commit(place.copyOfReport);
     return QStringLiteral("%1: the pictures beside it belong to another report; with its own "
                           "pictures the report is %2")
-        .arg(QDir::toNativeSeparators(file), QDir::toNativeSeparators(place.copyOfReport));
+        .arg(QDir::toNativeSeparators(to.file), QDir::toNativeSeparators(place.copyOfReport));
 }
 
-QString writeWordDocument(const ComputedTask& done, const QString& file, const QString& pictures) {
-    writeDocument(done.task.stan, done.raport, pictures, file);
+QString writeWordDocument(const ComputedTask& done, const Destination& to) {
+    writeDocument(modelOf(done), to.pictures, to.file);
     return {};
 }
 
@@ -75,7 +97,7 @@ constexpr char svg[] = "--svg";
 struct ReportFormat {
     const char* ending;
     bool pictures;
-    QString (*write)(const ComputedTask& done, const QString& file, const QString& pictures);
+    QString (*write)(const ComputedTask& done, const Destination& to);
 };
 
 // One row a format.
@@ -116,8 +138,9 @@ void deliverPictures(const QString& dataFolder, const QString& folder) {
         writeFileWhole(folder + u'/' + picture, readFileWhole(dataFolder + u'/' + picture));
 }
 
-QString writeReport(const ComputedTask& done, const QString& file, const QString& pictures) {
-    return formatOf(file)->write(done, file, pictures);
+QString writeReport(const ComputedTask& done, const QString& file, const QString& pictures,
+                    OutputFiles& outputs) {
+    return formatOf(file)->write(done, {file, pictures, outputs});
 }
 
 } // namespace ferna::batch

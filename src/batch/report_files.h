@@ -1,5 +1,6 @@
 #pragma once
 
+#include "batch/output_files.h"
 #include "batch/task_run.h"
 
 #include <QStringList>
@@ -20,8 +21,12 @@ bool needsPictures(const QString& file);
 void deliverPictures(const QString& dataFolder, const QString& folder);
 
 /// Writes the report of a computed task; its ending chooses the format. `pictures` is the folder
-/// where the run has left the pictures. Returns what is to be told of it (English), mostly nothing.
-/// Errors of `writeFileWhole` and of the renderer.
-QString writeReport(const ComputedTask& done, const QString& file, const QString& pictures);
+/// where the run has left the pictures. A report of one picture file a page takes the file's name
+/// where it has one page; those of several stand under names of their own, "F-strona-1-z-3.svg" for
+/// "F.svg", and each is claimed in `outputs` before the first is written. Returns what is to be
+/// told of it (English), mostly nothing. Errors of `writeFileWhole`, `OutputFiles` and the
+/// renderer.
+QString writeReport(const ComputedTask& done, const QString& file, const QString& pictures,
+                    OutputFiles& outputs);
 
 } // namespace ferna::batch

@@ -1,70 +1,17 @@
 #include "batch/section_json.h"
 
-#include "runtime/format.h"
-
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 namespace ferna::batch {
 
-Json errorJson(const RunTimeError& failure) {
-    return {{"numer", failure.number()},
-            {"tekst", errorTextEnglish(failure.number()).toStdString()}};
-}
-
-TaskObject::TaskObject(const Json& value, std::string path, std::initializer_list<const char*> keys)
-    : value_(objectOf(value, path)), path_(std::move(path)) {
-    for (const auto& item : value.items()) {
-        const auto isKey = [&](const char* key) { return item.key() == key; };
-        if (std::none_of(keys.begin(), keys.end(), isKey))
-            throw TaskError(pathOf(item.key()), "unknown key");
-    }
-}
-
-void TaskObject::require(const char* key) const {
-    if (!has(key))
-        throw TaskError(pathOf(key), "this key is required and is missing");
-}
-
-std::optional<double> TaskObject::number(const char* key) const {
-    return has(key) ? std::optional(numberOf(at(key), pathOf(key))) : std::nullopt;
-}
-
-std::optional<QString> TaskObject::fieldText(const char* key) const {
-    const std::optional<double> value = number(key);
-    return value ? std::optional(general(*value)) : std::nullopt;
-}
-
-std::optional<QString> TaskObject::wholeFieldText(const char* key) const {
-    const std::optional<double> value = number(key);
-    if (!value)
-        return std::nullopt;
-    const double whole = std::nearbyint(*value);
-    if (whole < std::numeric_limits<Integer>::min() || whole > std::numeric_limits<Integer>::max())
-        throw TaskError(pathOf(key), "expected a whole number of 16 bits");
-    return general(*value);
-}
-
-std::optional<int> TaskObject::listNumber(const char* key, int first, int last) const {
-    if (!has(key))
-        return std::nullopt;
-    return integerOf(at(key), pathOf(key), CInt(first), CInt(last));
-}
-
-QString TaskObject::text(const char* key) const {
-    return has(key) ? textOf(at(key), pathOf(key)) : QString();
-}
-
-std::string TaskObject::oneOf(const char* key, std::initializer_list<const char*> choices) const {
-    require(key);
-    std::string expected;
-    for (const char* choice : choices) {
-        if (at(key) == choice)
-            return choice;
-        expected += (expected.empty() ? "\"" : " or \"") + std::string(choice) + '"';
-    }
-    throw TaskError(pathOf(key), "expected " + expected);
+Json errorJson(const RunTimeError& failure, std::optional<int> przypadek) {
+    Json error{{"numer", failure.number()},
+               {"tekst", errorTextEnglish(failure.number()).toStdString()}};
+    if (!failure.key().empty())
+        error["klucz"] = failure.key();
+    if (przypadek)
+        error["przypadek"] = *przypadek;
+    if (!failure.detail().isEmpty())
+        error["szczegol"] = failure.detail().toStdString();
+    return error;
 }
 
 } // namespace ferna::batch

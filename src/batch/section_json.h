@@ -3,10 +3,6 @@
 #include "batch/object_reader.h"
 #include "runtime/run_time_error.h"
 
-#include <initializer_list>
-#include <optional>
-#include <string>
-
 namespace ferna::batch {
 
 /// The result part of a section, and the run-time error that stopped it: null, or number and text.
@@ -15,38 +11,8 @@ struct SectionResult {
     Json Blad;
 };
 
-/// {"numer", "tekst"} with the English text.
-Json errorJson(const RunTimeError& failure);
-
-/// One JSON object of a section, whose values are texts of the section's form. Its keys are known
-/// beforehand. Every function throws TaskError where the JSON is not as it asks.
-class TaskObject {
-public:
-    /// An object that holds no other keys than these.
-    TaskObject(const Json& value, std::string path, std::initializer_list<const char*> keys);
-
-    bool has(const char* key) const { return value_.contains(key); }
-    const Json& at(const char* key) const { return value_.at(key); }
-    std::string pathOf(const std::string& key) const { return path_ + '.' + key; }
-    /// Refuses the object without the key.
-    void require(const char* key) const;
-
-    /// A number as the text of a field, with the locale's decimal sign; empty without the key.
-    std::optional<QString> fieldText(const char* key) const;
-    /// The same for a field that is read as a whole number: it must fit 16 bits.
-    std::optional<QString> wholeFieldText(const char* key) const;
-    /// A number of a list, `first`..`last`; empty without the key.
-    std::optional<int> listNumber(const char* key, int first, int last) const;
-    /// A text; empty without the key.
-    QString text(const char* key) const;
-    /// One of these texts; the key is required.
-    std::string oneOf(const char* key, std::initializer_list<const char*> choices) const;
-
-private:
-    std::optional<double> number(const char* key) const;
-
-    const Json& value_;
-    std::string path_;
-};
+/// {"numer", "tekst"} with the English text; where they are known also "klucz": the key of the
+/// value at fault, "przypadek": the load case, from 1, "szczegol": what was met.
+Json errorJson(const RunTimeError& failure, std::optional<int> przypadek = {});
 
 } // namespace ferna::batch

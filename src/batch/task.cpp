@@ -92,14 +92,14 @@ void readCases(ObjectReader& task, Task& out) {
         throw TaskError("Przypadki", "expected 1 to " + std::to_string(most)
                                          + (out.column ? " cases and a column" : " cases")
                                          + ", found " + std::to_string(cases.size()));
-    InputFields& fields = out.fields;
     for (std::size_t r = 0; r < cases.size(); ++r) {
         ObjectReader loads(cases[r], element("Przypadki", r));
-        fields.Text6[r] = general(loads.requiredNumber("N"));
-        fields.Text7[r] = general(loads.requiredNumber("M1"));
-        fields.Text8[r] = general(loads.requiredNumber("M2"));
-        fields.Text5[r] = general(loads.requiredNumber("Vx"));
-        fields.Text10[r] = general(loads.requiredNumber("Vy"));
+        LoadRow<QString>& row = out.fields.loads.at(r);
+        row.N = general(loads.requiredNumber("N"));
+        row.M1 = general(loads.requiredNumber("M1"));
+        row.M2 = general(loads.requiredNumber("M2"));
+        row.Vx = general(loads.requiredNumber("Vx"));
+        row.Vy = general(loads.requiredNumber("Vy"));
         loads.finish();
     }
     out.stan.obciazenia.Liczba_przyp = CInt(static_cast<int>(cases.size()));

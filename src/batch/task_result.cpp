@@ -1,4 +1,5 @@
 #include "batch/equilibrium_section.h"
+#include "batch/note_section.h"
 #include "batch/task_run.h"
 
 #include <charconv>
@@ -102,6 +103,7 @@ Json resultOf(const ComputedTask& done) {
         addResults(result, done);
     result.update(done.sections);
     result["Rownowaga"] = equilibriaJson(done.equilibria);
+    result["Uwagi"] = notesJson(notes::notesOf(done.record));
     return result;
 }
 

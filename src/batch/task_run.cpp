@@ -1,10 +1,13 @@
 #include "batch/task_run.h"
 
+#include "batch/field_keys.h"
 #include "command/calculation.h"
 #include "design/language.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
+
+#include <cstdio>
 
 namespace ferna::batch {
 
@@ -23,10 +26,13 @@ public:
     void drawPlate(Stan& stan, const InputFields& fields) override {
         if (!options_.pictures.isEmpty())
             savePlatePicture(stan, fields, done_.dialogs,
-                             options_.pictures + QStringLiteral("/Ferrob.bmp"));
+                             options_.pictures + u'/' + platePictureFile);
     }
 
+    int casesEnded() const { return casesEnded_; }
+
     void caseEnded(int c) override {
+        casesEnded_ = c;
         CaseTrace& trace = done_.traces.at(static_cast<std::size_t>(c));
         const Wyniki& results = done_.task.stan.wyniki;
         trace.firstLine = CInt(lastLine_ + 1);
@@ -35,13 +41,27 @@ public:
         trace.Beta = done_.solver.Beta;
         trace.C_linii = done_.solver.C_linii;
         trace.Wsp_k = done_.solver.Wsp_k;
+        done_.record.caseEnded(done_.task.stan, c);
     }
+
+    void caseRefused(int c) override { done_.record.caseRefused(done_.task.stan, c); }
 
 private:
     ComputedTask& done_;
     const RunOptions& options_;
     Integer lastLine_ = 0;
+    int casesEnded_ = 0;
 };
+
+/// The load case that a run-time error stopped: that of its key, or the one under way.
+std::optional<int> caseOf(const RunTimeError& failure, int ended, const Stan& stan) {
+    int row = 0;
+    if (std::sscanf(failure.key().c_str(), "Przypadki[%d]", &row) == 1)
+        return row + 1;
+    if (!failure.key().empty() || stan.obciazenia.Nr_przyp != ended + 1)
+        return {};
+    return ended + 1;
+}
 
 /// Keeps the result of a section. False where a run-time error stopped it.
 bool keep(ComputedTask& done, const char* key, SectionResult&& result) {
@@ -55,6 +75,7 @@ void runSections(ComputedTask& done, const RunOptions& options) {
     Stan& stan = done.task.stan;
     if (done.task.plate) {
         PlateSectionResult result = runPlateTask(*done.task.plate, stan, done.dialogs);
+        done.record.plateWorked(result.facts);
         if (result.section && !options.pictures.isEmpty())
             for (const PlateSketch& sketch : result.section->sketches)
                 savePlateSketch(options.pictures, sketch.image, QString::fromLatin1(sketch.file));
@@ -95,6 +116,7 @@ ComputedTask run(Task task, const RunOptions& options) {
         !done.task.column
         || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));
     done.equilibria = enteredEquilibria(stan, done.task.fields);
+    done.record.begin(notes::entered(stan, done.task.fields, done.equilibria));
     if (!columnKept)
         return done;
     HeadlessHost host(done, options);
@@ -105,8 +127,12 @@ ComputedTask run(Task task, const RunOptions& options) {
             prepareReport(done, options);
             runSections(done, options);
         }
-    } catch (const RunTimeError& failure) {
-        done.failure = errorJson(failure);
+    } catch (const RunTimeError& raised) {
+        const RunTimeError failure = raised.of(keyOfControl(raised.control()));
+        const std::optional<int> stopped = caseOf(failure, host.casesEnded(), stan);
+        done.failure = errorJson(failure, stopped);
+        if (done.task.column && !failure.key().empty() && stopped == stan.obciazenia.Liczba_przyp)
+            done.failure["klucz"] = done.task.column->path; // its totals are the last case
         done.computed = false;
     }
     return done;

@@ -3,6 +3,7 @@
 #include "analysis/stan_przypadku.h"
 #include "batch/task.h"
 #include "command/entered_equilibria.h"
+#include "notes/notes.h"
 #include "report/report_lines.h"
 
 #include <QDateTime>
@@ -36,6 +37,7 @@ struct ComputedTask {
     Raport raport;
     ScriptedDialogs dialogs;
     EnteredEquilibria equilibria; ///< of the task as typed
+    notes::Record record;         ///< what the notes go by
     QDateTime now;                ///< date and time of the title block
     Json failure;          ///< the run-time error that stopped the run, null where there was none
     bool computed = false; ///< false where a validation ended the command

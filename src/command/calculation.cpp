@@ -14,7 +14,12 @@ namespace {
 struct Refusal {
     QString text;
     QString title = programTitle;
+    int loadCase = 0; ///< that was refused for its axial force
 };
+
+Single number(const QString& text, const QString& control) {
+    return inControl(control, [&] { return CSng(text); });
+}
 
 void requireAnchors(const Stan& stan) {
     if (stan.plyta.Liczba_srub == 0)
@@ -22,8 +27,8 @@ void requireAnchors(const Stan& stan) {
 }
 
 void requireLengthAboveWidth(const InputFields& fields) {
-    const Single L = CSng(fields.Text3);
-    const Single B = CSng(fields.Text4);
+    const Single L = number(fields.Text3, QStringLiteral("Text3"));
+    const Single B = number(fields.Text4, QStringLiteral("Text4"));
     if (B > L)
         throw Refusal{QStringLiteral("Długość płyty musi być większa od szerokości")};
 }
@@ -36,6 +41,7 @@ void clearResults(Stan& stan) {
     results.Sila_kotwy_max = 0;
     results.Nr_kotwy_max = 0;
     results.Nr_wiersza = 0;
+    results.outcomes.fill(CaseOutcome::NotComputed);
     results.Kotwy_OK = True;
     results.Beton_OK = true;
     stan.raport.Liczba_wierszy_kotwy = 0;
@@ -100,31 +106,32 @@ Single tenths(Single value) {
 void readCase(Stan& stan, const InputFields& fields, int c) {
     Obciazenia& loads = stan.obciazenia;
     const auto row = static_cast<std::size_t>(c - 1);
+    const LoadRow<QString>& typed = fields.loads.at(row);
+    // A load and what the configuration keeps of it.
+    const auto load = [&](auto& place, int kept, const QString& text, const char* control) {
+        inControl(QString::fromLatin1(control).arg(row), [&] {
+            place = CSng(text);
+            loads.Tablica_obc(kept)(c) = tenths(CSng(place));
+        });
+    };
     loads.Pierwsza_proba(c) = true;
-
-    loads.Sila_N(c) = CSng(fields.Text6.at(row));
-    loads.Tablica_obc(1)(c) = tenths(loads.Sila_N(c));
+    load(loads.Sila_N(c), 1, typed.N, "Text6_%1");
     const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
-                      title};
+                      title, c};
     if (loads.Sila_N(c) == 0)
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
-                      title};
-    loads.Sila_N_kG(c) = forceInKilograms(loads.Sila_N(c));
+                      title, c};
+    loads.Sila_N_kG(c) = inControl(QStringLiteral("Text6_%1").arg(row),
+                                   [&] { return forceInKilograms(loads.Sila_N(c)); });
 
-    const Single M1 = CSng(fields.Text7.at(row));
-    loads.Moment_M1(c) = M1;
-    loads.Tablica_obc(2)(c) = tenths(M1);
-    const Single M2 = CSng(fields.Text8.at(row));
-    loads.Moment_M2(c) = M2;
-    loads.Tablica_obc(3)(c) = tenths(M2);
-    loads.Sila_Vx(c) = CSng(fields.Text5.at(row));
-    loads.Tablica_obc(4)(c) = tenths(loads.Sila_Vx(c));
-    loads.Sila_Vy(c) = CSng(fields.Text10.at(row));
-    loads.Tablica_obc(5)(c) = tenths(loads.Sila_Vy(c));
-    loads.Klasa_znaku(c) = CInt(1 + (M2 < 0 ? 1 : 0) + (M1 < 0 ? 2 : 0));
+    load(loads.Moment_M1(c), 2, typed.M1, "Text7_%1");
+    load(loads.Moment_M2(c), 3, typed.M2, "Text8_%1");
+    load(loads.Sila_Vx(c), 4, typed.Vx, "Text5_%1");
+    load(loads.Sila_Vy(c), 5, typed.Vy, "Text10_%1");
+    loads.Klasa_znaku(c) = signClass(loads.Moment_M1(c), loads.Moment_M2(c));
 }
 
 /// A diameter off the series leaves the earlier area.
@@ -141,9 +148,10 @@ void prepare(Stan& stan, Stan_przypadku& przypadek, const InputFields& fields,
     requireLengthAboveWidth(fields);
     stan.opcje.Nazwa_projektu = oneLine(fields.txtNaz_proj);
     clearResults(stan);
-    stan.opcje.Nr_strony = CInt(fields.txtNr_strony);
+    stan.opcje.Nr_strony =
+        inControl(QStringLiteral("txtNr_strony"), [&] { return CInt(fields.txtNr_strony); });
     stan.materialy.Nazwa_betonu = concreteName(stan.opcje);
-    stan.opcje.Wsp_n_val = CSng(fields.Text2);
+    stan.opcje.Wsp_n_val = number(fields.Text2, QStringLiteral("Text2"));
     przypadek.Dane_skorygowane = false;
     stan.plyta.Fi_max = largestDiameter(stan.plyta);
     if (fields.cmbStal >= 0)
@@ -165,6 +173,8 @@ CalculationEnd Oblicz(Stan& stan, Stan_przypadku& przypadek, const InputFields& 
     try {
         prepare(stan, przypadek, fields, host);
     } catch (const Refusal& refusal) {
+        if (refusal.loadCase != 0)
+            host.caseRefused(refusal.loadCase);
         dialogs.message(refusal.text, refusal.title, MessageStyle::Stop);
         return CalculationEnd::Refused;
     }

@@ -25,6 +25,8 @@ public:
     virtual void drawPlate(Stan& stan, const InputFields& fields) = 0;
     /// Told after each load case, solved or not, before the next one begins.
     virtual void caseEnded(int /*c*/) {}
+    /// Told before the message that a load case is refused for its axial force.
+    virtual void caseRefused(int /*c*/) {}
 };
 
 /// The command "Oblicz": validates the fields, reads them into the state, assigns steel and

@@ -49,10 +49,10 @@ std::optional<equilibrium::Base> enteredBase(const Stan& stan, const InputFields
 
 std::optional<equilibrium::Load> enteredLoad(const InputFields& fields, int c) {
     constexpr Double most = 1e100;
-    const auto row = static_cast<std::size_t>(c - 1);
-    const std::optional<Double> N = number(fields.Text6.at(row));
-    const std::optional<Double> M1 = number(fields.Text7.at(row));
-    const std::optional<Double> M2 = number(fields.Text8.at(row));
+    const LoadRow<QString>& row = fields.loads.at(static_cast<std::size_t>(c - 1));
+    const std::optional<Double> N = number(row.N);
+    const std::optional<Double> M1 = number(row.M1);
+    const std::optional<Double> M2 = number(row.M2);
     if (!N || !M1 || !M2 || std::max({std::fabs(*N), std::fabs(*M1), std::fabs(*M2)}) > most)
         return std::nullopt;
     return equilibrium::Load{*N, *M1, *M2};

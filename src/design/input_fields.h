@@ -1,5 +1,6 @@
 #pragma once
 
+#include "design/load_row.h"
 #include "design/stan.h"
 
 #include <QString>
@@ -13,18 +14,15 @@ namespace ferna {
 struct InputFields {
     QString txtNaz_proj;
     QString txtNr_strony;
-    QString Text2;           ///< ratio n
-    QString Text3;           ///< plate length, mm
-    QString Text4;           ///< plate width, mm
-    int cmbStal = -1;        ///< chosen item, -1 for none
-    bool Option1_0 = true;   ///< "Betonowa" is selected
-    bool optHsruby_0 = true; ///< "przez wszystkie kotwy" is selected
-    // The load table, row r = case - 1.
-    std::array<QString, MaxCases> Text6;  ///< N, kN
-    std::array<QString, MaxCases> Text7;  ///< M1, kNm
-    std::array<QString, MaxCases> Text8;  ///< M2, kNm
-    std::array<QString, MaxCases> Text5;  ///< Vx, kN
-    std::array<QString, MaxCases> Text10; ///< Vy, kN
+    QString Text2;                                ///< ratio n
+    QString Text3;                                ///< plate length, mm
+    QString Text4;                                ///< plate width, mm
+    int cmbStal = -1;                             ///< chosen item, -1 for none
+    bool Option1_0 = true;                        ///< "Betonowa" is selected
+    bool optHsruby_0 = true;                      ///< "przez wszystkie kotwy" is selected
+    std::array<LoadRow<QString>, MaxCases> loads; ///< the load table, row r = case - 1
+
+    bool operator==(const InputFields&) const = default;
 };
 
 /// Takes the plate size from the fields: cm as Singles, mm as whole numbers rounded down.

@@ -9,7 +9,8 @@
 namespace ferna {
 
 QString catalogueFile(Integer Nr_jezyka) {
-    constexpr std::array files{"Ferpl.txt", "Ferp2.txt", "Fergb.txt", "Ferfr.txt", "Ferge.txt"};
+    constexpr std::array<const char*, Languages> files{"Ferpl.txt", "Ferp2.txt", "Fergb.txt",
+                                                       "Ferfr.txt", "Ferge.txt"};
     if (Nr_jezyka < 0 || Nr_jezyka >= static_cast<int>(files.size()))
         throw RunTimeError(error::Subscript, QStringLiteral("język nr %1").arg(Nr_jezyka));
     return QString::fromLatin1(files[static_cast<std::size_t>(Nr_jezyka)]);

@@ -4,6 +4,8 @@
 
 namespace ferna {
 
+inline constexpr int Languages = 5;
+
 /// File name of the catalogue of a language number 0..4. Error 9 for another number.
 QString catalogueFile(Integer Nr_jezyka);
 

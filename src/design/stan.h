@@ -1,5 +1,6 @@
 #pragma once
 
+#include "design/case_outcome.h"
 #include "runtime/indexed_array.h"
 #include "runtime/numbers.h"
 
@@ -119,6 +120,7 @@ struct Wyniki {
     ByCase<Single> Przec_b;
     ByCase<Single> Przec_c;
     ByCase<Single> Przec_d;
+    ByCase<CaseOutcome> outcomes; ///< how the cases of the last calculation ended
     Integer Kotwy_OK = True;
     bool Beton_OK = true;
     IndexedArray<QString, MaxResultLines> Wiersze_wynikow; ///< finished lines, from 1

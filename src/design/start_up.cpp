@@ -41,12 +41,8 @@ InputFields startFields(const Stan& stan) {
     fields.optHsruby_0 = stan.opcje.Hsily_wszystkie == 0;
     for (int c = 1; c <= MaxCases; ++c) {
         const auto text = [&](int row) { return general(CSng(loads.Tablica_obc(row)(c) / 10.0)); };
-        const auto r = static_cast<std::size_t>(c - 1);
-        fields.Text6.at(r) = text(1);
-        fields.Text7.at(r) = text(2);
-        fields.Text8.at(r) = text(3);
-        fields.Text5.at(r) = text(4);
-        fields.Text10.at(r) = text(5);
+        fields.loads.at(static_cast<std::size_t>(c - 1)) = {text(1), text(2), text(3), text(4),
+                                                            text(5)};
     }
     return fields;
 }

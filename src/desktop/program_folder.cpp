@@ -9,6 +9,11 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QStandardPaths>
+#include <QSysInfo>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace ferna {
 
@@ -16,6 +21,30 @@ namespace {
 
 bool holdsTheData(const QString& folder) {
     return QFileInfo(folder + u'/' + catalogueFile(0)).isFile();
+}
+
+/// A program holds its lock open and locked; what nobody holds was left behind, whatever it says.
+bool isAbandoned(const QString& lock) {
+    const int file = ::open(QFile::encodeName(lock).constData(), O_RDWR | O_CLOEXEC | O_NOFOLLOW);
+    if (file < 0)
+        return false;
+    const bool abandoned = ::flock(file, LOCK_EX | LOCK_NB) == 0;
+    ::close(file);
+    return abandoned;
+}
+
+QString heldHere(const FolderHolder& holder) {
+    return QStringLiteral("%1 (z tego folderu korzysta już otwarty program, proces nr %2; zamknij "
+                          "go i uruchom program ponownie)")
+        .arg(holder.lock)
+        .arg(holder.process);
+}
+
+QString heldElsewhere(const FolderHolder& holder) {
+    return QStringLiteral("%1 (z tego folderu korzysta program na komputerze %2, proces nr %3; "
+                          "jeżeli tam już nie działa, usuń ten plik)")
+        .arg(holder.lock, holder.host)
+        .arg(holder.process);
 }
 
 } // namespace
@@ -48,17 +77,28 @@ QString enterProgramFolder(const QString& beside, const QString& delivered, cons
     return folder;
 }
 
-std::unique_ptr<QLockFile> lockProgramFolder(const QString& folder) {
-    auto lock = std::make_unique<QLockFile>(folder + QStringLiteral("/Ferna.lock"));
+std::unique_ptr<QLockFile>
+lockProgramFolder(const QString& folder,
+                  const std::function<bool(const FolderHolder& holder)>& takeOver) {
+    const QString path = QDir(folder).absoluteFilePath(QStringLiteral("Ferna.lock"));
+    auto lock = std::make_unique<QLockFile>(path);
     lock->setStaleLockTime(0); // a program may be open for weeks; only a dead one's lock is void
     if (lock->tryLock())
         return lock;
-    const QString detail = QDir::toNativeSeparators(folder);
-    if (lock->error() == QLockFile::LockFailedError)
-        throw RunTimeError(error::PermissionDenied,
-                           detail
-                               + QStringLiteral(" (z tego folderu korzysta już otwarty program)"));
-    throw RunTimeError(error::PathAccess, detail);
+    FolderHolder holder{QDir::toNativeSeparators(path), {}, 0};
+    if (lock->error() != QLockFile::LockFailedError)
+        throw RunTimeError(error::PathAccess,
+                           holder.lock + QStringLiteral(" (nie można utworzyć tego pliku)"));
+    QString program;
+    const bool known = lock->getLockInfo(&holder.process, &holder.host, &program);
+    const bool elsewhere = known && holder.host != QSysInfo::machineHostName();
+    if (elsewhere ? takeOver && takeOver(holder) : isAbandoned(path)) {
+        QFile::remove(path);
+        if (lock->tryLock())
+            return lock;
+    }
+    throw RunTimeError(error::PermissionDenied,
+                       elsewhere ? heldElsewhere(holder) : heldHere(holder));
 }
 
 } // namespace ferna

@@ -52,23 +52,25 @@ Result Base::solve(const Load& load) const noexcept {
     if (!tipping_.carries(section_, carried))
         return tippedOver(forces);
     const Balance found = balance(section_, carried);
-    Result result = resultOf(found.plane, size / (halfLength_ * halfWidth_));
-    result.residual = found.residual + std::fabs(carried[0] - forces[0]);
-    result.steps = found.steps;
+    Result result = resultOf(found, size / (halfLength_ * halfWidth_));
+    result.residual += std::fabs(carried[0] - forces[0]);
     return result;
 }
 
-Result Base::resultOf(const CornerPlane& plane, double scale) const noexcept {
+Result Base::resultOf(const Balance& found, double scale) const noexcept {
     Result result;
     result.exists = true;
+    const CornerPlane<double>& plane = found.plane;
     const Vector3& z = plane.z;
-    result.plane = {scale * (z[0] + z[1] + z[2]), -scale * plane.signX * z[1] / halfLength_,
+    const double s0 = found.finer ? static_cast<double>(found.finer->at(0, 0)) : plane.at(0, 0);
+    result.plane = {scale * s0, -scale * plane.signX * z[1] / halfLength_,
                     -scale * plane.signY * z[2] / halfWidth_};
     result.sigmaConcrete = scale * std::max(z[0], 0.0);
     for (std::size_t i = 0; i < static_cast<std::size_t>(section_.count); ++i) {
-        const double s = plane.at(section_.x[i], section_.y[i]);
-        if (s < 0)
-            result.sigmaAnchor[i] = n_ * scale * s;
+        const double x = section_.x[i];
+        const double y = section_.y[i];
+        const double s = found.finer ? static_cast<double>(found.finer->at(x, y)) : plane.at(x, y);
+        result.sigmaAnchor[i] = s < 0 ? n_ * scale * s : 0;
     }
     const Crossing line = crossingOf(plane);
     if (line.crosses) {
@@ -77,6 +79,8 @@ Result Base::resultOf(const CornerPlane& plane, double scale) const noexcept {
         };
         result.neutralLine = Segment{point(line.u1, line.v1), point(line.u2, line.v2)};
     }
+    result.residual = found.residual;
+    result.steps = found.steps;
     return result;
 }
 

@@ -75,6 +75,8 @@ struct Result {
     Segment tippingAxis; ///< as far as plate and anchors reach along it
 };
 
+struct Balance;
+
 /// A base made ready for any number of loads.
 class Base {
 public:
@@ -92,7 +94,7 @@ public:
 
 private:
     Result tippedOver(const Vector3& load) const noexcept;
-    Result resultOf(const CornerPlane& plane, double scale) const noexcept;
+    Result resultOf(const Balance& found, double scale) const noexcept;
 
     double halfLength_ = 0;
     double halfWidth_ = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cfloat>
 
 namespace ferna::equilibrium {
 
@@ -9,50 +10,90 @@ namespace ferna::equilibrium {
 
 inline constexpr int mostAnchors = 20;
 
-using Vector3 = std::array<double, 3>;
+// Computed in doubles; the few planes that these cannot hold finely enough, which press on a sliver
+// of the plate or pull anchors far stiffer than it, are finished in 113 bits.
+#if LDBL_MANT_DIG >= 113
+using Quad = long double;
+#else
+__extension__ typedef __float128 Quad;
+#endif
 
-constexpr double dot(const Vector3& a, const Vector3& b) noexcept {
+template <typename Number>
+using Triple = std::array<Number, 3>;
+using Vector3 = Triple<double>;
+
+template <typename Number>
+constexpr Number dot(const Triple<Number>& a, const Triple<Number>& b) noexcept {
     return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
 }
 
+template <typename Number>
+constexpr Number magnitude(const Number& value) noexcept {
+    return value < 0 ? -value : value;
+}
+
 /// A symmetric matrix over (1, u, v): the integrals of 1, u, v, uu, uv, vv.
+template <typename Number>
 struct Moments {
-    double one = 0;
-    double u = 0;
-    double v = 0;
-    double uu = 0;
-    double uv = 0;
-    double vv = 0;
+    Number one = 0;
+    Number u = 0;
+    Number v = 0;
+    Number uu = 0;
+    Number uv = 0;
+    Number vv = 0;
 };
 
-Vector3 operator*(const Moments& m, const Vector3& z) noexcept;
-/// The z with m z = right; empty (false) where m is singular to working precision.
-bool solve(const Moments& m, const Vector3& right, Vector3& z) noexcept;
+template <typename Number>
+constexpr Triple<Number> product(const Moments<Number>& m, const Triple<Number>& z) noexcept {
+    return {m.one * z[0] + m.u * z[1] + m.v * z[2], m.u * z[0] + m.uu * z[1] + m.uv * z[2],
+            m.v * z[0] + m.uv * z[1] + m.vv * z[2]};
+}
+
+template <typename Number>
+constexpr Moments<Number> sum(const Moments<Number>& a, const Moments<Number>& b) noexcept {
+    return {a.one + b.one, a.u + b.u, a.v + b.v, a.uu + b.uu, a.uv + b.uv, a.vv + b.vv};
+}
+
+template <typename Number>
+constexpr Moments<Number> scaled(const Moments<Number>& m, const Number& by) noexcept {
+    return {by * m.one, by * m.u, by * m.v, by * m.uu, by * m.uv, by * m.vv};
+}
+
+/// The z with m z = right; false where m is singular to working precision.
+template <typename Number>
+bool solve(const Moments<Number>& m, const Triple<Number>& right, Triple<Number>& z) noexcept;
 
 /// A plane s = z[0] + z[1] u + z[2] v, seen from the corner of the square where s is largest:
 /// u = 1 - signX x, v = 1 - signY y. So z[1] and z[2] are not positive, and a small zone of
-/// pressure at the corner keeps all its digits, which it loses when seen from the centre.
+/// pressure at the corner keeps all its digits, which it would lose when seen from the centre.
+template <typename Number>
 struct CornerPlane {
-    Vector3 z{};
-    double signX = 1;
-    double signY = 1;
+    Triple<Number> z{};
+    int signX = 1;
+    int signY = 1;
 
-    double at(double x, double y) const noexcept {
-        return z[0] + z[1] * (1 - signX * x) + z[2] * (1 - signY * y);
+    Number at(double x, double y) const noexcept {
+        return z[0] + z[1] * (1 - signX * Number(x)) + z[2] * (1 - signY * Number(y));
     }
-    /// The same with a load (N, M1, M2) for s: as force and moments about the corner.
-    Vector3 aboutCorner(const Vector3& load) const noexcept {
-        return {load[0], load[0] - signX * load[1], load[0] - signY * load[2]};
+    /// Force and moments about the centre as about the corner.
+    Triple<Number> aboutCorner(const Vector3& load) const noexcept {
+        const Number force = load[0];
+        return {force, force - signX * load[1], force - signY * load[2]};
     }
-    /// Turns to the corner where s is largest; values about the old corner follow by `turned`.
+    /// The same plane seen from the corner where s is largest.
     CornerPlane facingLargest() const noexcept;
 };
 
-/// The plane over the centre: s = s[0] + s[1] x + s[2] y.
-CornerPlane fromCentre(const Vector3& s) noexcept;
+/// The plane s = s[0] + s[1] x + s[2] y.
+CornerPlane<double> fromCentre(const Vector3& s) noexcept;
 
 /// A force and its moments about the corner of `from`, as about the corner of `to`.
-Vector3 turned(const Vector3& force, const CornerPlane& from, const CornerPlane& to) noexcept;
+template <typename Number>
+Triple<Number> turned(const Triple<Number>& force, const CornerPlane<Number>& from,
+                      const CornerPlane<Number>& to) noexcept {
+    return {force[0], from.signX == to.signX ? force[1] : 2 * force[0] - force[1],
+            from.signY == to.signY ? force[2] : 2 * force[0] - force[2]};
+}
 
 /// Where the line s = 0 crosses the square: two points (u, v).
 struct Crossing {
@@ -62,31 +103,32 @@ struct Crossing {
     double u2 = 0;
     double v2 = 0;
 };
-Crossing crossingOf(const CornerPlane& plane) noexcept;
-
-/// Integrals over the part of the square where s > 0, in closed form: a rectangle and a trapezium.
-/// No difference of larger areas is formed.
-Moments pressedPart(const CornerPlane& plane) noexcept;
+Crossing crossingOf(const CornerPlane<double>& plane) noexcept;
 
 struct Section {
     int count = 0;
     std::array<double, mostAnchors> x{};
     std::array<double, mostAnchors> y{};
     std::array<double, mostAnchors> weight{}; ///< n A over the area of a quarter of the plate
-    Moments whole;                            ///< uncracked, with every anchor, about the centre
+    Moments<double> whole;                    ///< uncracked, with every anchor, about the centre
 
     /// To be called once when the anchors stand.
     void prepare() noexcept;
 };
 
 /// What a plane does to a section: stiffness and the forces it carries, about the plane's corner.
+template <typename Number>
 struct Response {
-    Moments stiffness;
-    Vector3 force;
+    Moments<Number> stiffness;
+    Triple<Number> force;
 };
-Response responseOf(const Section& section, const CornerPlane& plane) noexcept;
+/// Over the part of the square where s > 0 in closed form, a rectangle and a trapezium, so that no
+/// difference of larger areas is formed; and over the anchors where s < 0.
+template <typename Number>
+Response<Number> responseOf(const Section& section, const CornerPlane<Number>& plane) noexcept;
 
 /// The uncracked square about any of its corners.
-inline constexpr Moments wholeSquare{4, 4, 4, 16.0 / 3, 4, 16.0 / 3};
+template <typename Number>
+inline constexpr Moments<Number> wholeSquare{4, 4, 4, Number(16) / 3, 4, Number(16) / 3};
 
 } // namespace ferna::equilibrium

@@ -12,8 +12,6 @@ namespace {
 constexpr double touching = 1e-12;
 /// Share of the load by which it may miss the verge.
 constexpr double verge = 1e-12;
-/// A load nearer to the verge than its own rounding is on it.
-constexpr double rounding = 1e-15;
 
 double workOf(const Vector3& load, const Turn& turn) noexcept {
     return turn.x * load[1] + turn.y * load[2] - load[0];
@@ -85,7 +83,7 @@ bool Tipping::carries(const Section& section, Vector3& load) const noexcept {
         const double work = workOf(load, turns_[k]);
         if (work > verge)
             return false;
-        if (work > -rounding)
+        if (work > -verge)
             onVerge[verging++] = turns_[k];
     }
     if (verging == 0)

@@ -96,6 +96,14 @@ QString Lista_srub(Stan& stan) {
     return list;
 }
 
+bool listIsTrue(const Plyta_i_kotwy& plate) {
+    for (int i = 1; i <= plate.Liczba_srub; ++i)
+        if (plate.X_kotwy(i) != CSng(plate.X_kotwy_mm(i) / 10.0)
+            || plate.Y_kotwy(i) != CSng(plate.Y_kotwy_mm(i) / 10.0))
+            return false;
+    return true;
+}
+
 bool removeOneAnchor(Stan& stan, Dialogs& dialogs) {
     const QString title = QStringLiteral("Ferna 2005 Pr - Usuwanie");
     Plyta_i_kotwy& plate = stan.plyta;

@@ -35,6 +35,9 @@ void storeAnchorAt(Plyta_i_kotwy& plate, int slot, int x, int y, Integer fi);
 /// Rebuilds the line of every anchor in `Wiersze_srub`; returns them as the text of the list.
 QString Lista_srub(Stan& stan);
 
+/// True where the listed millimetres are those that the calculation and the drawing take.
+bool listIsTrue(const Plyta_i_kotwy& plate);
+
 /// Asks for an anchor and removes it; false where nothing was removed. The coordinates in mm of the
 /// anchors above are not moved, only those in cm and the diameters. Error 13 for no number.
 bool removeOneAnchor(Stan& stan, Dialogs& dialogs);

@@ -24,6 +24,9 @@ void chooseNorm(Stan& stan, Integer k) {
         number = CInt(k == 1 ? number - 1 : qMin<int>(number + 1, lastOlderClass));
     }
     stan.opcje.Nr_normy = k;
+    takeEb(stan);
+    if (stan.opcje.Tryb_wsp_n == 0)
+        computeRatio(stan);
 }
 
 void chooseConcrete(Stan& stan, int index) {

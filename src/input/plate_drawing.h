@@ -6,7 +6,8 @@
 
 namespace ferna {
 
-/// Size of the plate picture in the report, in picture pixels; it is printed 70.1 mm wide.
+/// Size of the plate picture on its tab and in the report, in picture pixels; it is printed 70.1 mm
+/// wide.
 inline constexpr QSize platePictureSize(265, 176);
 
 /// Draws the plate with its anchors true to scale: outline, anchors as circles of their diameter

@@ -27,6 +27,17 @@ void require(bool fulfilled, const QString& otherwise) {
         throw Refusal{otherwise};
 }
 
+/// The field i of a control array, read as a number.
+template <typename Texts>
+Single number(const Texts& texts, std::size_t i, const char* control) {
+    return inControl(QString::fromLatin1(control).arg(i), [&] { return CSng(texts[i]); });
+}
+
+template <typename Texts>
+Integer wholeNumber(const Texts& texts, std::size_t i, const char* control) {
+    return inControl(QString::fromLatin1(control).arg(i), [&] { return CInt(texts[i]); });
+}
+
 /// The start common to all commands.
 void takeGrade(const PlateWork& work,
                const QString& missing = QStringLiteral("Musisz określić gatunek stali")) {
@@ -119,12 +130,12 @@ void computeFragment(const PlateWork& work, const FragmentCheck& check) {
     PlateFields& fields = work.form.fields;
     takeGrade(work);
     PlateInputs::Fragment& in = inputsOf(work, check);
-    in.sigma = CSng(fields.Text3[check.sigma]);
+    in.sigma = number(fields.Text3, check.sigma, "Text3_%1");
     require(in.sigma != 0, QStringLiteral("Musisz okreslić naprężenia pod blachą!"));
-    in.l = CInt(fields.Text1[check.l]);
+    in.l = wholeNumber(fields.Text1, check.l, "Text1_%1");
     if (in.l == 0) // said, but it does not end the command
         show(work.dialogs, QStringLiteral("Musisz okreslić długość podpartego fragmentu blachy!"));
-    in.b = CInt(fields.Text2[check.b]);
+    in.b = wholeNumber(fields.Text2, check.b, "Text2_%1");
     require(in.b != 0, QStringLiteral("Musisz okreslić szrokość podpartego fragmentu blachy!"));
     if (in.l < in.b) {
         show(work.dialogs,
@@ -170,17 +181,23 @@ void cmdOblicz4(const PlateWork& work) {
     finish(work, 4, t);
 }
 
+/// Where an anchor fragment has its fields: Text3(S), Text1(b), Text2(a), Text2(c).
+struct AnchorFragmentFields {
+    std::size_t S, b, a, c;
+};
+
 /// A fragment fixed on its edges, under the force of an anchor.
 void computeAnchorFragment(const PlateWork& work, int check, PlateInputs::AnchorFragment& in,
-                           const QString& S, const QString& b, const QString& a, const QString& c) {
+                           const AnchorFragmentFields& at) {
     takeGrade(work);
-    in.S = CSng(S);
+    const PlateFields& fields = work.form.fields;
+    in.S = number(fields.Text3, at.S, "Text3_%1");
     require(in.S != 0, QStringLiteral("Musisz okreslić siłę w kotwie!"));
-    in.b = CInt(b);
+    in.b = wholeNumber(fields.Text1, at.b, "Text1_%1");
     require(in.b != 0, QStringLiteral("Musisz okreslić szrokość podpartego fragmentu blachy!"));
-    in.a = CInt(a);
+    in.a = wholeNumber(fields.Text2, at.a, "Text2_%1");
     require(in.a != 0, QStringLiteral("Musisz okreslić położenie kotwy (wymiar a)!"));
-    in.c = CInt(c);
+    in.c = wholeNumber(fields.Text2, at.c, "Text2_%1");
     require(in.c != 0, QStringLiteral("Musisz okreslić położenie kotwy (wymiar c)!"));
     const ChartReading reading = Interpoluj_wykres(check, in.b, in.a, in.c);
     require(reading.message.isEmpty(), reading.message);
@@ -189,15 +206,11 @@ void computeAnchorFragment(const PlateWork& work, int check, PlateInputs::Anchor
 }
 
 void cmdOblicz51(const PlateWork& work) {
-    const PlateFields& f = work.form.fields;
-    computeAnchorFragment(work, 7, work.form.inputs.check7, f.Text3[6], f.Text1[4], f.Text2[5],
-                          f.Text2[6]);
+    computeAnchorFragment(work, 7, work.form.inputs.check7, {6, 4, 5, 6});
 }
 
 void cmdOblicz52(const PlateWork& work) {
-    const PlateFields& f = work.form.fields;
-    computeAnchorFragment(work, 8, work.form.inputs.check8, f.Text3[7], f.Text1[5], f.Text2[8],
-                          f.Text2[7]);
+    computeAnchorFragment(work, 8, work.form.inputs.check8, {7, 5, 8, 7});
 }
 
 using Command = void (*)(const PlateWork&);
@@ -310,10 +323,14 @@ void Sprawdz_grubosc(const PlateWork& work, Single& t, Single& Fd, Integer n, In
 }
 
 void computePlateCheck(const PlateWork& work, int check) {
+    bool& refused = work.form.refused.at(at(check));
+    refused = true; // until it has a result
     if (!work.form.face.cmdOblicz_enabled.at(at(check)))
         return;
     Integer& result = work.stan.raport.Spr_blachy(check);
     result = 0; // a failed attempt leaves the check absent
+    if (work.form.face.Label8[at(check)] != noPlateResult)
+        work.form.face.Label8_visible[at(check)] = false; // until there is a new result
     try {
         commands[at(check)](work);
     } catch (const Refusal& refusal) {
@@ -325,6 +342,7 @@ void computePlateCheck(const PlateWork& work, int check) {
             throw;
         showRunTimeError(work.dialogs, failure.number());
     }
+    refused = result <= 0;
 }
 
 } // namespace ferna

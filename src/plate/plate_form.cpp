@@ -37,7 +37,7 @@ PlateFields firstFields(const Stan& stan) {
 
 PlateFace firstFace() {
     PlateFace face;
-    face.Label8.fill(QStringLiteral("Wymagana ..."));
+    face.Label8.fill(noPlateResult);
     face.Label8_visible.fill(true);
     face.Label8_visible[0] = false;
     face.Label8_visible[1] = false;
@@ -101,11 +101,13 @@ void leaveGradeList(Stan& stan, PlateForm& form, Dialogs& dialogs, PlateSteelHos
     for (int n = 1; n <= PlateChecks; ++n)
         stan.raport.Spr_blachy(n) = 0;
     form.face.Label8_visible.fill(false);
+    form.refused.fill(false);
 }
 
 void cmdAnulujto(Stan& stan, PlateForm& form, int i) {
     stan.raport.Spr_blachy(i + 1) = 0;
     form.face.Label8_visible.at(static_cast<std::size_t>(i)) = false;
+    form.refused.at(static_cast<std::size_t>(i)) = false;
     Integer m = 0;
     for (int n = 1; n <= PlateChecks; ++n)
         m = std::max(m, stan.raport.Spr_blachy(n));

@@ -12,6 +12,9 @@ namespace ferna {
 
 inline constexpr int PlateChecks = 8;
 
+/// The line of a check before its first result.
+inline const QString noPlateResult = QStringLiteral("Wymagana ...");
+
 /// The fields of the form `Grub_bla` as they stand there; member names are those of the controls.
 struct PlateFields {
     int cmbStalb = -1;  ///< chosen item, -1 for none
@@ -60,7 +63,8 @@ struct PlateForm {
     PlateFields fields;
     PlateFace face;
     PlateInputs inputs;
-    Integer Nr_stali_blachy = 0; ///< item of cmbStalb plus 1, as last taken
+    std::array<bool, PlateChecks> refused{}; ///< check n at n - 1: pressed last without a result
+    Integer Nr_stali_blachy = 0;             ///< item of cmbStalb plus 1, as last taken
 };
 
 /// A tab of the form, in the order on the screen.

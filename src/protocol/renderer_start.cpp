@@ -1,9 +1,9 @@
 #include "protocol/renderer_start.h"
 
 #include "protocol/renderer_files.h"
-#include "runtime/format.h"
+#include "protocol/renderer_news.h"
+#include "runtime/passing_folder.h"
 #include "runtime/run_time_error.h"
-#include "runtime/text_file.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -21,32 +21,15 @@ const QString rendererName = QStringLiteral("Wyd_drk.exe");
 const QString rendererName = QStringLiteral("Wyd_drk");
 #endif
 
-constexpr int cancelledByUser = 3; // in a dialog of the renderer's own
-
-QString modeText(RenderMode mode) {
-    switch (mode) {
-    case RenderMode::Clipboard:
-        return QStringLiteral("3, 1.0, 0.5, 1.0, ");
-    case RenderMode::ScreenPicture:
-        return QStringLiteral("-2, 1.0, 0.5, 1.0, ");
-    case RenderMode::Print:
-        return QStringLiteral("-1, 1.0, 0.5, 1.0, ");
-    case RenderMode::PrintChosen:
-        return QStringLiteral("1, 1.0, 0.5, 1.0, ");
-    case RenderMode::Emf:
-        return QStringLiteral(" 2, 1.0, 0.5, 1.0, ");
-    }
-    throw RunTimeError(error::InvalidCall);
-}
-
 /// The renderer's own last words, for the message.
 QString wordsOf(QProcess& process) {
     const QString words = QString::fromLocal8Bit(process.readAllStandardError()).trimmed();
     return words.isEmpty() ? words : QStringLiteral(": ") + words;
 }
 
-/// Waits for the end of the renderer. False where it was given up; it is gone then.
-bool waitFor(QProcess& process, const WaitOn& waitOn) {
+/// Waits for the end of the renderer and reads its news. False where it was given up; it is gone
+/// then.
+bool waitFor(QProcess& process, const WaitOn& waitOn, RendererNews& news) {
     constexpr int forEver = -1;
     constexpr int betweenQuestions = 50; // ms
     QElapsedTimer clock;
@@ -54,28 +37,20 @@ bool waitFor(QProcess& process, const WaitOn& waitOn) {
     while (!process.waitForFinished(waitOn ? betweenQuestions : forEver)) {
         if (process.state() == QProcess::NotRunning)
             break;
-        if (waitOn && !waitOn(std::chrono::milliseconds(clock.elapsed()))) {
+        news.read(process.readAllStandardOutput());
+        if (news.showsWindow())
+            clock.restart(); // its user's time is not its own
+        if (waitOn && !waitOn({std::chrono::milliseconds(clock.elapsed()), news.showsWindow()})) {
             process.kill();
             process.waitForFinished(forEver);
             return false;
         }
     }
+    news.read(process.readAllStandardOutput());
     return true;
 }
 
 } // namespace
-
-QString jobLine(RenderMode mode, Integer Nr_strony) {
-    return modeText(mode) + general(Nr_strony);
-}
-
-void writeJob(const QString& folder, RenderMode mode, Integer Nr_strony) {
-    TextFileWriter job;
-    job.line(jobLine(mode, Nr_strony));
-    job.line(wyd::pathLine(folder, wyd::bodyFile));
-    job.line(wyd::pathLine(folder, wyd::frameFile));
-    job.commit(folder + u'/' + wyd::jobFile, Lasting::UntilNextUse);
-}
 
 QString rendererPath(const QString& folder) {
     const QString own = folder + u'/' + rendererName;
@@ -84,7 +59,8 @@ QString rendererPath(const QString& folder) {
                : QCoreApplication::applicationDirPath() + u'/' + rendererName;
 }
 
-void runRenderer(const QString& folder, const QStringList& options, const WaitOn& waitOn) {
+RendererReport runRenderer(const QString& folder, const QStringList& options, const WaitOn& waitOn,
+                           quintptr window) {
     const QString renderer = rendererPath(folder);
     if (!QFileInfo::exists(renderer))
         throw RunTimeError(error::FileNotFound,
@@ -92,24 +68,31 @@ void runRenderer(const QString& folder, const QStringList& options, const WaitOn
                                + QStringLiteral(" (program rysujący strony raportu)"));
     QProcess process;
     process.setWorkingDirectory(folder);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QLatin1String(news::variable), QString::number(window));
+    process.setProcessEnvironment(environment);
+    process.setChildProcessModifier(
+        [parent = QCoreApplication::applicationPid()] { endWithParent(parent); });
     process.start(renderer, QStringList(options)
                                 << QDir::toNativeSeparators(folder + u'/' + wyd::jobFile));
     if (!process.waitForStarted(-1))
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(": ") + process.errorString());
-    if (!waitFor(process, waitOn))
+    RendererNews told;
+    if (!waitFor(process, waitOn, told))
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(" nie skończył pracy (Przerwij)"));
     if (process.exitStatus() != QProcess::NormalExit)
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(" przerwał pracę") + wordsOf(process));
-    if (process.exitCode() == cancelledByUser)
-        return;
-    if (process.exitCode() != 0)
+    if (process.exitCode() == wyd::CancelledByUser)
+        return {};
+    if (process.exitCode() != wyd::Done)
         throw RunTimeError(error::NoObject, QStringLiteral("%1 zakończył pracę z kodem %2%3")
                                                 .arg(rendererName)
                                                 .arg(process.exitCode())
                                                 .arg(wordsOf(process)));
+    return {told.written()};
 }
 
 } // namespace ferna

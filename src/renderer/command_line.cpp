@@ -66,18 +66,22 @@ private:
 };
 
 QString explanations() {
-    return QStringLiteral("Rysuje strony raportu według poleceń, które wskazuje plik zlecenia.\n"
-                          "\n"
-                          "  --pdf PLIK     zapisuje raport jako PDF\n"
-                          "  --svg PLIK     zapisuje strony jako SVG\n"
-                          "  --png PLIK     zapisuje strony jako PNG\n"
-                          "  --emf PLIK     zapisuje strony jako EMF\n"
-                          "  --dpi N        rozdzielczość PNG, od %1 do %2 (bez opcji %3)\n"
-                          "  -h, --help     pokazuje tę pomoc\n"
-                          "  -v, --version  pokazuje wersję\n"
-                          "\n"
-                          "Bez opcji o wyniku decyduje zlecenie. Kody: 0 wykonane, 1 niewykonane,\n"
-                          "2 złe wywołanie, 3 przerwane przez użytkownika.\n")
+    return QStringLiteral(
+               "Rysuje strony raportu według poleceń, które wskazuje plik zlecenia.\n"
+               "\n"
+               "  --pdf PLIK     zapisuje raport jako PDF\n"
+               "  --svg PLIK     zapisuje strony jako SVG\n"
+               "  --png PLIK     zapisuje strony jako PNG\n"
+               "  --emf PLIK     zapisuje strony jako EMF\n"
+               "  --dpi N        rozdzielczość PNG, od %1 do %2 (bez opcji %3)\n"
+               "  -h, --help     pokazuje tę pomoc\n"
+               "  -v, --version  pokazuje wersję\n"
+               "\n"
+               "Strony raportu, który ma ich kilka, zapisuje jako PLIK-strona-1-z-3.svg\n"
+               "i tak dalej.\n"
+               "\n"
+               "Bez opcji o wyniku decyduje zlecenie. Kody: 0 wykonane, 1 niewykonane,\n"
+               "2 złe wywołanie, 3 przerwane przez użytkownika.\n")
         .arg(smallestDpi)
         .arg(largestDpi)
         .arg(Call{}.dpi);

@@ -2,16 +2,19 @@
 
 #include "pages/emf_writer.h"
 #include "pages/metafile.h"
+#include "protocol/renderer_files.h"
+#include "protocol/renderer_news.h"
+#include "renderer/news.h"
+#include "renderer/own_window.h"
 #include "renderer/printing.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
+#include "windows/save_question.h"
 
 #include <QClipboard>
 #include <QDir>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
 
@@ -20,7 +23,7 @@ namespace ferna::renderer {
 namespace {
 
 /// The metafile on the clipboard, and a bitmap for programs that know no metafiles.
-void toClipboard(const Report& report) {
+void toClipboard(const pages::Report& report) {
     constexpr double pixelsPerMm = 6;
     const QByteArray bytes = emfOfAllPages(report);
     const Metafile file = Metafile::fromBytes(bytes);
@@ -37,65 +40,57 @@ void toClipboard(const Report& report) {
         throw RunTimeError(error::DeviceIO, QStringLiteral("nie można zająć schowka"));
 }
 
-/// True where none of the files exists yet or the user wants them replaced.
-bool mayWrite(const QStringList& names) {
-    QStringList existing;
-    for (const QString& name : names)
-        if (QFileInfo::exists(name))
-            existing += QFileInfo(name).fileName();
-    return existing.isEmpty()
-           || QMessageBox::question(nullptr, QStringLiteral("Zapisz jako EMF"),
-                                    QStringLiteral("Zastąpić istniejące pliki: %1?")
-                                        .arg(existing.join(QStringLiteral(", "))))
-                  == QMessageBox::Yes;
-}
-
-/// Asks for a name until it is a new one, may be replaced, or the dialog is cancelled.
-void saveAsEmf(const Report& report, const Call& call, const Job& job) {
+void saveAsEmf(const pages::Report& report, const Call& call) {
     const OutputFormat& emf = *outputFormat(QStringLiteral("emf"));
-    QFileDialog dialog(nullptr, QStringLiteral("Zapisz jako EMF"), job.folder,
-                       QStringLiteral("Metapliki (*.emf)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("emf"));
-    dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked for the names of the pages
-    dialog.selectFile(QStringLiteral("Raport.emf"));
-    QString name;
-    do {
-        if (dialog.exec() != QDialog::Accepted)
-            throw RunTimeError(error::Cancelled, QStringLiteral("okno zapisu pliku EMF"));
-        name = dialog.selectedFiles().constFirst();
-    } while (!mayWrite(fileNames(report, emf, name)));
-    writeReport(report, emf, name, call.dpi);
+    SaveSurroundings surroundings;
+    surroundings.files = [&](const QString& name) { return fileNames(report, emf, name); };
+    surroundings.run = runOwnWindow;
+    const std::optional<QString> name =
+        askWhereToSave({QStringLiteral("Zapisz jako EMF"), QStringLiteral("Raport.emf"),
+                        QStringLiteral(".emf"), QStringLiteral("Metapliki (*.emf)|*.emf")},
+                       surroundings);
+    if (!name)
+        throw RunTimeError(error::Cancelled, QStringLiteral("okno zapisu pliku EMF"));
+    writeReport(report, emf, *name, call.dpi);
+    for (const QString& file : fileNames(report, emf, *name))
+        tell(news::fileWritten(file));
 }
 
 } // namespace
 
 bool needsScreen(const Call& call, const Job& job) {
     return call.format == nullptr
-           && (job.mode == Mode::ChosenPrinter || job.mode == Mode::SaveEmf
-               || job.mode == Mode::Clipboard);
+           && (job.mode == RenderMode::PrintChosen || job.mode == RenderMode::Emf
+               || job.mode == RenderMode::Clipboard);
 }
 
-void deliver(const Report& report, const Call& call, const Job& job) {
+bool keepsLastReply(const Call& call, const Job& job) {
+    const bool screenPicture =
+        job.mode == RenderMode::ScreenPicture || job.mode == RenderMode::Clipboard;
+    return call.format == nullptr && !screenPicture
+           && QFileInfo::exists(QDir(job.folder).filePath(wyd::replyFile));
+}
+
+void deliver(const pages::Report& report, const Call& call, const Job& job) {
     if (call.format != nullptr) {
         writeReport(report, *call.format, call.outputPath, call.dpi);
         return;
     }
     switch (job.mode) {
-    case Mode::ScreenFile:
-        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report),
+    case RenderMode::ScreenPicture:
+        writeFileWhole(QDir(job.folder).filePath(wyd::screenPicture), emfOfAllPages(report),
                        Lasting::UntilNextUse);
         break;
-    case Mode::DefaultPrinter:
+    case RenderMode::Print:
         printOnDefault(report);
         break;
-    case Mode::ChosenPrinter:
+    case RenderMode::PrintChosen:
         printOnChosen(report);
         break;
-    case Mode::SaveEmf:
-        saveAsEmf(report, call, job);
+    case RenderMode::Emf:
+        saveAsEmf(report, call);
         break;
-    case Mode::Clipboard:
+    case RenderMode::Clipboard:
         toClipboard(report);
         break;
     }

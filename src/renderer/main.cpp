@@ -1,14 +1,15 @@
 #include "pages/drawing.h"
+#include "protocol/renderer_files.h"
+#include "protocol/reply.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
 #include "runtime/run_time_error.h"
 #include "runtime/screen.h"
+#include "windows/application.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QFontInfo>
-#include <QLibraryInfo>
-#include <QTranslator>
 
 #include <cstdio>
 #include <memory>
@@ -17,8 +18,6 @@ using namespace ferna;
 using namespace ferna::renderer;
 
 namespace {
-
-enum ExitCode { Done = 0, Failed = 1, BadCall = 2, CancelledByUser = 3 };
 
 void say(const QString& line) {
     std::fputs(("Wyd_drk: " + line.toUtf8() + '\n').constData(), stderr);
@@ -40,10 +39,7 @@ std::unique_ptr<QGuiApplication> startQt(int& argc, char** argv, bool screen) {
     if (!hasScreen())
         throw RunTimeError(error::DeviceIO, QStringLiteral("ten tryb zlecenia wymaga ekranu"));
     auto application = std::make_unique<QApplication>(argc, argv);
-    auto* polish = new QTranslator(application.get()); // Qt's own texts in the dialogs
-    if (polish->load(QStringLiteral("qtbase_pl"),
-                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(polish);
+    dressApplication(*application);
     return application;
 }
 
@@ -53,12 +49,24 @@ void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage
     const QString face = QFontInfo(drawing::fontOf(1)).family();
     if (face != drawing::textFace)
         say(QStringLiteral("brak czcionki %1, zamiast niej %2").arg(drawing::textFace, face));
-    Complaints complaints;
-    const Report report = compose(job, complaints);
+    wyd::Complaints complaints;
+    const pages::Report report = compose(job, complaints);
     for (const QString& line : complaints.lines())
         say(line);
     deliver(report, call, job);
     nextPage = job.firstPage + static_cast<int>(report.pages.size());
+}
+
+/// Reads the job; where it cannot be read the reply says so.
+Job jobOrFailure(const Call& call) {
+    try {
+        return readJob(call.jobPath);
+    } catch (const RunTimeError&) {
+        const QString folder = folderOf(call.jobPath);
+        if (QFileInfo(folder).isDir())
+            writeReply(folder, false, 1);
+        throw;
+    }
 }
 
 } // namespace
@@ -69,32 +77,30 @@ int main(int argc, char** argv) {
         arguments += QString::fromLocal8Bit(argv[i]);
     if (const QString answer = answerTo(arguments); !answer.isEmpty()) {
         std::fputs(answer.toLocal8Bit().constData(), stdout);
-        return Done;
+        return wyd::Done;
     }
     QString fault;
     const std::optional<Call> call = parseCall(arguments, fault);
     if (!call) {
         say(fault + QStringLiteral(". ") + usage());
-        return BadCall;
+        return wyd::BadCall;
     }
     const QString folder = folderOf(call->jobPath);
     try {
+        const Job job = jobOrFailure(*call);
+        int page = job.firstPage;
         // The reply of a failure comes first: it stands also where the run is cut short.
-        int page = 1;
-        if (QFileInfo(folder).isDir())
+        if (!keepsLastReply(*call, job))
             writeReply(folder, false, page);
-        const Job job = readJob(call->jobPath);
-        page = job.firstPage;
-        writeReply(folder, false, page);
         run(argc, argv, *call, job, page);
         writeReply(folder, true, page);
-        return Done;
+        return wyd::Done;
     } catch (const RunTimeError& failure) {
         if (failure.number() == error::Cancelled)
-            return CancelledByUser;
+            return wyd::CancelledByUser;
         say(failure.text());
     } catch (const std::exception& failure) {
         say(QString::fromLocal8Bit(failure.what()));
     }
-    return Failed;
+    return wyd::Failed;
 }

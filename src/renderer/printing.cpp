@@ -2,9 +2,13 @@
 
 #include "pages/drawing.h"
 #include "pages/page_painter.h"
+#include "protocol/renderer_news.h"
+#include "renderer/news.h"
+#include "renderer/own_window.h"
 #include "renderer/print_queue.h"
 #include "runtime/run_time_error.h"
 
+#include <QFileInfo>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
@@ -23,7 +27,7 @@ constexpr double mmPerInch = 25.4;
     throw RunTimeError(error::DeviceIO, detail);
 }
 
-void setUp(QPrinter& printer, const Report& report) {
+void setUp(QPrinter& printer, const pages::Report& report) {
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(QPageLayout::Portrait);
     printer.setFullPage(true);
@@ -48,7 +52,7 @@ std::vector<std::size_t> pagesToPrint(const QPrinter& printer, std::size_t pages
     return chosen;
 }
 
-void printOn(QPrinter& printer, const Report& report) {
+void printOn(QPrinter& printer, const pages::Report& report) {
     const QString name = printer.printerName();
     const bool toFile = !printer.outputFileName().isEmpty();
     if (!toFile) {
@@ -79,7 +83,7 @@ void printOn(QPrinter& printer, const Report& report) {
         cannotPrint(QStringLiteral("drukarka %1 nie przyjęła wydruku").arg(name));
 }
 
-void printOnDefault(const Report& report) {
+void printOnDefault(const pages::Report& report) {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (info.isNull())
         cannotPrint(QStringLiteral("nie ma drukarki domyślnej"));
@@ -88,17 +92,19 @@ void printOnDefault(const Report& report) {
     printOn(printer, report);
 }
 
-void printOnChosen(const Report& report) {
+void printOnChosen(const pages::Report& report) {
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer, report);
     QPrintDialog dialog(&printer);
     dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
     dialog.setMinMax(1, static_cast<int>(report.pages.size()));
-    if (dialog.exec() != QDialog::Accepted)
+    if (runOwnWindow(dialog) != QDialog::Accepted)
         throw RunTimeError(error::Cancelled, QStringLiteral("okno wyboru drukarki"));
     printer.setFullPage(true);
     printOn(printer, report);
+    if (!printer.outputFileName().isEmpty())
+        tell(news::fileWritten(QFileInfo(printer.outputFileName()).absoluteFilePath()));
 }
 
 } // namespace ferna::renderer

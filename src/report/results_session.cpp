@@ -2,9 +2,9 @@
 
 #include "design/configuration.h"
 #include "design/typed_names.h"
+#include "pages/sketch_files.h"
 #include "protocol/renderer_files.h"
 #include "report/document_writer.h"
-#include "report/rtf_writer.h"
 #include "report/text_writer.h"
 #include "report/wyd_writer.h"
 #include "report/zone_sketch.h"
@@ -13,17 +13,19 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 namespace ferna {
 
 ResultsSession::ResultsSession(Stan& stan, Dialogs& dialogs, QString folder, bool norm0,
-                               std::function<QDateTime()> now, std::function<void()> render)
+                               std::function<QDateTime()> now,
+                               std::function<RendererReport()> render)
     : stan_(stan), dialogs_(dialogs), folder_(std::move(folder)), norm0_(norm0),
       now_(std::move(now)), render_(std::move(render)) {}
 
 void ResultsSession::saveSketches() {
     writeFileWhole(inFolder(QStringLiteral("ferogol.bmp")),
-                   readFileWhole(inFolder(QStringLiteral("Ferogo2.bmp"))));
+                   readFileWhole(inFolder(generalViewFile)));
     for (int c = 1; c <= stan_.obciazenia.Liczba_przyp; ++c)
         if (!wholePlate(stan_, c))
             Rysuj_strefe(raport_, stan_, c, inFolder(zoneSketchFile(c)));
@@ -38,7 +40,7 @@ void ResultsSession::open() {
 QByteArray ResultsSession::screenPicture() {
     const QString picture = inFolder(wyd::screenPicture);
     QFile::remove(picture);
-    Buduj_wyd(stan_, raport_, folder_);
+    Buduj_wyd(model(), folder_);
     writeJob(folder_, RenderMode::ScreenPicture, stan_.opcje.Nr_strony);
     render_();
     QByteArray bytes = readFileWhole(picture);
@@ -49,8 +51,9 @@ QByteArray ResultsSession::screenPicture() {
 void ResultsSession::print(RenderMode mode) {
     retitle();
     writeJob(folder_, mode, stan_.opcje.Nr_strony);
-    Buduj_wyd(stan_, raport_, folder_);
-    render_();
+    Buduj_wyd(model(), folder_);
+    for (const QString& file : render_().written)
+        noteWritten(file);
 }
 
 void ResultsSession::printOnChosenPrinter() {
@@ -87,33 +90,43 @@ QString ResultsSession::askWhereToSave(const SaveQuestion& question) {
     return chosen.value_or(QDir::current().filePath(question.preset));
 }
 
+void ResultsSession::noteWritten(const QString& path) {
+    written_ += QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+}
+
 void ResultsSession::saveText() {
     const QString path =
         askWhereToSave({QStringLiteral("Podaj nazwę pliku tekstowego"), QStringLiteral("Wyniki"),
                         QStringLiteral(".txt"),
                         QStringLiteral("plik wyników (*.txt)|*.txt|wszystkie pliki (*.*)|*.*")});
     try {
-        textReport(stan_, raport_).commit(path);
+        textReport(model()).commit(path);
+        noteWritten(path);
     } catch (const RunTimeError&) { // ends silently
     }
     QDir::setCurrent(folder_);
 }
 
+void ResultsSession::keep(const RtfPages& reached) {
+    if (stan_.opcje.Nr_strony != reached.Nr_strony)
+        behindThePage_ = QStringLiteral(" ");
+    stan_.opcje.Nr_strony = reached.Nr_strony;
+    raport_.Wiersze_naglowka(6) = reached.pageLine;
+}
+
 void ResultsSession::saveRtf() {
     const QString path = askWhereToSave(rtfQuestion());
-    const Integer firstPage = stan_.opcje.Nr_strony;
     try {
-        saveRtfReport(stan_, raport_, now_(), path);
+        keep(saveRtfReport(model(), stan_.opcje.Tryb_RTF, now_(), path));
+        noteWritten(path);
     } catch (const RunTimeError&) { // ends silently
     }
-    if (stan_.opcje.Nr_strony != firstPage)
-        behindThePage_ = QStringLiteral(" ");
     QDir::setCurrent(folder_);
 }
 
 std::unique_ptr<WordProcessor> ResultsSession::buildDocument() const {
     std::unique_ptr<WordProcessor> document = openWord_();
-    ferna::buildDocument(*document, stan_, raport_, folder_);
+    ferna::buildDocument(*document, model(), folder_);
     return document;
 }
 
@@ -121,6 +134,7 @@ void ResultsSession::saveDocument(std::unique_ptr<WordProcessor> document) {
     const QString path = askWhereToSave(documentQuestion());
     try {
         ferna::saveDocument(*document, path);
+        noteWritten(path);
     } catch (const RunTimeError&) { // ends silently
         QDir::setCurrent(folder_);
         return;
@@ -138,10 +152,12 @@ QString ResultsSession::pagePanel() const {
     return QStringLiteral(" Strona ") + general(stan_.opcje.Nr_strony) + behindThePage_;
 }
 
+bool ResultsSession::exceeded() const {
+    return stan_.wyniki.Kotwy_OK == False || !stan_.wyniki.Beton_OK;
+}
+
 QString ResultsSession::statePanel() const {
-    return stan_.wyniki.Kotwy_OK != False && stan_.wyniki.Beton_OK
-               ? QStringLiteral("OK")
-               : QStringLiteral(" Przekroczone naprezenia !! ");
+    return exceeded() ? QStringLiteral(" Przekroczone naprezenia !! ") : QStringLiteral("OK");
 }
 
 } // namespace ferna

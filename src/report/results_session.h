@@ -2,10 +2,12 @@
 
 #include "desktop/word_processor.h"
 #include "protocol/renderer_start.h"
-#include "report/report_lines.h"
+#include "report/report_model.h"
+#include "report/rtf_writer.h"
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 namespace ferna {
 
@@ -16,7 +18,7 @@ public:
     /// `folder`: the program folder. `norm0`: the first option of the norm control is set. `now`
     /// gives the time of the title block; `render` runs the renderer on the job that was written.
     ResultsSession(Stan& stan, Dialogs& dialogs, QString folder, bool norm0,
-                   std::function<QDateTime()> now, std::function<void()> render);
+                   std::function<QDateTime()> now, std::function<RendererReport()> render);
 
     /// Prepares the lines, saves the sketches and asks for the label; the first screen picture may
     /// follow. Errors of the writers.
@@ -65,8 +67,13 @@ public:
     /// The texts of the status bar's panels 2 to 5.
     QString pagePanel() const;
     QString statePanel() const;
+    /// True where an anchor or the concrete is exceeded: panel 3 says so.
+    bool exceeded() const;
     const QString& projectPanel() const { return stan_.opcje.Nazwa_projektu; }
     const QString& labelPanel() const { return raport_.Nazwa_stopy; }
+
+    /// The files written since this was asked last, as absolute paths; none where a save failed.
+    QStringList takeWritten() { return std::exchange(written_, {}); }
 
     Raport& raport() { return raport_; }
 
@@ -74,13 +81,17 @@ private:
     QString inFolder(const QString& name) const { return folder_ + u'/' + name; }
     QString askWhereToSave(const SaveQuestion& question);
     void saveSketches();
+    void keep(const RtfPages& reached);
+    ReportModel model() const { return reportModel(stan_, raport_); }
+    void noteWritten(const QString& path);
 
     Stan& stan_;
     Dialogs& dialogs_;
     QString folder_;
     bool norm0_;
     std::function<QDateTime()> now_;
-    std::function<void()> render_;
+    std::function<RendererReport()> render_;
+    QStringList written_;
     std::function<std::unique_ptr<WordProcessor>()> openWord_ = [] { return openWordProcessor(); };
     Raport raport_;
     bool reportsCancel_ = false; ///< set once a save question has been asked

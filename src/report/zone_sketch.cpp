@@ -1,6 +1,7 @@
 #include "report/zone_sketch.h"
 
 #include "analysis/stan_przypadku.h"
+#include "design/sign_class.h"
 #include "runtime/format.h"
 
 namespace ferna {
@@ -27,6 +28,7 @@ struct Zone {
 Zone zoneOf(const Stan& stan, int c) {
     const Wyniki& r = stan.wyniki;
     const Integer signs = stan.obciazenia.Klasa_znaku(c);
+    const Signs corner = signsOf(signs);
     const Double L = stan.plyta.Dlugosc_plyty;
     const Double B = stan.plyta.Szerokosc_plyty;
     return {L,
@@ -35,8 +37,8 @@ Zone zoneOf(const Stan& stan, int c) {
             r.Przec_b(c),
             r.Przec_c(c),
             r.Przec_d(c),
-            signs == 1 || signs == 2 ? L / 2 : -L / 2,
-            signs == 1 || signs == 3 ? B / 2 : -B / 2,
+            corner.x * L / 2,
+            corner.y * B / 2,
             r.Typ_strefy_przyp(c),
             signs};
 }

@@ -16,11 +16,12 @@ constexpr std::size_t longestNumber = 400;      // characters of a typed number,
 constexpr long longestExponent = 1'000'000'000; // stands for every exponent beyond a long
 
 /// The typed number with blanks left out and the decimal sign as a point.
-/// Returns its length, 0 where a character cannot stand in a number.
+/// Returns its length, 0 where a character cannot stand in a number: a tab or a line break between
+/// digits parts two numbers.
 std::size_t normalised(QStringView text, std::array<char, longestNumber>& out) {
     std::size_t length = 0;
-    for (const QChar c : text) {
-        if (c.isSpace()) // also the no-break spaces that group digits
+    for (const QChar c : text.trimmed()) {
+        if (c.category() == QChar::Separator_Space) // also the no-break ones that group digits
             continue;
         if (length == out.size())
             return 0;
@@ -59,6 +60,17 @@ bool isBelowOne(std::string_view number) {
     return places + (negative ? -exponent : exponent) <= 0;
 }
 
+/// Does `convert` with the number that a text holds; an overflow names the text.
+template <typename Convert>
+auto converted(QStringView text, const Convert& convert) {
+    const Double value = CDbl(text);
+    try {
+        return convert(value);
+    } catch (const RunTimeError& failure) {
+        throw RunTimeError(failure.number(), QStringLiteral("\"%1\"").arg(text));
+    }
+}
+
 } // namespace
 
 Integer CInt(Double value) {
@@ -76,7 +88,7 @@ Integer CInt(int value) {
 }
 
 Integer CInt(QStringView text) {
-    return CInt(CDbl(text));
+    return converted(text, [](Double value) { return CInt(value); });
 }
 
 Single CSng(Double value) {
@@ -87,7 +99,7 @@ Single CSng(Double value) {
 }
 
 Single CSng(QStringView text) {
-    return CSng(CDbl(text));
+    return converted(text, [](Double value) { return CSng(value); });
 }
 
 Double CDbl(QStringView text) {

@@ -31,7 +31,8 @@ Single CSng(Double value);
 Single CSng(QStringView text);
 
 /// Text to a Double: an optional sign, digits, one decimal comma or point, an optional exponent;
-/// blanks around and among them are passed over. Error 13 where that is not so, error 6.
+/// blanks around and among them are passed over, tabs and line breaks around them. Error 13 where
+/// that is not so, error 6.
 Double CDbl(QStringView text);
 
 /// The largest whole number not above `value`.

@@ -16,7 +16,9 @@ namespace {
 constexpr qreal printDotsPerInch = 300;
 constexpr qreal millimetresPerInch = 25.4;
 
-QFont pictureFont(int letterHeight, bool bold) {
+constexpr int letterHeight = 11; // pixels of the picture
+
+QFont pictureFont(bool bold) {
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(letterHeight);
     font.setBold(bold);
@@ -89,7 +91,7 @@ void PictureBox::circle(QPointF centre, qreal radius) {
 }
 
 void PictureBox::text(QPointF at, const QString& text) {
-    const QFont font = pictureFont(letterHeight_, bold_);
+    const QFont font = pictureFont(bold_);
     painter_.setFont(font);
     painter_.setPen(colour_);
     const QPointF corner = pixel(at);

@@ -38,7 +38,6 @@ public:
     void setStyle(Style style) { style_ = style; }
     void setFilled(bool filled) { filled_ = filled; }
     void setBold(bool bold) { bold_ = bold; }
-    void setLetterHeight(int picturePixels) { letterHeight_ = picturePixels; }
 
     void clear();
     void line(QPointF from, QPointF to);
@@ -68,7 +67,6 @@ private:
     Style style_ = Style::Solid;
     bool filled_ = false;
     bool bold_ = false;
-    int letterHeight_ = 11;
 };
 
 /// The device pixel ratio at which a picture of a width in pixels is printed with at least 300 dots

@@ -57,6 +57,13 @@ RunTimeError::RunTimeError(int number, QString detail)
     : number_(number), detail_(std::move(detail)),
       what_("run-time error " + std::to_string(number) + ": " + text().toStdString()) {}
 
+RunTimeError RunTimeError::of(const std::string& key) const {
+    RunTimeError known = *this;
+    if (known.key_.empty())
+        known.key_ = key;
+    return known;
+}
+
 QString RunTimeError::text() const {
     return detail_.isEmpty() ? errorText(number_)
                              : errorText(number_) + QStringLiteral(": ") + detail_;

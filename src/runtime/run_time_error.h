@@ -41,6 +41,15 @@ public:
 
     int number() const noexcept { return number_; }
     const QString& detail() const noexcept { return detail_; }
+    /// Name of the control whose text could not be taken, in front of it the form's and "/" where
+    /// the command can be another form's; empty where it was none.
+    const QString& control() const noexcept { return control_; }
+    void setControl(const QString& name) { control_ = name; }
+    /// Which value of the task was at fault, by its key ("Przypadki[0].N"); empty where none is
+    /// known.
+    const std::string& key() const noexcept { return key_; }
+    /// The same error with the key of the value at fault, unless it has one already.
+    RunTimeError of(const std::string& key) const;
     /// Polish: the text of the number, and behind a colon the detail where there is one.
     QString text() const;
     const char* what() const noexcept override { return what_.c_str(); }
@@ -48,7 +57,22 @@ public:
 private:
     int number_;
     QString detail_;
+    QString control_;
     std::string what_;
+    std::string key_;
 };
+
+/// Takes the text of a control; an error that this raises names the control. Gives what `take`
+/// gives.
+template <typename Take>
+decltype(auto) inControl(const QString& name, const Take& take) {
+    try {
+        return take();
+    } catch (RunTimeError& failure) {
+        if (failure.control().isEmpty())
+            failure.setControl(name);
+        throw;
+    }
+}
 
 } // namespace ferna

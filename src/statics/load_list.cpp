@@ -47,11 +47,13 @@ const Layout& layoutOf(int Kierunek, int Rodzaj) {
 void readValues(Stan_statyki& loads, const LoadDialog& dialog, int slot) {
     const QString* const texts[] = {&dialog.Text1[0], &dialog.Text1[1], &dialog.Text2[0],
                                     &dialog.Text2[1]};
+    const char* const fields[] = {"Text1_0", "Text1_1", "Text2_0", "Text2_1"};
     const bool shown[] = {dialog.Text1_visible[0], dialog.Text1_visible[1], dialog.Text2_visible[0],
                           dialog.Text2_visible[1]};
     for (std::size_t row = 0; row < 4; ++row)
         if (shown[row])
-            loads.Obc_wart[row](slot) = CSng(*texts[row]);
+            loads.Obc_wart[row](slot) =
+                inControl(QString::fromLatin1(fields[row]), [&] { return CSng(*texts[row]); });
 }
 
 /// The totals live in their texts: read back, changed by the shares, written with one decimal.
@@ -59,7 +61,9 @@ void changeTotals(StaticsForm& form, const LoadShares& shares, Double sign) {
     const Single changes[] = {shares.N, shares.M1, shares.M2, shares.Vx, shares.Vy};
     std::array<Single, 5> totals{};
     for (std::size_t i = 0; i < totals.size(); ++i)
-        totals[i] = CSng(CSng(form.Text1[i]) + sign * changes[i]);
+        totals[i] = CSng(inControl(QStringLiteral("StatykaS/Text1_%1").arg(i),
+                                   [&] { return CSng(form.Text1[i]); })
+                         + sign * changes[i]);
     for (std::size_t i = 0; i < totals.size(); ++i)
         form.Text1[i] = Format(totals[i], u"### ##0.0");
 }

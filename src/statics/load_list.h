@@ -1,5 +1,6 @@
 #pragma once
 
+#include "design/load_row.h"
 #include "runtime/dialogs.h"
 #include "runtime/indexed_array.h"
 #include "runtime/numbers.h"
@@ -33,6 +34,9 @@ struct StaticsForm {
     int optTypsily = -1;          ///< chosen kind 0..2, -1 for none
     bool kindsVisible = true;     ///< optTypsily(1) and (2)
     bool cmdUsun_enabled = false;
+
+    /// The totals as a row of loads.
+    LoadRow<QString> totals() const { return {Text1[0], Text1[1], Text1[2], Text1[3], Text1[4]}; }
 };
 
 /// Opens the form with an empty list.

@@ -44,7 +44,7 @@ void chooseMode(SchemeDialog& dialog, int index, Integer Liczba_przyp) {
     offerNumbers(dialog, 0, Liczba_przyp - 1, 0);
 }
 
-void saveTotals(Stan& stan, const std::array<QString, 5>& totals, LoadTable& table) {
+void saveTotals(Stan& stan, const LoadRow<QString>& totals, LoadTable& table) {
     Integer& count = stan.obciazenia.Liczba_przyp;
     count = CInt(count + 1);
     table.setCount(Format(count, u"#0"));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "design/load_row.h"
 #include "design/stan.h"
 
 #include <array>
@@ -28,15 +29,15 @@ public:
     virtual ~LoadTable() = default;
     /// The field of the number of cases, `Text1`.
     virtual void setCount(const QString& text) = 0;
-    /// Texts of row r = 0..5: `Text6`, `Text7`, `Text8`, `Text5`, `Text10`.
-    virtual void setRow(int r, const std::array<QString, 5>& texts) = 0;
+    /// Texts of row r = 0..5.
+    virtual void setRow(int r, const LoadRow<QString>& texts) = 0;
     /// Makes the fields of the row visible, in that order.
     virtual void showRow(int r) = 0;
 };
 
-/// `cmdZapisz` of `StatykaS`, after the dialog has closed: a new row takes the totals N, M1, M2,
-/// Vx, Vy as they stand. Error 9 where six rows stand already; the number of cases and its field
+/// `cmdZapisz` of `StatykaS`, after the dialog has closed: a new row takes the totals as they
+/// stand. Error 9 where six rows stand already; the number of cases and its field
 /// have changed by then.
-void saveTotals(Stan& stan, const std::array<QString, 5>& totals, LoadTable& table);
+void saveTotals(Stan& stan, const LoadRow<QString>& totals, LoadTable& table);
 
 } // namespace ferna

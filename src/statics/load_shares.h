@@ -5,13 +5,7 @@
 namespace ferna {
 
 /// What a load brings to the base: kN and kNm.
-struct LoadShares {
-    Single N = 0;
-    Single M1 = 0;
-    Single M2 = 0;
-    Single Vx = 0;
-    Single Vy = 0;
-};
+using LoadShares = LoadRow<Single>;
 
 /// Shares of the load in a slot; an empty slot has none. Error 9 for a slot outside 0..15, 6.
 LoadShares loadShares(const Stan_statyki& loads, int slot);

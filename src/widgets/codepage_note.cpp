@@ -16,4 +16,12 @@ void showNote(QLineEdit* field, QLabel* note, const NoteOf& noteOf) {
     renew(field->text());
 }
 
+void keepRoomForNote(QLabel* note) {
+    constexpr int lines = 2;
+    note->setMinimumHeight(lines * note->fontMetrics().lineSpacing());
+    QSizePolicy policy = note->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    note->setSizePolicy(policy);
+}
+
 } // namespace ferna

@@ -11,4 +11,7 @@ namespace ferna {
 /// while there is nothing to say.
 void showNote(QLineEdit* field, QLabel* note, const NoteOf& noteOf);
 
+/// Keeps two lines of a form free for a note, so that the form does not move when it comes.
+void keepRoomForNote(QLabel* note);
+
 } // namespace ferna

@@ -1,10 +1,15 @@
 #include "widgets/form_tools.h"
 
+#include "windows/window_dress.h"
+
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScreen>
+#include <QShortcut>
+#include <QTabWidget>
 
 namespace ferna {
 
@@ -33,6 +38,7 @@ public:
 } // namespace
 
 void centreOnScreen(QWidget* form) {
+    makeRoomForTitle(form);
     form->adjustSize();
     const QRect screen = form->screen()->availableGeometry();
     form->move(
@@ -52,6 +58,50 @@ void stopTabAtTheChoice(QWidget* group) {
                 for (QRadioButton* one : options)
                     one->setFocusPolicy(one == option ? Qt::StrongFocus : Qt::ClickFocus);
         });
+}
+
+void keepRoomForEveryTab(QTabWidget* tabs) {
+    QSize room;
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        QWidget* const page = tabs->widget(tab);
+        for (QWidget* control : page->findChildren<QWidget*>())
+            control->ensurePolished(); // fonts and margins as they will be
+        page->layout()->activate();
+        room = room.expandedTo(page->layout()->totalSizeHint());
+    }
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        const QLayout* const layout = tabs->widget(tab)->layout();
+        if (layout->hasHeightForWidth())
+            room.setHeight(qMax(room.height(), layout->totalHeightForWidth(room.width())));
+    }
+    for (int tab = 0; tab < tabs->count(); ++tab)
+        tabs->widget(tab)->setMinimumSize(room);
+}
+
+void addTabKeys(QWidget* form, QTabWidget* tabs) {
+    const auto on = [form](const QKeySequence& keys, auto choose) {
+        QObject::connect(new QShortcut(keys, form), &QShortcut::activated, form, choose);
+    };
+    const auto step = [tabs](int by) {
+        return [tabs, by] {
+            int tab = tabs->currentIndex();
+            do
+                tab = (tab + tabs->count() + by) % tabs->count();
+            while (!tabs->isTabEnabled(tab));
+            tabs->setCurrentIndex(tab);
+        };
+    };
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        on(Qt::ALT | Qt::Key(Qt::Key_1 + tab), [tabs, tab] {
+            if (tabs->isTabEnabled(tab))
+                tabs->setCurrentIndex(tab);
+        });
+        tabs->setTabToolTip(tab, QStringLiteral("Alt+%1").arg(tab + 1));
+    }
+    on(Qt::CTRL | Qt::Key_Tab, step(1));
+    on(Qt::CTRL | Qt::Key_PageDown, step(1));
+    on(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, step(-1));
+    on(Qt::CTRL | Qt::Key_PageUp, step(-1));
 }
 
 } // namespace ferna

@@ -17,7 +17,8 @@ void PictureView::setSketch(const QString& svg) {
     update();
 }
 
-void PictureView::setDrawing(Drawing drawing) {
+void PictureView::setDrawing(QSize size, Drawing drawing) {
+    drawingSize_ = size;
     drawing_ = std::move(drawing);
     renew();
 }
@@ -31,19 +32,24 @@ QSize PictureView::sizeHint() const {
     return sketch_ ? sketch_->defaultSize().expandedTo(minimumSize()) : minimumSize();
 }
 
+QRectF PictureView::placeOf(QSizeF picture) const {
+    picture.scale(size(), Qt::KeepAspectRatio);
+    const QPointF corner((width() - picture.width()) / 2, (height() - picture.height()) / 2);
+    return {corner, picture};
+}
+
 void PictureView::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     if (sketch_) {
-        const QSizeF size =
-            QSizeF(sketch_->defaultSize()).scaled(this->size(), Qt::KeepAspectRatio);
-        const QPointF corner((width() - size.width()) / 2, (height() - size.height()) / 2);
-        sketch_->render(&painter, QRectF(corner, size));
+        sketch_->render(&painter, placeOf(sketch_->defaultSize()));
     } else if (drawing_) {
-        const QSize wanted = size() * devicePixelRatioF();
-        if (image_.size() != wanted)
-            image_ = drawing_(size(), devicePixelRatioF());
-        painter.drawImage(0, 0, image_);
+        const QRectF place = placeOf(drawingSize_);
+        const qreal ratio = place.width() * devicePixelRatioF() / drawingSize_.width();
+        if (image_.devicePixelRatio() != ratio || image_.isNull())
+            image_ = drawing_(ratio);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(place, image_);
     }
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -10,19 +10,21 @@ class QSvgRenderer;
 
 namespace ferna {
 
-/// Shows a picture sharp at the screen's scale: either an SVG sketch, scaled to the room with its
-/// proportions kept, or a drawing that is made anew for every size.
+/// Shows a picture sharp at the screen's scale, in the middle of its room and with its proportions
+/// kept: either an SVG sketch or a drawing that is made anew for every size.
 class PictureView : public QWidget {
 public:
-    using Drawing = std::function<QImage(QSize size, qreal devicePixelRatio)>;
+    /// Draws at a device pixel ratio.
+    using Drawing = std::function<QImage(qreal devicePixelRatio)>;
 
     explicit PictureView(QWidget* parent = nullptr);
     ~PictureView() override;
 
     /// Shows a sketch from a resource or a file.
     void setSketch(const QString& svg);
-    /// Shows a drawing; called again when size or scale change.
-    void setDrawing(Drawing drawing);
+    /// Shows a drawing of a size in picture pixels, as large as the room lets it be with its
+    /// proportions kept; called again when room or scale change.
+    void setDrawing(QSize size, Drawing drawing);
     /// Draws anew.
     void renew();
 
@@ -32,7 +34,11 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// The place of a picture of this size in the room.
+    QRectF placeOf(QSizeF picture) const;
+
     Drawing drawing_;
+    QSize drawingSize_;
     std::unique_ptr<QSvgRenderer> sketch_;
     QImage image_;
 };

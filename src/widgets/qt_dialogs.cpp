@@ -2,11 +2,11 @@
 
 #include "design/typed_names.h"
 #include "widgets/codepage_note.h"
+#include "widgets/number_field.h"
+#include "windows/save_question.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
-#include <QDir>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -73,6 +73,7 @@ QString QtDialogs::input(const QString& prompt, const QString& title, const QStr
     box.setWindowTitle(title);
     auto* const text = new QLineEdit(preset);
     text->selectAll();
+    keepTablesOfNumbersOut(text);
     auto* const label = new QLabel(prompt);
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(text);
@@ -95,19 +96,9 @@ QString QtDialogs::input(const QString& prompt, const QString& title, const QStr
 }
 
 std::optional<QString> QtDialogs::saveFile(const SaveQuestion& question) {
-    QFileDialog box(QApplication::activeWindow(), question.title, QDir::currentPath());
-    box.setObjectName(QStringLiteral("saveQuestion"));
-    box.setAcceptMode(QFileDialog::AcceptSave); // asks before it replaces a file
-    QStringList filters;
-    const QStringList parts = question.filter.split(u'|');
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
-        filters += parts[i];
-    box.setNameFilters(filters);
-    box.setDefaultSuffix(question.extension);
-    box.selectFile(question.preset);
-    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty())
-        return std::nullopt;
-    return box.selectedFiles().front();
+    SaveSurroundings surroundings;
+    surroundings.parent = QApplication::activeWindow();
+    return askWhereToSave(question, surroundings);
 }
 
 } // namespace ferna

@@ -4,6 +4,7 @@
 #include "widgets/codepage_note.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -16,7 +17,9 @@ void SteelDialog::wire(QLineEdit* name, QLabel* note, QList<QLineEdit*> numbers,
     numbers_ = std::move(numbers);
     for (QLineEdit* field : std::as_const(numbers_))
         allowOnlyNumbers(field);
+    keepTablesOut(this, {name});
     showNote(name, note, steelNote);
+    keepRoomForNote(note);
     connect(ok, &QPushButton::clicked, this, &SteelDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &SteelDialog::reject);
     centreOnScreen(this);

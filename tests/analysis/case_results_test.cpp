@@ -1,4 +1,5 @@
 #include "analysis/case_results.h"
+#include "analysis/solve.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/run_time_errors.h"
@@ -19,7 +20,7 @@ namespace {
 struct Checks : ::testing::Test {
     WithDecimalSign comma{u','};
     Stan stan;
-    Stan_przypadku s;
+    Integer zoneShape = zone::Triangle;
 
     Checks() {
         ferna::testing::numberedCatalogue(stan);
@@ -31,8 +32,9 @@ struct Checks : ::testing::Test {
         stan.plyta.Liczba_srub = 2;
         stan.plyta.Pole_kotwy(1) = 0.5;
         stan.plyta.Pole_kotwy(2) = 0.5;
-        s.Typ_strefy = zone::Triangle;
     }
+
+    void check() { Sprawdz_beton_i_sily_poziome(stan, zoneShape, stressesOf(stan, 1)); }
 
     QStringList checked(Single stress = 1) {
         Wyniki& r = stan.wyniki;
@@ -41,7 +43,7 @@ struct Checks : ::testing::Test {
         r.Sigma_b(1) = stress;
         r.Liczba_przekroczen = 0;
         r.Znak_wiersza.fill(0);
-        Sprawdz_beton_i_sily_poziome(stan, s);
+        check();
         QStringList lines;
         for (int i = 1; i <= r.Nr_wiersza; ++i)
             lines += r.Wiersze_wynikow(i);
@@ -109,7 +111,7 @@ TEST_F(Checks, TheShearGoesToTheAnchorsOnTheTensionSide) {
 
 TEST_F(Checks, OnACompressedPlateTheShearGoesToAllAnchors) {
     stan.opcje.Hsily_wszystkie = 1;
-    s.Typ_strefy = zone::WholePlate;
+    zoneShape = zone::WholePlate;
     EXPECT_EQ(shear(9.9F), QStringLiteral("<47>"));
     EXPECT_EQ(shear(10.6F), QStringLiteral("<49>"));
 }
@@ -139,16 +141,22 @@ TEST_F(Checks, TheHundredAndThirtyThirdLineIsRefused) {
     Wyniki& r = stan.wyniki;
     r.Sigma_b(1) = 1;
     r.Nr_wiersza = 131;
-    Sprawdz_beton_i_sily_poziome(stan, s);
+    check();
     EXPECT_EQ(r.Nr_wiersza, 132);
     EXPECT_EQ(r.Wiersze_wynikow(132), QStringLiteral("<50>"));
-    EXPECT_EQ(errorNumberOf([&] { Sprawdz_beton_i_sily_poziome(stan, s); }), error::Subscript);
+    EXPECT_EQ(errorNumberOf([&] { check(); }), error::Subscript);
 }
 
 struct Results : ::testing::Test {
     WithDecimalSign comma{u','};
     ColumnBase base;
     const Wyniki& r = base.stan.wyniki;
+
+    /// The case of the last calculation once more.
+    CaseResult solvedAnew() const {
+        Carry carry = carryOf(base.stan, {});
+        return solve(inputOf(base.stan), carry);
+    }
 };
 
 TEST_F(Results, SixCasesWithTwentyAnchorsInTensionOverrunTheLines) {
@@ -211,7 +219,7 @@ TEST_F(Results, AStressEqualToTheStrengthPasses) {
         base.stan.materialy.Fd_kotwy = strength;
         base.stan.wyniki.Nr_wiersza = 0;
         base.stan.wyniki.Kotwy_OK = True;
-        Wyniki_linii_obojetnej(base.stan, base.solver);
+        Zapisz_wyniki(base.stan, solvedAnew());
         EXPECT_EQ(r.Kotwy_OK == True, passes);
         EXPECT_EQ(r.Wiersze_wynikow(1).endsWith(u"<2>"), !passes);
     }
@@ -231,10 +239,13 @@ TEST_F(Results, AnAnchorOnTheNeutralLineHasNeitherStressNorLine) {
     base.anchor(-250, -150).anchor(250, 150).loads(50, 60, 20);
     ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
     ASSERT_LT(base.stan.plyta.Odl_kotwy(1), 0);
-    base.stan.plyta.Odl_kotwy(2) = 0;
+    base.solver.Odl_kotwy(2) = 0;
     base.stan.wyniki.Sigma_kotwy(2)(1) = 1;
     base.stan.wyniki.Nr_wiersza = 0;
-    Wyniki_linii_obojetnej(base.stan, base.solver);
+    Carry carry;
+    CaseResult result;
+    stressesAtLine(base.solver, inputOf(base.stan), carry, result);
+    Zapisz_wyniki(base.stan, result);
     EXPECT_EQ(r.Nr_wiersza, 2) << "one anchor and the concrete";
     EXPECT_TRUE(r.Wiersze_wynikow(1).startsWith(u"1  "));
     EXPECT_TRUE(r.Wiersze_wynikow(2).startsWith(u"<3>"));

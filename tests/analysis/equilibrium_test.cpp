@@ -1,4 +1,5 @@
 #include "analysis/equilibrium.h"
+#include "analysis/load_case.h"
 #include "support/column_base.h"
 #include "support/run_time_errors.h"
 
@@ -140,10 +141,10 @@ TEST(AnchorDistances, AnAnchorOnTheLineIsNotInTension) {
     line.anchor(1, 3, 2.45);                    // on the line
     line.anchor(1, 1, 3.53);                    // tension side
     line.anchor(10, 10, 3.53);                  // compressed side
-    Odleglosci_srub(line.s, line.stan.plyta);
-    EXPECT_EQ(line.stan.plyta.Odl_kotwy(1), 0);
-    EXPECT_EQ(line.stan.plyta.Odl_kotwy(2), -1);
-    EXPECT_EQ(line.stan.plyta.Odl_kotwy(3), 8);
+    Odleglosci_srub(line.s, inputOf(line.stan));
+    EXPECT_EQ(line.s.Odl_kotwy(1), 0);
+    EXPECT_EQ(line.s.Odl_kotwy(2), -1);
+    EXPECT_EQ(line.s.Odl_kotwy(3), 8);
     EXPECT_EQ(line.s.Suma_Ad, -3.53);
     EXPECT_EQ(line.s.Suma_Add, 3.53);
 }
@@ -151,11 +152,11 @@ TEST(AnchorDistances, AnAnchorOnTheLineIsNotInTension) {
 TEST(AnchorDistances, ThoseOfRemovedAnchorsAreCleared) {
     Line line = lineOfSlopeMinusOne(20, 15, 4);
     for (int i = 1; i <= MaxAnchors; ++i)
-        line.stan.plyta.Odl_kotwy(i) = -9;
+        line.s.Odl_kotwy(i) = -9;
     line.anchor(1, 1, 3.53);
-    Odleglosci_srub(line.s, line.stan.plyta);
+    Odleglosci_srub(line.s, inputOf(line.stan));
     for (int i = 2; i <= MaxAnchors; ++i)
-        EXPECT_EQ(line.stan.plyta.Odl_kotwy(i), 0) << i;
+        EXPECT_EQ(line.s.Odl_kotwy(i), 0) << i;
 }
 
 TEST(Equilibrium, WithNoAnchorInTensionTheConcreteCarriesAll) {
@@ -163,13 +164,13 @@ TEST(Equilibrium, WithNoAnchorInTensionTheConcreteCarriesAll) {
     line.s.Ex = 3;
     line.s.Ey = 2;
     line.anchor(10, 10, 3.53);
-    Rownowaga_c(line.s, line.stan);
+    Rownowaga_c(line.s, inputOf(line.stan));
     EXPECT_EQ(line.s.Suma_Ad, 0);
     EXPECT_EQ(line.s.Sila_T, 0);
     EXPECT_NEAR(line.s.Sila_C, 10000, 1e-9);
     const Double arm = 3 * line.s.Cos_beta + 2 * line.s.Sin_beta + 5;
     EXPECT_NEAR(line.s.Reszta_c, 10000 * arm - line.s.Sila_C * line.s.Ramie_C, 1e-6);
-    Rownowaga_beta(line.s, line.stan);
+    Rownowaga_beta(line.s, inputOf(line.stan));
     EXPECT_EQ(line.s.Reszta_beta, line.s.Sila_C * line.s.Os_C);
 }
 
@@ -179,7 +180,7 @@ TEST(Equilibrium, OfForcesHoldsAtEveryLine) {
         line.anchor(-15, -10, 3.53);
         line.anchor(15, -10, 5.61);
         line.anchor(-15, 10, 2.45);
-        Rownowaga_c(line.s, line.stan);
+        Rownowaga_c(line.s, inputOf(line.stan));
         EXPECT_NEAR(line.s.Sila_C - line.s.Sila_T, 10000, 1e-8) << c;
     }
 }
@@ -190,12 +191,12 @@ TEST(Equilibrium, TheErrorAboutTheLineIsTheMomentThatIsLeft) {
     line.s.Ey = 10;
     line.anchor(-15, -10, 3.53);
     line.anchor(5, -10, 5.61);
-    Rownowaga_c(line.s, line.stan);
+    Rownowaga_c(line.s, inputOf(line.stan));
     Double moment =
         10000 * (30 * line.s.Cos_beta + 10 * line.s.Sin_beta - 2) - line.s.Sila_C * line.s.Ramie_C;
     Double along = line.s.Sila_C * line.s.Os_C;
     for (int i = 1; i <= 2; ++i) {
-        const Double d = line.stan.plyta.Odl_kotwy(i);
+        const Double d = line.s.Odl_kotwy(i);
         const Double force = -7 * line.s.Wsp_k * d * line.stan.plyta.Pole_kotwy(i); // tension
         ASSERT_LT(d, 0);
         moment += force * d; // pulls on the other side
@@ -203,20 +204,19 @@ TEST(Equilibrium, TheErrorAboutTheLineIsTheMomentThatIsLeft) {
             force * ((line.s.Yn(i) - 10) * line.s.Cos_beta - (line.s.Xn(i) - 30) * line.s.Sin_beta);
     }
     EXPECT_NEAR(line.s.Reszta_c, moment, 1e-6);
-    Rownowaga_beta(line.s, line.stan);
+    Rownowaga_beta(line.s, inputOf(line.stan));
     EXPECT_NEAR(line.s.Reszta_beta, along, 1e-6);
 }
 
 TEST(Equilibrium, TheErrorAlongTheLineKeepsTheScaleOfTheLastEvaluation) {
     Line line(20, 15, 0.9, 2);
     line.anchor(-15, -10, 3.53);
-    Rownowaga_c(line.s, line.stan);
+    Rownowaga_c(line.s, inputOf(line.stan));
     const Double k = line.s.Wsp_k;
     line.s.C_linii = 3; // as the interpolation moves it
-    Rownowaga_beta(line.s, line.stan);
+    Rownowaga_beta(line.s, inputOf(line.stan));
     EXPECT_EQ(line.s.Wsp_k, k);
-    EXPECT_NEAR(line.stan.plyta.Odl_kotwy(1), -15 * line.s.Cos_beta - 10 * line.s.Sin_beta - 3,
-                1e-12);
+    EXPECT_NEAR(line.s.Odl_kotwy(1), -15 * line.s.Cos_beta - 10 * line.s.Sin_beta - 3, 1e-12);
 }
 
 TEST(Equilibrium, ADivisorThatVanishesIsAnError) {
@@ -234,14 +234,14 @@ TEST(Equilibrium, AValueThatIsNotFiniteIsAnOverflow) {
     Line line(20, 15, 0.8, 5);
     line.s.Ex = std::numeric_limits<Double>::max();
     line.s.Ey = line.s.Ex;
-    EXPECT_EQ(errorNumberOf([&] { Rownowaga_c(line.s, line.stan); }), error::Overflow);
+    EXPECT_EQ(errorNumberOf([&] { Rownowaga_c(line.s, inputOf(line.stan)); }), error::Overflow);
 }
 
 TEST(Equilibrium, CountsItsEvaluationsUpToTheLimit) {
     Line line(20, 15, 0.8, 5);
     line.s.Liczba_ocen = evaluationLimit - 1;
-    EXPECT_NO_THROW(Rownowaga_c(line.s, line.stan));
-    EXPECT_THROW(Rownowaga_c(line.s, line.stan), EvaluationLimitReached);
+    EXPECT_NO_THROW(Rownowaga_c(line.s, inputOf(line.stan)));
+    EXPECT_THROW(Rownowaga_c(line.s, inputOf(line.stan)), EvaluationLimitReached);
 }
 
 } // namespace

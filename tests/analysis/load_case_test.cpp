@@ -1,4 +1,5 @@
 #include "analysis/load_case.h"
+#include "analysis/solve.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/run_time_errors.h"
@@ -16,14 +17,14 @@ struct LoadCase : ::testing::Test {
     WithDecimalSign comma{u','};
     ColumnBase base;
 
-    Double M1k() const { return base.stan.obciazenia.Moment_M1_kGcm; }
-    Double M2k() const { return base.stan.obciazenia.Moment_M2_kGcm; }
+    Double M1k() const { return base.solver.M1k; }
+    Double M2k() const { return base.solver.M2k; }
 
     /// The working moments of a case with these typed moments, kNm.
     void moments(Single M1, Single M2) {
         base.solver.M1n = M1;
         base.solver.M2n = M2;
-        Ustal_momenty(base.stan, base.solver);
+        Ustal_momenty(base.solver);
     }
 };
 
@@ -137,15 +138,12 @@ TEST_F(LoadCase, TheKernIsTheRhombus) {
           KernPoint{0.999, 0.1, true}, // passes both axis tests and fails on the rhombus
           KernPoint{0.1, 0.999, true}, KernPoint{1.01, 0.0, true}, KernPoint{0.0, 1.01, true},
           KernPoint{0.0, 0.98, false}}) {
-        Stan& stan = base.stan;
-        stan.obciazenia.Nr_przyp = 1;
-        stan.obciazenia.Sila_N_kG(1) = 1000;
         base.solver.Plyta_L = 60;
         base.solver.Plyta_B = 40;
-        stan.obciazenia.Moment_M1_kGcm = x * 1000 * 10 + 1e-3;
-        stan.obciazenia.Moment_M2_kGcm = y * 1000 * 40 / 6 + 1e-3;
-        Ustal_mimosrody(stan, base.solver);
-        EXPECT_EQ(Poza_rdzeniem(stan, base.solver), outside) << x << ' ' << y;
+        base.solver.M1k = x * 1000 * 10 + 1e-3;
+        base.solver.M2k = y * 1000 * 40 / 6 + 1e-3;
+        Ustal_mimosrody(base.solver, 1000);
+        EXPECT_EQ(Poza_rdzeniem(base.solver), outside) << x << ' ' << y;
     }
 }
 
@@ -168,10 +166,7 @@ TEST_F(LoadCase, AWholePlateCaseKeepsItsMarkInLaterCalculations) {
 }
 
 TEST_F(LoadCase, AVanishingForceCannotReachTheDivisionUnnoticed) {
-    Stan& stan = base.stan;
-    stan.obciazenia.Nr_przyp = 1;
-    stan.obciazenia.Sila_N_kG(1) = 0;
-    EXPECT_EQ(errorNumberOf([&] { Ustal_mimosrody(stan, base.solver); }), error::DivisionByZero);
+    EXPECT_EQ(errorNumberOf([&] { Ustal_mimosrody(base.solver, 0); }), error::DivisionByZero);
 }
 
 TEST_F(LoadCase, APlateWithoutOrOfNegativeSizeIsAnError) {

@@ -1,7 +1,9 @@
 #include "analysis/equilibrium.h"
+#include "analysis/load_case.h"
 #include "analysis/march_ahead.h"
 #include "analysis/search.h"
 #include "support/golden.h"
+#include "support/places.h"
 #include "support/random_tasks.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +32,7 @@ Double fullError(ColumnBase& base, Double c) {
     base.solver.C_linii = c;
     base.solver.Liczba_ocen = 0;
     try {
-        Rownowaga_c(base.solver, base.stan);
+        Rownowaga_c(base.solver, inputOf(base.stan));
     } catch (const RunTimeError&) {
         return std::nan("");
     }
@@ -65,7 +67,7 @@ TEST_P(RowOfErrors, HasTheBitsOfFullEvaluations) {
         const Double R = base.solver.Prom_R;
         if (!(R > 0) || base.stan.obciazenia.Nr_przyp < 1)
             continue;
-        const MarchAhead ahead(base.solver, base.stan, GetParam());
+        const MarchAhead ahead(base.solver, inputOf(base.stan), GetParam());
         for (int march = 0; march < 20; ++march) {
             const Double step = dice.between(-0.02, 0.02) * R * (march % 2 == 0 ? 1 : 1e-4);
             MarchAhead::Row distances;
@@ -91,7 +93,7 @@ TEST_P(RowOfErrors, IsNoNumberWhereTheEvaluationFails) {
     base.loads(100, 60, 40);
     base.calculate();
     turn(base, 0.7);
-    const MarchAhead ahead(base.solver, base.stan, GetParam());
+    const MarchAhead ahead(base.solver, inputOf(base.stan), GetParam());
     MarchAhead::Row distances;
     distances.fill(5);
     distances[1] = std::numeric_limits<Double>::infinity();
@@ -150,7 +152,7 @@ std::uint64_t fingerprint(std::uint64_t number) {
 // Among the tasks are marches that stand still for a million evaluations (3, 14) and searches that
 // go round (179, 1001).
 TEST(LookingAhead, ChangesNoBitOfAnyResult) {
-    std::ifstream file(FERNA_GOLDEN_DIR "/search.fingerprints.txt");
+    std::ifstream file(places::golden("/search.fingerprints.txt").toStdString());
     std::uint64_t number = 0;
     std::uint64_t expected = 0;
     int tasks = 0;

@@ -1,4 +1,6 @@
+#include "analysis/load_case.h"
 #include "analysis/search.h"
+#include "analysis/solve.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 
@@ -40,14 +42,15 @@ TEST(Search, AllocatesNothing) {
     base.fourAnchors(250, 150).anchor(0, 150).anchor(0, -150).loads(320, 140, 35);
     ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
     Stan_przypadku& s = base.solver;
-    Normalizuj_znaki(base.stan, s);
-    Ustal_momenty(base.stan, s);
-    Ustal_mimosrody(base.stan, s);
-    ASSERT_TRUE(Poza_rdzeniem(base.stan, s));
+    const CaseInput in = inputOf(base.stan);
+    Normalizuj_znaki(s, in, carryOf(base.stan, s));
+    Ustal_momenty(s);
+    Ustal_mimosrody(s, in.N);
+    ASSERT_TRUE(Poza_rdzeniem(s));
     s.Jest_rozw = false;
 
     const long before = allocations;
-    Szukaj_beta(s, base.stan, base.dialogs);
+    Szukaj_beta(s, in);
     EXPECT_EQ(allocations - before, 0);
     EXPECT_TRUE(s.Jest_rozw);
 

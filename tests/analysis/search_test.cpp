@@ -1,3 +1,4 @@
+#include "analysis/load_case.h"
 #include "analysis/search.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
@@ -44,17 +45,17 @@ struct Middle {
 
 TEST(SearchOfTheDistance, ASmallLoadEndsAtTheFirstInterpolation) {
     Middle cold(0.1F);
-    Szukaj_c(cold.s, cold.stan);
+    Szukaj_c(cold.s, inputOf(cold.stan));
     EXPECT_TRUE(cold.s.Jest_rozw);
     EXPECT_EQ(cold.s.Krok_c, 20) << "the tolerances do not scale with the load";
     Middle heavy(100000);
-    Szukaj_c(heavy.s, heavy.stan);
+    Szukaj_c(heavy.s, inputOf(heavy.stan));
     EXPECT_LT(std::fabs(heavy.s.Krok_c), 20);
 }
 
 TEST(SearchOfTheDistance, ItsResultLiesOneInterpolationAheadOfTheLastEvaluation) {
     Middle m(0.1F);
-    Szukaj_c(m.s, m.stan);
+    Szukaj_c(m.s, inputOf(m.stan));
     // The crossing with the edge x = a tells which line was evaluated last.
     const Double evaluated = (m.s.Pk_yR - m.s.Nachylenie * m.s.Pol_a) * m.s.Sin_beta;
     EXPECT_NEAR(evaluated,
@@ -73,14 +74,14 @@ TEST(SearchOfTheDistance, AColdStartThatIsNegativeAtOnceInterpolatesAtOnce) {
     m.s.Cos_beta = std::cos(m.s.Beta);
     m.s.Nachylenie = -m.s.Cos_beta / m.s.Sin_beta;
     Middle before = m;
-    Rownowaga_c(before.s, before.stan);
+    Rownowaga_c(before.s, inputOf(before.stan));
     const Double first = before.s.Reszta_c;
     before.s.C_linii += 1;
-    Rownowaga_c(before.s, before.stan);
+    Rownowaga_c(before.s, inputOf(before.stan));
     const Double second = before.s.Reszta_c;
     ASSERT_LT(first, 0);
     ASSERT_LT(second, 0);
-    Szukaj_c(m.s, m.stan);
+    Szukaj_c(m.s, inputOf(m.stan));
     EXPECT_EQ(m.s.C_linii, 41 - 1 * std::fabs(second) / (std::fabs(second) + std::fabs(first)));
     EXPECT_EQ(m.s.Liczba_ocen, 2);
 }
@@ -96,11 +97,11 @@ TEST(SearchOfTheDistance, AColdStartPassesOverAChangeFromMinusToPlus) {
         one.s.Cos_beta = std::cos(one.s.Beta);
         one.s.Nachylenie = -one.s.Cos_beta / one.s.Sin_beta;
         one.s.C_linii = c;
-        Rownowaga_c(one.s, one.stan);
+        Rownowaga_c(one.s, inputOf(one.stan));
     }
     ASSERT_LT(before.s.Reszta_c, 0);
     ASSERT_GT(behind.s.Reszta_c, 0);
-    Szukaj_c(m.s, m.stan);
+    Szukaj_c(m.s, inputOf(m.stan));
     EXPECT_EQ(m.s.Liczba_ocen, 3) << "not two: it goes back to 40 and on with a tenth of the step";
     EXPECT_EQ(m.s.Krok_c, 0.1 * -60);
     EXPECT_EQ(m.s.Reszta_c_poprz, behind.s.Reszta_c);
@@ -110,11 +111,11 @@ TEST(SearchOfTheDistance, AColdStartPassesOverAChangeFromMinusToPlus) {
 
 TEST(SearchOfTheDistance, AWarmStartBeginsBehindThePreviousDistance) {
     Middle m(0.1F);
-    Szukaj_c(m.s, m.stan);
+    Szukaj_c(m.s, inputOf(m.stan));
     const Double found = m.s.C_linii;
     m.s.Drugie_wejscie = 1;
     m.s.Liczba_ocen = 0;
-    Szukaj_c(m.s, m.stan);
+    Szukaj_c(m.s, inputOf(m.stan));
     EXPECT_EQ(m.s.Krok_c, 1);
     EXPECT_NEAR(m.s.C_linii, found, 2);
     EXPECT_GE(m.s.Liczba_ocen, 10) << "a march of a twentieth of the length in steps of 1 cm";
@@ -122,14 +123,14 @@ TEST(SearchOfTheDistance, AWarmStartBeginsBehindThePreviousDistance) {
 
 TEST(SearchOfTheDistance, TheCounterOfStepsWrapsBeforeItOverflows) {
     Middle fromZero(0.1F);
-    Szukaj_c(fromZero.s, fromZero.stan);
+    Szukaj_c(fromZero.s, inputOf(fromZero.stan));
     fromZero.s.Drugie_wejscie = 1;
     Middle wrapping = fromZero;
     fromZero.s.Kroki_c = 0;
-    Szukaj_c(fromZero.s, fromZero.stan);
+    Szukaj_c(fromZero.s, inputOf(fromZero.stan));
     ASSERT_GT(fromZero.s.Kroki_c, 4);
     wrapping.s.Kroki_c = 31998;
-    Szukaj_c(wrapping.s, wrapping.stan); // 31999, 10, 11, ...
+    Szukaj_c(wrapping.s, inputOf(wrapping.stan)); // 31999, 10, 11, ...
     EXPECT_EQ(wrapping.s.Kroki_c, 10 + fromZero.s.Kroki_c - 2);
     EXPECT_EQ(wrapping.s.C_linii, fromZero.s.C_linii);
 }
@@ -138,23 +139,23 @@ TEST(SearchOfTheDistance, AnErrorOfExactlyZeroCountsAsMovingAway) {
     Middle m(0); // without a load every error is 0
     m.s.Drugie_wejscie = 1;
     m.s.Liczba_ocen = evaluationLimit - 1000;
-    EXPECT_THROW(Szukaj_c(m.s, m.stan), EvaluationLimitReached);
+    EXPECT_THROW(Szukaj_c(m.s, inputOf(m.stan)), EvaluationLimitReached);
     EXPECT_LT(std::fabs(m.s.Krok_c), 1e-9) << "the step shrinks; towards zero it would stay 1";
 }
 
 TEST(SearchOfTheDistance, AdmitsAnglesUpToARightOne) {
     Middle m(0.1F);
     m.s.Beta = -1e-9;
-    Szukaj_c(m.s, m.stan);
+    Szukaj_c(m.s, inputOf(m.stan));
     EXPECT_FALSE(m.s.Jest_rozw);
     m.s.Beta = 3.1415926535 / 2 + 1e-12;
-    Szukaj_c(m.s, m.stan);
+    Szukaj_c(m.s, inputOf(m.stan));
     EXPECT_FALSE(m.s.Jest_rozw);
     m.s.Beta = 3.1415926535 / 2;
-    Szukaj_c(m.s, m.stan);
+    Szukaj_c(m.s, inputOf(m.stan));
     EXPECT_TRUE(m.s.Jest_rozw);
     m.s.Beta = 0;
-    EXPECT_EQ(errorNumberOf([&] { Szukaj_c(m.s, m.stan); }), error::DivisionByZero);
+    EXPECT_EQ(errorNumberOf([&] { Szukaj_c(m.s, inputOf(m.stan)); }), error::DivisionByZero);
 }
 
 TEST(SearchOfTheDistance, IsCoarserWhileTheAngleIsCoarse) {
@@ -162,8 +163,8 @@ TEST(SearchOfTheDistance, IsCoarserWhileTheAngleIsCoarse) {
     Middle fine(5000);
     coarse.s.Krok_beta = 1.01 / coarse.stan.opcje.Stopnie_na_radian;
     fine.s.Krok_beta = 0.99 / fine.stan.opcje.Stopnie_na_radian;
-    Szukaj_c(coarse.s, coarse.stan);
-    Szukaj_c(fine.s, fine.stan);
+    Szukaj_c(coarse.s, inputOf(coarse.stan));
+    Szukaj_c(fine.s, inputOf(fine.stan));
     EXPECT_LT(std::fabs(coarse.s.Reszta_c), 1000);
     EXPECT_GE(std::fabs(coarse.s.Reszta_c), 100);
     EXPECT_TRUE(std::fabs(fine.s.Reszta_c) < 100 || std::fabs(fine.s.Krok_c) < 0.01);
@@ -171,48 +172,43 @@ TEST(SearchOfTheDistance, IsCoarserWhileTheAngleIsCoarse) {
 }
 
 TEST(Retries, FirstTheSmallerMomentGrowsByATenth) {
-    Middle m(1000);
-    m.stan.obciazenia.Pierwsza_proba(1) = true;
-    m.stan.obciazenia.Moment_M1_kGcm = 2000;
-    m.stan.obciazenia.Moment_M2_kGcm = 1000;
-    Ponow_probe(m.s, m.stan, m.dialogs);
-    EXPECT_EQ(m.stan.obciazenia.Moment_M1_kGcm, 2000);
-    EXPECT_EQ(m.stan.obciazenia.Moment_M2_kGcm, 1.1 * 1000);
-    EXPECT_FALSE(m.stan.obciazenia.Pierwsza_proba(1));
-    EXPECT_TRUE(m.dialogs.messages.empty());
+    Stan_przypadku s;
+    Carry carry;
+    std::vector<CaseMessage> messages;
+    s.M1k = 2000;
+    s.M2k = 1000;
+    EXPECT_EQ(Ponow_probe(s, carry, messages), Retry::RaisedMoment);
+    EXPECT_EQ(s.M1k, 2000);
+    EXPECT_EQ(s.M2k, 1.1 * 1000);
+    EXPECT_FALSE(carry.mayRaiseMoment);
+    EXPECT_TRUE(messages.empty());
 
-    m.stan.obciazenia.Pierwsza_proba(1) = true;
-    m.stan.obciazenia.Moment_M2_kGcm = 2000; // equal: M1 grows
-    Ponow_probe(m.s, m.stan, m.dialogs);
-    EXPECT_EQ(m.stan.obciazenia.Moment_M1_kGcm, 1.1 * 2000);
-    EXPECT_EQ(m.stan.obciazenia.Moment_M2_kGcm, 2000);
+    carry.mayRaiseMoment = true;
+    s.M2k = 2000; // equal: M1 grows
+    EXPECT_EQ(Ponow_probe(s, carry, messages), Retry::RaisedMoment);
+    EXPECT_EQ(s.M1k, 1.1 * 2000);
+    EXPECT_EQ(s.M2k, 2000);
 }
 
 TEST(Retries, ThenTheLastAnchorMovesThenTheCaseIsGivenUp) {
-    Middle m(1000);
-    m.stan.plyta.Liczba_srub = 2;
-    storeAnchorAt(m.stan.plyta, 1, 100, 100, 24);
-    storeAnchorAt(m.stan.plyta, 2, -200, 150, 24);
-    Ponow_probe(m.s, m.stan, m.dialogs);
-    ASSERT_EQ(m.dialogs.messages.size(), 1U);
-    EXPECT_EQ(m.dialogs.messages[0].text, approximate);
-    EXPECT_EQ(m.dialogs.messages[0].title, QStringLiteral("Ferna 2005 Pr"));
-    EXPECT_EQ(m.dialogs.messages[0].style, MessageStyle::Plain);
-    EXPECT_TRUE(m.s.Dane_skorygowane);
-    EXPECT_EQ(m.stan.plyta.X_kotwy(2), CSng(-20 * 0.995));
-    EXPECT_EQ(m.stan.plyta.Y_kotwy(2), CSng(15 * 0.995));
-    EXPECT_EQ(m.stan.plyta.X_kotwy(1), 10);
-    EXPECT_EQ(m.stan.plyta.X_kotwy_mm(2), -200);
-    EXPECT_EQ(m.stan.plyta.Y_kotwy_mm(2), 150);
-    EXPECT_FALSE(m.s.Przerwij_obliczenia);
+    Stan_przypadku s;
+    Carry carry;
+    carry.mayRaiseMoment = false;
+    carry.lastX = -20;
+    carry.lastY = 15;
+    std::vector<CaseMessage> messages;
+    EXPECT_EQ(Ponow_probe(s, carry, messages), Retry::MovedAnchor);
+    EXPECT_EQ(messages, std::vector{CaseMessage::Approximate});
+    EXPECT_TRUE(carry.anchorMoved);
+    EXPECT_EQ(carry.lastX, CSng(-20 * 0.995));
+    EXPECT_EQ(carry.lastY, CSng(15 * 0.995));
+    EXPECT_FALSE(carry.gaveUp);
 
-    Ponow_probe(m.s, m.stan, m.dialogs);
-    ASSERT_EQ(m.dialogs.messages.size(), 3U);
-    EXPECT_EQ(m.dialogs.messages[1].text, approximate);
-    EXPECT_EQ(m.dialogs.messages[2].text, unsolvable);
-    EXPECT_EQ(m.dialogs.messages[2].style, MessageStyle::Plain);
-    EXPECT_TRUE(m.s.Przerwij_obliczenia);
-    EXPECT_EQ(m.stan.plyta.X_kotwy(2), CSng(-20 * 0.995)) << "it moves once";
+    EXPECT_EQ(Ponow_probe(s, carry, messages), Retry::None);
+    EXPECT_EQ(messages, (std::vector{CaseMessage::Approximate, CaseMessage::Approximate,
+                                     CaseMessage::NoSolution}));
+    EXPECT_TRUE(carry.gaveUp);
+    EXPECT_EQ(carry.lastX, CSng(-20 * 0.995)) << "it moves once";
 }
 
 struct RetriedTasks : ::testing::Test {
@@ -237,6 +233,7 @@ TEST_F(RetriedTasks, AScaledMomentSolvesTheCaseWithoutAWord) {
     EXPECT_NEAR(base.stan.obciazenia.Moment_M1_kGcm, 1.1 * 0.63 * 100000 / 9.80665, 1e-3);
     EXPECT_NEAR(base.stan.obciazenia.Moment_M2_kGcm, 33.52 * 100000 / 9.80665, 1e-1);
     EXPECT_GT(base.stan.wyniki.Sigma_b(1), 0);
+    EXPECT_EQ(base.stan.wyniki.outcomes(1), CaseOutcome::FoundWithRaisedMoment);
     EXPECT_EQ(base.stan.obciazenia.Moment_M1(1), -0.63F) << "the report shows what was typed";
 }
 
@@ -248,8 +245,13 @@ TEST_F(RetriedTasks, AMovedAnchorSolvesTheCaseAndStaysMoved) {
         .loads(500, 1, 0);
     EXPECT_EQ(base.calculate(), CalculationEnd::Computed);
     EXPECT_EQ(base.messages(), QStringList(approximate));
+    EXPECT_EQ(base.dialogs.messages[0].title, QStringLiteral("Ferna 2005 Pr"));
+    EXPECT_EQ(base.dialogs.messages[0].style, MessageStyle::Plain);
+    EXPECT_EQ(base.stan.wyniki.outcomes(1), CaseOutcome::FoundWithMovedAnchor);
+    EXPECT_EQ(base.stan.wyniki.outcomes(2), CaseOutcome::WholePlate);
     EXPECT_EQ(base.stan.plyta.X_kotwy(2), CSng(-60 * 0.995));
     EXPECT_EQ(base.stan.plyta.X_kotwy_mm(2), -600);
+    EXPECT_EQ(base.stan.plyta.X_kotwy(1), 60);
     EXPECT_EQ(base.solver.Xn(2), Double{CSng(-60 * 0.995)}) << "the later case sees it moved";
     EXPECT_GT(base.stan.wyniki.Sigma_b(1), 0);
 
@@ -276,6 +278,11 @@ TEST_F(RetriedTasks, AfterAFailedCaseLaterOnesOutsideTheKernReturnSilently) {
         .loads(300, 1, 1);      // inside the kern
     EXPECT_EQ(base.calculate(), CalculationEnd::NoResults);
     EXPECT_EQ(base.messages(), QStringList({approximate, approximate, unsolvable}));
+    EXPECT_EQ(base.dialogs.messages[2].title, QStringLiteral("Ferna 2005 Pr"));
+    EXPECT_EQ(base.dialogs.messages[2].style, MessageStyle::Plain);
+    EXPECT_EQ(base.stan.wyniki.outcomes(1), CaseOutcome::GaveUp);
+    EXPECT_EQ(base.stan.wyniki.outcomes(2), CaseOutcome::PassedOver);
+    EXPECT_EQ(base.stan.wyniki.outcomes(3), CaseOutcome::WholePlate);
     EXPECT_EQ(messagesAfter, std::vector<qsizetype>({3, 3, 3}));
     EXPECT_EQ(linesAfter, std::vector<Integer>({0, 0, 2}));
     EXPECT_EQ(base.stan.wyniki.Typ_strefy_przyp(2), 0);
@@ -285,6 +292,8 @@ TEST_F(RetriedTasks, AfterAFailedCaseLaterOnesOutsideTheKernReturnSilently) {
     base.noLoads().loads(50, 10, 4);
     EXPECT_EQ(base.calculate(), CalculationEnd::Computed) << "the next calculation is a fresh one";
     EXPECT_NE(base.stan.wyniki.Typ_strefy_przyp(1), 0);
+    EXPECT_EQ(base.stan.wyniki.outcomes(1), CaseOutcome::Found);
+    EXPECT_EQ(base.stan.wyniki.outcomes(2), CaseOutcome::NotComputed);
 }
 
 TEST_F(RetriedTasks, ASecondHardCaseIsGivenUpAfterItsScaling) {

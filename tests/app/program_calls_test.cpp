@@ -1,4 +1,5 @@
 #include "renderer/program_run.h"
+#include "support/places.h"
 
 #include <gtest/gtest.h>
 
@@ -11,8 +12,7 @@ Outcome call(const char* program, const QStringList& arguments) {
     auto environment = QProcessEnvironment::systemEnvironment();
     for (const char* screen : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
         environment.remove(QString::fromLatin1(screen));
-    return runProgram(QStringLiteral(FERNA_BIN_DIR "/") + QLatin1String(program), arguments,
-                      environment);
+    return runProgram(places::bin("/") + QLatin1String(program), arguments, environment);
 }
 
 class Programs : public ::testing::TestWithParam<const char*> {};

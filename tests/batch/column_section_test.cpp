@@ -25,11 +25,11 @@ TEST_F(ColumnSectionOfATask, EveryReferenceTaskAgrees) {
         EXPECT_EQ(expected.dump(), result.value.dump()) << "task " << golden.line;
         EXPECT_TRUE(result.Blad.is_null());
         EXPECT_EQ(static_cast<std::size_t>(stan.obciazenia.Liczba_przyp), before + 1);
-        EXPECT_EQ(fields.Text6.at(before).toStdString(), expected.at("N").get<std::string>());
-        EXPECT_EQ(fields.Text7.at(before).toStdString(), expected.at("M1").get<std::string>());
-        EXPECT_EQ(fields.Text8.at(before).toStdString(), expected.at("M2").get<std::string>());
-        EXPECT_EQ(fields.Text5.at(before).toStdString(), expected.at("Vx").get<std::string>());
-        EXPECT_EQ(fields.Text10.at(before).toStdString(), expected.at("Vy").get<std::string>());
+        EXPECT_EQ(fields.loads.at(before).N.toStdString(), expected.at("N").get<std::string>());
+        EXPECT_EQ(fields.loads.at(before).M1.toStdString(), expected.at("M1").get<std::string>());
+        EXPECT_EQ(fields.loads.at(before).M2.toStdString(), expected.at("M2").get<std::string>());
+        EXPECT_EQ(fields.loads.at(before).Vx.toStdString(), expected.at("Vx").get<std::string>());
+        EXPECT_EQ(fields.loads.at(before).Vy.toStdString(), expected.at("Vy").get<std::string>());
         ++count;
     }
     EXPECT_EQ(count, 53);
@@ -75,7 +75,7 @@ TEST_F(ColumnSectionOfATask, AnEmptyListWritesItsRow) {
     Stan stan;
     InputFields fields;
     runColumnTask(readColumnTask(Json::parse("[]")), stan, fields);
-    EXPECT_EQ(fields.Text6[1], QStringLiteral("0"));
+    EXPECT_EQ(fields.loads[1].N, QStringLiteral("0"));
 }
 
 TEST_F(ColumnSectionOfATask, ASixteenthLoadIsTheErrorOfTheRun) {

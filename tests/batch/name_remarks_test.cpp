@@ -1,6 +1,7 @@
 #include "batch/name_remarks.h"
 #include "renderer/program_run.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -54,7 +55,7 @@ TEST(NameRemarks, StandOnStandardErrorWhereAReportIsWritten) {
     const Folder folder;
     const QString task =
         folder.write(QStringLiteral("t.json"), taskWith(R"("Nazwa_projektu": "Słup Ω",)"));
-    const QString program = QStringLiteral(FERNA_BIN_DIR "/ferna-wsad");
+    const QString program = places::bin("/ferna-wsad");
     EXPECT_EQ(runProgram(program, {task}).errors, QString());
     const Outcome run = runProgram(
         program, {QStringLiteral("--raport"), folder.path(QStringLiteral("r.txt")), task});

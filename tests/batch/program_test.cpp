@@ -1,54 +1,13 @@
 // The built program, driven from outside.
-#include "support/folder.h"
-#include "support/printing.h"
+#include "batch/program.h"
+#include "support/places.h"
 
-#include <QProcess>
+#include <sys/resource.h>
 
-#include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
-
-using ferna::testing::Folder;
+using namespace ferna::testing;
 using Json = nlohmann::json;
 
 namespace {
-
-const QByteArray good =
-    R"({"Nazwa_projektu": "Hala ż", "Dlug_plyty_mm": 600, "Szer_plyty_mm": 400,)"
-    R"("Kotwy": [{"x": -250, "y": -150, "fi": 24}, {"x": 250, "y": 150, "fi": 24}],)"
-    R"("Przypadki": [{"N": 50, "M1": 60, "M2": 20, "Vx": 1, "Vy": 0}]})";
-
-struct Program : ::testing::Test {
-    Folder folder;
-    QByteArray out;
-    QByteArray err;
-    QString epoch;
-
-    int call(const QStringList& arguments, const QByteArray& input = {}) {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.remove(QStringLiteral("SOURCE_DATE_EPOCH"));
-        if (!epoch.isEmpty())
-            environment.insert(QStringLiteral("SOURCE_DATE_EPOCH"), epoch);
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"), arguments);
-        process.write(input);
-        process.closeWriteChannel();
-        EXPECT_TRUE(process.waitForFinished(120'000));
-        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
-        out = process.readAllStandardOutput();
-        err = process.readAllStandardError();
-        return process.exitCode();
-    }
-
-    QString task(const QByteArray& text) { return folder.write(QStringLiteral("t.json"), text); }
-
-    QList<QByteArray> stream(const QByteArray& input, const QStringList& more = {}) {
-        EXPECT_EQ(call(QStringList(QStringLiteral("--linie")) + more, input), 0);
-        QList<QByteArray> lines = out.split('\n');
-        EXPECT_EQ(lines.takeLast(), QByteArray()) << "the last line is ended";
-        return lines;
-    }
-};
 
 TEST_F(Program, ASolvedTaskLeavesWithNothing) {
     EXPECT_EQ(call({task(good)}), 0);
@@ -108,7 +67,7 @@ TEST_F(Program, ABadLineOfAStreamBecomesItsResult) {
     const QByteArray input = good + "\nno json\n" + good + "\n{\"Nr_normy\": 2}\n\n"
                              + "{\"Nazwa_projektu\": \"\xff\xfe\"}\n" + QByteArray(50'000, '[')
                              + "\n" + good;
-    const auto lines = stream(input);
+    const auto lines = stream(input, {}, 1);
     ASSERT_EQ(lines.size(), 8);
     for (const int n : {1, 3, 8}) {
         const Json result = Json::parse(lines[n - 1].toStdString());
@@ -125,11 +84,115 @@ TEST_F(Program, ABadLineOfAStreamBecomesItsResult) {
 }
 
 TEST_F(Program, SeveralThreadsGiveTheSameStream) {
-    const QByteArray tasks =
-        Folder::bytesOf(QStringLiteral(FERNA_GOLDEN_DIR "/solver.tasks.jsonl"));
-    const auto one = stream(tasks, {QStringLiteral("--watki"), QStringLiteral("1")});
-    EXPECT_EQ(stream(tasks, {QStringLiteral("--watki"), QStringLiteral("3")}), one);
+    const QByteArray tasks = Folder::bytesOf(places::golden("/solver.tasks.jsonl"));
+    const auto one = stream(tasks, {QStringLiteral("--watki"), QStringLiteral("1")}, 1);
+    EXPECT_EQ(stream(tasks, {QStringLiteral("--watki"), QStringLiteral("3")}, 1), one);
     EXPECT_EQ(one.size(), tasks.trimmed().count('\n') + 1);
+}
+
+TEST_F(Program, AStreamLeavesWithOneWhereATaskWasRefusedOrNotSolved) {
+    stream(good + '\n' + good);
+    stream(good + '\n' + QByteArray(good).replace("\"N\": 50", "\"N\": -50"), {}, 1);
+    stream(good + '\n' + QByteArray(good).replace("\"N\": 50", "\"N\": 1e300"), {}, 1);
+    stream(good + "\nno json\n", {}, 1);
+}
+
+TEST_F(Program, AStreamThatCannotBeReadIsAFailure) {
+    const QStringList shell{QStringLiteral("-c"), QStringLiteral("\"$0\" --linie < /"),
+                            places::bin("/ferna-wsad")};
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"), shell);
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 2);
+    EXPECT_TRUE(process.readAllStandardError().contains("standard input"));
+    const QString mem = QStringLiteral("/proc/self/mem"); // opens, and cannot be read
+    process.start(QStringLiteral("/bin/sh"),
+                  {shell[0], QStringLiteral("\"$0\" --linie < ") + mem, shell[2]});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 2);
+    EXPECT_TRUE(process.readAllStandardError().contains("Device I/O error: standard input"));
+}
+
+TEST_F(Program, AnswersEveryLineBeforeTheNextIsSent) {
+    for (const char* threads : {"1", "2", "4"}) {
+        QProcess process;
+        process.start(
+            places::bin("/ferna-wsad"),
+            {QStringLiteral("--linie"), QStringLiteral("--watki"), QLatin1String(threads)});
+        for (int i = 0; i < 20; ++i) {
+            process.write(good + '\n');
+            ASSERT_TRUE(process.canReadLine() || process.waitForReadyRead(20'000)) << threads;
+            EXPECT_TRUE(process.readLine().startsWith("{\"Komunikaty\""));
+        }
+        process.closeWriteChannel();
+        ASSERT_TRUE(process.waitForFinished());
+        EXPECT_EQ(process.exitCode(), 0);
+    }
+}
+
+TEST_F(Program, ALineBeyondItsLimitIsRefusedAndTheNextIsComputed) {
+    const auto lines = stream(QByteArray(5'000'000, '[') + '\n' + good, {}, 1);
+    ASSERT_EQ(lines.size(), 2);
+    EXPECT_EQ(Json::parse(lines[0].toStdString())["Blad"]["tekst"],
+              "line 1: expected at most 1000000 bytes");
+    EXPECT_TRUE(Json::parse(lines[1].toStdString())["Obliczone"]);
+}
+
+TEST_F(Program, ARunTimeErrorNamesKeyCaseAndWhatWasMet) {
+    const auto error = [&](const QByteArray& text) {
+        EXPECT_EQ(call({task(text)}), 1);
+        return Json::parse(out.toStdString())["Blad"];
+    };
+    const Json load = error(QByteArray(good).replace("\"Vx\": 1", "\"Vx\": 1e300"));
+    EXPECT_EQ(load, Json::parse(R"({"numer": 6, "tekst": "Overflow", "klucz": "Przypadki[0].Vx",
+                                    "przypadek": 1, "szczegol": "\"1E+300\""})"));
+    const Json ratio = error(
+        QByteArray(good).replace("\"Kotwy\"", R"("Tryb_wsp_n": 1, "Wsp_n_val": 1e99, "Kotwy")"));
+    EXPECT_EQ(ratio["klucz"], "Wsp_n_val");
+    EXPECT_FALSE(ratio.contains("przypadek"));
+    const Json search = error(
+        R"({"Dlug_plyty_mm": 600, "Szer_plyty_mm": 400, "Hsily_wszystkie": 1,
+            "Kotwy": [{"x": 250, "y": 150, "fi": 24}, {"x": 250, "y": -150, "fi": 24}],
+            "Przypadki": [{"N": 300, "M1": 40, "M2": 0, "Vx": 0, "Vy": 0},
+                          {"N": 300, "M1": 40, "M2": 0, "Vx": 120, "Vy": 0}]})");
+    EXPECT_EQ(search["numer"], 11);
+    EXPECT_EQ(search["przypadek"], 2);
+    const Json column = error(QByteArray(good).replace(
+        "\"Kotwy\"",
+        R"("Slup": [{"kierunek": "pionowe", "rodzaj": "sila", "P": 1e300}], "Kotwy")"));
+    EXPECT_EQ(column["klucz"], "Slup[0]");
+    const Json plate =
+        error(QByteArray(good).replace("\"Kotwy\"", R"("Blacha": {"Nr_stali_blachy": 2,
+                        "Sprawdzenia": {"5": {"sigma": 1e99}}}, "Kotwy")"));
+    EXPECT_EQ(plate["klucz"], "Blacha.Sprawdzenia.5");
+}
+
+/// As many bytes of memory as that, for the programs that the test starts.
+class LittleMemory {
+public:
+    explicit LittleMemory(rlim_t bytes) {
+        getrlimit(RLIMIT_AS, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_AS, &limit);
+    }
+    ~LittleMemory() { setrlimit(RLIMIT_AS, &before_); }
+    LittleMemory(const LittleMemory&) = delete;
+    LittleMemory& operator=(const LittleMemory&) = delete;
+
+private:
+    rlimit before_{};
+};
+
+TEST_F(Program, OutOfMemoryOrThreadsIsOneLineAndLeavesWithTwo) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    GTEST_SKIP() << "the sanitizer takes more memory than there is here";
+#endif
+    constexpr rlim_t some = 500'000'000; // less than the stacks of 256 threads
+    const LittleMemory limit(some);
+    EXPECT_EQ(call({QStringLiteral("--linie"), QStringLiteral("--watki"), QStringLiteral("256")}),
+              2);
+    EXPECT_EQ(err.count('\n'), 1) << err.toStdString();
+    EXPECT_TRUE(err.startsWith("ferna-wsad: the system gives no more")) << err.toStdString();
 }
 
 TEST_F(Program, AnEmptyStreamGivesNothing) {

@@ -2,6 +2,7 @@
 #include "batch/task_run.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -67,7 +68,7 @@ TEST(References, EveryTaskOfTheSolverHasItsResults) {
     const RunOptions options{
         folder.write(QStringLiteral("k.txt"), catalogue), {}, QDateTime::currentDateTime()};
     const auto lines = [](const char* name) {
-        return Folder::bytesOf(QStringLiteral(FERNA_GOLDEN_DIR "/") + QString::fromLatin1(name))
+        return Folder::bytesOf(places::golden("/") + QString::fromLatin1(name))
             .trimmed()
             .split('\n');
     };

@@ -3,6 +3,7 @@
 #include "renderer/program_run.h"
 #include "runtime/codepage.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <QRegularExpression>
@@ -33,9 +34,9 @@ class Reports : public ::testing::Test {
 protected:
     /// Computes a task and writes its report there. Returns what was told beside it.
     QString report(const QByteArray& task, const QString& file) {
-        const Outcome run = runProgram(QStringLiteral(FERNA_BIN_DIR "/ferna-wsad"),
-                                       {QStringLiteral("--raport"), folder.path(file),
-                                        tasks.write(QStringLiteral("t.json"), task)});
+        const Outcome run =
+            runProgram(places::bin("/ferna-wsad"), {QStringLiteral("--raport"), folder.path(file),
+                                                    tasks.write(QStringLiteral("t.json"), task)});
         EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString() << run.output.toStdString();
         QStringList told; // by the program; the toolkit has words of its own on some machines
         for (const QString& line : run.errors.split(u'\n'))

@@ -1,6 +1,7 @@
 #include "batch/task_run.h"
 #include "runtime/format.h"
 #include "support/decimal_comma.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -56,7 +57,7 @@ TEST_F(Tasks, KeysLeftOutTakeTheirDefaults) {
     EXPECT_EQ(read.stan.plyta.Liczba_srub, 1);
     EXPECT_EQ(read.stan.plyta.X_kotwy(1), 25);
     EXPECT_EQ(read.stan.raport.Wiersze_srub(1), QStringLiteral("1.   M24  x=250 mm  y=150 mm"));
-    EXPECT_EQ(read.fields.Text7[0], QStringLiteral("12,5"));
+    EXPECT_EQ(read.fields.loads[0].M1, QStringLiteral("12,5"));
     EXPECT_EQ(read.stan.obciazenia.Liczba_przyp, 1);
 }
 
@@ -212,8 +213,7 @@ TEST_F(Tasks, TheLineOfAKeyIsFound) {
 
 struct Runs : ::testing::Test {
     WithDecimalSign comma{u','};
-    RunOptions options{
-        {}, QStringLiteral(FERNA_DATA_DIR), QDateTime(QDate(2026, 3, 1), QTime(12, 30), Qt::UTC)};
+    RunOptions options{{}, places::data(), QDateTime(QDate(2026, 3, 1), QTime(12, 30), Qt::UTC)};
     Json task = smallestTask();
 
     Json result() { return resultOf(run(readTask(task), options)); }

@@ -132,8 +132,8 @@ TEST_F(Calculation, ATextThatIsNoNumberIsARunTimeError) {
     base.fourAnchors(250, 150).loads(300, 10, 0);
     for (QString* const field :
          {&base.fields.Text3, &base.fields.Text4, &base.fields.txtNr_strony, &base.fields.Text2,
-          &base.fields.Text6[0], &base.fields.Text7[0], &base.fields.Text8[0],
-          &base.fields.Text5[0], &base.fields.Text10[0]}) {
+          &base.fields.loads[0].N, &base.fields.loads[0].M1, &base.fields.loads[0].M2,
+          &base.fields.loads[0].Vx, &base.fields.loads[0].Vy}) {
         const QString before = *field;
         *field = QStringLiteral("12x");
         EXPECT_EQ(errorNumberOf([&] { base.calculate(); }), error::TypeMismatch);

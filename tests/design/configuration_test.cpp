@@ -5,6 +5,7 @@
 #include "runtime/format.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/run_time_errors.h"
 
 #include <gtest/gtest.h>
@@ -213,7 +214,7 @@ TEST_F(Configuration, WithoutTheReplyTheOldFileSurvives) {
 TEST_F(Configuration, AStartKnowsNoCompressedPlateNoUserSteelAndNoAnchors) {
     stan.wyniki.Przyp_policzony.fill(True);
     stan.materialy.Stal_uzytkownika = true;
-    startUp(stan, QStringLiteral(FERNA_DATA_DIR));
+    startUp(stan, places::data());
     for (int c = 1; c <= MaxCases; ++c)
         EXPECT_EQ(stan.wyniki.Przyp_policzony(c), False);
     EXPECT_FALSE(stan.materialy.Stal_uzytkownika);

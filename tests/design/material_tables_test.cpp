@@ -1,4 +1,5 @@
 #include "design/material_tables.h"
+#include "support/clause_text.h"
 #include "support/run_time_errors.h"
 
 #include <gtest/gtest.h>
@@ -100,6 +101,7 @@ TEST(ConcreteTable, HasItsValuesForBothNormsAndFootings) {
         EXPECT_EQ(one.Mnoznik_dlugosci, row.multiplier) << row.norm << row.name;
         EXPECT_EQ(one.Wsp_dlugosci, row.coefficient) << row.norm << row.name;
         EXPECT_EQ(ratioN(one.Eb_betonu), row.n) << row.norm << row.name;
+        EXPECT_EQ(row.n, CSng(ferna::testing::computed(ratioNClause, {one.Eb_betonu})));
     }
     EXPECT_EQ(errorNumberOf([] { concrete(0, 6); }), error::Subscript);
     EXPECT_EQ(errorNumberOf([] { concrete(1, 0); }), error::Subscript);

@@ -1,6 +1,7 @@
 #include "desktop/help_texts.h"
 #include "desktop/source_texts.h"
 #include "runtime/run_time_error.h"
+#include "support/places.h"
 
 #include <gtest/gtest.h>
 
@@ -144,9 +145,8 @@ TEST(HelpMessages, EveryWindowThatTellsAnErrorStandsOnThePage) {
 
 TEST(HelpMessages, EveryRunTimeErrorStandsOnThePageWithItsNumber) {
     const QString page = helpPage(messagesPage).simplified();
-    const QStringList numbers =
-        captured(textOf(QStringLiteral(FERNA_SOURCE_DIR "/src/runtime/run_time_error.h")),
-                 QStringLiteral("inline constexpr int \\w+ = (\\d+);"));
+    const QStringList numbers = captured(textOf(places::source("/src/runtime/run_time_error.h")),
+                                         QStringLiteral("inline constexpr int \\w+ = (\\d+);"));
     EXPECT_GE(numbers.size(), 16);
     for (const QString& number : numbers) {
         const QString row = QStringLiteral("<tr><td>%1</td><td class=\"k\">%2</td>")

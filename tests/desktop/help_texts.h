@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/places.h"
+
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
@@ -10,7 +12,7 @@
 /// What the tests of the help read: its pages as they lie in the data folder.
 namespace ferna::testing {
 
-inline const QString helpFolder = QStringLiteral(FERNA_DATA_DIR "/help");
+inline const QString helpFolder = places::data("/help");
 
 inline QString textOf(const QString& path) {
     QFile file(path);

@@ -1,5 +1,6 @@
 #include "desktop/forms/Help_window.h"
 #include "runtime/run_time_error.h"
+#include "support/places.h"
 
 #include <QAction>
 #include <QApplication>
@@ -28,8 +29,8 @@ class HelpWindowTest : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(folder_.isValid());
-        ASSERT_TRUE(QFile::copy(QStringLiteral(FERNA_BIN_DIR "/Ferna.qch"),
-                                folder_.filePath(QStringLiteral("Ferna.qch"))));
+        ASSERT_TRUE(
+            QFile::copy(places::bin("/Ferna.qch"), folder_.filePath(QStringLiteral("Ferna.qch"))));
     }
 
     void TearDown() override {

@@ -2,6 +2,7 @@
 #include "desktop/last_task.h"
 #include "runtime/text_file.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/run_time_errors.h"
 
 #include <gtest/gtest.h>
@@ -33,7 +34,7 @@ protected:
     /// A start at which the delivered file is taken (or not) wherever it is offered.
     bool start(bool take = true) {
         asked.clear();
-        return restoreLastTask(stan, home.path(QStringLiteral(".")), QStringLiteral(FERNA_DATA_DIR),
+        return restoreLastTask(stan, home.path(QStringLiteral(".")), places::data(),
                                [&](const DamagedFile& file) {
                                    asked.push_back(file);
                                    return take;

@@ -1,5 +1,7 @@
 #include "desktop/source_texts.h"
 
+#include "support/places.h"
+
 #include <QDirIterator>
 
 namespace ferna::testing {
@@ -129,7 +131,7 @@ QStringList textsHandedTo(const std::vector<Token>& tokens, const QStringList& n
 
 QStringList sourceFiles() {
     QStringList files;
-    QDirIterator walk(QStringLiteral(FERNA_SOURCE_DIR "/src"),
+    QDirIterator walk(places::source("/src"),
                       {QStringLiteral("*.cpp"), QStringLiteral("*.h"), QStringLiteral("*.ui")},
                       QDir::Files, QDirIterator::Subdirectories);
     while (walk.hasNext())

@@ -5,6 +5,9 @@ import subprocess
 import time
 
 
+FONTS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "fonts.conf")
+
+
 class Failure(Exception):
     pass
 
@@ -20,9 +23,10 @@ def wait_for(what, condition, seconds=30):
 
 
 class Desktop:
-    def __init__(self, home, size="1600x1200x24", environment=None):
+    def __init__(self, home, size="1600x1200x24", environment=None, manager="openbox"):
         self.started = []
         self.environment = environment or {}
+        self.manager = manager
         os.makedirs(home, exist_ok=True)
         try:
             self.open_screen(home, size)
@@ -32,10 +36,12 @@ class Desktop:
 
     def open_screen(self, home, size):
         self.env = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": "C.UTF-8",
-                    "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb"} | self.environment
+                    "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb", "FONTCONFIG_FILE": FONTS}
+        self.env |= self.environment
         read, write = os.pipe()
         self.started.append(subprocess.Popen(
-            ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp",
+             "-r"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         os.close(write)
         with os.fdopen(read) as pipe:
@@ -43,7 +49,7 @@ class Desktop:
         if not number:
             raise Failure("Xvfb did not start")
         self.env["DISPLAY"] = ":" + number
-        self.start(["openbox"])
+        self.start([self.manager])
         wait_for("the window manager", self.is_managed)
         # With a Polish keyboard xdotool presses the keys of the Polish letters; without, it would
         # change the keyboard for each of them, and a busy program would read the key of another.
@@ -98,6 +104,12 @@ class Desktop:
 
     def is_shown(self, title):
         return bool(self.shown(title))
+
+    def stacking(self):
+        """The numbers of all windows, the lowest first."""
+        answer = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST_STACKING"], env=self.env,
+                                text=True, capture_output=True, timeout=30).stdout
+        return [int(number, 16) for number in answer.rpartition("#")[2].split(",")]
 
     def gone(self, title, seconds=30):
         wait_for(f'the window "{title}" to go', lambda: not self.is_shown(title), seconds)

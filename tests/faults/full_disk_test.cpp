@@ -7,6 +7,7 @@
 #include "runtime/picture_box.h"
 #include "runtime/text_file.h"
 #include "support/column_base.h"
+#include "support/places.h"
 #include "support/run_time_errors.h"
 
 #include <sys/resource.h>
@@ -59,9 +60,11 @@ TEST_F(FullDisk, KeepsTheLastTaskAndTellsWhy) {
 TEST_F(FullDisk, IsToldOfEveryFileOfAReport) {
     ASSERT_NO_FATAL_FAILURE(computeReport());
     disk.fill();
-    EXPECT_EQ(errorNumberOf([&] { textReport(base.stan, raport).commit(disk.path("a.txt")); }),
+    EXPECT_EQ(errorNumberOf(
+                  [&] { textReport(reportModel(base.stan, raport)).commit(disk.path("a.txt")); }),
               error::DiskFull);
-    EXPECT_EQ(errorNumberOf([&] { Buduj_wyd(base.stan, raport, disk.folder()); }), error::DiskFull);
+    EXPECT_EQ(errorNumberOf([&] { Buduj_wyd(reportModel(base.stan, raport), disk.folder()); }),
+              error::DiskFull);
     EXPECT_EQ(errorNumberOf([&] { PictureBox(QSize(265, 176)).saveBitmap(disk.path("a.bmp")); }),
               error::DiskFull);
     EXPECT_EQ(disk.names().size(), 1) << "the file that fills the disk";
@@ -69,7 +72,7 @@ TEST_F(FullDisk, IsToldOfEveryFileOfAReport) {
 
 TEST_F(FullDisk, EndsTheRendererWithAMessageAndWithoutAPicture) {
     ASSERT_NO_FATAL_FAILURE(computeReport());
-    Buduj_wyd(base.stan, raport, disk.folder());
+    Buduj_wyd(reportModel(base.stan, raport), disk.folder());
     writeFileWhole(disk.path("W_KK.txt"),
                    "-2, 1.0, 0.5, 1.0, 1\r\nFERNAPr.wyd\r\nFERNAPr1.wyd\r\n");
     disk.fill();
@@ -91,8 +94,8 @@ TEST_F(FullDisk, AReadOnlyOneIsToldAndKeepsTheOldFile) {
 
 class FullDiskOfTheCompanion : public FullDisk {
 protected:
-    const QString program = QStringLiteral(FERNA_BIN_DIR "/ferna-wsad");
-    const QString task = QStringLiteral(FERNA_DATA_DIR "/przyklady/slup-hali.json");
+    const QString program = places::bin("/ferna-wsad");
+    const QString task = places::data("/przyklady/slup-hali.json");
 };
 
 TEST_F(FullDiskOfTheCompanion, IsAFailureOfTheRun) {
@@ -108,12 +111,11 @@ TEST_F(FullDiskOfTheCompanion, IsAFailureOfTheRun) {
 }
 
 TEST(FullOutput, OfTheCompanionIsAFailureOfTheRun) {
-    const QString program = QStringLiteral(FERNA_BIN_DIR "/ferna-wsad");
+    const QString program = places::bin("/ferna-wsad");
     for (const char* call : {"$0 $1 > /dev/full", "tr -d '\\n' < $1 | $0 --linie > /dev/full"}) {
-        const Outcome run =
-            runProgram(QStringLiteral("/bin/sh"),
-                       {QStringLiteral("-c"), QLatin1String(call), program,
-                        QStringLiteral(FERNA_DATA_DIR "/przyklady/slup-hali.json")});
+        const Outcome run = runProgram(QStringLiteral("/bin/sh"),
+                                       {QStringLiteral("-c"), QLatin1String(call), program,
+                                        places::data("/przyklady/slup-hali.json")});
         EXPECT_EQ(run.exitCode, 2) << call;
         EXPECT_TRUE(run.errors.contains(QStringLiteral("standard output")))
             << run.errors.toStdString();

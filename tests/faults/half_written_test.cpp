@@ -12,6 +12,7 @@
 #include "runtime/text_file.h"
 #include "support/column_base.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/run_time_errors.h"
 
 #include <QDateTime>
@@ -89,7 +90,7 @@ TEST_F(HalfAFile, AReplyWithoutItsNumbersLeavesThePageAlone) {
 class HalfAPicture : public HalfAFile {
 protected:
     HalfAPicture() {
-        const QDir programs(QStringLiteral(FERNA_BIN_DIR));
+        const QDir programs(places::bin());
         for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
             folder.write(picture, readFileWhole(programs.filePath(picture)));
         base.fourAnchors(250, 150).loads(320, 60, 5);
@@ -106,6 +107,7 @@ protected:
                 const Outcome run = ferna::testing::runRenderer({path(wyd::jobFile)});
                 EXPECT_EQ(run.exitCode, 0);
                 words = run.errors;
+                return RendererReport{};
             });
         session.open();
         return session.screenPicture();

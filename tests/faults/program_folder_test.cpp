@@ -6,10 +6,16 @@
 #include "renderer/program_run.h"
 #include "runtime/text_file.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/run_time_errors.h"
 
 #include <QFileInfo>
 #include <QLockFile>
+#include <QSysInfo>
+
+#include <unistd.h>
+
+#include <functional>
 
 using namespace ferna;
 using namespace ferna::testing;
@@ -83,12 +89,73 @@ TEST_F(ProgramFolder, BelongsToOneOpenProgramAtATime) {
     EXPECT_EQ(home.names(), QStringList()) << "nothing is left of the lock";
 }
 
+class FolderLock : public ::testing::Test {
+protected:
+    /// A lock as a program on that computer leaves it.
+    void leave(const QByteArray& host) { folder.write(name, "1234\nferna\n" + host + "\n"); }
+    std::optional<RunTimeError>
+    refusal(const std::function<bool(const FolderHolder&)>& takeOver = {}) {
+        return errorOf([&] { lockProgramFolder(folder.path(QStringLiteral(".")), takeOver); });
+    }
+
+    const QString name = QStringLiteral("Ferna.lock");
+    Folder folder;
+};
+
+TEST_F(FolderLock, ThatIsEmptyOrNoneIsTakenOver) {
+    for (const char* content :
+         {"", "\n\n\n", "\x00\xff", "notatka o zamku\nx\ny\n", "-5\nferna\nx\n"}) {
+        folder.write(name, content);
+        EXPECT_FALSE(refusal()) << content;
+    }
+}
+
+TEST_F(FolderLock, WhoseProcessIsGoneOrAnotherOneNowIsTakenOver) {
+    leave(QSysInfo::machineHostName().toUtf8());
+    EXPECT_FALSE(refusal());
+    folder.write(name, QByteArray::number(getpid()) + "\ntest_faults\n"
+                           + QSysInfo::machineHostName().toUtf8() + "\n");
+    EXPECT_FALSE(refusal()) << "the number belongs to another program by now";
+}
+
+TEST_F(FolderLock, OfAnotherComputerIsNamedAndOffered) {
+    leave("inny-komputer");
+    const auto failure = refusal();
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->number(), error::PermissionDenied);
+    for (const QString& part : {folder.path(name), QStringLiteral("inny-komputer"),
+                                QStringLiteral("1234"), QStringLiteral("usuń ten plik")})
+        EXPECT_TRUE(failure->text().contains(QFileInfo(part).fileName()))
+            << failure->text().toStdString();
+    int asked = 0;
+    const auto answer = [&](bool take) {
+        return [&asked, take](const FolderHolder& holder) {
+            ++asked;
+            EXPECT_EQ(holder.host, QStringLiteral("inny-komputer"));
+            EXPECT_EQ(holder.process, 1234);
+            return take;
+        };
+    };
+    EXPECT_TRUE(refusal(answer(false)));
+    EXPECT_FALSE(refusal(answer(true)));
+    EXPECT_EQ(asked, 2);
+}
+
+TEST_F(FolderLock, OfAnOpenProgramNamesItsFileAndItsProcess) {
+    const auto first = lockProgramFolder(folder.path(QStringLiteral(".")));
+    const auto failure = refusal([](const FolderHolder&) { return true; });
+    ASSERT_TRUE(failure);
+    EXPECT_TRUE(failure->text().contains(name)) << failure->text().toStdString();
+    EXPECT_TRUE(failure->text().contains(QString::number(getpid())));
+    EXPECT_TRUE(failure->text().contains(QStringLiteral("zamknij go")));
+}
+
 /// The built programs with their data in a folder of another name, under another locale.
 class Programs : public ::testing::Test {
 protected:
     void install(const QString& folder) {
         QDir().mkpath(folder);
-        const QDir built(QStringLiteral(FERNA_BIN_DIR));
+        const QDir built(places::bin());
         for (const QString& file : built.entryList(
                  {QStringLiteral("ferna-wsad"), QStringLiteral("Wyd_drk"), QStringLiteral("*.txt"),
                   QStringLiteral("*.cfg"), QStringLiteral("*.bmp")},
@@ -109,8 +176,8 @@ protected:
         return runProgram(folder + QStringLiteral("/ferna-wsad"),
                           more
                               + QStringList{QStringLiteral("--raport"), file,
-                                            QStringLiteral(FERNA_DATA_DIR "/przyklady/"
-                                                                          "slup-hali.json")},
+                                            places::data("/przyklady/"
+                                                         "slup-hali.json")},
                           environment);
     }
 
@@ -142,7 +209,7 @@ TEST_F(Programs, WorkInAFolderWithBlanksAndPolishLetters) {
 TEST_F(Programs, GiveTheSameReportUnderALocaleWithACommaAndWithAPoint) {
     if (!makePolishLocale())
         GTEST_SKIP() << "no sources of locales";
-    const QString folder = QStringLiteral(FERNA_BIN_DIR);
+    const QString folder = places::bin();
     const auto made = [&](const char* locale, const QStringList& more, const char* ending) {
         const QString file = here.path(QStringLiteral("raport.") + QLatin1String(ending));
         QFile::remove(file);

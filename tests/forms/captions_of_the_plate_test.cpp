@@ -2,6 +2,7 @@
 #include "plate/forms/Grub_bla.h"
 #include "support/captions.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/worked_form.h"
 
 #include <QListWidget>
@@ -87,7 +88,7 @@ const std::vector<TabFace> tabs{
 class CaptionsOfThePlate : public WorkedForm {
 protected:
     CaptionsOfThePlate() {
-        const QDir programs(QStringLiteral(FERNA_BIN_DIR));
+        const QDir programs(places::bin());
         for (const QString& picture : programs.entryList({QStringLiteral("rysgb*.bmp")}))
             QFile::copy(programs.filePath(picture), path(picture));
         stan.plyta.Fi_kotwy(1) = 20;

@@ -95,7 +95,7 @@ TEST_F(MessageStyles, OfAFailedPrintIsTheStop) {
     const QTemporaryDir folder;
     ResultsSession session(
         stan, dialogs, folder.path(), true, [] { return QDateTime(); },
-        [] { throw RunTimeError(error::NoObject); });
+        []() -> RendererReport { throw RunTimeError(error::NoObject); });
     session.printOnChosenPrinter();
     expect(MessageStyle::Stop, QStringLiteral("Problem z wyborem drukarki"),
            QStringLiteral("Ferna Pr"));

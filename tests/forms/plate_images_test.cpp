@@ -3,6 +3,7 @@
 #include "plate/plate_form.h"
 #include "plate/plate_report_lines.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <QImage>
@@ -39,7 +40,7 @@ double difference(const QImage& a, const QImage& b) {
 class PlateImages : public ::testing::Test {
 protected:
     PlateImages() {
-        const QDir programs(QStringLiteral(FERNA_BIN_DIR));
+        const QDir programs(places::bin());
         for (const QString& picture : programs.entryList({QStringLiteral("rysgb*.bmp")}))
             QFile::copy(programs.filePath(picture), folder.path(picture));
     }

@@ -229,6 +229,34 @@ TEST_F(Anchors, ARemovalMovesTheCentimetresAndNotTheListedMillimetres) {
               QStringLiteral("1.   M16  x=10 mm  y=20 mm|2.   M20  x=30 mm  y=40 mm"));
 }
 
+TEST_F(Anchors, AListWithOldCoordinatesIsSaidToHaveThem) {
+    const auto* const note = the<QLabel>("lblLista_nieaktualna");
+    const auto remove = [this](const QString& last, const QString& number) {
+        answers.input(removal, removalPrompt, last, number);
+        click("cmdUsun1s");
+    };
+    add("cmdDodaj1s", 12, 10, 20);
+    add("cmdDodaj1s", 16, 301, 40);
+    add("cmdDodaj1s", 20, 50, 60);
+    EXPECT_FALSE(note->isVisible());
+    const QSize before = form->size();
+    remove(QStringLiteral("3"), QStringLiteral("1"));
+    EXPECT_TRUE(note->isVisible());
+    EXPECT_EQ(note->text(),
+              QStringLiteral("Po usunięciu lub przesunięciu śruby lista pokazuje dawne "
+                             "współrzędne. Obowiązują te z rysunku."));
+    EXPECT_EQ(form->size(), before);
+    add("cmdDodaj1s", 20, 70, 80);
+    EXPECT_TRUE(note->isVisible());
+    for (const char* last : {"3", "2", "1"})
+        remove(QString::fromLatin1(last), QString::fromLatin1(last));
+    EXPECT_FALSE(note->isVisible()) << "nothing is listed";
+    add("cmdDodaj1s", 20, 70, 80);
+    add("cmdDodaj1s", 20, 75, 80);
+    remove(QStringLiteral("2"), QStringLiteral("2"));
+    EXPECT_FALSE(note->isVisible()) << "the last one moves nobody";
+}
+
 TEST_F(Anchors, ARemovalOffersTheLastAnchor) {
     fill(2);
     answers.dialog(QStringLiteral("inputBox"), [](QWidget& modal) {

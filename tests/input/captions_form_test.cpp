@@ -80,14 +80,14 @@ TEST_F(Captions, OfTheLoadTable) {
 }
 
 TEST_F(Captions, OfTheAnchorCommands) {
-    expectControls(*form, {{"cmdDodaj1s", "Dodaj 1 śrubę"},
-                           {"cmdDodaj2x", "Dodaj 2 śruby rozmieszczone symetr. wzgl. osi X"},
-                           {"cmdDodaj2y", "Dodaj 2 śruby rozmieszczone symetr. wzgl. osi Y"},
-                           {"cmdDodaj4", "Dodaj 4 śruby rozmieszczone symetrycznie"},
-                           {"cmdUsun1s", "Usuń 1 śrubę"},
-                           {"cmdUsunws", "Usuń wszystkie śruby"},
-                           {"cmdZmien1fi", "Zmień średnicę 1 śruby"},
-                           {"cmdZmienwfi", "Zmień średnicę wszystkich śrub"}});
+    expectControls(*form, {{"cmdDodaj1s", "&Dodaj 1 śrubę"},
+                           {"cmdDodaj2x", "Dodaj 2 śruby rozmieszczone symetr. wzgl. osi &X"},
+                           {"cmdDodaj2y", "Dodaj 2 śruby rozmieszczone symetr. wzgl. osi &Y"},
+                           {"cmdDodaj4", "Dodaj 4 śruby &rozmieszczone symetrycznie"},
+                           {"cmdUsun1s", "&Usuń 1 śrubę"},
+                           {"cmdUsunws", "Usuń w&szystkie śruby"},
+                           {"cmdZmien1fi", "Z&mień średnicę 1 śruby"},
+                           {"cmdZmienwfi", "Zmień śr&ednicę wszystkich śrub"}});
     EXPECT_EQ(tip("Text9"), QStringLiteral("Lista już zadeklarowanych śrub"));
     EXPECT_EQ(tip("Picture3"), QStringLiteral("Proporcje płyty i rozmieszczenie śrub"));
     EXPECT_EQ(the<QPlainTextEdit>("Text9")->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);

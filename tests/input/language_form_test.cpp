@@ -1,5 +1,6 @@
 // Which catalogue is read, and when: the form remembers the one that is in force.
 #include "support/main_form.h"
+#include "support/places.h"
 
 using namespace ferna;
 using namespace ferna::testing;
@@ -9,7 +10,7 @@ namespace {
 class Language : public MainForm {
 protected:
     static QString firstText(const char* catalogue) {
-        return readLines(QStringLiteral(FERNA_DATA_DIR "/") + QLatin1String(catalogue)).front();
+        return readLines(places::data("/") + QLatin1String(catalogue)).front();
     }
 };
 

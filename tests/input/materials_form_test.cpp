@@ -77,6 +77,27 @@ TEST_F(Materials, TheRatioOfB20IsShownAsSevenFiftyNine) {
     EXPECT_EQ(stan.opcje.Wsp_n_val, 7.59F);
 }
 
+TEST_F(Materials, AComputedRatioFollowsTheNormToItsOtherModulus) {
+    choose("cmbBeton", B20);
+    key(Qt::Key_Tab);
+    show(Konfiguracja);
+    click("Norma_1");
+    EXPECT_EQ(stan.materialy.Eb_betonu, 27500.0F);
+    EXPECT_EQ(stan.opcje.Wsp_n_val, 7.45F);
+    EXPECT_EQ(text("Text2"), QStringLiteral("7,45"));
+    click("Norma_0");
+    EXPECT_EQ(text("Text2"), QStringLiteral("7,59"));
+}
+
+TEST_F(Materials, ATypedRatioStaysOnTheChangeOfNorm) {
+    chooseRatioTyped();
+    type("Text2", QStringLiteral("6,3"));
+    show(Konfiguracja);
+    click("Norma_1");
+    EXPECT_EQ(text("Text2"), QStringLiteral("6,3"));
+    EXPECT_EQ(stan.opcje.Wsp_n_val, 6.0F); // read by the calculation
+}
+
 TEST_F(Materials, AComputedRatioIsNotAskedFor) {
     show(Konfiguracja);
     click("Wsp_n_0"); // is in force already: nothing happens

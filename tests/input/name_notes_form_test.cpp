@@ -51,8 +51,7 @@ TEST_F(NameNotes, OtherQuestionsTellLettersOnly) {
                                               "nich będzie \"?\": Ω"));
         QTest::keyClick(field, Qt::Key_Return);
     });
-    Dialogs& asked = dialogs;
-    asked.input(QStringLiteral("Pytanie"), programTitle, QString());
+    dialogs.input(QStringLiteral("Pytanie"), programTitle, {}, {}, {});
 }
 
 } // namespace

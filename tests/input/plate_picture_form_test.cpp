@@ -71,6 +71,41 @@ TEST_F(PlatePicture, GrowsWithTheForm) {
     EXPECT_GT(coloured(picture()), 500);
 }
 
+TEST_F(PlatePicture, OfTheReportIsThatOfTheTabAtPrintResolution) {
+    show(Sruby);
+    add("cmdDodaj4", 80, 400, 300);
+    form->resize(900, 1100); // another proportion than that of the picture
+    settle();
+    const QImage view = the("Picture3")->grab().toImage();
+    const QSize size = QSize(265, 176).scaled(view.size(), Qt::KeepAspectRatio);
+    const QImage shown = view.copy(QRect(
+        QPoint((view.width() - size.width()) / 2, (view.height() - size.height()) / 2), size));
+    click("cmdOblicz");
+    QImage saved(path(QStringLiteral("Ferrob.bmp")));
+    EXPECT_GE(saved.width(), 70.1 / 25.4 * 300);
+    saved = saved.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const auto dark = [](const QImage& image, int x, int y) {
+        return image.valid(x, y) && qGray(image.pixel(x, y)) < 128;
+    };
+    const auto missing = [&](const QImage& from, const QImage& in) {
+        int pixels = 0;
+        int missed = 0;
+        for (int y = 2; y < size.height() - 2; ++y)
+            for (int x = 2; x < size.width() - 2; ++x)
+                if (dark(from, x, y)) {
+                    ++pixels;
+                    bool found = false;
+                    for (int i = 0; i < 25 && !found; ++i)
+                        found = dark(in, x + i % 5 - 2, y + i / 5 - 2);
+                    missed += found ? 0 : 1;
+                }
+        EXPECT_GT(pixels, 1000);
+        return 100.0 * missed / pixels;
+    };
+    EXPECT_LT(missing(shown, saved), 2);
+    EXPECT_LT(missing(saved, shown), 2);
+}
+
 TEST_F(PlatePicture, TheSketchOfTheDirectionsIsShown) {
     EXPECT_GT(coloured(the("Picture1")->grab().toImage()), 500);
 }

@@ -1,4 +1,5 @@
 #include "support/main_form.h"
+#include "support/places.h"
 
 #include <QClipboard>
 #include <QTimer>
@@ -97,7 +98,7 @@ TEST_F(Start, AnotherLanguageReadsItsCatalogueAndTheSameOneDoesNot) {
     EXPECT_EQ(stan.opcje.Nr_jezyka, 2);
     Stan english;
     english.opcje.Nr_jezyka = 2;
-    startUp(english, QStringLiteral(FERNA_DATA_DIR));
+    startUp(english, places::data());
     const QString polish = english.Teksty(1);
     EXPECT_NE(stan.Teksty(1), polish);
 

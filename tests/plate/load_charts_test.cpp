@@ -1,4 +1,5 @@
 #include "plate/load_charts.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <QFile>
@@ -12,7 +13,7 @@ namespace {
 
 const nlohmann::json& reference() {
     static const nlohmann::json json = [] {
-        QFile file(QStringLiteral(FERNA_GOLDEN_DIR "/charts.json"));
+        QFile file(places::golden("/charts.json"));
         if (!file.open(QIODevice::ReadOnly))
             throw std::runtime_error("charts.json is missing");
         return nlohmann::json::parse(file.readAll().toStdString());

@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QFile>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QStackedWidget>
 
 using namespace ferna;
@@ -268,6 +269,71 @@ TEST_F(PlateThicknessForm, AnotherGradeWithdrawsTheResultsAndKeepsTheThickness) 
     }
     EXPECT_EQ(hand->text("Text4"), thickness);
     EXPECT_TRUE(hand->shown("Text4"));
+}
+
+TEST_F(PlateThicknessForm, TheFieldThatATabBringsUpIsTypedOver) {
+    tab(4);
+    ASSERT_EQ(hand->focused(), QStringLiteral("Text2_1"));
+    QTest::keyClicks(form->focusWidget(), QStringLiteral("55"));
+    EXPECT_EQ(hand->text("Text2_1"), QStringLiteral("55"));
+}
+
+TEST_F(PlateThicknessForm, AnErrorOfAFieldLeadsBackToIt) {
+    grade(St3);
+    tab(1);
+    hand->type("Text1_5", QStringLiteral("200"));
+    hand->type("Text2_8", QStringLiteral("a"));
+    answers.dialog(QStringLiteral("environmentStop"), [](QWidget& modal) {
+        EXPECT_TRUE(static_cast<QMessageBox&>(modal).text().endsWith(
+            QStringLiteral("\"a\"\nPole: Położenie kotwy: wymiar a")));
+        QTest::keyClick(&modal, Qt::Key_Escape);
+    });
+    hand->click("cmdOblicz52");
+    EXPECT_EQ(hand->focused(), QStringLiteral("Text2_8"));
+    EXPECT_EQ(hand->the<QLineEdit>("Text2_8")->selectedText(), QStringLiteral("a"));
+}
+
+TEST_F(PlateThicknessForm, TheLineOfARefusedCheckIsHidden) {
+    grade(St3);
+    fragment(3);
+    ASSERT_TRUE(lineShown(3));
+    ASSERT_EQ(line(3).left(26), QStringLiteral("Wymagana grubość blachy (3"));
+    hand->type("Text3_3", QStringLiteral("0"));
+    refuse(u"Musisz okreslić naprężenia pod blachą!");
+    hand->click("cmdOblicz31");
+    EXPECT_EQ(result(3), 0);
+    EXPECT_FALSE(lineShown(3));
+    fragment(3);
+    EXPECT_TRUE(lineShown(3));
+    hand->type("Text1_1", QStringLiteral("100")); // shorter than wide: the two change places
+    refuse(u"Długośc fragmentu blachy musi być większa od szerokości!");
+    hand->click("cmdOblicz31");
+    EXPECT_FALSE(lineShown(3));
+}
+
+TEST_F(PlateThicknessForm, AResultIsOutOfDateWhileItsInputsAreOthers) {
+    grade(St3);
+    strip(20);
+    const auto old = [this] { return hand->shown("Label8_0_nieaktualny"); };
+    EXPECT_FALSE(old());
+    EXPECT_TRUE(hand->enabled("Label8_0"));
+    const QString length = hand->text("Text2_0");
+    hand->type("Text2_0", QStringLiteral("80"));
+    EXPECT_TRUE(old());
+    EXPECT_FALSE(hand->enabled("Label8_0")) << "grey";
+    EXPECT_EQ(line(1), QStringLiteral("Wymagana grubość blachy (1) = 20 mm"));
+    EXPECT_EQ(result(1), 20) << "it stays in the report until it is computed anew or withdrawn";
+    hand->type("Text2_0", length);
+    EXPECT_FALSE(old());
+    hand->type("Text2_0", QStringLiteral("80"));
+    hand->click("cmdOblicz1");
+    EXPECT_FALSE(old());
+    EXPECT_TRUE(hand->enabled("Label8_0"));
+    hand->choose("cmbStalb", G18G2);
+    EXPECT_TRUE(old()) << "another grade, before its list is left";
+    hand->key(Qt::Key_Tab);
+    EXPECT_FALSE(lineShown(1));
+    EXPECT_FALSE(old()) << "withdrawn";
 }
 
 TEST_F(PlateThicknessForm, TheListIsLeftBeforeTheCommandThatEnterGives) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/places.h"
+
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStringList>
@@ -30,7 +32,7 @@ runProgram(const QString& program, const QStringList& arguments,
 inline Outcome
 runRenderer(const QStringList& arguments,
             const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
-    return runProgram(QStringLiteral(FERNA_BIN_DIR "/Wyd_drk"), arguments, environment);
+    return runProgram(places::bin("/Wyd_drk"), arguments, environment);
 }
 
 /// The text of a page of a PDF file, page from 1.

@@ -106,13 +106,13 @@ TEST_F(Renderer, WritesOneFileAPageOfTheOtherFormats) {
             runRenderer({QStringLiteral("--") + QLatin1String(format), sample.path(name), file});
         EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
         EXPECT_FALSE(QFile::exists(sample.path(name)));
-        for (const char* page : {"-1.", "-2."})
+        for (const char* page : {"-strona-1-z-2.", "-strona-2-z-2."})
             EXPECT_TRUE(QFile::exists(sample.path(QStringLiteral("raport") + QLatin1String(page)
                                                   + QLatin1String(format))));
     }
-    EXPECT_EQ(Metafile::fromFile(path("raport-2.emf")).sizeMm(), QSizeF(210, 297));
-    EXPECT_EQ(QImage(path("raport-1.png")).size(), QSize(1240, 1754)) << "150 dpi";
-    EXPECT_TRUE(QString::fromUtf8(readFileWhole(path("raport-1.svg")))
+    EXPECT_EQ(Metafile::fromFile(path("raport-strona-2-z-2.emf")).sizeMm(), QSizeF(210, 297));
+    EXPECT_EQ(QImage(path("raport-strona-1-z-2.png")).size(), QSize(1240, 1754)) << "150 dpi";
+    EXPECT_TRUE(QString::fromUtf8(readFileWhole(path("raport-strona-1-z-2.svg")))
                     .contains(QStringLiteral("Szerokość płyty y =")));
 }
 
@@ -124,7 +124,7 @@ TEST_F(Renderer, AOnePageReportKeepsTheGivenName) {
                   .exitCode,
               0);
     EXPECT_EQ(QImage(path("a.png")).size(), QSize(827, 1169));
-    EXPECT_FALSE(exists("a-1.png"));
+    EXPECT_FALSE(exists("a-strona-1-z-1.png"));
 }
 
 TEST_F(Renderer, NamesAMalformedRecordAndDrawsTheRest) {
@@ -202,16 +202,36 @@ TEST_F(Renderer, AModeWithADialogNeedsAScreen) {
     }
 }
 
+TEST_F(Renderer, AnEarlierReplyOutlivesAPrintOrASaveThatDidNotComeAbout) {
+    QProcessEnvironment bare = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+        bare.remove(QLatin1String(name));
+    bare.insert(QStringLiteral("CUPS_SERVER"), path("no.sock")); // nothing to print on
+    ASSERT_EQ(runRenderer({job()}).exitCode, 0);
+    ASSERT_EQ(reply(), QStringLiteral(" 1 , 14 "));
+    for (const char* mode : {"1", " 2", "-1"}) {
+        sample = SampleReport(folder.path());
+        EXPECT_EQ(runRenderer({job(QLatin1String(mode))}, bare).exitCode, 1) << mode;
+        EXPECT_EQ(reply(), QStringLiteral(" 1 , 14 ")) << mode;
+    }
+    EXPECT_EQ(runRenderer({job(QStringLiteral("3"))}, bare).exitCode, 1);
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 ")) << "the screen picture is what the pages are of";
+}
+
+TEST_F(Renderer, TellsNothingWhereNoProgramListens) {
+    EXPECT_EQ(runRenderer({job()}).output, QString());
+}
+
 TEST(PageFileNames, NumberStandsBeforeTheSuffix) {
     const auto& emf = *renderer::outputFormat(QStringLiteral("emf"));
     EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/Name.emf"), emf, 0, 1),
               QStringLiteral("/r/Name.emf"));
     EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/Name.emf"), emf, 0, 3),
-              QStringLiteral("/r/Name-1.emf"));
+              QStringLiteral("/r/Name-strona-1-z-3.emf"));
     EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/Name.EMF"), emf, 2, 3),
-              QStringLiteral("/r/Name-3.EMF"));
+              QStringLiteral("/r/Name-strona-3-z-3.EMF"));
     EXPECT_EQ(renderer::pageFileName(QStringLiteral("/r/v1.2"), emf, 1, 3),
-              QStringLiteral("/r/v1.2-2.emf"));
+              QStringLiteral("/r/v1.2-strona-2-z-3.emf"));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "desktop/word_processor.h"
 #include "runtime/run_time_error.h"
 #include "support/golden_file.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <QDir>
@@ -78,7 +79,7 @@ inline QByteArray outputOf(const QString& program, const QStringList& arguments,
 class DocumentEndToEnd : public ::testing::Test {
 protected:
     void SetUp() override {
-        place_.module = QStringLiteral(FERNA_BIN_DIR "/libferna_writer.so");
+        place_.module = places::bin("/libferna_writer.so");
         if (!QFile::exists(place_.module))
             GTEST_SKIP() << "the word processor's module was not built: install libreoffice-dev";
         if (!QFile::exists(officeProgram + QStringLiteral("/soffice.bin"))

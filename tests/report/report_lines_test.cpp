@@ -5,6 +5,7 @@
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
+#include "support/places.h"
 #include "support/run_time_errors.h"
 
 #include <QRegularExpression>
@@ -39,7 +40,7 @@ struct ReportLines : ::testing::Test {
     }
 
     QStringList written() const {
-        return codepage::decoded(textReport(base.stan, raport).bytes())
+        return codepage::decoded(textReport(reportModel(base.stan, raport)).bytes())
             ->split(QStringLiteral("\r\n"));
     }
 };
@@ -285,11 +286,11 @@ TEST_P(GoldenReports, StandAsTheyWereAccepted) {
     Czytaj_teksty(base.stan, Folder::delivered(catalogueFile(golden.language)));
     golden.fill(base);
     prepare(QStringLiteral("F-1 oś A"));
-    const QString path = QStringLiteral(FERNA_GOLDEN_DIR "/report/")
-                         + QString::fromLatin1(golden.name) + QStringLiteral(".txt");
+    const QString path =
+        places::golden("/report/") + QString::fromLatin1(golden.name) + QStringLiteral(".txt");
     if (std::getenv("FERNA_ACCEPT_GOLDEN") != nullptr) // see tests/accept_golden.sh
-        textReport(base.stan, raport).commit(path);
-    EXPECT_EQ(textReport(base.stan, raport).bytes().toStdString(),
+        textReport(reportModel(base.stan, raport)).commit(path);
+    EXPECT_EQ(textReport(reportModel(base.stan, raport)).bytes().toStdString(),
               Folder::bytesOf(path).toStdString());
 }
 

@@ -3,11 +3,14 @@
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
 #include "report/forms/report_view.h"
+#include "report/forms/written_files.h"
 #include "runtime/picture_box.h"
+#include "runtime/settings.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
 #include "support/modal_answers.h"
+#include "support/places.h"
 #include "support/printing.h"
 #include "widgets/qt_dialogs.h"
 
@@ -17,11 +20,13 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -40,17 +45,17 @@ protected:
     WithDecimalSign comma{u','};
     int backs = 0;
     int ends = 0;
-    std::function<void()> render;
+    std::function<RendererReport()> render;
     std::function<void()> endProgram = [this] { ++ends; };
     std::unique_ptr<FernaWyn> form;
 
     void SetUp() override {
-        const QDir programs(QStringLiteral(FERNA_BIN_DIR));
+        const QDir programs(places::bin());
         for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
             QFile::copy(programs.filePath(picture), folder.path(picture));
         QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
                     folder.path(QStringLiteral("Wyd_drk")));
-        render = [this] { runRenderer(path()); };
+        render = [this] { return runRenderer(path()); };
         base.fourAnchors(250, 150).loads(320, 60, 5).loads(900, 5, 0);
         ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
         PictureBox plate(QSize(265, 176));
@@ -66,7 +71,7 @@ protected:
     void open(const QString& label, const std::function<void()>& opening) {
         auto session = std::make_unique<ResultsSession>(
             base.stan, dialogs, path(), true,
-            [] { return QDateTime(QDate(2024, 3, 9), QTime(14, 5)); }, [this] { render(); });
+            [] { return QDateTime(QDate(2024, 3, 9), QTime(14, 5)); }, [this] { return render(); });
         form = std::make_unique<FernaWyn>(
             base.stan, std::move(session),
             FernaWyn::Links{
@@ -133,6 +138,24 @@ TEST_F(ResultsForm, OpensWithTheReportAsWideAsTheViewportAndTheFourPanels) {
         for (int y = 0; y < shown.height() / 3; ++y)
             dark += qGray(shown.pixel(x, y)) < 100;
     EXPECT_GT(dark, 500) << "frame and letters";
+}
+
+TEST_F(ResultsForm, TellsExceededStressesApartByWeightAndColour) {
+    open();
+    const auto* const state = form->findChild<QLabel*>(QStringLiteral("StatusBar1_3"));
+    const auto* const project = form->findChild<QToolButton*>(QStringLiteral("StatusBar1_4"));
+    const auto ink = [](const QWidget* panel) {
+        return panel->palette().color(QPalette::Active, QPalette::WindowText);
+    };
+    EXPECT_EQ(panel(3), QStringLiteral("OK"));
+    EXPECT_FALSE(state->font().bold());
+    EXPECT_EQ(ink(state), ink(project));
+    base.stan.wyniki.Kotwy_OK = False;
+    askedForLabel(QStringLiteral("F-1"), QStringLiteral("F-1"));
+    action("mnuTytul")->trigger();
+    EXPECT_EQ(panel(3), QStringLiteral(" Przekroczone naprezenia !! "));
+    EXPECT_TRUE(state->font().bold());
+    EXPECT_GT(ink(state).red(), ink(state).green() + 100);
 }
 
 TEST_F(ResultsForm, ScrollsByKeysAndBar) {
@@ -206,7 +229,7 @@ TEST_F(ResultsForm, KeepsItsWidthUnderALongProjectName) {
 
 TEST_F(ResultsForm, AsksForTheLabelOfAPrintWithoutTheHourglass) {
     open();
-    render = [] {};
+    render = [] { return RendererReport{}; };
     answers.dialog(QStringLiteral("inputBox"), [](QWidget& modal) {
         EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
         QTest::keyClick(&modal, Qt::Key_Return);
@@ -262,7 +285,7 @@ TEST_F(ResultsForm, TakesAPageNumberFromTheMenuWithoutANewPicture) {
     int rendered = 0;
     render = [&] {
         ++rendered;
-        runRenderer(path());
+        return runRenderer(path());
     };
     answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
                   QStringLiteral("1"), QStringLiteral("12"));
@@ -346,6 +369,144 @@ TEST_F(ResultsForm, OpensTheFileMenuWithEveryAltP) {
     EXPECT_EQ(backs, 1);
 }
 
+TEST_F(ResultsForm, ShowsNoWaitingBoxWhileTheRendererHasAWindowOfItsOwn) {
+    using std::chrono::seconds;
+    open();
+    const auto box = [this] {
+        const auto* const dialog = form->findChild<QDialog*>(QStringLiteral("rendererWait"));
+        return dialog != nullptr && dialog->isVisible();
+    };
+    answers.dialog(QStringLiteral("rendererWait"), [](QWidget& modal) { // the one that may come
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !modal.isVisible(); }));
+    });
+    RendererWait wait(form.get());
+    EXPECT_TRUE(wait.goOn({seconds(60), true}));
+    EXPECT_FALSE(box());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    EXPECT_TRUE(wait.goOn({seconds(5), false}));
+    EXPECT_TRUE(box());
+    EXPECT_TRUE(wait.goOn({seconds(0), true})) << "a window that comes late";
+    EXPECT_FALSE(box());
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(ResultsForm, SavesInTheDocumentsAtFirstAndThenInTheFolderUsedLast) {
+    open();
+    const Folder documents;
+    const Folder used;
+    const QString home = qEnvironmentVariable("XDG_CONFIG_HOME");
+    ASSERT_FALSE(home.isEmpty());
+    ASSERT_TRUE(settings::file().startsWith(home)) << "the user's own settings are not touched";
+    QFile::remove(settings::file());
+    QFile directories(home + QStringLiteral("/user-dirs.dirs"));
+    ASSERT_TRUE(directories.open(QIODevice::WriteOnly));
+    directories.write("XDG_DOCUMENTS_DIR=\"" + documents.path(QString()).toUtf8() + "\"\n");
+    directories.close();
+    const auto saved = [&](const QString& expected, const QString& name) {
+        answers.dialog(QStringLiteral("saveQuestion"), [=](QWidget& modal) {
+            auto& question = static_cast<QFileDialog&>(modal);
+            EXPECT_EQ(question.directory().canonicalPath(), QDir(expected).canonicalPath());
+            auto* const field = question.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            field->setText(name);
+            QTest::keyClick(field, Qt::Key_Return);
+        });
+        action("mnuZapisztxt")->trigger();
+    };
+    saved(documents.path(QString()), used.path(QStringLiteral("a")));
+    EXPECT_EQ(used.names(), QStringList{QStringLiteral("a.txt")}) << "with its ending";
+    saved(used.path(QString()), QStringLiteral("Hala 1.2"));
+    EXPECT_EQ(used.names().join(u'|'), QStringLiteral("Hala 1.2.txt|a.txt"));
+    EXPECT_EQ(QDir::current().canonicalPath(), QDir(path()).canonicalPath())
+        << "the current folder goes back";
+    QFile::remove(settings::file());
+}
+
+TEST_F(ResultsForm, AsksBeforeAFileIsReplacedAndAsksForAnotherNameAfterNo) {
+    open();
+    folder.write(QStringLiteral("stary.txt"), "stary");
+    answers.dialog(QStringLiteral("saveQuestion"), [this](QWidget& modal) {
+        auto* const field = modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        field->setText(folder.path(QStringLiteral("stary")));
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    answers.dialog(QStringLiteral("replaceQuestion"), [](QWidget& modal) {
+        EXPECT_EQ(static_cast<QMessageBox&>(modal).text(),
+                  QStringLiteral("Zastąpić istniejące pliki: stary.txt?"));
+        QTest::keyClick(&modal, Qt::Key_Return); // No is the default
+    });
+    answers.dialog(QStringLiteral("saveQuestion"), [this](QWidget& modal) {
+        auto* const field = modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        field->setText(folder.path(QStringLiteral("nowy.txt")));
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    action("mnuZapisztxt")->trigger();
+    EXPECT_EQ(folder.read(QStringLiteral("stary.txt")), "stary");
+    EXPECT_TRUE(folder.names().contains(QStringLiteral("nowy.txt")));
+}
+
+TEST_F(ResultsForm, SaysWhatWasWrittenAndWhereAndOpensTheFolder) {
+    open();
+    const auto* const line = form->findChild<QWidget*>(QStringLiteral("zapisano"));
+    const auto* const words = form->findChild<QLabel*>(QStringLiteral("lblZapisano"));
+    EXPECT_FALSE(line->isVisible());
+    saveUnder(QStringLiteral("Podaj nazwę pliku tekstowego"), QStringLiteral("stopa.txt"));
+    action("mnuZapisztxt")->trigger();
+    EXPECT_TRUE(line->isVisible());
+    const QString where = QFileInfo(folder.path(QStringLiteral("stopa.txt"))).absolutePath();
+    EXPECT_EQ(words->toolTip(), QStringLiteral("Zapisano stopa.txt w folderze ") + where);
+    EXPECT_FALSE(words->text().isEmpty());
+    QStringList opened;
+    form->findChild<WrittenFiles*>(QStringLiteral("zapisano"))->setOpener([&](const QUrl& url) {
+        opened += url.toLocalFile();
+        return true;
+    });
+    QTest::mouseClick(form->findChild<QPushButton*>(QStringLiteral("cmdOtworz_folder")),
+                      Qt::LeftButton);
+    EXPECT_EQ(opened, QStringList{where});
+    answers.dialog(QStringLiteral("saveQuestion"), // the first cancel was not used up yet
+                   [](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Escape); });
+    answers.stop(error::Cancelled);
+    action("mnuZapisztxt")->trigger();
+}
+
+TEST_F(ResultsForm, SaysWhereTheFirstCancelHasWritten) {
+    open();
+    QDir::setCurrent(path());
+    answers.dialog(QStringLiteral("saveQuestion"),
+                   [](QWidget& modal) { QTest::keyClick(&modal, Qt::Key_Escape); });
+    action("mnuZapisztxt")->trigger();
+    EXPECT_TRUE(folder.names().contains(QStringLiteral("Wyniki")));
+    EXPECT_EQ(form->findChild<QLabel*>(QStringLiteral("lblZapisano"))->toolTip(),
+              QStringLiteral("Zapisano Wyniki w folderze ")
+                  + QFileInfo(folder.path(QStringLiteral("x"))).canonicalPath());
+}
+
+TEST_F(ResultsForm, SaysWhichFilesTheRendererHasSaved) {
+    open();
+    render = [] {
+        return RendererReport{
+            {QStringLiteral("/home/jan/rap-1.emf"), QStringLiteral("/home/jan/rap-2.emf")}};
+    };
+    askedForLabel(QStringLiteral("F-1"), QStringLiteral("F-1"));
+    action("mnuZapiszEMF")->trigger();
+    EXPECT_EQ(form->findChild<QLabel*>(QStringLiteral("lblZapisano"))->toolTip(),
+              QStringLiteral("Zapisano rap-1.emf, rap-2.emf w folderze /home/jan"));
+}
+
+TEST_F(ResultsForm, HasKeysForItsCommands) {
+    open();
+    for (const auto& [name, keys] :
+         {std::pair{"mnuDrukuj", "Ctrl+P"}, std::pair{"mnuDrukuj2", "Ctrl+Shift+P"},
+          std::pair{"mnuZapiszdoc", "Ctrl+S"}, std::pair{"mnuZapiszrtf", "Ctrl+R"},
+          std::pair{"mnuZapiszEMF", "Ctrl+E"}, std::pair{"mnuZapisztxt", "Ctrl+T"},
+          std::pair{"mnuPowrot", "Ctrl+W"}, std::pair{"mnuKoniec2", "Ctrl+Q"}})
+        EXPECT_EQ(action(name)->shortcut(), QKeySequence(QString::fromLatin1(keys))) << name;
+    form->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form.get()));
+    QTest::keyClick(form.get(), Qt::Key_W, Qt::ControlModifier);
+    EXPECT_EQ(backs, 1);
+}
+
 TEST_F(ResultsForm, SavesTheTextUnderTheNameThatIsAskedFor) {
     open();
     saveUnder(QStringLiteral("Podaj nazwę pliku tekstowego"), QStringLiteral("raport.txt"));
@@ -374,7 +535,9 @@ TEST_F(ResultsForm, ShowsThePageThatTheSavedRtfEndsOn) {
 }
 
 TEST_F(ResultsForm, TellsAFailedRendererAndStaysUsable) {
-    render = [] { throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk")); };
+    render = []() -> RendererReport {
+        throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk"));
+    };
     open(QStringLiteral("F-1"), [this] { EXPECT_THROW(form->open(), RunTimeError); });
     EXPECT_TRUE(form->isVisible());
     folder.write(wyd::replyFile, "0, 1\r\n");
@@ -389,8 +552,8 @@ TEST_F(ResultsForm, OffersToGiveUpARendererThatHangs) {
     hanging.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     render = [this] {
         RendererWait wait(form.get());
-        runRenderer(path(), {},
-                    [&](std::chrono::milliseconds worked) { return wait.goOn(worked); });
+        return runRenderer(path(), {},
+                           [&](const RendererState& state) { return wait.goOn(state); });
     };
     answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
                   QStringLiteral("1"), QStringLiteral("12"));
@@ -405,9 +568,9 @@ TEST_F(ResultsForm, OffersToGiveUpARendererThatHangs) {
     clickPanel(2);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "no hourglass is left over";
     EXPECT_TRUE(form->isEnabled());
-    render = [this] { runRenderer(path()); };
+    render = [this] { return runRenderer(path()); };
     QFile::remove(folder.path(QStringLiteral("Wyd_drk")));
-    QFile::link(QStringLiteral(FERNA_BIN_DIR "/Wyd_drk"), folder.path(QStringLiteral("Wyd_drk")));
+    QFile::link(places::bin("/Wyd_drk"), folder.path(QStringLiteral("Wyd_drk")));
     answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
                   QStringLiteral("12"), QStringLiteral("13"));
     clickPanel(2);
@@ -416,7 +579,10 @@ TEST_F(ResultsForm, OffersToGiveUpARendererThatHangs) {
 
 TEST_F(ResultsForm, TellsADamagedPictureOfTheRenderer) {
     open();
-    render = [this] { folder.write(wyd::screenPicture, "to nie jest obraz"); };
+    render = [this] {
+        folder.write(wyd::screenPicture, "to nie jest obraz");
+        return RendererReport{};
+    };
     answers.input(QStringLiteral("Ferna 2005 Pr"), QStringLiteral("Podaj nr strony"),
                   QStringLiteral("1"), QStringLiteral("12"));
     answers.stop(error::DeviceIO);
@@ -436,7 +602,9 @@ TEST_F(ResultsForm, TellsAReplyWithLettersAndGoesBackWithThePageNumberAsItStands
 }
 
 TEST_F(ResultsForm, IsLeftEvenWhereTheRendererFailsAndLeavesNoReply) {
-    render = [] { throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk")); };
+    render = []() -> RendererReport {
+        throw RunTimeError(error::NoObject, QStringLiteral("Wyd_drk"));
+    };
     open(QStringLiteral("F-1"), [this] { EXPECT_THROW(form->open(), RunTimeError); });
     const auto saveAndEnd = [this] {
         Zapisz_cfg(base.stan, folder.path(QStringLiteral("Ferna.cfg")),

@@ -1,4 +1,5 @@
 #include "protocol/renderer_files.h"
+#include "protocol/renderer_news.h"
 #include "report/results_session.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
@@ -35,6 +36,7 @@ protected:
                 ++rendered;
                 if (!picture.isNull())
                     folder.write(wyd::screenPicture, picture);
+                return RendererReport{};
             });
     }
 };
@@ -79,7 +81,8 @@ TEST_F(Results, MakeOneMessageOfAnyFailureOnAChosenPrinter) {
     session->open();
     session = std::make_unique<ResultsSession>(
         base.stan, base.dialogs, folder.path(QStringLiteral(".")), true,
-        [] { return QDateTime::currentDateTime(); }, [] { throw RunTimeError(error::NoObject); });
+        [] { return QDateTime::currentDateTime(); },
+        []() -> RendererReport { throw RunTimeError(error::NoObject); });
     session->printOnChosenPrinter();
     EXPECT_EQ(base.messages().last(), QStringLiteral("Problem z wyborem drukarki"));
     EXPECT_EQ(base.dialogs.messages.back().title, QStringLiteral("Ferna Pr"));
@@ -108,6 +111,36 @@ TEST_F(Results, SaveUnderThePresetNameAtTheFirstCancelAndStopAtTheSecond) {
     EXPECT_TRUE(folder.names().contains(QStringLiteral("Wyniki")));
     EXPECT_EQ(errorNumberOf([&] { session->saveText(); }), error::Cancelled);
     QDir::setCurrent(before);
+}
+
+TEST_F(Results, TellWhatWasWrittenAndWhere) {
+    base.dialogs.answers = {QStringLiteral("F-1"), folder.path(QStringLiteral("stopa.txt"))};
+    session->open();
+    EXPECT_EQ(session->takeWritten(), QStringList()) << "the program's own files are not told";
+    session->saveText();
+    EXPECT_EQ(session->takeWritten(), QStringList{folder.path(QStringLiteral("stopa.txt"))});
+    EXPECT_EQ(session->takeWritten(), QStringList());
+    base.dialogs.answers = {folder.path(QStringLiteral("no/stopa.txt"))};
+    session->saveText();
+    EXPECT_EQ(session->takeWritten(), QStringList()) << "nothing was written";
+}
+
+TEST_F(Results, KeepThePageThatTheRtfReportReachedAndItsTitleLine) {
+    base.stan.opcje.Tryb_RTF = 1;
+    base.dialogs.answers = {QStringLiteral("F-1"), folder.path(QStringLiteral("a.rtf"))};
+    base.fourAnchors(200, 100).fourAnchors(150, 50).fourAnchors(220, 120).fourAnchors(230, 130);
+    session->open();
+    base.stan.opcje.Nr_strony = 7;
+    session->saveRtf();
+    const auto pages = static_cast<Integer>(folder.read(QStringLiteral("a.rtf")).count("\\page"));
+    ASSERT_GT(pages, 0);
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 7 + pages);
+    EXPECT_EQ(session->pagePanel(), QStringLiteral(" Strona %1 ").arg(7 + pages));
+    EXPECT_TRUE(
+        session->raport().Wiersze_naglowka(6).endsWith(QStringLiteral("Strona %1").arg(7 + pages)));
+    base.dialogs.answers = {folder.path(QStringLiteral("no/a.rtf"))};
+    session->saveRtf();
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 7 + pages) << "what was not written counts no page";
 }
 
 TEST_F(Results, EndSilentlyWhereTheTextCannotBeWritten) {
@@ -202,9 +235,9 @@ TEST_F(RendererStart, ThatHangsIsEndedWhereTheEngineerGivesUp) {
     renderer("echo $$ > pid; exec sleep 600");
     int asked = 0;
     const auto failure = ferna::testing::errorOf([&] {
-        runRenderer(folder.path(QStringLiteral(".")), {}, [&](std::chrono::milliseconds worked) {
+        runRenderer(folder.path(QStringLiteral(".")), {}, [&](const RendererState& state) {
             ++asked;
-            return worked < std::chrono::milliseconds(300);
+            return state.worked < std::chrono::milliseconds(300);
         });
     });
     ASSERT_TRUE(failure);
@@ -220,13 +253,46 @@ TEST_F(RendererStart, ThatEndsInTimeIsAskedAboutAndNotGivenUp) {
     renderer("sleep 0.3; touch done");
     int asked = 0;
     EXPECT_FALSE(ferna::testing::errorOf([&] {
-        runRenderer(folder.path(QStringLiteral(".")), {}, [&asked](std::chrono::milliseconds) {
+        runRenderer(folder.path(QStringLiteral(".")), {}, [&asked](const RendererState&) {
             ++asked;
             return true;
         });
     }));
     EXPECT_GE(asked, 2);
     EXPECT_TRUE(folder.names().contains(QStringLiteral("done")));
+}
+
+TEST_F(RendererStart, IsToldOfItsWindowsAndOfTheFilesItHasWritten) {
+    renderer("echo \"$WYD_DRK_OKNO\" > window; echo okno otwarte; sleep 0.4;"
+             "echo okno zamkniete; echo cos innego; echo 'zapisano /tmp/Hala A/rap-1.emf';"
+             "printf 'zapisano /tmp/%%C5%%81/rap'; sleep 0.2; printf -- '-2.emf\\n'; sleep 0.3");
+    std::vector<bool> windows;
+    std::chrono::milliseconds worked{0};
+    const RendererReport report = runRenderer(
+        folder.path(QStringLiteral(".")), {},
+        [&](const RendererState& state) {
+            if (windows.empty() || windows.back() != state.showsWindow)
+                windows.push_back(state.showsWindow);
+            worked = state.worked;
+            return true;
+        },
+        77);
+    EXPECT_EQ(folder.read(QStringLiteral("window")).trimmed(), "77");
+    EXPECT_EQ(windows, (std::vector<bool>{true, false}));
+    EXPECT_GE(worked.count(), 350);
+    EXPECT_LT(worked.count(), 800) << "counted from the end of its window";
+    EXPECT_EQ(report.written.join(u'|'), QStringLiteral("/tmp/Hala A/rap-1.emf|/tmp/Ł/rap-2.emf"));
+}
+
+TEST(RendererNewsOf, EveryNameIsReadAsItWasTold) {
+    RendererNews news;
+    const QString name = QStringLiteral("/tmp/Zażółć 100%\n+.emf");
+    const QByteArray told =
+        news::windowOpens() + news::fileWritten(name) + news::windowCloses() + "\n";
+    for (const char byte : told)
+        news.read(QByteArray(1, byte));
+    EXPECT_FALSE(news.showsWindow());
+    EXPECT_EQ(news.written(), QStringList{name});
 }
 
 TEST_F(RendererStart, TellsThatTheRendererCrashed) {

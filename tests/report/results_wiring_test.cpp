@@ -6,6 +6,7 @@
 #include "support/decimal_comma.h"
 #include "support/folder.h"
 #include "support/modal_answers.h"
+#include "support/places.h"
 #include "support/printing.h"
 #include "widgets/qt_dialogs.h"
 
@@ -24,7 +25,7 @@ namespace {
 class ResultsWiring : public ::testing::Test {
 protected:
     void SetUp() override {
-        const QDir programs(QStringLiteral(FERNA_BIN_DIR));
+        const QDir programs(places::bin());
         for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
             QFile::copy(programs.filePath(picture), folder.path(picture));
         QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
@@ -34,7 +35,7 @@ protected:
         PictureBox(QSize(265, 176)).saveBitmap(folder.path(QStringLiteral("Ferrob.bmp")));
         auto session = std::make_unique<ResultsSession>(
             base.stan, dialogs, path(), true, [this] { return now; },
-            [this] { runRenderer(path()); });
+            [this] { return runRenderer(path()); });
         form = std::make_unique<FernaWyn>(
             base.stan, std::move(session),
             FernaWyn::Links{.plateForm = [this](QWidget*) { called += QStringLiteral("blacha "); },

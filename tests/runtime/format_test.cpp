@@ -1,6 +1,7 @@
 #include "runtime/format.h"
 #include "runtime/run_time_error.h"
 #include "support/decimal_comma.h"
+#include "support/places.h"
 #include "support/printing.h"
 
 #include <QFile>
@@ -20,7 +21,7 @@ class FormatWithComma : public ::testing::Test {
 };
 
 TEST_F(FormatWithComma, AgreesWithEveryReferenceValue) {
-    QFile file(QStringLiteral(FERNA_GOLDEN_DIR "/format.json"));
+    QFile file(places::golden("/format.json"));
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const auto reference = nlohmann::json::parse(file.readAll().toStdString());
     int count = 0;

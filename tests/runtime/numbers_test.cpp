@@ -67,6 +67,13 @@ TEST(TypedNumbers, MayHoldBlanksAroundAndAmongTheDigits) {
     EXPECT_EQ(CDbl(u"1\u202f234"), 1234);
 }
 
+TEST(TypedNumbers, AreEndedByATabOrALineBreak) {
+    EXPECT_EQ(CDbl(u"\t12,5\r\n"), 12.5);
+    for (const char16_t* two : {u"100\t200", u"100\n200", u"1\r\n2", u"1 \v 2", u"1\u20282"})
+        EXPECT_EQ(errorNumberOf([two] { CDbl(QStringView(two)); }), error::TypeMismatch)
+            << QString::fromUtf16(two).toStdString();
+}
+
 TEST(TypedNumbers, MayCarryASignAndAnExponent) {
     EXPECT_EQ(CDbl(u"+5"), 5);
     EXPECT_EQ(CDbl(u"-5"), -5);

@@ -82,6 +82,23 @@ TEST_F(AnchorSelectionForm, ShowsBothKindsForTheDiameterAndWaitsOnOk) {
     EXPECT_EQ(stan.raport.Liczba_wierszy_kotwy, 0);
 }
 
+TEST_F(AnchorSelectionForm, BothKindsAreReachedByKeysButAKindThatIsNotOfferedIsNot) {
+    open(20, 2);
+    hand->key(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(front(), Plytkowa);
+    hand->key(Qt::Key_1, Qt::AltModifier);
+    EXPECT_EQ(front(), Fajkowa);
+    hand->key(Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(front(), Plytkowa);
+    hand->key(Qt::Key_PageUp, Qt::ControlModifier);
+    EXPECT_EQ(front(), Fajkowa);
+    open(16, 5); // too thin for an anchor with a plate
+    hand->key(Qt::Key_2, Qt::AltModifier);
+    EXPECT_EQ(front(), Fajkowa);
+    hand->key(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(front(), Fajkowa);
+}
+
 TEST_F(AnchorSelectionForm, AtFortyTwoTheSmallSketchIsShownSavedAndReported) {
     open(42, 5);
     EXPECT_EQ(front(), Plytkowa);

@@ -9,6 +9,7 @@
 #include "soak/process_memory.h"
 #include "support/decimal_comma.h"
 #include "support/modal_answers.h"
+#include "support/places.h"
 #include "support/printing.h"
 #include "widgets/qt_dialogs.h"
 
@@ -38,7 +39,7 @@ public:
 class Rounds : public ::testing::Test {
 protected:
     Rounds() {
-        const QDir built(QStringLiteral(FERNA_BIN_DIR));
+        const QDir built(places::bin());
         for (const QString& file : built.entryList(
                  {QStringLiteral("*.txt"), QStringLiteral("*.cfg"), QStringLiteral("*.bmp")},
                  QDir::Files))
@@ -62,7 +63,7 @@ protected:
             auto session = std::make_unique<ResultsSession>(
                 stan, dialogs, folder.path(), input.firstNorm(),
                 [] { return QDateTime::currentDateTime(); },
-                [this] { runRenderer(folder.path()); });
+                [this] { return runRenderer(folder.path()); });
             results = std::make_unique<FernaWyn>(stan, std::move(session),
                                                  FernaWyn::Links{{},
                                                                  {},

@@ -1,6 +1,7 @@
 #include "design/start_up.h"
 #include "input/forms/Ferna3.h"
 #include "statics/statics_desk.h"
+#include "support/places.h"
 
 #include <QFile>
 #include <QTabWidget>
@@ -134,7 +135,7 @@ class StaticsOfTheMainForm : public WorkedForm {
 protected:
     void SetUp() override {
         for (const char* file : {"Ferpl.txt", "Ferna.cfg", "W_X.txt"})
-            QFile::copy(QStringLiteral(FERNA_DATA_DIR "/") + QString::fromLatin1(file),
+            QFile::copy(places::data("/") + QString::fromLatin1(file),
                         path(QString::fromLatin1(file)));
         startUp(stan, folder.path());
         form = std::make_unique<Ferna3>(stan, folder.path(), dialogs, [] {});

@@ -68,19 +68,17 @@ TEST(ChoosingAMode, ShowsItsNumbersAndItsCaption) {
 class RecordedTable : public LoadTable {
 public:
     void setCount(const QString& text) override { count = text; }
-    void setRow(int r, const std::array<QString, 5>& texts) override {
-        rows[r] = {texts.begin(), texts.end()};
-    }
+    void setRow(int r, const LoadRow<QString>& texts) override { rows[r] = texts; }
     void showRow(int r) override { shown.push_back(r); }
 
     QString count;
-    std::map<int, QStringList> rows;
+    std::map<int, LoadRow<QString>> rows;
     std::vector<int> shown;
 };
 
-const std::array<QString, 5> totals{QStringLiteral(" 100,0"), QStringLiteral("- 2,0"),
-                                    QStringLiteral("0"), QStringLiteral("1 000,0"),
-                                    QStringLiteral(" 0,5")};
+const LoadRow<QString> totals{QStringLiteral(" 100,0"), QStringLiteral("- 2,0"),
+                              QStringLiteral("0"), QStringLiteral("1 000,0"),
+                              QStringLiteral(" 0,5")};
 
 TEST(SavingTheTotals, AddsARowWithTheTextsAsTheyStandWhateverTheDialogSays) {
     Stan stan;
@@ -93,7 +91,7 @@ TEST(SavingTheTotals, AddsARowWithTheTextsAsTheyStandWhateverTheDialogSays) {
     EXPECT_EQ(stan.obciazenia.Liczba_przyp, 3);
     EXPECT_EQ(table.count, QStringLiteral("3"));
     ASSERT_EQ(table.rows.size(), 1U);
-    EXPECT_EQ(table.rows.at(2), QStringList(totals.begin(), totals.end()));
+    EXPECT_EQ(table.rows.at(2), totals);
     EXPECT_EQ(table.shown, std::vector<int>{2});
 }
 

@@ -12,8 +12,8 @@ namespace ferna::testing {
 class RememberedTable : public LoadTable {
 public:
     void setCount(const QString& text) override { count = text; }
-    void setRow(int r, const std::array<QString, 5>& texts) override {
-        rows[r] = QStringList(texts.begin(), texts.end());
+    void setRow(int r, const LoadRow<QString>& texts) override {
+        rows[r] = {texts.N, texts.M1, texts.M2, texts.Vx, texts.Vy};
     }
     void showRow(int r) override { shown += r; }
 

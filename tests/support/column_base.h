@@ -76,12 +76,8 @@ struct ColumnBase {
 
     /// One more load case, kN and kNm.
     ColumnBase& loads(Double N, Double M1, Double M2, Double Vx = 0, Double Vy = 0) {
-        const auto row = static_cast<std::size_t>(cases++);
-        fields.Text6.at(row) = general(N);
-        fields.Text7.at(row) = general(M1);
-        fields.Text8.at(row) = general(M2);
-        fields.Text5.at(row) = general(Vx);
-        fields.Text10.at(row) = general(Vy);
+        fields.loads.at(static_cast<std::size_t>(cases++)) = {general(N), general(M1), general(M2),
+                                                              general(Vx), general(Vy)};
         stan.obciazenia.Liczba_przyp = CInt(cases);
         return *this;
     }

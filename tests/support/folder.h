@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/places.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -32,9 +34,7 @@ public:
         return file.readAll();
     }
 
-    static QString delivered(const QString& name) {
-        return QStringLiteral(FERNA_DATA_DIR "/") + name;
-    }
+    static QString delivered(const QString& name) { return places::data("/") + name; }
 
 private:
     QTemporaryDir folder_;

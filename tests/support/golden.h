@@ -2,6 +2,7 @@
 
 #include "design/stan.h"
 #include "runtime/dialogs.h"
+#include "support/places.h"
 
 #include <QFile>
 
@@ -24,7 +25,7 @@ struct GoldenCase {
 };
 
 inline std::vector<GoldenJson> goldenLines(const QString& name) {
-    QFile file(QStringLiteral(FERNA_GOLDEN_DIR "/") + name);
+    QFile file(places::golden("/") + name);
     if (!file.open(QIODevice::ReadOnly))
         throw std::runtime_error("missing golden file " + name.toStdString());
     std::vector<GoldenJson> lines;

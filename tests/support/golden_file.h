@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/places.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
@@ -17,7 +19,7 @@ inline QByteArray fileBytes(const QString& path) {
 /// Compares bytes with a golden file, line by line. With FERNA_ACCEPT_GOLDEN set the file is
 /// rewritten and the test fails, so that nobody takes it for a passed one.
 inline void expectGolden(const QByteArray& bytes, const QString& name) {
-    const QString path = QStringLiteral(FERNA_GOLDEN_DIR "/") + name;
+    const QString path = places::golden("/") + name;
     if (qEnvironmentVariableIsSet("FERNA_ACCEPT_GOLDEN")) {
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();

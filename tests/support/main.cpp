@@ -1,4 +1,5 @@
 #include "runtime/qt_remarks.h"
+#include "support/own_settings.h"
 
 #include <QGuiApplication>
 
@@ -8,6 +9,7 @@
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     ferna::hushMissingRuntimeFolder();
+    const ferna::testing::OwnSettings settings;
     const QGuiApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();

@@ -5,6 +5,7 @@
 #include "runtime/text_file.h"
 #include "support/decimal_comma.h"
 #include "support/modal_answers.h"
+#include "support/places.h"
 #include "support/printing.h"
 #include "widgets/qt_dialogs.h"
 
@@ -32,7 +33,7 @@ protected:
     MainForm() {
         for (const char* file : {"Ferpl.txt", "Ferp2.txt", "Fergb.txt", "Ferfr.txt", "Ferge.txt",
                                  "Ferna.cfg", "W_X.txt"})
-            QFile::copy(QStringLiteral(FERNA_DATA_DIR "/") + QString::fromLatin1(file),
+            QFile::copy(places::data("/") + QString::fromLatin1(file),
                         path(QString::fromLatin1(file)));
     }
 

@@ -112,6 +112,9 @@ void ModalAnswers::stop(int number, bool end) {
         EXPECT_EQ(box->text().section(u'\n', 0, 0), heading);
         click(modal, end ? QStringLiteral("Zakończ program") : QStringLiteral("Wróć do programu"));
     });
+    if (end)
+        box(QStringLiteral("Ferna 2005 Pr"),
+            QStringLiteral("Zakończyć program bez zapisania konfiguracji?"), QStringLiteral("Tak"));
 }
 
 void ModalAnswers::input(const QString& title, const QString& prompt, const QString& preset,

@@ -25,7 +25,8 @@ public:
     /// A box whose text holds `text` under this title; the button with this caption is clicked.
     void box(const QString& title, const QString& text,
              const QString& button = QStringLiteral("OK"));
-    /// The stop of the environment with this error number; goes back to the program, or ends it.
+    /// The stop of the environment with this error number; goes back to the program, or ends it,
+    /// which is asked about once more.
     void stop(int number, bool end = false);
     /// An input box: its title, its prompt, its preset; the answer is typed over it.
     void input(const QString& title, const QString& prompt, const QString& preset,

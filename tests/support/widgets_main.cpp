@@ -1,4 +1,6 @@
 #include "runtime/qt_remarks.h"
+#include "support/own_settings.h"
+#include "windows/application.h"
 
 #include <QApplication>
 #include <QFont>
@@ -26,7 +28,9 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     ferna::hushMissingRuntimeFolder();
-    const QApplication application(argc, argv);
+    const ferna::testing::OwnSettings settings;
+    QApplication application(argc, argv);
+    ferna::dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
     testing::InitGoogleTest(&argc, argv);
     if (!pinInterfaceFont()) {

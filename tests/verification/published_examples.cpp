@@ -1,6 +1,7 @@
 #include "verification/published_examples.h"
 
 #include "analysis/equilibrium.h"
+#include "analysis/load_case.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 
@@ -22,11 +23,11 @@ void turn(Stan_przypadku& s, double beta, double c) {
 }
 
 /// Newton's method in short steps on both moment errors, with differences for derivatives.
-void balance(Stan_przypadku& s, Stan& stan, double beta, double c) {
+void balance(Stan_przypadku& s, const CaseInput& in, double beta, double c) {
     const auto errors = [&](double atBeta, double atC) {
         turn(s, atBeta, atC);
-        Rownowaga_c(s, stan);
-        Rownowaga_beta(s, stan);
+        Rownowaga_c(s, in);
+        Rownowaga_beta(s, in);
         return std::array{s.Reszta_c, s.Reszta_beta};
     };
     for (int step = 0; step < 200; ++step) {
@@ -77,9 +78,9 @@ std::vector<Compared> biaxialFourAnchors() {
     s.Pol_a = s.Pol_b = 12.5;
     s.Ex = 7.6 / 14 * 100;
     s.Ey = 1.0 / 14 * 100;
-    balance(s, stan, 0.09, 7.8);
+    balance(s, inputOf(stan), 0.09, 7.8);
     const auto force = [&](int i) {
-        const double d = stan.plyta.Odl_kotwy(i);
+        const double d = s.Odl_kotwy(i);
         return d < 0 ? -d * stan.opcje.Wsp_n_val * s.Wsp_k * stan.plyta.Pole_kotwy(i) / kN : 0;
     };
     const double corner = s.Pol_b * s.Sin_beta + s.Pol_a * s.Cos_beta - s.C_linii;

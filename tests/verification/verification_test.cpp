@@ -1,4 +1,5 @@
 #include "support/golden_file.h"
+#include "support/places.h"
 #include "verification/published_examples.h"
 #include "verification/verification_page.h"
 
@@ -39,9 +40,8 @@ TEST(PublishedExample, OfOneRowAgreesWithTheProgramUpToTheSubstituteMoment) {
 
 #ifndef FERNA_SANITIZE // the page's statistics take too long there
 TEST(VerificationPage, SaysWhatTheProgramGivesToday) {
-    EXPECT_EQ(
-        fileBytes(QStringLiteral(FERNA_GOLDEN_DIR "/../../docs/verification.md")).toStdString(),
-        verificationPage())
+    EXPECT_EQ(fileBytes(places::golden("/../../docs/verification.md")).toStdString(),
+              verificationPage())
         << "write it anew: build/release/tests/verification > docs/verification.md";
 }
 #endif

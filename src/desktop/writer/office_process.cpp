@@ -19,6 +19,7 @@ namespace ferna::writer {
 namespace {
 
 constexpr int startAgain = 81; // exit code of a first start on a fresh profile
+constexpr int mostStarts = 3;
 
 /// Writing to a word processor that has gone is an error of the call, not the end of the program.
 void outliveBrokenConnections() {
@@ -38,8 +39,7 @@ OfficeProcess::OfficeProcess(QString programFolder, std::shared_ptr<ProcessGroup
     : program_(programFolder + QStringLiteral("/soffice.bin")),
       pipe_(QStringLiteral("ferna%1-").arg(::getpid())
             + QUuid::createUuid().toString(QUuid::Id128)),
-      folder_(QDir::tempPath() + QStringLiteral("/ferna-dokument-XXXXXX")),
-      group_(std::move(group)) {
+      folder_(QStringLiteral("dokument")), group_(std::move(group)) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("SAL_USE_VCLPLUGIN"), QStringLiteral("svp"));
     // Its temporary files go with ours, also where it is killed.
@@ -60,8 +60,6 @@ OfficeProcess::~OfficeProcess() {
 }
 
 void OfficeProcess::start() {
-    if (!folder_.isValid())
-        throw RunTimeError(error::NoObject, folder_.errorString());
     if (!QFile::exists(program_))
         noWordProcessor(QStringLiteral("brak programu ") + program_);
     const QString profile = QUrl::fromLocalFile(folder_.filePath(QStringLiteral("profil")))
@@ -82,11 +80,14 @@ bool OfficeProcess::stillRunning(int milliseconds) {
     if (process_.state() == QProcess::Running && !process_.waitForFinished(milliseconds))
         return true;
     group_->set(0);
-    if (process_.exitStatus() == QProcess::NormalExit && process_.exitCode() == startAgain) {
-        start();
-        return true;
-    }
-    return false;
+    if (process_.exitStatus() != QProcess::NormalExit || process_.exitCode() != startAgain)
+        return false;
+    if (++starts_ > mostStarts)
+        throw RunTimeError(
+            error::NoObject,
+            program_ + QStringLiteral(" po %1 uruchomieniach prosi o następne").arg(mostStarts));
+    start();
+    return true;
 }
 
 void OfficeProcess::finish(int milliseconds) {

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "runtime/passing_folder.h"
+
 #include <QProcess>
 #include <QString>
-#include <QTemporaryDir>
 
 #include <atomic>
 #include <memory>
@@ -14,7 +15,6 @@ namespace ferna::writer {
 class ProcessGroup {
 public:
     void set(qint64 leader) { leader_ = leader; }
-    bool running() const { return leader_ != 0; }
     /// Kills the whole group.
     void kill() const;
 
@@ -35,7 +35,7 @@ public:
     /// Starts it. Error 429 where that fails.
     void start();
     /// Waits a moment; false once it has ended. Where it asked for a second start, as it does on a
-    /// fresh profile, it gets one. Error 429 as above.
+    /// fresh profile, it gets one, but no more than three in all. Error 429 as above.
     bool stillRunning(int milliseconds);
     /// Waits for the end of its own accord, else kills it; nothing of it is left behind.
     void finish(int milliseconds);
@@ -47,9 +47,10 @@ public:
 private:
     QString program_;
     QString pipe_;
-    QTemporaryDir folder_;
+    PassingFolder folder_;
     std::shared_ptr<ProcessGroup> group_;
     QProcess process_;
+    int starts_ = 1;
 };
 
 } // namespace ferna::writer

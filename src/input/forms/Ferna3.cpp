@@ -12,16 +12,20 @@
 #include "input/load_table.h"
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_files.h"
 #include "runtime/format.h"
 #include "statics/forms/StatykaS.h"
 #include "ui_Ferna3.h"
 #include "widgets/codepage_note.h"
 #include "widgets/environment_stop.h"
+#include "widgets/field_place.h"
 #include "widgets/form_tools.h"
+#include "widgets/notes.h"
+#include "widgets/number_field.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
-#include <QShortcut>
 #include <QTimer>
 
 namespace ferna {
@@ -43,17 +47,15 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     for (QGroupBox* group : findChildren<QGroupBox*>())
         stopTabAtTheChoice(group);
     showNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu, projectNote);
+    keepRoomForNote(ui_->lblZnaki_projektu);
+    showAsWarning(ui_->lblLista_nieaktualna, true);
+    keepTablesOut(this, {ui_->txtNaz_proj});
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
     for (QWidget* field :
          {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
           static_cast<QWidget*>(ui_->cmbBeton), static_cast<QWidget*>(ui_->cmbStal)})
         field->installEventFilter(this);
-    for (int tab = 0; tab < ui_->SSTab1->count(); ++tab) {
-        auto* const shortcut =
-            new QShortcut(QKeySequence(Qt::ALT | Qt::Key(Qt::Key_1 + tab)), this);
-        connect(shortcut, &QShortcut::activated, this,
-                [this, tab] { ui_->SSTab1->setCurrentIndex(tab); });
-    }
+    addTabKeys(this, ui_->SSTab1);
     connectGuarded(ui_->SSTab1, &QTabWidget::currentChanged, this, [this] { tabChanged(); });
     connect(ui_->SSTab1, &QTabWidget::tabBarClicked, this, [this](int tab) {
         if (tab == ui_->SSTab1->currentIndex())
@@ -95,6 +97,8 @@ void Ferna3::connectOptions() {
     onClick("Norma_%1", 2, [this](Integer i) {
         chooseNorm(stan_, i);
         fillConcretes();
+        if (ui_->Wsp_n_0->isChecked())
+            showRatio();
     });
     onClick("Wsp_n_%1", 2, [this](Integer i) { chooseRatioMode(i); });
 }
@@ -202,17 +206,14 @@ void Ferna3::load() {
     (start.optHsruby_0 ? ui_->optHsruby_0 : ui_->optHsruby_1)->setChecked(true);
     ui_->txtNaz_proj->setText(start.txtNaz_proj);
     ui_->Text2->setText(start.Text2);
-    for (std::size_t r = 0; r < MaxCases; ++r) {
-        const std::array texts{start.Text6[r], start.Text7[r], start.Text8[r], start.Text5[r],
-                               start.Text10[r]};
-        for (std::size_t column = 0; column < texts.size(); ++column)
-            loads_[r][column]->setText(texts[column]);
-    }
+    for (int r = 0; r < MaxCases; ++r)
+        setRow(r, start.loads.at(static_cast<std::size_t>(r)));
     ui_->Text3->setText(start.Text3);
     ui_->Text4->setText(start.Text4);
     leaveText1();
     Rysuj_P3();
     ui_->SSTab1->setCurrentIndex(generalTab);
+    keepRoomForEveryTab(ui_->SSTab1);
     centreOnScreen(this);
 }
 
@@ -227,11 +228,9 @@ InputFields Ferna3::fields() const {
     out.Option1_0 = ui_->Option1_0->isChecked();
     out.optHsruby_0 = ui_->optHsruby_0->isChecked();
     for (std::size_t r = 0; r < MaxCases; ++r) {
-        out.Text6[r] = loads_[r][0]->text();
-        out.Text7[r] = loads_[r][1]->text();
-        out.Text8[r] = loads_[r][2]->text();
-        out.Text5[r] = loads_[r][3]->text();
-        out.Text10[r] = loads_[r][4]->text();
+        const auto& row = loads_[r];
+        out.loads[r] = {row[0]->text(), row[1]->text(), row[2]->text(), row[3]->text(),
+                        row[4]->text()};
     }
     return out;
 }
@@ -244,10 +243,13 @@ void Ferna3::setCount(const QString& text) {
     ui_->Text1->setText(text);
 }
 
-void Ferna3::setRow(int r, const std::array<QString, 5>& texts) {
-    auto& row = loads_.at(static_cast<std::size_t>(r));
-    for (std::size_t column = 0; column < row.size(); ++column)
-        row[column]->setText(texts[column]);
+void Ferna3::setRow(int r, const LoadRow<QString>& texts) {
+    const auto& row = loads_.at(static_cast<std::size_t>(r));
+    row[0]->setText(texts.N);
+    row[1]->setText(texts.M1);
+    row[2]->setText(texts.M2);
+    row[3]->setText(texts.Vx);
+    row[4]->setText(texts.Vy);
 }
 
 void Ferna3::showRow(int r) {
@@ -260,6 +262,7 @@ void Ferna3::showEvent(QShowEvent* event) {
     if (event->spontaneous())
         return;
     ui_->txtNr_strony->setText(general(stan_.opcje.Nr_strony));
+    ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
     ui_->SSTab1->setCurrentIndex(generalTab);
     focusFirstField();
 }
@@ -294,7 +297,7 @@ void Ferna3::tabChanged() {
 
 void Ferna3::focusFirstField() {
     const std::array<QWidget*, 4> first{ui_->txtNaz_proj, ui_->Text1, loads_[0][0], ui_->cmdDodaj4};
-    first.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex()))->setFocus();
+    goTo(first.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex())));
 }
 
 void Ferna3::leaveText1() {
@@ -376,12 +379,17 @@ void Ferna3::changeDiameterOf(std::optional<Integer> anchor) {
     if (!anchor)
         return;
     Fernafi(stan_, *anchor, dialogs_, this).exec();
-    ui_->Text9->setPlainText(Lista_srub(stan_));
+    showAnchorList();
 }
 
 void Ferna3::showAnchors() {
-    ui_->Text9->setPlainText(Lista_srub(stan_));
+    showAnchorList();
     Rysuj_P3();
+}
+
+void Ferna3::showAnchorList() {
+    ui_->Text9->setPlainText(Lista_srub(stan_));
+    ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
 }
 
 void Ferna3::Rysuj_P3() {
@@ -390,10 +398,10 @@ void Ferna3::Rysuj_P3() {
 }
 
 // The picture shows the layout as it was drawn last, whatever has changed in the state since, and
-// is sharp in every size of the form.
+// is sharp in every size of the form. It is the picture of the report.
 void Ferna3::showPlate(bool drawn) {
-    ui_->Picture3->setDrawing([plate = stan_.plyta, drawn](QSize size, qreal ratio) {
-        PictureBox picture(size, ratio);
+    ui_->Picture3->setDrawing(platePictureSize, [plate = stan_.plyta, drawn](qreal ratio) {
+        PictureBox picture(platePictureSize, ratio);
         if (drawn)
             ferna::drawPlate(picture, plate);
         return picture.image();
@@ -405,7 +413,7 @@ void Ferna3::KGM8(Stan& stan) {
 }
 
 void Ferna3::drawPlate(Stan& stan, const InputFields& fields) {
-    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + QStringLiteral("/Ferrob.bmp")));
+    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + u'/' + platePictureFile));
 }
 
 void Ferna3::calculate() {
@@ -415,7 +423,7 @@ void Ferna3::calculate() {
 }
 
 void Ferna3::leaveProgram() {
-    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + QStringLiteral("/W_X.txt"));
+    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + u'/' + wyd::replyFile);
     hide();
     QCoreApplication::exit(0);
 }

@@ -51,7 +51,7 @@ private:
     void KGM8(Stan& stan) override;
     void drawPlate(Stan& stan, const InputFields& fields) override;
     void setCount(const QString& text) override;
-    void setRow(int r, const std::array<QString, 5>& texts) override;
+    void setRow(int r, const LoadRow<QString>& texts) override;
     void showRow(int r) override;
 
     void collectFields();
@@ -79,6 +79,7 @@ private:
     void addAnchorsBy(Adding way);
     void changeDiameterOf(std::optional<Integer> anchor);
     void showAnchors();
+    void showAnchorList();
     void Rysuj_P3();
     void showPlate(bool drawn);
 

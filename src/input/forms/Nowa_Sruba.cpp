@@ -5,6 +5,7 @@
 #include "ui_Nowa_Sruba.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QKeyEvent>
 
@@ -19,6 +20,7 @@ Nowa_Sruba::Nowa_Sruba(Stan& stan, Dialogs& dialogs, QWidget* parent)
     const auto millimetres = [](Single cm) { return general(Int(CSng(cm * 10.0))); };
     ui_->Text1->setText(millimetres(stan.plyta.X_kotwy(1)));
     ui_->Text2->setText(millimetres(stan.plyta.Y_kotwy(1)));
+    keepTablesOut(this);
     connect(ui_->cmdOK, &QPushButton::clicked, this, &Nowa_Sruba::accept);
 }
 
@@ -47,8 +49,10 @@ void Nowa_Sruba::accept() {
             ui_->cmbFi->setFocus();
             return;
         }
-        anchor_ = {CInt(ui_->cmbFi->currentText()), CInt(ui_->Text1->text()),
-                   CInt(ui_->Text2->text())};
+        const auto number = [](const QLineEdit* field) {
+            return inControl(field->objectName(), [field] { return CInt(field->text()); });
+        };
+        anchor_ = {CInt(ui_->cmbFi->currentText()), number(ui_->Text1), number(ui_->Text2)};
         QDialog::accept();
     });
 }

@@ -2,12 +2,14 @@
 
 #include "pages/sketch_files.h"
 #include "plate/forms/KGM8b.h"
+#include "plate/forms/result_age.h"
 #include "plate/plate_checks.h"
 #include "plate/plate_report_lines.h"
 #include "plate/plate_tables.h"
 #include "ui_Grub_bla.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -42,6 +44,7 @@ Grub_bla::Grub_bla(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget*
     : QDialog(parent), stan_(stan), folder_(folder), dialogs_(dialogs), form_(openPlateForm(stan)),
       ui_(std::make_unique<Ui::Grub_bla>()) {
     ui_->setupUi(this);
+    keepTablesOut(this);
     collectControls();
     ui_->cmbStalb->addItems(plateSteelNames());
     ui_->cmbStalb->setCurrentIndex(-1);
@@ -71,6 +74,10 @@ void Grub_bla::collectControls() {
     collect(this, "Label8_%1", Label8_);
     for (int tab = 0; tab < PlateChecks; ++tab)
         cmdOblicz_.at(static_cast<std::size_t>(plateTab(tab).check - 1)) = command(tab);
+    for (int tab = 0; tab < PlateChecks; ++tab) {
+        const auto check = static_cast<std::size_t>(plateTab(tab).check - 1);
+        resultAges_[check] = new ResultAge(ui_->SSTab1->widget(tab), Label8_[check], ui_->cmbStalb);
+    }
     for (QWidget* line : Label8_)
         keepItsPlace(line);
     for (QWidget* control :
@@ -119,6 +126,9 @@ void Grub_bla::connectCommands() {
     for (int i = 0; i < PlateChecks; ++i) {
         connectCommand(cmdOblicz_.at(static_cast<std::size_t>(i)), [this, i] {
             work([this, i] { computePlateCheck({stan_, form_, dialogs_, *this}, i + 1); });
+            const auto at = static_cast<std::size_t>(i);
+            if (form_.face.Label8_visible[at] && form_.face.Label8[at] != noPlateResult)
+                resultAges_[at]->computed();
         });
         connectCommand(findChild<QPushButton*>(QStringLiteral("cmdAnulujto_%1").arg(i)),
                        [this, i] { work([this, i] { cmdAnulujto(stan_, form_, i); }); });
@@ -225,6 +235,8 @@ void Grub_bla::showForm() {
     for (std::size_t i = 0; i < PlateChecks; ++i) {
         Label8_[i]->setText(face.Label8[i]);
         Label8_[i]->setVisible(face.Label8_visible[i]);
+        if (!face.Label8_visible[i])
+            resultAges_[i]->withdrawn();
         cmdOblicz_[i]->setEnabled(face.cmdOblicz_enabled[i]);
     }
     ui_->Label10_0->setVisible(face.Label10_visible);

@@ -17,6 +17,8 @@ class Grub_bla;
 
 namespace ferna {
 
+class ResultAge;
+
 /// The thickness of the plate: a tab for every check of a fragment, the grade, and the thickness
 /// that governs.
 class Grub_bla : public QDialog, private PlateSteelHost {
@@ -61,6 +63,7 @@ private:
     std::array<QLineEdit*, 9> Text3_{};
     std::array<QLabel*, PlateChecks> Label8_{};
     std::array<QPushButton*, PlateChecks> cmdOblicz_{}; ///< by check less one
+    std::array<ResultAge*, PlateChecks> resultAges_{};  ///< by check less one
     bool gradeListLeft_ = false; ///< left, and what that brings has not run yet
 };
 

@@ -5,6 +5,7 @@
 #include "ui_FernaWyn.h"
 #include "widgets/environment_stop.h"
 #include "widgets/hourglass.h"
+#include "widgets/notes.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -81,7 +82,10 @@ void FernaWyn::addPanel(QWidget* panel, int share) {
 
 void FernaWyn::connectMenu() {
     const auto on = [this](QAction* action, auto handler) {
-        connectGuarded(action, &QAction::triggered, this, handler);
+        connectGuarded(action, &QAction::triggered, this, [this, handler] {
+            handler();
+            tellWritten();
+        });
     };
     on(ui_->mnuNrstrony, [this] {
         session_->askPageNumber();
@@ -127,6 +131,11 @@ void FernaWyn::connectMenu() {
     });
 }
 
+void FernaWyn::tellWritten() {
+    if (const QStringList files = session_->takeWritten(); !files.isEmpty())
+        ui_->zapisano->tell(files);
+}
+
 void FernaWyn::showRtfEntry() {
     const Integer mode = stan_.opcje.Tryb_RTF;
     ui_->mnuZapiszrtf->setText(mode == 1   ? QStringLiteral("Zapisz jako RTF (MSWord)")
@@ -138,6 +147,7 @@ void FernaWyn::showRtfEntry() {
 void FernaWyn::showPanels() {
     page_->setText(session_->pagePanel());
     state_->setText(session_->statePanel());
+    showAsWarning(state_, session_->exceeded());
     project_->setText(session_->projectPanel());
     label_->setText(session_->labelPanel());
 }

@@ -48,6 +48,7 @@ private:
     void connectMenu();
     void showPanels();
     void showRtfEntry();
+    void tellWritten();
     void refresh();
     void afterSection();
     void layOut();

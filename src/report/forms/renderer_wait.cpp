@@ -14,19 +14,20 @@ namespace ferna {
 RendererWait::RendererWait(QWidget* form) : form_(form) {}
 
 RendererWait::~RendererWait() {
-    if (box_ != nullptr)
-        QApplication::restoreOverrideCursor();
+    takeBoxAway();
 }
 
-bool RendererWait::goOn(std::chrono::milliseconds worked) {
+bool RendererWait::goOn(const RendererState& state) {
     if (form_ != nullptr) // the renderer's own dialog may have stood in front of it
         form_->repaint();
-    if (worked < silent)
+    if (state.showsWindow || state.worked < silent) {
+        takeBoxAway();
         return true;
+    }
     const bool first = box_ == nullptr;
     if (first)
         makeBox();
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(worked).count();
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(state.worked).count();
     words_->setText(
         QStringLiteral("Wyd_drk pracuje od %1 s.\nJeżeli otworzył własne okno (drukarka, "
                        "zapis EMF), dokończ w nim wybór.")
@@ -35,6 +36,13 @@ bool RendererWait::goOn(std::chrono::milliseconds worked) {
         box_->show();
     QApplication::processEvents();
     return !givenUp_;
+}
+
+void RendererWait::takeBoxAway() {
+    if (box_ == nullptr)
+        return;
+    box_.reset();
+    QApplication::restoreOverrideCursor();
 }
 
 // Modal, so that no other command begins while one waits; but the focus stays where it is, which

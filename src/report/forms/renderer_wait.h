@@ -1,9 +1,10 @@
 #pragma once
 
+#include "protocol/renderer_start.h"
+
 #include <QPointer>
 #include <QWidget>
 
-#include <chrono>
 #include <memory>
 
 class QDialog;
@@ -22,13 +23,14 @@ public:
     RendererWait& operator=(const RendererWait&) = delete;
 
     /// To be asked again and again. False once the engineer has given up.
-    bool goOn(std::chrono::milliseconds worked);
+    bool goOn(const RendererState& state);
 
-    /// Without a box until then.
+    /// Without a box until then, and while the renderer shows a window of its own.
     static constexpr std::chrono::milliseconds silent{4000};
 
 private:
     void makeBox();
+    void takeBoxAway();
 
     QPointer<QWidget> form_;
     std::unique_ptr<QDialog> box_;

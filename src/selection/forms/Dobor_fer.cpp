@@ -20,6 +20,7 @@ Dobor_fer::Dobor_fer(Stan& stan, const QString& folder, Dialogs& dialogs, QWidge
     ui_->setupUi(this);
     loadSelection(stan, form_, dialogs);
     showForm();
+    addTabKeys(this, ui_->SSTab1);
     connectGuarded(ui_->SSTab1, &QTabWidget::currentChanged, this,
                    [this](int tab) { bringToFront(form_, tab); });
     connectGuarded(ui_->cmdOK, &QPushButton::clicked, this, [this] { writeSection(); });

@@ -3,6 +3,7 @@
 #include "ui_Obciazenie.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QShowEvent>
 
@@ -12,6 +13,7 @@ Obciazenie::Obciazenie(Stan_statyki& loads, StaticsForm& form, QWidget* parent)
     : QDialog(parent), loads_(loads), form_(form), dialog_(openLoadDialog(form)),
       ui_(std::make_unique<Ui::Obciazenie>()) {
     ui_->setupUi(this);
+    keepTablesOut(this);
     showDialog();
     connectGuarded(ui_->cmdExit, &QPushButton::clicked, this, [this] { addLoad(); });
     connect(ui_->cmdAnuluj, &QPushButton::clicked, this, &Obciazenie::reject);

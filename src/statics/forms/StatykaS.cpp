@@ -5,6 +5,7 @@
 #include "ui_StatykaS.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/number_field.h"
 
 #include <QKeyEvent>
 
@@ -15,6 +16,7 @@ StatykaS::StatykaS(Stan& stan, Stan_statyki& loads, LoadTable& table, Dialogs& d
     : QDialog(parent), stan_(stan), loads_(loads), table_(table), dialogs_(dialogs),
       form_(openStatics(loads)), ui_(std::make_unique<Ui::StatykaS>()) {
     ui_->setupUi(this);
+    keepTablesOut(this);
     Text1_ = {ui_->Text1_0, ui_->Text1_1, ui_->Text1_2, ui_->Text1_3, ui_->Text1_4};
     optTypObciaz_ = {ui_->optTypObciaz_0, ui_->optTypObciaz_1, ui_->optTypObciaz_2};
     optTypsily_ = {ui_->optTypsily_0, ui_->optTypsily_1, ui_->optTypsily_2};
@@ -80,7 +82,7 @@ void StatykaS::save() {
     readForm();
     Statyka_sch(stan_.obciazenia.Liczba_przyp, this).exec();
     try {
-        saveTotals(stan_, form_.Text1, table_);
+        saveTotals(stan_, form_.totals(), table_);
     } catch (const RunTimeError& failure) {
         if (failure.number() != error::Subscript)
             throw;

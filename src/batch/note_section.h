@@ -1,0 +1,11 @@
+#pragma once
+
+#include "batch/object_reader.h"
+#include "notes/note.h"
+
+namespace ferna::batch {
+
+/// The key "Uwagi" of a result. Keys that do not apply to a note are left out.
+Json notesJson(const notes::Notes& notes);
+
+} // namespace ferna::batch

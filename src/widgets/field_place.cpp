@@ -1,0 +1,69 @@
+#include "widgets/field_place.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabWidget>
+
+namespace ferna {
+
+namespace {
+
+/// A caption as it is read: without the mark of its mnemonic and the colon behind it.
+QString spoken(QString caption) {
+    caption.remove(u'&');
+    caption = caption.trimmed();
+    if (caption.endsWith(u':'))
+        caption.chop(1);
+    return caption.trimmed();
+}
+
+QString nameOf(const QWidget* field) {
+    if (!field->accessibleName().isEmpty())
+        return field->accessibleName();
+    for (const QLabel* label : field->window()->findChildren<QLabel*>())
+        if (label->buddy() == field)
+            return spoken(label->text());
+    return field->objectName();
+}
+
+/// The tab widget around a field with the page that the field is on; null where it is on none.
+std::pair<QTabWidget*, QWidget*> tabOf(const QWidget* field) {
+    for (QWidget* page = field->parentWidget(); page != nullptr && page->parentWidget() != nullptr;
+         page = page->parentWidget()) {
+        QWidget* const stack = page->parentWidget();
+        auto* const tabs = qobject_cast<QTabWidget*>(stack->parentWidget());
+        if (tabs != nullptr && tabs->indexOf(page) >= 0)
+            return {tabs, page};
+    }
+    return {nullptr, nullptr};
+}
+
+} // namespace
+
+QWidget* controlOf(QWidget* form, const QString& name) {
+    if (form == nullptr || name.isEmpty())
+        return nullptr;
+    const QString owner = name.section(u'/', 0, -2);
+    QWidget* window = form->window();
+    while (window != nullptr && !owner.isEmpty() && window->objectName() != owner)
+        window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
+    return window ? window->findChild<QWidget*>(name.section(u'/', -1)) : nullptr;
+}
+
+QString placeOf(const QWidget* field) {
+    const auto [tabs, page] = tabOf(field);
+    return tabs == nullptr ? nameOf(field)
+                           : nameOf(field) + QStringLiteral(" (zakładka ")
+                                 + spoken(tabs->tabText(tabs->indexOf(page))) + u')';
+}
+
+void goTo(QWidget* field) {
+    const auto [tabs, page] = tabOf(field);
+    if (tabs != nullptr)
+        tabs->setCurrentWidget(page);
+    field->setFocus(Qt::OtherFocusReason);
+    if (auto* const line = qobject_cast<QLineEdit*>(field))
+        line->selectAll();
+}
+
+} // namespace ferna

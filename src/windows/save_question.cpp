@@ -1,0 +1,87 @@
+#include "windows/save_question.h"
+
+#include "runtime/settings.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+
+namespace ferna {
+
+namespace {
+
+constexpr int namedAtMost = 6; // files of a question; a report can have dozens of pages
+
+QString existingAmong(const QStringList& files) {
+    QStringList names;
+    for (const QString& file : files)
+        if (QFileInfo::exists(file))
+            names += QFileInfo(file).fileName();
+    const qsizetype more = names.size() - namedAtMost;
+    if (more > 0)
+        names = names.mid(0, namedAtMost) << QStringLiteral("... (jeszcze %1)").arg(more);
+    return names.join(QStringLiteral(", "));
+}
+
+int runBox(const SaveSurroundings& surroundings, QDialog& dialog) {
+    return surroundings.run ? surroundings.run(dialog) : dialog.exec();
+}
+
+/// True where none of the files exists yet or the user wants them replaced.
+bool mayReplace(const QStringList& files, const QString& title,
+                const SaveSurroundings& surroundings) {
+    const QString existing = existingAmong(files);
+    if (existing.isEmpty())
+        return true;
+    QMessageBox box(QMessageBox::Question, title,
+                    QStringLiteral("Zastąpić istniejące pliki: %1?").arg(existing),
+                    QMessageBox::NoButton, surroundings.parent);
+    box.setObjectName(QStringLiteral("replaceQuestion"));
+    box.setTextFormat(Qt::PlainText);
+    const QPushButton* const yes = box.addButton(QStringLiteral("&Tak"), QMessageBox::YesRole);
+    QPushButton* const no = box.addButton(QStringLiteral("&Nie"), QMessageBox::NoRole);
+    box.setDefaultButton(no);
+    box.setEscapeButton(no);
+    runBox(surroundings, box);
+    return box.clickedButton() == yes;
+}
+
+QStringList nameFilters(const QString& filter) {
+    QStringList filters;
+    const QStringList parts = filter.split(u'|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters += parts[i];
+    return filters;
+}
+
+} // namespace
+
+bool hasEnding(const QString& name) {
+    static const QRegularExpression ending(QStringLiteral("\\.[A-Za-z][A-Za-z0-9]{0,7}$"));
+    return ending.match(QFileInfo(name).fileName()).hasMatch();
+}
+
+std::optional<QString> askWhereToSave(const SaveQuestion& question,
+                                      const SaveSurroundings& surroundings) {
+    QFileDialog dialog(surroundings.parent, question.title, settings::saveFolder());
+    dialog.setObjectName(QStringLiteral("saveQuestion"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // asked for every file that is meant
+    dialog.setNameFilters(nameFilters(question.filter));
+    dialog.setDefaultSuffix(question.extension);
+    dialog.selectFile(question.preset);
+    QString name;
+    do {
+        if (runBox(surroundings, dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+            return std::nullopt;
+        name = dialog.selectedFiles().constFirst();
+        if (!hasEnding(name))
+            name += question.extension;
+    } while (!mayReplace(surroundings.files(name), question.title, surroundings));
+    settings::rememberSaveFolder(QFileInfo(name).path());
+    return name;
+}
+
+} // namespace ferna
