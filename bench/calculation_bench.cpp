@@ -87,7 +87,7 @@ void reportOf(ColumnBase& base) {
             raport.Wiersze_strefy(c - 1) = Wiersz_strefy(base.stan, c);
     base.dialogs.answers.push_back(QStringLiteral("F-1"));
     Naglowek(raport, base.stan, true, QDateTime(QDate(2026, 1, 1), QTime(12, 0)), base.dialogs);
-    benchmark::DoNotOptimize(textReport(base.stan, raport).bytes().size());
+    benchmark::DoNotOptimize(textReport(reportModel(base.stan, raport)).bytes().size());
     base.dialogs.questions.clear();
 }
 

@@ -26,7 +26,7 @@ public:
     void drawPlate(Stan& stan, const InputFields& fields) override {
         if (!options_.pictures.isEmpty())
             savePlatePicture(stan, fields, done_.dialogs,
-                             options_.pictures + QStringLiteral("/Ferrob.bmp"));
+                             options_.pictures + u'/' + platePictureFile);
     }
 
     int casesEnded() const { return casesEnded_; }

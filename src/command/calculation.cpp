@@ -131,7 +131,7 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     load(loads.Moment_M2(c), 3, typed.M2, "Text8_%1");
     load(loads.Sila_Vx(c), 4, typed.Vx, "Text5_%1");
     load(loads.Sila_Vy(c), 5, typed.Vy, "Text10_%1");
-    loads.Klasa_znaku(c) = signClass(CSng(loads.Moment_M1(c)), CSng(loads.Moment_M2(c)));
+    loads.Klasa_znaku(c) = signClass(loads.Moment_M1(c), loads.Moment_M2(c));
 }
 
 /// A diameter off the series leaves the earlier area.

@@ -1,4 +1,6 @@
 #include "pages/drawing.h"
+#include "protocol/renderer_files.h"
+#include "protocol/reply.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
 #include "runtime/run_time_error.h"
@@ -16,8 +18,6 @@ using namespace ferna;
 using namespace ferna::renderer;
 
 namespace {
-
-enum ExitCode { Done = 0, Failed = 1, BadCall = 2, CancelledByUser = 3 };
 
 void say(const QString& line) {
     std::fputs(("Wyd_drk: " + line.toUtf8() + '\n').constData(), stderr);
@@ -49,8 +49,8 @@ void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage
     const QString face = QFontInfo(drawing::fontOf(1)).family();
     if (face != drawing::textFace)
         say(QStringLiteral("brak czcionki %1, zamiast niej %2").arg(drawing::textFace, face));
-    Complaints complaints;
-    const Report report = compose(job, complaints);
+    wyd::Complaints complaints;
+    const pages::Report report = compose(job, complaints);
     for (const QString& line : complaints.lines())
         say(line);
     deliver(report, call, job);
@@ -77,13 +77,13 @@ int main(int argc, char** argv) {
         arguments += QString::fromLocal8Bit(argv[i]);
     if (const QString answer = answerTo(arguments); !answer.isEmpty()) {
         std::fputs(answer.toLocal8Bit().constData(), stdout);
-        return Done;
+        return wyd::Done;
     }
     QString fault;
     const std::optional<Call> call = parseCall(arguments, fault);
     if (!call) {
         say(fault + QStringLiteral(". ") + usage());
-        return BadCall;
+        return wyd::BadCall;
     }
     const QString folder = folderOf(call->jobPath);
     try {
@@ -94,13 +94,13 @@ int main(int argc, char** argv) {
             writeReply(folder, false, page);
         run(argc, argv, *call, job, page);
         writeReply(folder, true, page);
-        return Done;
+        return wyd::Done;
     } catch (const RunTimeError& failure) {
         if (failure.number() == error::Cancelled)
-            return CancelledByUser;
+            return wyd::CancelledByUser;
         say(failure.text());
     } catch (const std::exception& failure) {
         say(QString::fromLocal8Bit(failure.what()));
     }
-    return Failed;
+    return wyd::Failed;
 }

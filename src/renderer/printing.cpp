@@ -27,7 +27,7 @@ constexpr double mmPerInch = 25.4;
     throw RunTimeError(error::DeviceIO, detail);
 }
 
-void setUp(QPrinter& printer, const Report& report) {
+void setUp(QPrinter& printer, const pages::Report& report) {
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(QPageLayout::Portrait);
     printer.setFullPage(true);
@@ -52,7 +52,7 @@ std::vector<std::size_t> pagesToPrint(const QPrinter& printer, std::size_t pages
     return chosen;
 }
 
-void printOn(QPrinter& printer, const Report& report) {
+void printOn(QPrinter& printer, const pages::Report& report) {
     const QString name = printer.printerName();
     const bool toFile = !printer.outputFileName().isEmpty();
     if (!toFile) {
@@ -83,7 +83,7 @@ void printOn(QPrinter& printer, const Report& report) {
         cannotPrint(QStringLiteral("drukarka %1 nie przyjęła wydruku").arg(name));
 }
 
-void printOnDefault(const Report& report) {
+void printOnDefault(const pages::Report& report) {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (info.isNull())
         cannotPrint(QStringLiteral("nie ma drukarki domyślnej"));
@@ -92,7 +92,7 @@ void printOnDefault(const Report& report) {
     printOn(printer, report);
 }
 
-void printOnChosen(const Report& report) {
+void printOnChosen(const pages::Report& report) {
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer, report);
     QPrintDialog dialog(&printer);

@@ -1,5 +1,6 @@
 #include "report/report_lines.h"
 
+#include "design/catalogue.h"
 #include "design/material_tables.h"
 #include "design/typed_names.h"
 #include "runtime/format.h"
@@ -13,24 +14,24 @@ QString steelLine(const Stan& stan) {
     const Materialy& m = stan.materialy;
     const QString mpa = QStringLiteral(" MPa");
     if (stan.opcje.Nr_stali == userSteel)
-        return stan.Teksty(13) + m.Stal_nazwa + QStringLiteral("  fd = ")
+        return stan.Teksty(phrase::AnchorSteel) + m.Stal_nazwa + QStringLiteral("  fd = ")
                + Format(m.Fd_kotwy, u"####") + mpa + QStringLiteral("  Re = ")
                + Format(m.Stal_Re, u"####") + mpa + QStringLiteral("  Rm = ")
                + Format(m.Stal_Rm, u"####") + mpa;
-    return stan.Teksty(13) + steelNames().at(stan.opcje.Nr_stali - 1) + m.Klasa_stali
-           + QStringLiteral("  fd = ") + Format(m.Fd_kotwy, u"####") + mpa;
+    return stan.Teksty(phrase::AnchorSteel) + steelNames().at(stan.opcje.Nr_stali - 1)
+           + m.Klasa_stali + QStringLiteral("  fd = ") + Format(m.Fd_kotwy, u"####") + mpa;
 }
 
 void fillDataLines(Raport& raport, const Stan& stan) {
     const auto millimetres = [](Single cm) {
         return Format(cm * 10.0, u"## ###") + QStringLiteral(" mm");
     };
-    raport.Wiersze_danych(1) =
-        stan.Teksty(10) + QStringLiteral("x = ") + millimetres(stan.plyta.Dlugosc_plyty);
-    raport.Wiersze_danych(2) =
-        stan.Teksty(11) + QStringLiteral("y = ") + millimetres(stan.plyta.Szerokosc_plyty);
-    raport.Wiersze_danych(3) = stan.Teksty(12) + stan.materialy.Nazwa_betonu
-                               + stan.Teksty(33 + stan.opcje.Stopa_betonowa)
+    raport.Wiersze_danych(1) = stan.Teksty(phrase::PlateLength) + QStringLiteral("x = ")
+                               + millimetres(stan.plyta.Dlugosc_plyty);
+    raport.Wiersze_danych(2) = stan.Teksty(phrase::PlateWidth) + QStringLiteral("y = ")
+                               + millimetres(stan.plyta.Szerokosc_plyty);
+    raport.Wiersze_danych(3) = stan.Teksty(phrase::Concrete) + stan.materialy.Nazwa_betonu
+                               + stan.Teksty(phrase::PlainFooting + stan.opcje.Stopa_betonowa)
                                + QStringLiteral("       Eb = ")
                                + Format(stan.materialy.Eb_betonu, u"####### MPa      E/Eb = ")
                                + general(stan.opcje.Wsp_n_val);
@@ -40,12 +41,12 @@ void fillDataLines(Raport& raport, const Stan& stan) {
 void fillLoadTable(Stan& stan) {
     const Obciazenia& loads = stan.obciazenia;
     auto& lines = stan.raport.Wiersze_obciazen;
-    lines(0) = stan.Teksty(14);
+    lines(0) = stan.Teksty(phrase::LoadsHeading);
     lines(1) =
         QStringLiteral("                    N                      M1                       M2 "
                        "                   Vx                 Vy");
     for (int c = 1; c <= loads.Liczba_przyp; ++c)
-        lines(c + 1) = stan.Teksty(15) + Format(c, u"##     ")
+        lines(c + 1) = stan.Teksty(phrase::LoadsOfCase) + Format(c, u"##     ")
                        + Format(loads.Sila_N(c), u"### ##0.00 kN     ")
                        + Format(CSng(loads.Moment_M1(c)), u"### ##0.00 kNm     ")
                        + Format(CSng(loads.Moment_M2(c)), u"### ##0.00 kNm    ")
@@ -79,11 +80,11 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
 }
 
 void Wypelnij_wiersze(Raport& raport, Stan& stan) {
-    stan.raport.Wiersze_srub(0) = stan.Teksty(7);
-    raport.Wiersze_stale(0) = stan.Teksty(8);
-    raport.Wiersze_stale(1) = stan.Teksty(9);
+    stan.raport.Wiersze_srub(0) = stan.Teksty(phrase::AnchorsHeading);
+    raport.Wiersze_stale(0) = stan.Teksty(phrase::ResultsHeading);
+    raport.Wiersze_stale(1) = stan.Teksty(phrase::AnchorsInTensionHeading);
     raport.Wiersze_stale(2) = QString();
-    raport.Wiersze_stale(3) = stan.Teksty(17);
+    raport.Wiersze_stale(3) = stan.Teksty(phrase::SummaryHeading);
     fillDataLines(raport, stan);
     fillLoadTable(stan);
 }
@@ -91,16 +92,16 @@ void Wypelnij_wiersze(Raport& raport, Stan& stan) {
 QString Wiersz_strefy(const Stan& stan, int c) {
     const auto millimetres = [](Single cm) { return general(Int(CSng(cm * 10.0))); };
     const Wyniki& r = stan.wyniki;
-    return stan.Teksty(45) + millimetres(r.Przec_a(c)) + u',' + millimetres(r.Przec_b(c))
-           + QStringLiteral("), B(") + millimetres(r.Przec_c(c)) + u',' + millimetres(r.Przec_d(c))
-           + u')';
+    return stan.Teksty(phrase::NeutralAxis) + millimetres(r.Przec_a(c)) + u','
+           + millimetres(r.Przec_b(c)) + QStringLiteral("), B(") + millimetres(r.Przec_c(c)) + u','
+           + millimetres(r.Przec_d(c)) + u')';
 }
 
 std::array<QString, 3> Wiersze_podsumowania(const Stan& stan) {
     const Wyniki& r = stan.wyniki;
-    return {stan.Teksty(18) + Format(r.Sigma_b_max, u"##0.0# MPa"),
-            stan.Teksty(19) + Format(r.Sigma_s_max, u"# ##0.0# MPa"),
-            stan.Teksty(20) + Format(r.Sila_kotwy_max, u"## ##0.0# kN")};
+    return {stan.Teksty(phrase::LargestConcreteStress) + Format(r.Sigma_b_max, u"##0.0# MPa"),
+            stan.Teksty(phrase::LargestAnchorStress) + Format(r.Sigma_s_max, u"# ##0.0# MPa"),
+            stan.Teksty(phrase::LargestAnchorForce) + Format(r.Sila_kotwy_max, u"## ##0.0# kN")};
 }
 
 QChar omegaSubscript(const Stan& stan) {
@@ -108,7 +109,7 @@ QChar omegaSubscript(const Stan& stan) {
 }
 
 QString caseTitle(const Stan& stan, int c) {
-    return stan.Teksty(16) + general(c);
+    return stan.Teksty(phrase::CaseTitle) + general(c);
 }
 
 } // namespace ferna

@@ -174,7 +174,7 @@ protected:
     void SetUp() override {
         for (int i = 0; i < 100; ++i)
             sample.line(85 + 4.5 * i, QStringLiteral("wiersz %1.").arg(i));
-        Complaints complaints;
+        wyd::Complaints complaints;
         report = compose(readJob(sample.write(QStringLiteral("-1"), 1)), complaints);
         ASSERT_EQ(report.pages.size(), 3U);
         printer.setOutputFormat(QPrinter::PdfFormat);
@@ -185,7 +185,7 @@ protected:
 
     QTemporaryDir folder;
     SampleReport sample{folder.path()};
-    Report report;
+    pages::Report report;
     QPrinter printer{QPrinter::HighResolution};
     QString file = folder.filePath(QStringLiteral("wydruk.pdf"));
 };

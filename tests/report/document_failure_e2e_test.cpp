@@ -126,7 +126,7 @@ TEST_F(DocumentFailure, WordProcessorThatHangsInTheMiddleIsEnded) {
 TEST_F(DocumentFailure, DocumentLeftOpenIsClosedWithTheWordProcessor) {
     const HandFilledReport report(1);
     const std::unique_ptr<WordProcessor> word = openWordProcessor(place_);
-    buildDocument(*word, report.stan, report.raport, program_.path());
+    buildDocument(*word, report.model(), program_.path());
     EXPECT_EQ(runningWriters().size(), 1);
     // Not saved, as after a cancelled question for the name; the rest is seen when the test ends.
 }

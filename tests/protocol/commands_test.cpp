@@ -1,9 +1,9 @@
-#include "renderer/records.h"
+#include "protocol/commands.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
 
-using namespace ferna::renderer;
+using namespace ferna::wyd;
 
 namespace {
 
