@@ -143,18 +143,21 @@ TEST_F(Boxes, AFileThatExistsIsAskedAboutBeforeItIsReplaced) {
         answers.dialog(QStringLiteral("saveQuestion"), [this](QWidget& modal) {
             auto* const field = modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
             field->setText(path(QStringLiteral("raport.txt")));
-            QTest::keyClick(field, Qt::Key_Return); // the question below stands while this waits
-            if (modal.isVisible())
-                static_cast<QFileDialog&>(modal).reject();
+            QTest::keyClick(field, Qt::Key_Return);
         });
-        answers.dialog({}, [replace](QWidget& modal) {
+        answers.dialog(QStringLiteral("replaceQuestion"), [replace](QWidget& modal) {
             auto* const box = qobject_cast<QMessageBox*>(&modal);
             ASSERT_NE(box, nullptr);
-            EXPECT_EQ(box->icon(), QMessageBox::Warning);
-            EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
-            QTest::mouseClick(box->button(replace ? QMessageBox::Yes : QMessageBox::No),
-                              Qt::LeftButton);
+            EXPECT_EQ(box->icon(), QMessageBox::Question);
+            EXPECT_EQ(box->text(), QStringLiteral("Zastąpić istniejące pliki: raport.txt?"));
+            EXPECT_EQ(box->defaultButton()->text(), QStringLiteral("&Nie"));
+            EXPECT_EQ(box->escapeButton()->text(), QStringLiteral("&Nie"));
+            press(*box, replace ? "Tak" : "Nie");
         });
+        if (!replace) // the name is asked for again
+            answers.dialog(QStringLiteral("saveQuestion"), [](QWidget& modal) {
+                static_cast<QFileDialog&>(modal).reject();
+            });
         const auto chosen = dialogs.saveFile({QStringLiteral("Podaj nazwę pliku tekstowego"),
                                               QStringLiteral("Wyniki"), QStringLiteral(".txt"),
                                               QStringLiteral("plik wyników (*.txt)|*.txt")});
