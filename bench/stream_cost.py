@@ -23,6 +23,7 @@ MOST_INSTRUCTIONS = 250_000  # a task, beside the search and the exact equilibri
 MOST_ALLOCATIONS = 110
 SEARCH = "ferna::Szukaj_"
 EQUILIBRIUM = ("ferna::enteredEquilibria(", "ferna::batch::writeEquilibria(")
+NOTES = ("ferna::notes::notesOf(", "ferna::notes::entered(", "ferna::batch::notesJson(")
 ALLOCATORS = ("malloc", "realloc", "calloc")
 
 
@@ -77,7 +78,7 @@ def counts(program, tasks):
                    if names.get(to, "").startswith(start) and not names[by].startswith(start))
 
     return collections.Counter(
-        all=own, search=of(SEARCH), equilibrium=sum(of(start) for start in EQUILIBRIUM),
+        all=own, search=of(SEARCH), notes=sum(of(start) for start in NOTES), equilibrium=sum(of(start) for start in EQUILIBRIUM),
         allocations=sum(count for number, count in calls.items()
                         if names.get(number) in ALLOCATORS))
 
@@ -88,7 +89,7 @@ def main():
     once = counts(program, tasks)
     twice = counts(program, tasks * 2)
     cost = {what: (twice[what] - once[what]) / TASKS for what in twice}
-    rest = cost["all"] - cost["search"] - cost["equilibrium"]
+    rest = cost["all"] - cost["search"] - cost["equilibrium"] - cost["notes"]
     print("| a task of a stream, mean of 60 | |\n|---|---:|")
     for what, value in (("instructions", cost["all"]), ("of these the search", cost["search"]),
                         ("the exact equilibrium and its key", cost["equilibrium"]), ("everything else", rest),
