@@ -72,6 +72,7 @@ ReportPlate plateSection(const Stan_raportu& report) {
                                   slice(report.Wiersze_blachy, next, next + form.lines - 1)});
         next += form.lines;
     }
+    section.rest = slice(report.Wiersze_blachy, next, report.Liczba_wierszy_blachy);
     return section;
 }
 
@@ -86,6 +87,7 @@ QStringList ReportPlate::lines() const {
     QStringList all(head.begin(), head.end());
     for (const ReportPlateBlock& block : blocks)
         all += block.lines;
+    all += rest;
     return all;
 }
 

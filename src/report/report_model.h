@@ -46,6 +46,7 @@ struct ReportPlateBlock {
 struct ReportPlate {
     std::array<QString, 3> head; ///< an empty line, the heading, an empty line
     std::vector<ReportPlateBlock> blocks;
+    QStringList rest; ///< lines behind the blocks up to the last one that the state counts
 
     const QString& heading() const { return head[1]; }
     /// All lines in their order, those of the head first.
