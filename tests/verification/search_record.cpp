@@ -18,8 +18,7 @@ bool passes(const equilibrium::Result& exact, const Materialy& materials) {
 }
 
 bool toldPasses(const Stan& stan) {
-    return stan.wyniki.Kotwy_OK != False
-           && stan.wyniki.Sigma_b(1) <= 2 * stan.materialy.Rb_betonu;
+    return stan.wyniki.Kotwy_OK != False && stan.wyniki.Sigma_b(1) <= 2 * stan.materialy.Rb_betonu;
 }
 
 /// How much of the exact stresses the told ones miss, the largest share.
@@ -28,14 +27,13 @@ double deviationOf(const Stan& stan, const equilibrium::Result& exact) {
     for (const double stress : exact.sigmaAnchor)
         largest = std::max(largest, std::fabs(stress));
     constexpr double vanishing = 0.01; // MPa
-    double deviation =
-        exact.sigmaConcrete < vanishing
-            ? 0
-            : (exact.sigmaConcrete - stan.wyniki.Sigma_b(1)) / exact.sigmaConcrete;
+    double deviation = exact.sigmaConcrete < vanishing
+                           ? 0
+                           : (exact.sigmaConcrete - stan.wyniki.Sigma_b(1)) / exact.sigmaConcrete;
     for (int i = 1; i <= stan.plyta.Liczba_srub; ++i) {
         const double star = std::fabs(exact.sigmaAnchor.at(static_cast<std::size_t>(i - 1)));
-        deviation = std::max(
-            deviation, (star - std::fabs(double{stan.wyniki.Sigma_kotwy(i)(1)})) / largest);
+        deviation = std::max(deviation,
+                             (star - std::fabs(double{stan.wyniki.Sigma_kotwy(i)(1)})) / largest);
     }
     return deviation;
 }
@@ -114,9 +112,10 @@ std::string textOf(const SearchRecord& r, std::uint64_t tasks) {
     for (std::size_t n = 0; n < r.falseByAnchors.size(); ++n)
         if (r.falseByAnchors[n] > 0)
             anchors += printed("%s%zu (%d)", anchors.empty() ? "" : ", ", n, r.falseByAnchors[n]);
-    return printed("| of %d cases outside the kern (%d random tasks, one case each) | cases | share "
-                   "|\n|---|---:|---:|\n",
-                   r.outside, static_cast<int>(tasks / 10 * 9))
+    return printed(
+               "| of %d cases outside the kern (%d random tasks, one case each) | cases | share "
+               "|\n|---|---:|---:|\n",
+               r.outside, static_cast<int>(tasks / 10 * 9))
            + line("\"BRAK ROZWIĄZANIA\" although an equilibrium exists", r.gaveUp, r.outside)
            + line("of these, the exact stresses pass", r.gaveUpPasses, r.outside)
            + line("\"BRAK ROZWIĄZANIA\" and there is none", r.gaveUpRightly, r.outside)
