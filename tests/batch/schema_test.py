@@ -19,8 +19,7 @@ PAGES = ("docs/en/task-format.md", "docs/pl/format-zadania.md")
 # What is put in the place of every value, and behind every bound.
 VALUES = (None, True, "x", "", -1, 0, 1, 1.0, 1.5, 3, 5, 6, 7, 8, 26, 32767.4, 32767.5, 32768,
           -32767.5, -32768, -32768.5, -32769, 3.5e38, -3.5e38, [], [1], {}, {"x": 1})
-# The checks take long where every value of a stress or force is tried; these do for the rest.
-SEEDS = (("solver", 0), ("plate", 1), ("anchor", 0), ("statics", 0), ("statics", 3))
+SEEDS = (("solver", 0), ("anchor", 0), ("statics", 0))  # golden tasks that are changed, by their lines
 
 
 def lines(path):
@@ -98,6 +97,9 @@ def mutants(task):
 def seeds(root):
     golden = os.path.join(root, "tests", "golden")
     tasks = [lines(os.path.join(golden, f"{name}.tasks.jsonl"))[number] for name, number in SEEDS]
+    for task in tasks:  # one of each kind says as much as six
+        for key in ("Kotwy", "Przypadki"):
+            del task[key][1:]
     # Every key at least once, every check and every kind of load.
     tasks.append({
         "Nazwa_projektu": "Hala", "Nazwa_stopy": "F-1", "Nr_strony": 2, "Nr_normy": 1,
