@@ -19,7 +19,8 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 TASKS = 60
-MOST_INSTRUCTIONS = 270_000  # a task, beside the search, the exact equilibrium with its key and the notes
+# A task, beside the search, the exact equilibrium with its key and the notes.
+MOST_INSTRUCTIONS = 270_000
 MOST_ALLOCATIONS = 165
 SEARCH = "ferna::Szukaj_"
 EQUILIBRIUM = ("ferna::enteredEquilibria(", "ferna::batch::writeEquilibria(")
@@ -78,7 +79,8 @@ def counts(program, tasks):
                    if names.get(to, "").startswith(start) and not names[by].startswith(start))
 
     return collections.Counter(
-        all=own, search=of(SEARCH), notes=sum(of(start) for start in NOTES), equilibrium=sum(of(start) for start in EQUILIBRIUM),
+        all=own, search=of(SEARCH), notes=sum(of(start) for start in NOTES),
+        equilibrium=sum(of(start) for start in EQUILIBRIUM),
         allocations=sum(count for number, count in calls.items()
                         if names.get(number) in ALLOCATORS))
 
