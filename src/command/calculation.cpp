@@ -17,6 +17,16 @@ struct Refusal {
     int loadCase = 0; ///< that was refused for its axial force
 };
 
+/// `inControl` of a field of the load table, whose name is put together only where it is needed.
+template <typename Take>
+decltype(auto) inRow(const char* control, std::size_t row, const Take& take) {
+    try {
+        return take();
+    } catch (const RunTimeError&) {
+        return inControl(QString::fromLatin1(control).arg(row), take);
+    }
+}
+
 Single number(const QString& text, const QString& control) {
     return inControl(control, [&] { return CSng(text); });
 }
@@ -109,7 +119,7 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     const LoadRow<QString>& typed = fields.loads.at(row);
     // A load and what the configuration keeps of it.
     const auto load = [&](auto& place, int kept, const QString& text, const char* control) {
-        inControl(QString::fromLatin1(control).arg(row), [&] {
+        inRow(control, row, [&] {
             place = CSng(text);
             loads.Tablica_obc(kept)(c) = tenths(CSng(place));
         });
@@ -124,8 +134,7 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
                       title(), c};
-    loads.Sila_N_kG(c) = inControl(QStringLiteral("Text6_%1").arg(row),
-                                   [&] { return forceInKilograms(loads.Sila_N(c)); });
+    loads.Sila_N_kG(c) = inRow("Text6_%1", row, [&] { return forceInKilograms(loads.Sila_N(c)); });
 
     load(loads.Moment_M1(c), 2, typed.M1, "Text7_%1");
     load(loads.Moment_M2(c), 3, typed.M2, "Text8_%1");

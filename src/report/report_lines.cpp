@@ -13,29 +13,40 @@ namespace {
 
 QString steelLine(const Stan& stan) {
     const Materialy& m = stan.materialy;
-    const QString mpa = QStringLiteral(" MPa");
+    LineOfText line;
+    line.add(stan.Teksty(phrase::AnchorSteel));
     if (stan.opcje.Nr_stali == userSteel)
-        return stan.Teksty(phrase::AnchorSteel) + m.Stal_nazwa + QStringLiteral("  fd = ")
-               + Format(m.Fd_kotwy, u"####") + mpa + QStringLiteral("  Re = ")
-               + Format(m.Stal_Re, u"####") + mpa + QStringLiteral("  Rm = ")
-               + Format(m.Stal_Rm, u"####") + mpa;
-    return stan.Teksty(phrase::AnchorSteel) + steelNames().at(stan.opcje.Nr_stali - 1)
-           + m.Klasa_stali + QStringLiteral("  fd = ") + Format(m.Fd_kotwy, u"####") + mpa;
+        return line.add(m.Stal_nazwa)
+            .add(u"  fd = ")
+            .number(m.Fd_kotwy, u"####")
+            .add(u" MPa  Re = ")
+            .number(m.Stal_Re, u"####")
+            .add(u" MPa  Rm = ")
+            .number(m.Stal_Rm, u"####")
+            .add(u" MPa");
+    return line.add(steelNames().at(stan.opcje.Nr_stali - 1))
+        .add(m.Klasa_stali)
+        .add(u"  fd = ")
+        .number(m.Fd_kotwy, u"####")
+        .add(u" MPa");
 }
 
 void fillDataLines(Raport& raport, const Stan& stan) {
-    const auto millimetres = [](Single cm) {
-        return Format(cm * 10.0, u"## ###") + QStringLiteral(" mm");
+    const auto millimetres = [](const QString& label, QStringView axis, Single cm) {
+        return LineOfText().add(label).add(axis).number(cm * 10.0, u"## ###").add(u" mm");
     };
-    raport.Wiersze_danych(1) = stan.Teksty(phrase::PlateLength) + QStringLiteral("x = ")
-                               + millimetres(stan.plyta.Dlugosc_plyty);
-    raport.Wiersze_danych(2) = stan.Teksty(phrase::PlateWidth) + QStringLiteral("y = ")
-                               + millimetres(stan.plyta.Szerokosc_plyty);
-    raport.Wiersze_danych(3) = stan.Teksty(phrase::Concrete) + stan.materialy.Nazwa_betonu
-                               + stan.Teksty(phrase::PlainFooting + stan.opcje.Stopa_betonowa)
-                               + QStringLiteral("       Eb = ")
-                               + Format(stan.materialy.Eb_betonu, u"####### MPa      E/Eb = ")
-                               + general(stan.opcje.Wsp_n_val);
+    raport.Wiersze_danych(1) =
+        millimetres(stan.Teksty(phrase::PlateLength), u"x = ", stan.plyta.Dlugosc_plyty);
+    raport.Wiersze_danych(2) =
+        millimetres(stan.Teksty(phrase::PlateWidth), u"y = ", stan.plyta.Szerokosc_plyty);
+    raport.Wiersze_danych(3) =
+        LineOfText()
+            .add(stan.Teksty(phrase::Concrete))
+            .add(stan.materialy.Nazwa_betonu)
+            .add(stan.Teksty(phrase::PlainFooting + stan.opcje.Stopa_betonowa))
+            .add(u"       Eb = ")
+            .number(stan.materialy.Eb_betonu, u"####### MPa      E/Eb = ")
+            .general(stan.opcje.Wsp_n_val);
     raport.Wiersze_danych(4) = steelLine(stan);
 }
 
@@ -92,8 +103,10 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
               Dialogs& dialogs) {
     Nazwa_zadania(raport, dialogs);
     auto& title = raport.Wiersze_naglowka;
-    title(1) = QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz ")
-               + (norm0 ? QStringLiteral("PN-84/B-03264") : QStringLiteral("PN-B-03264:1999"));
+    title(1) = norm0 ? QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
+                                      "PN-84/B-03264")
+                     : QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
+                                      "PN-B-03264:1999");
     title(2) = QString();
     title(3) = QString();
     title(4) = stan.opcje.Nazwa_projektu;
