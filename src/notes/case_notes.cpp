@@ -69,8 +69,8 @@ void deviates(const Record& record, int c, const equilibrium::Result& result, No
     if (!(deviation.share > bearable))
         return;
     const Exact exact = exactOf(result, anchors, record);
-    const QString judged = deviation.share > wrong ? QStringLiteral("fałszywy: zaniżony")
-                                                   : QStringLiteral("zaniżony");
+    const QString judged =
+        deviation.share > wrong ? QStringLiteral("fałszywy: zaniżony") : QStringLiteral("zaniżony");
     notes.push_back(
         {Code::Odchylka, c, deviation.anchor, 0,
          caseTitle(c) + whatWasTold(told, exact, result, deviation)
@@ -87,8 +87,7 @@ void passesOnlyAsTold(const Record& record, int c, const equilibrium::Result& re
     for (const Double stress : told.sigmaAnchor)
         toldStress = std::max(toldStress, std::fabs(stress));
     const bool stress = !exact.stressPasses() && !(toldStress > exact.stressLimit);
-    const bool pressure =
-        !exact.pressurePasses() && !(told.sigmaConcrete > exact.pressureLimit);
+    const bool pressure = !exact.pressurePasses() && !(told.sigmaConcrete > exact.pressureLimit);
     if (!stress && !pressure)
         return;
     notes.push_back(
@@ -152,7 +151,7 @@ void tensionRefused(const Record& record, int c, Notes& notes) {
 
 /// A moment as the search works with it: a vanishing one is replaced by a small one.
 Double working(Double moment, Double other) {
-    constexpr Double none = 0.006;                   // kNm
+    constexpr Double none = 0.006;                     // kNm
     constexpr Double substitute = 700 * Gravity / 1e5; // kNm
     return std::fabs(moment) > none ? std::fabs(moment)
                                     : std::max(substitute, 0.0009 * std::fabs(other));
@@ -167,10 +166,11 @@ void momentRaised(const Record& record, int c, Notes& notes) {
     const QString name = second ? QStringLiteral("M2") : QStringLiteral("M1");
     const bool replaced = working(typed, second ? load->M1 : load->M2) != std::fabs(typed);
     const QString how =
-        replaced ? QStringLiteral("z małym momentem %1 zamiast zera, jeszcze powiększonym o 10 %")
-                       .arg(name)
-                 : QStringLiteral("z momentem %1 = %2 kNm zamiast %3 kNm, większym o 10 %")
-                       .arg(name, numberBeside(1.1 * typed, typed), numberBeside(typed, 1.1 * typed));
+        replaced
+            ? QStringLiteral("z małym momentem %1 zamiast zera, jeszcze powiększonym o 10 %")
+                  .arg(name)
+            : QStringLiteral("z momentem %1 = %2 kNm zamiast %3 kNm, większym o 10 %")
+                  .arg(name, numberBeside(1.1 * typed, typed), numberBeside(typed, 1.1 * typed));
     notes.push_back(
         {Code::MomentPowiekszony, c, 0, 0,
          caseTitle(c)

@@ -76,10 +76,9 @@ void anchorsOffThePlate(const Entered& entered, Notes& notes) {
         const Double radius = std::max<Double>(anchor.fi, 0) / 2;
         if (!(toEdge < radius))
             continue;
-        const QString where =
-            QStringLiteral("Kotwa %1 (%2) w miejscu %3 mm ")
-                .arg(i)
-                .arg(sizeOf(anchor.fi), place(anchor.x, anchor.y));
+        const QString where = QStringLiteral("Kotwa %1 (%2) w miejscu %3 mm ")
+                                  .arg(i)
+                                  .arg(sizeOf(anchor.fi), place(anchor.x, anchor.y));
         const QString what =
             toEdge < 0
                 ? QStringLiteral("stoi %1 mm poza krawędzią płyty %2 x %3 mm")
@@ -87,8 +86,9 @@ void anchorsOffThePlate(const Entered& entered, Notes& notes) {
                 : QStringLiteral("wychodzi poza płytę %1 x %2 mm: jej oś jest %3 mm od krawędzi, "
                                  "a promień ma %4 mm")
                       .arg(general(*length), general(*width), number(toEdge), number(radius));
-        notes.push_back({Code::KotwaPozaPlyta, 0, i, 0,
-                         where + what + QStringLiteral(". Popraw współrzędne albo powiększ płytę.")});
+        notes.push_back(
+            {Code::KotwaPozaPlyta, 0, i, 0,
+             where + what + QStringLiteral(". Popraw współrzędne albo powiększ płytę.")});
     }
 }
 
@@ -99,10 +99,11 @@ void diametersOffTheSeries(const Entered& entered, Notes& notes) {
             continue;
         notes.push_back(
             {Code::SrednicaSpozaSzeregu, 0, i, 0,
-             QStringLiteral("Kotwa %1: średnica %2 mm nie należy do szeregu 12, 16, 20, 24, 30, 36, "
-                            "42, 48, 52, 56, 64, 72, 80 mm. Program nie zna pola jej rdzenia: liczy "
-                            "z zerem albo z polem kotwy, która miała ten numer wcześniej. Zmień "
-                            "średnicę.")
+             QStringLiteral(
+                 "Kotwa %1: średnica %2 mm nie należy do szeregu 12, 16, 20, 24, 30, 36, "
+                 "42, 48, 52, 56, 64, 72, 80 mm. Program nie zna pola jej rdzenia: liczy "
+                 "z zerem albo z polem kotwy, która miała ten numer wcześniej. Zmień "
+                 "średnicę.")
                  .arg(i)
                  .arg(fi)});
     }

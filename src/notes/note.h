@@ -27,8 +27,8 @@ enum class Code {
     SilaMniejsza,          ///< a plate check was given less than what was computed
     LiteraSpozaStrony,     ///< letters that the files of the report cannot hold
     NazwaSkrocona,         ///< a name was cut on its way into the report
-    /// The exact stresses of a case that has no results. Says nothing doubtful of its own: it stands
-    /// in the windows beside the case that has ended the calculation, and in no result.
+    /// The exact stresses of a case that has no results. Says nothing doubtful of its own: it
+    /// stands in the windows beside the case that has ended the calculation, and in no result.
     Dokladnie
 };
 

@@ -82,8 +82,7 @@ void typedTooSmall(const PlateFacts& facts, Notes& notes) {
                  + QStringLiteral("wpisano %1 %2%4, o %5 mniej niż największa obliczona wartość "
                                   "%3%4. Wpisz obliczoną albo upewnij się, że sprawdzany fragment "
                                   "jest mniej obciążony.")
-                       .arg(QString::fromUtf16(typed.what),
-                            numberBeside(typed.value, computed),
+                       .arg(QString::fromUtf16(typed.what), numberBeside(typed.value, computed),
                             numberBeside(computed, typed.value), unit,
                             percent(1 - typed.value / computed))});
     }

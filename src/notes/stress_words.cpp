@@ -68,8 +68,7 @@ Exact exactOf(const equilibrium::Result& result, int anchors, const Record& reco
 }
 
 QString stressesOf(const Exact& exact) {
-    QString text =
-        QStringLiteral("docisk ") + against(exact.pressure, exact.pressureLimit, u"2Rb");
+    QString text = QStringLiteral("docisk ") + against(exact.pressure, exact.pressureLimit, u"2Rb");
     if (exact.anchor == 0)
         return text + QStringLiteral(", kotwy nierozciągane");
     return text + QStringLiteral(", kotwa %1: ").arg(exact.anchor)

@@ -28,7 +28,8 @@ struct Exact {
 };
 Exact exactOf(const equilibrium::Result& result, int anchors, const Record& record);
 
-/// "docisk 5,20 MPa (dopuszczalne 2Rb = 14,2 MPa), kotwa 2: 110,2 MPa (dopuszczalne fd = 215,0 MPa)"
+/// "docisk 5,20 MPa (dopuszczalne 2Rb = 14,2 MPa), kotwa 2: 110,2 MPa (dopuszczalne fd = 215,0
+/// MPa)"
 QString stressesOf(const Exact& exact);
 /// A sentence that says whether they pass.
 QString verdictOf(const Exact& exact);
