@@ -112,6 +112,7 @@ ComputedTask run(Task task, const RunOptions& options) {
         || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));
     done.equilibria = enteredEquilibria(stan, done.task.fields);
     done.record.begin(notes::entered(stan, done.task.fields, done.equilibria));
+    done.record.labelled(done.task.Nazwa_stopy);
     if (!columnKept)
         return done;
     HeadlessHost host(done, options);

@@ -2,6 +2,7 @@
 
 #include "notes/case_notes.h"
 #include "notes/input_notes.h"
+#include "notes/name_notes.h"
 #include "notes/plate_notes.h"
 
 #include <algorithm>
@@ -40,7 +41,11 @@ bool failedAtACase(const Record& record) {
 } // namespace
 
 Notes notesOf(const Entered& entered) {
-    return inOrder(inputNotes(entered));
+    Notes notes = inputNotes(entered);
+    if (entered.plate.Liczba_srub == 0)
+        std::erase_if(notes, [](const Note& note) { return note.code == Code::NieStoi; });
+    add(notes, nameNotes(entered));
+    return inOrder(std::move(notes));
 }
 
 Notes notesOf(const Record& record) {
@@ -49,18 +54,24 @@ Notes notesOf(const Record& record) {
     Notes notes = inputNotes(record.given());
     for (int c = 1; c <= record.given().cases; ++c)
         add(notes, caseNotes(record, c));
-    if (record.plate())
+    add(notes, nameNotes(record.given()));
+    add(notes, labelNotes(record.label()));
+    if (record.plate()) {
         add(notes, plateNotes(*record.plate()));
+        add(notes, plateSteelNotes(record.plate()->steelName));
+    }
     return inOrder(std::move(notes));
 }
 
-Notes notesInPlaceOfResults(const Record& record) {
+Notes notesInPlaceOfResults(const Record& record, const Entered& now) {
     if (!record.begun() || !failedAtACase(record))
         return {};
-    Notes notes = notesOf(record);
-    for (int c = 1; c <= record.given().cases; ++c)
+    Notes notes = notesOf(now);
+    for (int c = 1; c <= record.given().cases; ++c) {
+        add(notes, caseNotes(record, c));
         if (!hasExact(notes, c))
             add(notes, exactNote(record, c));
+    }
     return inOrder(std::move(notes));
 }
 

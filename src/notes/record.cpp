@@ -1,5 +1,7 @@
 #include "notes/record.h"
 
+#include "design/material_tables.h"
+
 namespace ferna::notes {
 
 namespace {
@@ -12,7 +14,7 @@ Double toldStress(const Stan& stan, int i, int c) {
 } // namespace
 
 Entered entered(const Stan& stan, const InputFields& fields, const EnteredEquilibria& equilibria) {
-    return {fields, stan.plyta, stan.obciazenia.Liczba_przyp, equilibria};
+    return {fields, stan.plyta, stan.obciazenia.Liczba_przyp, {}, equilibria};
 }
 
 Entered entered(const Stan& stan, const InputFields& fields) {
@@ -44,8 +46,11 @@ PlateFacts plateFacts(const Stan& stan, const PlateForm& form, bool written) {
     for (int n = 1; n <= PlateChecks; ++n)
         facts.required.at(static_cast<std::size_t>(n - 1)) = stan.raport.Spr_blachy(n);
     facts.inputs = form.inputs;
-    if (written)
+    if (written) {
         facts.accepted = CSng(form.fields.Text4);
+        if (stan.materialy.Blacha_uzytkownika != False)
+            facts.steelName = stan.materialy.Blacha_nazwa;
+    }
     facts.force = std::fabs(stan.wyniki.Sila_kotwy_max);
     facts.pressure = stan.wyniki.Sigma_b_max;
     return facts;
@@ -56,13 +61,15 @@ void Record::begin(Entered entered) {
     entered_ = std::move(entered);
 }
 
-void Record::takeLimits(const Stan& stan) {
+void Record::takeMaterials(const Stan& stan) {
     anchorLimit_ = stan.materialy.Fd_kotwy;
     pressureLimit_ = 2.0 * stan.materialy.Rb_betonu;
+    if (stan.opcje.Nr_stali == userSteel)
+        entered_->steelName = stan.materialy.Stal_nazwa;
 }
 
 void Record::caseEnded(const Stan& stan, int c) {
-    takeLimits(stan);
+    takeMaterials(stan);
     ToldCase& told = told_.at(static_cast<std::size_t>(c - 1));
     told.outcome = stan.wyniki.outcomes(c);
     if (!solved(told))
@@ -79,7 +86,7 @@ void Record::caseEnded(const Stan& stan, int c) {
 }
 
 void Record::caseRefused(const Stan& stan, int c) {
-    takeLimits(stan);
+    takeMaterials(stan);
     refusedCase_ = c;
 }
 

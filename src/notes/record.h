@@ -14,6 +14,7 @@ struct Entered {
     InputFields fields;
     Plyta_i_kotwy plate;
     int cases = 0;
+    QString steelName; ///< of the user's anchor steel, once its dialog has been
     EnteredEquilibria equilibria;
 
     const std::optional<equilibrium::Result>& equilibrium(int c) const {
@@ -49,6 +50,7 @@ struct PlateFacts {
         required{};                 ///< thickness, mm; 0 where the check does not stand
     PlateInputs inputs;             ///< of the checks that stand
     std::optional<Single> accepted; ///< thickness in the report, mm
+    QString steelName; ///< of the user's steel in the report, else empty
     Double force = 0;               ///< the greatest of an anchor as computed, kN
     Double pressure = 0;            ///< the greatest as computed, MPa
 };
@@ -65,6 +67,8 @@ public:
     void caseRefused(const Stan& stan, int c);
     /// The plate section has been through its form.
     void plateWorked(const PlateFacts& facts) { plate_ = facts; }
+    /// The label of the footing, as typed.
+    void labelled(const QString& label) { label_ = label; }
 
     bool begun() const { return entered_.has_value(); }
     /// Once `begun`.
@@ -76,9 +80,10 @@ public:
     Double anchorLimit() const { return anchorLimit_; }
     Double pressureLimit() const { return pressureLimit_; }
     const std::optional<PlateFacts>& plate() const { return plate_; }
+    const QString& label() const { return label_; }
 
 private:
-    void takeLimits(const Stan& stan);
+    void takeMaterials(const Stan& stan);
 
     std::optional<Entered> entered_;
     std::array<ToldCase, MaxCases> told_;
@@ -86,6 +91,7 @@ private:
     Double anchorLimit_ = 0;
     Double pressureLimit_ = 0;
     std::optional<PlateFacts> plate_;
+    QString label_;
 };
 
 } // namespace ferna::notes

@@ -72,10 +72,10 @@ void fillLoadTable(Stan& stan) {
 } // namespace
 
 void Nazwa_zadania(Raport& raport, Dialogs& dialogs) {
-    raport.Nazwa_stopy =
+    raport.typedLabel =
         oneLine(dialogs.input(QStringLiteral("Podaj oznaczenie stopy (max 32 znaki)"), programTitle,
-                              raport.Nazwa_stopy, QPoint(220, 300), labelNote))
-            .left(longestLabel);
+                              raport.Nazwa_stopy, QPoint(220, 300), labelNote));
+    raport.Nazwa_stopy = raport.typedLabel.left(longestLabel);
 }
 
 namespace {

@@ -71,6 +71,8 @@ public:
     bool exceeded() const;
     const QString& projectPanel() const { return stan_.opcje.Nazwa_projektu; }
     const QString& labelPanel() const { return raport_.Nazwa_stopy; }
+    /// The label as typed, before it was cut.
+    const QString& typedLabel() const { return raport_.typedLabel; }
 
     /// The files written since this was asked last, as absolute paths; none where a save failed.
     QStringList takeWritten() { return std::exchange(written_, {}); }

@@ -155,9 +155,8 @@ TEST_F(Boxes, AFileThatExistsIsAskedAboutBeforeItIsReplaced) {
             press(*box, replace ? "Tak" : "Nie");
         });
         if (!replace) // the name is asked for again
-            answers.dialog(QStringLiteral("saveQuestion"), [](QWidget& modal) {
-                static_cast<QFileDialog&>(modal).reject();
-            });
+            answers.dialog(QStringLiteral("saveQuestion"),
+                           [](QWidget& modal) { static_cast<QFileDialog&>(modal).reject(); });
         const auto chosen = dialogs.saveFile({QStringLiteral("Podaj nazwę pliku tekstowego"),
                                               QStringLiteral("Wyniki"), QStringLiteral(".txt"),
                                               QStringLiteral("plik wyników (*.txt)|*.txt")});

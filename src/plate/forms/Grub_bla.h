@@ -27,6 +27,9 @@ public:
     Grub_bla(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget* parent);
     ~Grub_bla() override;
 
+    /// The form as it was worked.
+    const PlateForm& worked() const { return form_; }
+
 protected:
     void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
