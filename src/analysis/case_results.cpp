@@ -3,6 +3,7 @@
 #include "analysis/clauses.h"
 #include "design/catalogue.h"
 #include "runtime/format.h"
+#include "runtime/line_of_text.h"
 
 namespace ferna {
 
@@ -24,7 +25,7 @@ void takeSigma_b(Stan& stan, int c, Single stress) {
 }
 
 QString concreteLine(const Stan& stan, Single stress) {
-    return stan.Teksty(phrase::ConcreteStress) + Format(stress, u"###0.0# MPa ");
+    return LineOfText().add(stan.Teksty(phrase::ConcreteStress)).number(stress, u"###0.0# MPa ");
 }
 
 /// Force, stress and line of an anchor in tension.
@@ -41,9 +42,10 @@ void storeAnchor(Stan& stan, const AnchorTension& anchor, int c) {
         r.Sila_kotwy_max = anchor.force;
         r.Nr_kotwy_max = i;
     }
-    QString& line =
-        nextLine(r, Format(i, u"##  ") + Format(anchor.stress, u"#########0.0# MPa      ")
-                        + Format(anchor.force, u"########0.0 kN"));
+    QString& line = nextLine(r, LineOfText()
+                                    .number(i, u"##  ")
+                                    .number(anchor.stress, u"#########0.0# MPa      ")
+                                    .number(anchor.force, u"########0.0 kN"));
     if (std::fabs(anchor.stress) > stan.materialy.Fd_kotwy) {
         line += stan.Teksty(phrase::AnchorExceeded);
         r.Kotwy_OK = False;

@@ -2,7 +2,6 @@
 
 #include "batch/field_keys.h"
 #include "command/calculation.h"
-#include "design/language.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
@@ -105,13 +104,9 @@ void prepareReport(ComputedTask& done, const RunOptions& options) {
 } // namespace
 
 ComputedTask run(Task task, const RunOptions& options) {
-    ComputedTask done;
-    done.task = std::move(task);
-    done.now = options.now;
+    ComputedTask done(std::move(task), options.now);
     Stan& stan = done.task.stan;
-    Czytaj_teksty(stan, options.catalogue.isEmpty()
-                            ? options.dataFolder + u'/' + catalogueFile(stan.opcje.Nr_jezyka)
-                            : options.catalogue);
+    stan.Teksty = options.catalogues->texts(stan.opcje.Nr_jezyka);
     const bool columnKept =
         !done.task.column
         || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));

@@ -116,14 +116,14 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     };
     loads.Pierwsza_proba(c) = true;
     load(loads.Sila_N(c), 1, typed.N, "Text6_%1");
-    const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
+    const auto title = [c] { return QStringLiteral("Schemat nr ") + Format(c, u"###"); };
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
-                      title, c};
+                      title(), c};
     if (loads.Sila_N(c) == 0)
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
-                      title, c};
+                      title(), c};
     loads.Sila_N_kG(c) = inControl(QStringLiteral("Text6_%1").arg(row),
                                    [&] { return forceInKilograms(loads.Sila_N(c)); });
 

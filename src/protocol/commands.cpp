@@ -1,6 +1,10 @@
 #include "protocol/commands.h"
 
 #include "runtime/format.h"
+#include "runtime/run_time_error.h"
+#include "runtime/text_file.h"
+
+#include <QDir>
 
 #include <algorithm>
 #include <cmath>
@@ -37,13 +41,16 @@ bool isPlainNumber(QStringView text) {
 class Fields {
 public:
     explicit Fields(const QString& line) {
-        for (const QString& field : line.split(u','))
+        isTooLong_ = line.size() > longestText;
+        for (const QString& field : line.left(longestText).split(u','))
             fields_ += field.trimmed();
         while (fields_.size() > 1 && fields_.last().isEmpty())
             fields_.removeLast();
     }
 
     void expectAtMost(int count) const {
+        if (isTooLong_)
+            throw Malformed{QStringLiteral("polecenie ma ponad %1 znaków").arg(longestText)};
         if (fields_.size() - 1 > count)
             throw Malformed{
                 QStringLiteral("za dużo pól (%1 zamiast %2)").arg(fields_.size() - 1).arg(count)};
@@ -91,6 +98,7 @@ public:
 
 private:
     QStringList fields_;
+    bool isTooLong_ = false;
 };
 
 std::optional<Baseline> baseline(const Fields& fields, int index) {
@@ -142,6 +150,7 @@ public:
             try {
                 records.push_back(one(Fields(lines_[next_])));
                 records.back().line = line;
+                count(records.back());
             } catch (const Malformed& malformed) {
                 complaints_.add(path_, line, malformed.why);
             }
@@ -179,9 +188,31 @@ private:
         throw Malformed{QStringLiteral("nieznane polecenie \"%1\"").arg(number)};
     }
 
-    static void setText(Record& record, const QString& text) {
+    void count(const Record& record) {
+        const bool isNewPage = std::holds_alternative<NewPageRecord>(record.content);
+        onThisPage_ = isNewPage ? 0 : onThisPage_ + 1;
+        pages_ += isNewPage ? 1 : 0;
+        pictures_ += std::holds_alternative<PictureRecord>(record.content) ? 1 : 0;
+        limit(record.line, onThisPage_, mostRecordsOfAPage, "poleceń na stronie");
+        limit(record.line, pages_, mostPages, "stron");
+        limit(record.line, pictures_, mostPictures, "rysunków");
+    }
+
+    void limit(int line, int count, int most, const char* what) const {
+        if (count > most)
+            throw RunTimeError(error::DeviceIO, QStringLiteral("%1, wiersz %2: ponad %3 %4")
+                                                    .arg(QDir::toNativeSeparators(path_))
+                                                    .arg(line)
+                                                    .arg(most)
+                                                    .arg(QString::fromUtf8(what)));
+    }
+
+    void setText(Record& record, const QString& text) {
         if (auto* words = std::get_if<TextRecord>(&record.content)) {
-            words->text = text;
+            words->text = text.left(longestText);
+            if (text.size() > longestText)
+                complaints_.add(path_, static_cast<int>(next_) + 1,
+                                QStringLiteral("tekst obcięty do %1 znaków").arg(longestText));
             return;
         }
         auto& picture = std::get<PictureRecord>(record.content);
@@ -194,6 +225,9 @@ private:
     const QString& path_;
     Complaints& complaints_;
     qsizetype next_ = 0;
+    int onThisPage_ = 0;
+    int pages_ = 0;
+    int pictures_ = 0;
 };
 
 /// A record of a text with all its fields; those between have one value only.

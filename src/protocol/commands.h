@@ -70,12 +70,21 @@ struct Record {
     std::variant<TextRecord, PictureRecord, PenRecord, FrameEndRecord, NewPageRecord> content;
 };
 
+// What a report may take: many times what the program writes, and drawn at once.
+inline constexpr int mostRecordsOfAPage = 10'000; ///< up to a new page, that of the frame included
+inline constexpr int mostPages = 1'000;           ///< begun by records
+inline constexpr int mostPictures = 100;
+inline constexpr qsizetype mostPictureBytes = 256'000'000; ///< of all of them as they are drawn
+inline constexpr qsizetype longestText = 1'000;            ///< letters of one text
+
 /// The records of `lines`. One that is malformed is passed over, together with the text line that
-/// belongs to it, and named in `complaints`; empty lines where a record is due are skipped.
+/// belongs to it, and named in `complaints`; empty lines where a record is due are skipped, a text
+/// that is too long is cut and named. Error 57 for more records, pages or pictures than a report
+/// may have.
 std::vector<Record> readRecords(const QStringList& lines, const QString& path,
                                 Complaints& complaints);
 
-/// The records of a file. Errors of `readLines`.
+/// The records of a file. Errors of `readLines` and `readRecords`.
 std::vector<Record> readRecordFile(const QString& path, Complaints& complaints);
 
 /// Fields of a text as they are written, numbers with a point; an empty one keeps what is in force.

@@ -1,14 +1,14 @@
 #include "renderer/drawing_list.h"
 
+#include "pages/bitmap_file.h"
 #include "pages/drawing.h"
 #include "pages/text_measure.h"
 #include "protocol/renderer_files.h"
+#include "runtime/run_time_error.h"
+#include "runtime/text_file.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QPainter>
-#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -42,15 +42,6 @@ std::size_t segmentEnd(const std::vector<wyd::Record>& records, std::size_t firs
 QRectF united(const QRectF& a, const QRectF& b) {
     return {QPointF(qMin(a.left(), b.left()), qMin(a.top(), b.top())),
             QPointF(qMax(a.right(), b.right()), qMax(a.bottom(), b.bottom()))};
-}
-
-/// True for a bitmap file shorter than its header says, of which only the lower rows would be
-/// drawn.
-bool isCutShort(const QString& path) {
-    QFile file(path);
-    const QByteArray header = file.open(QIODevice::ReadOnly) ? file.read(6) : QByteArray();
-    return header.size() == 6 && header.startsWith("BM")
-           && file.size() < qFromLittleEndian<quint32>(header.constData() + 2);
 }
 
 } // namespace
@@ -184,6 +175,13 @@ void RecordInterpreter::picture(const wyd::PictureRecord& record, int line) {
     Block block;
     block.rect = {*pictureX_, *pictureY_, *pictureWidth_, *pictureHeight_};
     block.picture = {block.rect, image(record.path, line)};
+    pictureBytes_ += block.picture.image.sizeInBytes();
+    if (pictureBytes_ > wyd::mostPictureBytes)
+        throw RunTimeError(error::DeviceIO, QStringLiteral("%1, wiersz %2: rysunki mają razem "
+                                                           "ponad %3 MB")
+                                                .arg(QDir::toNativeSeparators(path_))
+                                                .arg(line)
+                                                .arg(wyd::mostPictureBytes / megabyte));
     if (block.picture.image.isNull())
         standIn(block, QFileInfo(QDir::fromNativeSeparators(record.path)).fileName());
     segment_.blocks.push_back(std::move(block));
@@ -194,22 +192,14 @@ QImage RecordInterpreter::image(const QString& path, int line) {
     const auto known = images_.constFind(full);
     if (known != images_.constEnd())
         return *known;
-    const QImage image = isCutShort(full) ? QImage() : QImage(full);
+    const QImage image = readPicture(full);
     if (image.isNull())
         complaints_.add(path_, line,
                         (QFileInfo::exists(full) ? QStringLiteral("nie można wczytać rysunku %1")
                                                  : QStringLiteral("brak pliku rysunku %1"))
                             .arg(QDir::toNativeSeparators(full)));
-    // A transparent picture stands on the white sheet.
-    QImage opaque(image.size(), QImage::Format_RGB32);
-    if (image.hasAlphaChannel()) {
-        opaque.fill(Qt::white);
-        QPainter(&opaque).drawImage(0, 0, image);
-    } else {
-        opaque = image.convertToFormat(QImage::Format_RGB32);
-    }
-    images_.insert(full, opaque);
-    return opaque;
+    images_.insert(full, image);
+    return image;
 }
 
 void RecordInterpreter::standIn(Block& block, const QString& file) {

@@ -71,6 +71,7 @@ private:
     wyd::Complaints& complaints_;
     Segment segment_;
     QHash<QString, QImage> images_;
+    qsizetype pictureBytes_ = 0; ///< as drawn: a picture that is placed twice counts twice
 
     // The settings that stay in force.
     double x_ = 0, lineY_ = 0, y_ = 0; ///< behind the last text; its line; with subscript

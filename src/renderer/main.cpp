@@ -13,6 +13,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <new>
 
 using namespace ferna;
 using namespace ferna::renderer;
@@ -57,13 +58,14 @@ void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage
     nextPage = job.firstPage + static_cast<int>(report.pages.size());
 }
 
-/// Reads the job; where it cannot be read the reply says so.
+/// Reads the job; where it cannot be read the reply says so. Beside a file that is no job of ours
+/// nothing is written.
 Job jobOrFailure(const Call& call) {
     try {
         return readJob(call.jobPath);
     } catch (const RunTimeError&) {
         const QString folder = folderOf(call.jobPath);
-        if (QFileInfo(folder).isDir())
+        if (QFileInfo(call.jobPath).fileName() == wyd::jobFile && QFileInfo(folder).isDir())
             writeReply(folder, false, 1);
         throw;
     }
@@ -99,6 +101,8 @@ int main(int argc, char** argv) {
         if (failure.number() == error::Cancelled)
             return wyd::CancelledByUser;
         say(failure.text());
+    } catch (const std::bad_alloc&) {
+        say(QStringLiteral("brak pamięci"));
     } catch (const std::exception& failure) {
         say(QString::fromLocal8Bit(failure.what()));
     }

@@ -13,6 +13,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QThread>
 
 #include <algorithm>
 #include <numeric>
@@ -33,6 +34,26 @@ void setUp(QPrinter& printer, const pages::Report& report) {
     printer.setFullPage(true);
     printer.setDocName(report.project.isEmpty() ? report.title : report.project);
     printer.setCreator(QStringLiteral("Wyd_drk"));
+}
+
+} // namespace
+
+namespace {
+
+/// The engineer would look for the sheets in vain: a job that waits is told. A queue finds out
+/// about its printer only once it sends to it.
+void tellObstacle(const QString& name, int job) {
+    constexpr int looks = 4;
+    constexpr unsigned long between = 250; // ms
+    QString obstacle = queueObstacle(name);
+    for (int i = 1; i < looks && obstacle.isEmpty() && isWaiting(name, job); ++i) {
+        QThread::msleep(between);
+        obstacle = queueObstacle(name);
+    }
+    if (!obstacle.isEmpty() && isWaiting(name, job))
+        cannotPrint(QStringLiteral("drukarka %1: %2, wydruk czeka w niej jako zadanie nr %3")
+                        .arg(name, obstacle)
+                        .arg(job));
 }
 
 } // namespace
@@ -78,9 +99,12 @@ void printOn(QPrinter& printer, const pages::Report& report) {
         paintPage(painter, report.pages[page]);
     }
     const bool ended = painter.end();
+    const int job = toFile ? 0 : lastJobOf(name);
     if (!ended || printer.printerState() == QPrinter::Error
-        || (!toFile && jobsBefore >= 0 && lastJobOf(name) <= jobsBefore))
+        || (!toFile && jobsBefore >= 0 && job <= jobsBefore))
         cannotPrint(QStringLiteral("drukarka %1 nie przyjęła wydruku").arg(name));
+    if (!toFile)
+        tellObstacle(name, job);
 }
 
 void printOnDefault(const pages::Report& report) {

@@ -4,6 +4,7 @@
 #include "design/material_tables.h"
 #include "design/typed_names.h"
 #include "runtime/format.h"
+#include "runtime/line_of_text.h"
 #include "runtime/text_file.h"
 
 namespace ferna {
@@ -46,12 +47,14 @@ void fillLoadTable(Stan& stan) {
         QStringLiteral("                    N                      M1                       M2 "
                        "                   Vx                 Vy");
     for (int c = 1; c <= loads.Liczba_przyp; ++c)
-        lines(c + 1) = stan.Teksty(phrase::LoadsOfCase) + Format(c, u"##     ")
-                       + Format(loads.Sila_N(c), u"### ##0.00 kN     ")
-                       + Format(CSng(loads.Moment_M1(c)), u"### ##0.00 kNm     ")
-                       + Format(CSng(loads.Moment_M2(c)), u"### ##0.00 kNm    ")
-                       + Format(loads.Sila_Vx(c), u"### ##0.00 kN      ")
-                       + Format(loads.Sila_Vy(c), u"### ##0.00 kN");
+        lines(c + 1) = LineOfText()
+                           .add(stan.Teksty(phrase::LoadsOfCase))
+                           .number(c, u"##     ")
+                           .number(loads.Sila_N(c), u"### ##0.00 kN     ")
+                           .number(CSng(loads.Moment_M1(c)), u"### ##0.00 kNm     ")
+                           .number(CSng(loads.Moment_M2(c)), u"### ##0.00 kNm    ")
+                           .number(loads.Sila_Vx(c), u"### ##0.00 kN      ")
+                           .number(loads.Sila_Vy(c), u"### ##0.00 kN");
     lines(loads.Liczba_przyp + 2) = QString();
 }
 
@@ -64,6 +67,27 @@ void Nazwa_zadania(Raport& raport, Dialogs& dialogs) {
             .left(longestLabel);
 }
 
+namespace {
+
+/// "09/03/24     14:05".
+QString momentText(const QDateTime& now) {
+    constexpr int century = 100;
+    const QDate date = now.date();
+    const QTime time = now.time();
+    return LineOfText()
+        .number(date.day(), u"00")
+        .add(u"/")
+        .number(date.month(), u"00")
+        .add(u"/")
+        .number(date.year() % century, u"00")
+        .add(u"     ")
+        .number(time.hour(), u"00")
+        .add(u":")
+        .number(time.minute(), u"00");
+}
+
+} // namespace
+
 void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now,
               Dialogs& dialogs) {
     Nazwa_zadania(raport, dialogs);
@@ -73,7 +97,7 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
     title(2) = QString();
     title(3) = QString();
     title(4) = stan.opcje.Nazwa_projektu;
-    title(5) = now.toString(u"dd/MM/yy") + QStringLiteral("     ") + now.toString(u"hh:mm");
+    title(5) = momentText(now);
     title(6) = QStringLiteral("Strona ");
     title(7) = raport.Nazwa_stopy;
     title(8) = QString();
@@ -90,11 +114,18 @@ void Wypelnij_wiersze(Raport& raport, Stan& stan) {
 }
 
 QString Wiersz_strefy(const Stan& stan, int c) {
-    const auto millimetres = [](Single cm) { return general(Int(CSng(cm * 10.0))); };
+    const auto millimetres = [](Single cm) { return Int(CSng(cm * 10.0)); };
     const Wyniki& r = stan.wyniki;
-    return stan.Teksty(phrase::NeutralAxis) + millimetres(r.Przec_a(c)) + u','
-           + millimetres(r.Przec_b(c)) + QStringLiteral("), B(") + millimetres(r.Przec_c(c)) + u','
-           + millimetres(r.Przec_d(c)) + u')';
+    return LineOfText()
+        .add(stan.Teksty(phrase::NeutralAxis))
+        .general(millimetres(r.Przec_a(c)))
+        .add(u",")
+        .general(millimetres(r.Przec_b(c)))
+        .add(u"), B(")
+        .general(millimetres(r.Przec_c(c)))
+        .add(u",")
+        .general(millimetres(r.Przec_d(c)))
+        .add(u")");
 }
 
 std::array<QString, 3> Wiersze_podsumowania(const Stan& stan) {

@@ -30,6 +30,13 @@ protected:
         return button == nullptr ? QString() : button->text().remove(u'&');
     }
 
+    static void press(const QMessageBox& box, const char* caption) {
+        for (QAbstractButton* button : box.buttons())
+            if (textOf(button) == QString::fromUtf8(caption))
+                return QTest::mouseClick(button, Qt::LeftButton);
+        ADD_FAILURE() << "no button " << caption;
+    }
+
     /// The next box has this face; the key is pressed in it.
     void expect(const Face& face, Qt::Key key, const QString& name = {}) {
         answers.dialog(name, [face, key](QWidget& modal) {
@@ -115,7 +122,7 @@ TEST_F(Boxes, ADamagedFileOfTheStartIsNamedAndStaysUnlessReplacingItIsChosen) {
                   QStringLiteral("Program może zacząć pracę z dostarczonym katalogiem języka; "
                                  "zadanie w Ferna.cfg pozostaje bez zmian. Uszkodzony plik "
                                  "Ferpl.txt zostanie zachowany jako Ferpl.txt.uszkodzony.2."));
-        QTest::keyClick(box, Qt::Key_D, Qt::AltModifier);
+        press(*box, "Dostarczony katalog");
     });
     EXPECT_TRUE(wantsDeliveredFile(catalogue));
 
@@ -123,7 +130,7 @@ TEST_F(Boxes, ADamagedFileOfTheStartIsNamedAndStaysUnlessReplacingItIsChosen) {
         auto* const box = qobject_cast<QMessageBox*>(&modal);
         EXPECT_EQ(box->informativeText(),
                   QStringLiteral("Program może zacząć pracę z ustawieniami początkowymi."));
-        QTest::keyClick(box, Qt::Key_U, Qt::AltModifier);
+        press(*box, "Ustawienia początkowe");
     });
     EXPECT_TRUE(wantsDeliveredFile({QStringLiteral("Ferna.cfg"), why, QString(), true}));
 }

@@ -63,12 +63,12 @@ TEST_F(PageGeometry, OfThePrint) {
 TEST_F(PageGeometry, OfTheMetafile) {
     ASSERT_EQ(runRenderer({QStringLiteral("--emf"), path("a.emf"), job()}).exitCode, 0);
     const Metafile file = Metafile::fromFile(path("a.emf"));
-    QImage pages::sheet((file.sizeMm() * inkPixelsPerMm).toSize(), QImage::Format_RGB32);
-    pages::sheet.fill(Qt::white);
-    QPainter painter(&pages::sheet);
-    file.paint(painter, QRectF(pages::sheet.rect()));
+    QImage drawn((file.sizeMm() * inkPixelsPerMm).toSize(), QImage::Format_RGB32);
+    drawn.fill(Qt::white);
+    QPainter painter(&drawn);
+    file.paint(painter, QRectF(drawn.rect()));
     painter.end();
-    expectGeometryOfTheSample(pages::sheet);
+    expectGeometryOfTheSample(drawn);
 }
 
 // Read from the bytes, so that writer and player cannot agree on something wrong.
