@@ -180,7 +180,7 @@ def changed_results_are_invalid(companion, result_schema, root):
     """A key lost or added anywhere, or a text in a number's place, is no result."""
     result = companion.results(seeds(root)[-1:])[0]
     optional = ("Slup", "Blacha", "Kotwa", "Rownowaga", "Uwagi", "przypadek", "kotwa",
-                "sprawdzenie", "klucz")
+                "sprawdzenie", "klucz", "szczegol")
     for path in places(result):
         if isinstance(path[-1], str) and path[-1] not in optional:
             if result_schema.is_valid(changed(result, path, lose)):
