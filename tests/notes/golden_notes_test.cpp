@@ -178,7 +178,7 @@ struct Tally {
 };
 
 void compareSet(const QString& set, Tally& tally) {
-    const RunOptions options{{}, QStringLiteral(FERNA_DATA_DIR), QDateTime::currentDateTime()};
+    const RunOptions options{{}, places::data(), QDateTime::currentDateTime()};
     for (const GoldenJson& line :
          ferna::testing::goldenLines(set + QStringLiteral(".tasks.jsonl"))) {
         const std::string where = set.toStdString() + " task " + std::to_string(++tally.tasks);
