@@ -3,6 +3,7 @@
 #include "batch/task_run.h"
 #include "design/material_tables.h"
 #include "support/golden.h"
+#include "support/places.h"
 
 #include <set>
 
@@ -178,7 +179,7 @@ struct Tally {
 };
 
 void compareSet(const QString& set, Tally& tally) {
-    const RunOptions options{{}, QStringLiteral(FERNA_DATA_DIR), QDateTime::currentDateTime()};
+    const RunOptions options{{}, places::data(), QDateTime::currentDateTime()};
     for (const GoldenJson& line :
          ferna::testing::goldenLines(set + QStringLiteral(".tasks.jsonl"))) {
         const std::string where = set.toStdString() + " task " + std::to_string(++tally.tasks);
