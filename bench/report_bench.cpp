@@ -67,24 +67,22 @@ BENCHMARK(ReportLines)->Unit(benchmark::kMillisecond);
 void TextReport(benchmark::State& state) {
     for (auto _ : state)
         benchmark::DoNotOptimize(
-            textReport(sixCases().stan(), sixCases().done().raport).bytes().size());
+            textReport(reportModel(sixCases().stan(), sixCases().done().raport)).bytes().size());
 }
 BENCHMARK(TextReport)->Unit(benchmark::kMillisecond);
 
 void RtfReport(benchmark::State& state) {
     const auto pattern = static_cast<Integer>(state.range(0));
     for (auto _ : state) {
-        Stan stan = sixCases().stan();
-        stan.opcje.Tryb_RTF = pattern;
-        Raport raport = sixCases().done().raport;
-        benchmark::DoNotOptimize(rtfReport(stan, raport, noon).bytes().size());
+        const ReportModel report = reportModel(sixCases().stan(), sixCases().done().raport);
+        benchmark::DoNotOptimize(rtfReport(report, pattern, noon).file().bytes().size());
     }
 }
 BENCHMARK(RtfReport)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
 
 void PrintCommands(benchmark::State& state) {
     for (auto _ : state)
-        Buduj_wyd(sixCases().stan(), sixCases().done().raport, sixCases().folder());
+        Buduj_wyd(reportModel(sixCases().stan(), sixCases().done().raport), sixCases().folder());
 }
 BENCHMARK(PrintCommands)->Unit(benchmark::kMillisecond);
 
@@ -100,7 +98,7 @@ BENCHMARK(Sketches)->Unit(benchmark::kMillisecond);
 
 /// The renderer as a process, from its start to the picture for the screen.
 void Renderer(benchmark::State& state) {
-    Buduj_wyd(sixCases().stan(), sixCases().done().raport, sixCases().folder());
+    Buduj_wyd(reportModel(sixCases().stan(), sixCases().done().raport), sixCases().folder());
     writeJob(sixCases().folder(), RenderMode::ScreenPicture, 1);
     for (auto _ : state)
         runRenderer(sixCases().folder());
@@ -109,7 +107,7 @@ BENCHMARK(Renderer)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 /// Reading the pages' metafile and painting it at the width of a screen.
 void MetafileLoading(benchmark::State& state) {
-    Buduj_wyd(sixCases().stan(), sixCases().done().raport, sixCases().folder());
+    Buduj_wyd(reportModel(sixCases().stan(), sixCases().done().raport), sixCases().folder());
     writeJob(sixCases().folder(), RenderMode::ScreenPicture, 1);
     runRenderer(sixCases().folder());
     const QString path = sixCases().folder() + QStringLiteral("/$a1.emf");

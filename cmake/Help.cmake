@@ -12,6 +12,18 @@ if(NOT QHELPGENERATOR)
         "qhelpgenerator is missing: install the Debian package qt6-documentation-tools")
 endif()
 
+find_program(CMARK_GFM cmark-gfm)
+if(NOT CMARK_GFM)
+    message(FATAL_ERROR "cmark-gfm is missing: install the Debian package cmark-gfm")
+endif()
+find_package(Python3 REQUIRED COMPONENTS Interpreter)
+
+# The guides as pages: in the help, and in the package.
+set(guide_folder ${CMAKE_BINARY_DIR}/guides)
+file(GLOB guide_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/en/*.md ${CMAKE_SOURCE_DIR}/docs/pl/*.md
+    ${CMAKE_SOURCE_DIR}/docs/pictures/*.png ${CMAKE_SOURCE_DIR}/docs/examples/*)
+set(guide_tool ${CMAKE_SOURCE_DIR}/tools/guide_pages.py)
+
 set(help_source ${CMAKE_SOURCE_DIR}/data/help)
 set(help_folder ${CMAKE_BINARY_DIR}/help)
 set(help_output ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/Ferna.qch)
@@ -27,8 +39,10 @@ add_custom_command(
                                                ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}
     COMMAND ${CMAKE_COMMAND} -E copy ${help_files} ${help_folder}
     COMMAND ${CMAKE_COMMAND} -E copy ${help_sketches} ${help_folder}/szkice
+    COMMAND ${Python3_EXECUTABLE} ${guide_tool} ${CMAKE_SOURCE_DIR} ${guide_folder}
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${guide_folder} ${help_folder}/przewodnik
     COMMAND ${FERNA_WITHOUT_SCREEN} ${QHELPGENERATOR} ${help_folder}/ferna.qhp -o ${help_output} -s
-    DEPENDS ${help_files} ${help_sketches}
+    DEPENDS ${help_files} ${help_sketches} ${guide_files} ${guide_tool}
     COMMENT "Packing the help")
 add_custom_target(ferna_help ALL DEPENDS ${help_output})
 # Whoever needs the delivered data needs the help with them.

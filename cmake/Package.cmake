@@ -18,6 +18,11 @@ list(FILTER delivered_bitmaps INCLUDE REGEX "\\.bmp$")
 install(FILES ${delivered_texts} ${delivered_bitmaps} ${help_output} DESTINATION share/ferna)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/przyklady DESTINATION share/ferna
     FILES_MATCHING PATTERN *.json)
+install(DIRECTORY ${guide_folder}/ DESTINATION share/doc/ferna)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/schemat DESTINATION share/ferna
+    FILES_MATCHING PATTERN *.json)
+install(FILES ${packaging}/completion/ferna-wsad ${packaging}/completion/Wyd_drk
+    DESTINATION share/bash-completion/completions)
 install(FILES ${packaging}/ferna.desktop DESTINATION share/applications)
 install(FILES ${CMAKE_SOURCE_DIR}/data/szkice/ferna.svg
     DESTINATION share/icons/hicolor/scalable/apps)
@@ -41,13 +46,14 @@ function(ferna_packaged_text source destination)
     cmake_parse_arguments(PARSE_ARGV 2 text "GZ" "" "")
     get_filename_component(name ${source} NAME)
     string(REGEX REPLACE "\\.in$" "" name ${name})
-    configure_file(${source} ${packaged}/${name} @ONLY)
+    set(made ${packaged}/${destination}/${name})
+    configure_file(${source} ${made} @ONLY)
     if(text_GZ)
-        execute_process(COMMAND gzip -n -9 -c ${packaged}/${name}
-            OUTPUT_FILE ${packaged}/${name}.gz COMMAND_ERROR_IS_FATAL ANY)
-        string(APPEND name .gz)
+        execute_process(COMMAND gzip -n -9 -c ${made}
+            OUTPUT_FILE ${made}.gz COMMAND_ERROR_IS_FATAL ANY)
+        string(APPEND made .gz)
     endif()
-    install(FILES ${packaged}/${name} DESTINATION ${destination})
+    install(FILES ${made} DESTINATION ${destination})
 endfunction()
 
 # The newest changes as a Debian changelog entry of this version, in lines of 78 signs.
@@ -67,6 +73,7 @@ ferna_packaged_text(${packaging}/copyright.in share/doc/ferna)
 ferna_packaged_text(${packaging}/ferna.metainfo.xml.in share/metainfo)
 foreach(program ferna ferna-wsad Wyd_drk)
     ferna_packaged_text(${packaging}/man/${program}.1.in share/man/man1 GZ)
+    ferna_packaged_text(${packaging}/man/pl/${program}.1.in share/man/pl/man1 GZ)
 endforeach()
 
 set(CPACK_GENERATOR DEB)

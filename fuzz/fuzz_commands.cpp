@@ -29,19 +29,19 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (text.contains("/") || text.contains("\\"))
         return 0;
     const Folder& folder = Folder::instance();
-    renderer::Job job;
-    job.framePath = folder.write("FERNAPr1.wyd", at < 0 ? text : text.left(at));
-    job.bodyPath = folder.write("FERNAPr.wyd", at < 0 ? text : text.mid(at + border.size()));
+    Job job;
+    job.framePath = folder.write(wyd::frameFile, at < 0 ? text : text.left(at));
+    job.bodyPath = folder.write(wyd::bodyFile, at < 0 ? text : text.mid(at + border.size()));
     job.folder = folder.path("");
     runs([&] {
-        renderer::Complaints complaints;
-        const renderer::Report report = renderer::compose(job, complaints);
+        wyd::Complaints complaints;
+        const pages::Report report = renderer::compose(job, complaints);
         require(!report.pages.empty(), "a report has a page");
-        for (const renderer::Page& page : report.pages)
-            for (const renderer::Text& words : page.texts)
+        for (const pages::Page& page : report.pages)
+            for (const pages::Text& words : page.texts)
                 require(std::isfinite(words.baseline.x()) && std::isfinite(words.baseline.y()),
                         "every text has a place");
-        const QByteArray bytes = renderer::emfOfAllPages(report);
+        const QByteArray bytes = pages::emfOfAllPages(report);
         const Metafile picture = Metafile::fromBytes(bytes);
         QImage screen(60, 80, QImage::Format_RGB32);
         QPainter painter(&screen);

@@ -40,7 +40,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         require(!result.dump(-1, ' ', false, Json::error_handler_t::replace).empty(),
                 "a result can be written");
         if (done.reportReady)
-            require(!textReport(done.task.stan, done.raport).bytes().isEmpty(),
+            require(!textReport(reportModel(done.task.stan, done.raport)).bytes().isEmpty(),
                     "a computed task has its report");
     } catch (const TaskError& failure) {
         const int line = lineOf(text, failure.path);

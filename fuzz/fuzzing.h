@@ -41,9 +41,13 @@ bool runs(const Command& command) {
 /// A folder in memory for readers that take a file.
 class Folder {
 public:
-    QString path(const char* name) const { return folder_.filePath(QString::fromLatin1(name)); }
+    QString path(const QString& name) const { return folder_.filePath(name); }
+    QString path(const char* name) const { return path(QString::fromLatin1(name)); }
 
     QString write(const char* name, const QByteArray& bytes) const {
+        return write(QString::fromLatin1(name), bytes);
+    }
+    QString write(const QString& name, const QByteArray& bytes) const {
         QFile file(path(name));
         require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(),
                 "the fuzzer's own file can be written");

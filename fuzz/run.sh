@@ -6,6 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source tools/setup.sh
+install_missing "${build_packages[@]}" "${run_packages[@]}" "${fuzz_packages[@]}"
 build_preset fuzz >/dev/null
 
 programs=build/fuzz/fuzz

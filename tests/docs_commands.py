@@ -22,6 +22,9 @@ NOT_RUN = re.compile(r"<!-- not run: (.+) -->$")
 FILE = re.compile(r"(?<![\w$*{/.])[\w./-]*\w\.(?:json|jsonl|csv|txt|rtf|pdf|svg|emf|odt|doc|wyd|py|sh)\b")
 LINK = re.compile(r"\]\(([^)#:\s]+)(#[^)\s]*)?\)")
 SECONDS = 300
+EXERCISES = "build/exercises"  # where the pages let their files go
+# The English pages are read under the bare C locale, the Polish ones under the Polish locale.
+LOCALES = {"docs/en/": "C", "docs/pl/": "pl_PL.UTF-8"}
 
 
 class Page:
@@ -79,21 +82,38 @@ def missing_lines(expected, printed):
             if line.strip() and not any(line.rstrip() == other for other in rest)]
 
 
-def run_page(commands, root, programs):
+def run_page(commands, root, programs, locale):
     """Runs the blocks of a page in a copy of the tree. What is wrong with them."""
     with tempfile.TemporaryDirectory(prefix="ferna-docs-") as work:
         home = os.path.join(work, "home")
         os.makedirs(home, mode=0o700)
-        return run_in(copy_tree(root, programs, work), home, commands)
+        copy = copy_tree(root, programs, work)
+        return run_in(copy, home, commands, locale) + litter_in(copy)
 
 
-def run_in(copy, home, commands):
+def litter_in(copy):
+    """Files that git would take for new ones: the exercises leave none."""
+    told = subprocess.run(["git", "status", "--porcelain"], cwd=copy, text=True, check=True,
+                          capture_output=True).stdout
+    return [f"left in the tree: {line}" for line in told.splitlines() if line.startswith("??")]
+
+
+def make_locale(name, folder):
+    subprocess.run(["localedef", "-i", name.partition(".")[0], "-f", "UTF-8",
+                    os.path.join(folder, name)], capture_output=True, timeout=120)
+    if not os.path.isdir(os.path.join(folder, name)):
+        sys.exit(f"localedef makes no {name}")
+
+
+def run_in(copy, home, commands, locale):
     marker = "=== block {}"
     script = "set -euo pipefail\n" + "".join(
         f"echo '{marker.format(start)}'\n{text}\n" for start, text, _ in commands)
-    environment = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": "C.UTF-8",
+    if locale.startswith("pl"):
+        make_locale(locale, home)
+    environment = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": locale, "LOCPATH": home,
                    "XDG_RUNTIME_DIR": home, "PYTHONDONTWRITEBYTECODE": "1"}
-    done = subprocess.run(["bash", "-c", script], cwd=copy, env=environment, text=True,
+    done = subprocess.run(["bash", "-c", script], cwd=copy, env=environment, encoding="utf-8",
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=SECONDS,
                           stdin=subprocess.DEVNULL)
     wrong = []
@@ -104,7 +124,8 @@ def run_in(copy, home, commands):
         for line in missing_lines(expected, printed):
             wrong.append(f"line {start}: not printed: {line}\n{printed[-2000:]}")
         for name in FILE.findall(text):
-            if not os.path.exists(os.path.join(copy, name)):
+            if not any(os.path.exists(os.path.join(folder, name))
+                       for folder in (copy, os.path.join(copy, EXERCISES))):
                 wrong.append(f"line {start}: no file {name}")
     return wrong
 
@@ -153,8 +174,9 @@ def main():
         for line, why in page.not_run():
             print(f"not run: {page.path}:{line}: {why}")
         commands = list(page.commands())
+        locale = LOCALES.get(page.path[:8], "C.UTF-8")
         if commands:
-            wrong += [f"{page.path}: {what}" for what in run_page(commands, root, programs)]
+            wrong += [f"{page.path}: {what}" for what in run_page(commands, root, programs, locale)]
         blocks += len(commands)
     wrong += [f"docs/pictures/{name}: no page shows it" for name in unused_pictures(pages, root)]
     print(f"{len(pages)} pages, {blocks} blocks run")

@@ -38,6 +38,9 @@ done
 # Files.
 for file in bin/{ferna,ferna-wsad,Wyd_drk} lib/ferna/libferna_writer.so \
     share/ferna/{Ferna.qch,Ferogo2.bmp,rysgb52.bmp,przyklady/slup-hali.json} \
+    share/ferna/schemat/{zadanie,wynik}.schema.json \
+    share/doc/ferna/{en/first-report.html,pl/pierwszy-raport.html,pictures/results.png} \
+    share/bash-completion/completions/{ferna-wsad,Wyd_drk} \
     share/icons/hicolor/scalable/apps/ferna.svg share/doc/ferna/copyright; do
     [[ -s $usr/$file ]] || fail "no /usr/$file"
 done
@@ -47,7 +50,7 @@ done
 grep -q 'not chosen a licence' "$usr/share/doc/ferna/copyright" || fail "copyright"
 zcat "$usr/share/doc/ferna/changelog.gz" | head -1 | grep -qF "ferna ($version) " \
     || fail "the changelog is not that of version $version"
-for file in "$usr"/share/doc/ferna/changelog.gz "$usr"/share/man/man1/*.gz; do
+for file in "$usr"/share/doc/ferna/changelog.gz "$usr"/share/man/{,pl/}man1/*.gz; do
     [[ $(od -An -tx1 -j3 -N5 "$file" | tr -d ' ') == 0000000000 ]] \
         || fail "$(basename "$file") carries a name or a time"
 done
@@ -66,14 +69,36 @@ complaints=$(sed -nE 's/^[EW]: [^ ]+ ([a-z-]+).*/\1/p' "$work/appstream.log" | s
 long_options() { grep -oE -- '--[a-z]+' "$1" | sort -u; }
 for program in ferna ferna-wsad Wyd_drk; do
     "$usr/bin/$program" --help >"$work/help"
-    page=$usr/share/man/man1/$program.1.gz
-    LC_ALL=C.UTF-8 MANWIDTH=100 man --warnings -l "$page" >"$work/page" 2>"$work/warnings"
-    [[ ! -s $work/warnings ]] || fail "$program.1: $(<"$work/warnings")"
-    # Roff writes a minus as \-.
-    zcat "$page" | sed 's/\\-/-/g' >"$work/source"
-    diff <(long_options "$work/help") <(long_options "$work/source") >"$work/options" \
-        || fail "options of $program.1 and --help differ: $(<"$work/options")"
+    for page in "$usr"/share/man/{,pl/}man1/"$program".1.gz; do
+        LC_ALL=C.UTF-8 MANWIDTH=100 man --warnings -l "$page" >"$work/page" 2>"$work/warnings"
+        [[ ! -s $work/warnings ]] || fail "$page: $(<"$work/warnings")"
+        # Roff writes a minus as \-.
+        zcat "$page" | sed 's/\\-/-/g' >"$work/source"
+        diff <(long_options "$work/help") <(long_options "$work/source") >"$work/options" \
+            || fail "options of $page and --help differ: $(<"$work/options")"
+    done
 done
+
+# Completion of the shell: every option of --help, and files of the right endings.
+mkdir -p "$work/typed/folder"
+touch "$work/typed/task.json" "$work/typed/report.pdf"
+# completed WORD ...: what bash offers for the last word of a call.
+completed() {
+    bash -O extglob -c 'compopt() { :; }
+        source "$0/$1"
+        COMP_WORDS=("$@") COMP_CWORD=$(($# - 1)) COMPREPLY=()
+        "_ferna_${1/ferna-/}"
+        printf "%s\n" "${COMPREPLY[@]}"' "$usr/share/bash-completion/completions" "$@" | sort
+}
+for program in ferna-wsad Wyd_drk; do
+    "$usr/bin/$program" --help >"$work/help"
+    diff <(long_options "$work/help") <(completed "$program" --) \
+        || fail "completion of $program and --help differ"
+done
+[[ $(cd "$work/typed" && completed ferna-wsad "" | xargs) == "folder task.json" ]] \
+    || fail "completion of a task"
+[[ $(cd "$work/typed" && completed ferna-wsad --raport rep) == report.pdf ]] \
+    || fail "completion of a report"
 
 # The programs from where the package puts them.
 export LC_ALL=C.UTF-8 HOME=$work/home XDG_DATA_HOME=$work/home/data XDG_RUNTIME_DIR=$work/home

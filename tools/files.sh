@@ -11,7 +11,7 @@ has_history() {
 # archive has no list of its files: then they are those that lie there, apart from what was built.
 files_of_the_tree() {
     if has_history; then
-        git ls-files -- "$@"
+        git ls-files --cached --others --exclude-standard -- "$@"
         return
     fi
     local pattern match=()

@@ -11,7 +11,7 @@ mode=${1:-changed}
 build=build/release
 
 scripts() {
-    files_of_the_tree '*.sh' .ci/run
+    files_of_the_tree '*.sh' .ci/run 'packaging/completion/*'
 }
 
 python_syntax() {

@@ -4,6 +4,7 @@
 
 build_packages=(
     g++ cmake ninja-build ccache
+    python3 cmark-gfm
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools libcups2-dev nlohmann-json3-dev
 )
 run_packages=(
@@ -14,7 +15,7 @@ run_packages=(
 package_packages=(libreoffice-dev dpkg-dev file)
 test_packages=(
     git clang libclang-rt-14-dev clang-format-14 clang-tidy-14 shellcheck libgtest-dev
-    libbenchmark-dev python3
+    libbenchmark-dev python3 python3-jsonschema
     xvfb xdotool xauth x11-utils x11-apps x11-xkb-utils openbox icewm imagemagick
     poppler-utils cups cups-client cups-filters time parallel
     libreoffice-writer-nogui locales

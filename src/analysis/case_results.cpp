@@ -1,7 +1,9 @@
 #include "analysis/case_results.h"
 
 #include "analysis/clauses.h"
+#include "design/catalogue.h"
 #include "runtime/format.h"
+#include "runtime/line_of_text.h"
 
 namespace ferna {
 
@@ -23,7 +25,7 @@ void takeSigma_b(Stan& stan, int c, Single stress) {
 }
 
 QString concreteLine(const Stan& stan, Single stress) {
-    return stan.Teksty(3) + Format(stress, u"###0.0# MPa ");
+    return LineOfText().add(stan.Teksty(phrase::ConcreteStress)).number(stress, u"###0.0# MPa ");
 }
 
 /// Force, stress and line of an anchor in tension.
@@ -40,11 +42,12 @@ void storeAnchor(Stan& stan, const AnchorTension& anchor, int c) {
         r.Sila_kotwy_max = anchor.force;
         r.Nr_kotwy_max = i;
     }
-    QString& line =
-        nextLine(r, Format(i, u"##  ") + Format(anchor.stress, u"#########0.0# MPa      ")
-                        + Format(anchor.force, u"########0.0 kN"));
+    QString& line = nextLine(r, LineOfText()
+                                    .number(i, u"##  ")
+                                    .number(anchor.stress, u"#########0.0# MPa      ")
+                                    .number(anchor.force, u"########0.0 kN"));
     if (std::fabs(anchor.stress) > stan.materialy.Fd_kotwy) {
-        line += stan.Teksty(2);
+        line += stan.Teksty(phrase::AnchorExceeded);
         r.Kotwy_OK = False;
     }
 }
@@ -57,7 +60,7 @@ void storeLineOfPlate(Stan& stan, const CaseResult& result, int c) {
     r.Przec_d(c) = result.line->d;
     r.Typ_strefy_przyp(c) = result.zone;
     if (!result.anchorsInTension)
-        nextLine(r, stan.Teksty(1));
+        nextLine(r, stan.Teksty(phrase::NoAnchorInTension));
     for (int i = 0; i < result.tensions; ++i)
         storeAnchor(stan, result.tension[static_cast<std::size_t>(i)], c);
 }
@@ -67,14 +70,14 @@ void checkConcrete(Stan& stan, int c) {
     const Single Rb = stan.materialy.Rb_betonu;
     switch (concreteVerdict(r.Sigma_b(c), Rb)) {
     case ConcreteVerdict::AboveDouble:
-        r.Wiersze_wynikow(r.Nr_wiersza) += stan.Teksty(4);
+        r.Wiersze_wynikow(r.Nr_wiersza) += stan.Teksty(phrase::ConcreteNotAcceptable);
         break;
     case ConcreteVerdict::Satisfied:
         r.Wiersze_wynikow(r.Nr_wiersza).append(u" < Rb = ").append(Format(Rb, u"###.0 MPa"));
         break;
     case ConcreteVerdict::Exceeded:
         const Single ratio = concreteRatio(r.Sigma_b(c), Rb);
-        nextLine(r, stan.Teksty(5));
+        nextLine(r, stan.Teksty(phrase::BearingFactorNeeded));
         r.Znak_wiersza(r.Nr_wiersza) = 1;
         r.Liczba_przekroczen = CInt(r.Liczba_przekroczen + 1);
         r.Tekst_przekroczenia(r.Liczba_przekroczen) =
@@ -103,7 +106,8 @@ QString shearByTensionSide(const Stan& stan, Integer zoneShape, Single V) {
     for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
         if (zoneShape == zone::WholePlate || stan.plyta.Odl_kotwy(i) < 0)
             A = CSng(A + stan.plyta.Pole_kotwy(i));
-    return shearLine(stan, shearUtilisation(anchorShear(V, A), stan.materialy.Fv_kotwy), 47);
+    return shearLine(stan, shearUtilisation(anchorShear(V, A), stan.materialy.Fv_kotwy),
+                     phrase::ShearOfSomeAnchors);
 }
 
 /// The shear goes to all anchors, together with the tension of the most stressed one. Stresses that
@@ -117,7 +121,7 @@ QString shearByAllAnchors(const Stan& stan, const ByAnchor<Single>& stresses, Si
     }
     const Materialy& steel = stan.materialy;
     const Single w = interactionUtilisation(sm, steel.Fd2_kotwy, anchorShear(V, A), steel.Fv_kotwy);
-    return shearLine(stan, w, 50);
+    return shearLine(stan, w, phrase::ShearOfAllAnchors);
 }
 
 void checkHorizontalForces(Stan& stan, Integer zoneShape, const ByAnchor<Single>& stresses, int c) {
@@ -128,7 +132,7 @@ void checkHorizontalForces(Stan& stan, Integer zoneShape, const ByAnchor<Single>
         return;
     QString& line = nextLine(stan.wyniki, QString());
     if (frictionForce(loads.Sila_N(c)) > V)
-        line = stan.Teksty(46);
+        line = stan.Teksty(phrase::ShearByFriction);
     else if (stan.opcje.Hsily_wszystkie != 0)
         line = shearByTensionSide(stan, zoneShape, V);
     else
@@ -154,7 +158,7 @@ void Zapisz_wyniki(Stan& stan, const CaseResult& result) {
     takeSigma_b(stan, c, *result.Sigma_b);
     if (result.zone == zone::WholePlate) {
         stan.wyniki.Przyp_policzony(c) = True;
-        nextLine(stan.wyniki, stan.Teksty(6));
+        nextLine(stan.wyniki, stan.Teksty(phrase::WholePlateInCompression));
     }
     nextLine(stan.wyniki, concreteLine(stan, *result.Sigma_b));
 }

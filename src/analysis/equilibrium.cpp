@@ -95,8 +95,8 @@ void Rownowaga_c(Stan_przypadku& s, const CaseInput& in) {
     Odleglosci_srub(s, in);
 
     const AnchorSums<Double> sums{s.Suma_Ad, s.Suma_Add};
-    const Equilibrium<Double> e = equilibrium(lineAngle(s), axialForce(s, in), s.C_linii,
-                                              s.V_strefy, s.Xs_strefy, s.Ys_strefy, sums);
+    const Equilibrium<Double> e = equilibriumAt(lineAngle(s), axialForce(s, in), s.C_linii,
+                                                s.V_strefy, s.Xs_strefy, s.Ys_strefy, sums);
     require(e.forces != 0);
     s.Wsp_k = e.k;
     s.Sila_T = e.T;

@@ -161,8 +161,8 @@ struct Equilibrium {
 /// At the distance `c`: `V` integral of the zone, (Xs, Ys) its centroid.
 template <typename Number>
 [[gnu::always_inline]] inline Equilibrium<Number>
-equilibrium(const LineAngle& line, const AxialForce& force, const Number& c, const Number& V,
-            const Number& Xs, const Number& Ys, const AnchorSums<Number>& sums) {
+equilibriumAt(const LineAngle& line, const AxialForce& force, const Number& c, const Number& V,
+              const Number& Xs, const Number& Ys, const AnchorSums<Number>& sums) {
     Equilibrium<Number> e;
     const Number W = V * (force.corner - c);
     e.forces = W + force.n * sums.Ad;

@@ -77,7 +77,7 @@ template <int width, Shapes shapes>
     for (std::size_t i = 0; i < static_cast<std::size_t>(angle.anchors); ++i)
         sums.add(angle.projection[i] - c, angle.area[i]);
     const Equilibrium<Numbers<width>> e =
-        equilibrium(angle.line, angle.force, c, zone.V, Xs, Ys, sums);
+        equilibriumAt(angle.line, angle.force, c, zone.V, Xs, Ys, sums);
     const Numbers<width> all = e.error + e.along;
     const Truths<width> fails = (at.D == 0) | (zone.V == 0) | (e.forces == 0) | (all - all != 0);
     return reinterpret_cast<Numbers<width>>(reinterpret_cast<Truths<width>>(e.error) | fails);

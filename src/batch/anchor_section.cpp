@@ -4,7 +4,7 @@
 
 namespace ferna::batch {
 
-AnchorTask readAnchorTask(const Json& value, const std::string& path) {
+AnchorTask readAnchorTask(const TaskValue& value, const std::string& path) {
     ObjectReader object(value, path, {"rodzaj", "g"});
     object.required("g");
     return {object.oneOf("rodzaj", {"F", "P"}) == "P" ? 1 : 0,
@@ -23,10 +23,11 @@ SectionResult runAnchorTask(const AnchorTask& task, Stan& stan, ScriptedDialogs&
     Json lines = Json::array();
     for (int i = 1; i <= stan.raport.Liczba_wierszy_kotwy; ++i)
         lines.push_back(stan.raport.Wiersze_kotwy(i).toStdString());
-    return {{{"Wiersze_kotwy", lines},
-             {"Typ_szkicu_kotwy", stan.raport.Typ_szkicu_kotwy},
-             {"Nosnosc", Double{form.Nosnosc}}},
-            {}};
+    SectionResult result;
+    result.value["Wiersze_kotwy"] = std::move(lines);
+    result.value["Typ_szkicu_kotwy"] = stan.raport.Typ_szkicu_kotwy;
+    result.value["Nosnosc"] = Double{form.Nosnosc};
+    return result;
 }
 
 } // namespace ferna::batch

@@ -13,7 +13,7 @@ struct AnchorTask {
 };
 
 /// Throws TaskError.
-AnchorTask readAnchorTask(const Json& value, const std::string& path = "Kotwa");
+AnchorTask readAnchorTask(const TaskValue& value, const std::string& path = "Kotwa");
 
 /// Opens the selection on the results in the state, types the thickness, brings the tab to the
 /// front and confirms. The result has "Wiersze_kotwy", "Typ_szkicu_kotwy" and "Nosnosc"; it is null

@@ -22,7 +22,7 @@ const ValueKeys distributedValues{
 const ValueKeys momentValues{{"M", false, 0}};
 
 /// A load with exactly the values of its direction and kind.
-ObjectReader loadObject(const Json& value, const std::string& path, int direction, int kind) {
+ObjectReader loadObject(const TaskValue& value, const std::string& path, int direction, int kind) {
     if (direction == 0)
         return {value, path, {"kierunek", "rodzaj", "P", "ex", "ey"}};
     if (kind == 0)
@@ -38,7 +38,7 @@ const ValueKeys& valuesOf(int direction, int kind) {
     return kind == 0 ? forceValues : kind == 1 ? distributedValues : momentValues;
 }
 
-ColumnTask::Load readLoad(const Json& value, const std::string& path) {
+ColumnTask::Load readLoad(const TaskValue& value, const std::string& path) {
     ObjectReader any(
         value, path,
         {"kierunek", "rodzaj", "P", "ex", "ey", "H", "h", "p1", "p2", "h1", "h2", "M"});
@@ -90,19 +90,19 @@ Json resultJson(const StaticsForm& form) {
     const char* const names[] = {"N", "M1", "M2", "Vx", "Vy"};
     for (std::size_t i = 0; i < std::size(names); ++i)
         result[names[i]] = form.Text1[i].toStdString();
-    result["lista"] = list;
+    result["lista"] = std::move(list);
     return result;
 }
 
 } // namespace
 
-ColumnTask readColumnTask(const Json& value, const std::string& path) {
-    if (!value.is_array())
+ColumnTask readColumnTask(const TaskValue& value, const std::string& path) {
+    if (!value.isArray())
         throw TaskError(path, "expected an array of loads");
     ColumnTask task;
     task.path = path;
-    for (std::size_t i = 0; i < value.size(); ++i)
-        task.loads.push_back(readLoad(value[i], path + '[' + std::to_string(i) + ']'));
+    for (const TaskValue& part : value.parts())
+        task.loads.push_back(readLoad(part, path + '[' + std::to_string(task.loads.size()) + ']'));
     return task;
 }
 

@@ -23,7 +23,7 @@ struct ColumnTask {
 };
 
 /// Throws TaskError.
-ColumnTask readColumnTask(const Json& value, const std::string& path = "Slup");
+ColumnTask readColumnTask(const TaskValue& value, const std::string& path = "Slup");
 
 /// Declares the loads and ends the list: the totals become one more case in the state and in the
 /// fields. A run-time error ends the run where it stands. The result has the totals "N", "M1",

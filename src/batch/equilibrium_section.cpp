@@ -1,47 +1,76 @@
 #include "batch/equilibrium_section.h"
 
+#include <initializer_list>
+
 namespace ferna::batch {
 
 namespace {
 
 /// No sign on a nought.
-double plain(double value) {
-    return value + 0.0;
+void plain(JsonWriter& json, double value) {
+    json.number(value + 0.0);
 }
 
-Json segmentJson(const equilibrium::Segment& segment) {
-    Json points = Json::array();
+void writeNumbers(JsonWriter& json, std::initializer_list<double> numbers) {
+    json.beginArray();
+    for (const double number : numbers)
+        plain(json, number);
+    json.endArray();
+}
+
+void writeSegment(JsonWriter& json, const equilibrium::Segment& segment) {
+    json.beginArray();
     for (const equilibrium::Point& point : segment)
-        points.push_back({plain(point.x), plain(point.y)});
-    return points;
+        writeNumbers(json, {point.x, point.y});
+    json.endArray();
 }
 
-Json equilibriumJson(const equilibrium::Result& found, int anchors) {
-    if (!found.exists)
-        return {{"istnieje", false}, {"os", segmentJson(found.tippingAxis)}};
-    Json stresses = Json::array();
+void writeStresses(JsonWriter& json, const equilibrium::Result& found, int anchors) {
+    json.key("Sigma_b");
+    plain(json, found.sigmaConcrete);
+    json.key("Sigma_kotwy");
+    json.beginArray();
     for (int i = 0; i < anchors; ++i)
-        stresses.push_back(plain(found.sigmaAnchor.at(static_cast<std::size_t>(i))));
-    const equilibrium::Plane& plane = found.plane;
-    return {{"istnieje", true},
-            {"Sigma_b", plain(found.sigmaConcrete)},
-            {"Sigma_kotwy", std::move(stresses)},
-            {"Plaszczyzna", {plain(plane.s0), plain(plane.sx), plain(plane.sy)}},
-            {"Linia", found.neutralLine ? segmentJson(*found.neutralLine) : Json()},
-            {"Reszta", plain(found.residual)}};
+        plain(json, found.sigmaAnchor.at(static_cast<std::size_t>(i)));
+    json.endArray();
+    json.key("Plaszczyzna");
+    writeNumbers(json, {found.plane.s0, found.plane.sx, found.plane.sy});
+    json.key("Linia");
+    if (found.neutralLine)
+        writeSegment(json, *found.neutralLine);
+    else
+        json.null();
+    json.key("Reszta");
+    plain(json, found.residual);
+}
+
+void writeEquilibrium(JsonWriter& json, const equilibrium::Result& found, int anchors) {
+    json.beginObject();
+    json.key("istnieje");
+    json.boolean(found.exists);
+    if (found.exists) {
+        writeStresses(json, found, anchors);
+    } else {
+        json.key("os");
+        writeSegment(json, found.tippingAxis);
+    }
+    json.endObject();
 }
 
 } // namespace
 
-Json equilibriaJson(const EnteredEquilibria& found) {
-    if (!found.hasBase)
-        return nullptr;
-    Json cases = Json::array();
-    for (int c = 0; c < found.cases; ++c) {
-        const auto& one = found.byCase.at(static_cast<std::size_t>(c));
-        cases.push_back(one ? equilibriumJson(*one, found.anchors) : Json());
+void writeEquilibria(JsonWriter& json, const EnteredEquilibria& found) {
+    if (!found.hasBase) {
+        json.null();
+        return;
     }
-    return cases;
+    json.beginArray();
+    for (int c = 0; c < found.cases; ++c)
+        if (const auto& one = found.byCase.at(static_cast<std::size_t>(c)))
+            writeEquilibrium(json, *one, found.anchors);
+        else
+            json.null();
+    json.endArray();
 }
 
 } // namespace ferna::batch

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "batch/object_reader.h"
+#include "batch/json_writer.h"
 #include "command/entered_equilibria.h"
 
 namespace ferna::batch {
 
-/// The key "Rownowaga" of a result: null where the task gives no areas, else one object a case, in
-/// order.
-Json equilibriaJson(const EnteredEquilibria& found);
+/// The value of the key "Rownowaga" of a result: null where the task gives no areas, else one
+/// object a case, in order.
+void writeEquilibria(JsonWriter& json, const EnteredEquilibria& found);
 
 } // namespace ferna::batch

@@ -2,6 +2,7 @@
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/output_files.h"
+#include "batch/remarks.h"
 #include "batch/report_files.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
@@ -89,11 +90,13 @@ int runOne(const Options& options, const RunOptions& runOptions) {
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     try {
         const ComputedTask done = run(readTask(parsed(text)), runOptions);
-        const QByteArray result = QByteArray::fromStdString(resultOf(done).dump(1)) + '\n';
+        const std::string result = resultText(done, JsonWriter::Layout::Indented) + '\n';
         if (options.result.isEmpty())
-            print(result.toStdString());
+            print(result);
         else
-            writeFileWhole(options.result, result);
+            writeFileWhole(options.result, QByteArray::fromStdString(result));
+        for (const QString& what : remarksOf(done))
+            remark(options.task + QStringLiteral(": ") + what);
         const bool namesAreTold = done.reportReady && !options.reports.isEmpty();
         if (namesAreTold)
             for (const QString& what : nameRemarks(done.task))
@@ -120,7 +123,7 @@ std::string resultLine(const std::string& text, long number, const RunOptions& r
                        std::atomic<bool>& all) {
     const auto refused = [&](const std::string& what) {
         all = false;
-        return oneLine(resultOfRefused("line " + std::to_string(number) + ": " + what));
+        return oneLine(resultOfRefused("line " + std::to_string(number) + ": " + what)) + '\n';
     };
     if (text.size() > longestTask)
         return refused("expected at most " + std::to_string(longestTask) + " bytes");
@@ -128,7 +131,7 @@ std::string resultLine(const std::string& text, long number, const RunOptions& r
         const ComputedTask done = run(readTask(parsed(text)), runOptions);
         if (!solved(done))
             all = false;
-        return oneLine(resultOf(done));
+        return resultText(done, JsonWriter::Layout::OneLine) += '\n';
     } catch (const TaskError& failure) {
         return refused(failure.what());
     } catch (const RunTimeError& failure) {
@@ -144,7 +147,7 @@ int runLines(const Options& options, const RunOptions& runOptions) {
                 [&](const std::string& item, long number) {
                     return resultLine(item, number, runOptions, all);
                 },
-                [](const std::string& result) { print(result + '\n'); }, [&] { input.cancel(); }});
+                [](const std::string& result) { print(result); }, [&] { input.cancel(); }});
     return all ? Computed : NotSolved;
 }
 

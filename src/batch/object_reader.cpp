@@ -2,6 +2,7 @@
 
 #include "runtime/format.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -9,8 +10,8 @@ namespace ferna::batch {
 
 namespace {
 
-std::string found(const Json& value) {
-    std::string text = value.dump(-1, ' ', false, Json::error_handler_t::replace);
+std::string found(const TaskValue& value) {
+    std::string text = value.written();
     if (text.size() > 40)
         text = text.substr(0, 37) + "...";
     return ", found " + text;
@@ -22,76 +23,90 @@ std::string range(Integer least, Integer most) {
 
 } // namespace
 
-ObjectReader::ObjectReader(const Json& value, std::string path)
+ObjectReader::ObjectReader(const TaskValue& value, std::string path)
     : value_(objectOf(value, path)), path_(std::move(path)) {}
 
-ObjectReader::ObjectReader(const Json& value, std::string path,
+ObjectReader::ObjectReader(const TaskValue& value, std::string path,
                            std::initializer_list<const char*> keys)
     : ObjectReader(value, std::move(path)) {
     for (const char* key : keys)
-        known_.emplace(key);
+        known_.at(knownKeys_++) = key;
     finish();
 }
 
-std::string ObjectReader::pathOf(const std::string& key) const {
-    return path_.empty() ? key : path_ + '.' + key;
+std::string Place::path() const {
+    std::string path(whole);
+    if (!path.empty())
+        path += '.';
+    return path += key;
 }
 
-const Json& ObjectReader::at(const char* key) {
-    known_.emplace(key);
-    return value_.at(key);
+std::string ObjectReader::pathOf(std::string_view key) const {
+    return Place{path_, key}.path();
 }
 
-const Json& ObjectReader::required(const char* key) {
-    if (!has(key))
+/// The value of a key, which is known from now on; null where the object lacks it.
+const TaskValue* ObjectReader::ask(std::string_view key) {
+    known_.at(knownKeys_++) = key;
+    return value_.find(key);
+}
+
+const TaskValue& ObjectReader::at(std::string_view key) {
+    return *ask(key);
+}
+
+const TaskValue& ObjectReader::required(std::string_view key) {
+    const TaskValue* const value = ask(key);
+    if (value == nullptr)
         throw TaskError(pathOf(key), "this key is required and is missing");
-    return at(key);
+    return *value;
 }
 
-Integer ObjectReader::integer(const char* key, Integer preset, Integer least, Integer most) {
-    known_.emplace(key);
-    return has(key) ? integerOf(at(key), pathOf(key), least, most) : preset;
+Integer ObjectReader::integer(std::string_view key, Integer preset, Integer least, Integer most) {
+    const TaskValue* const value = ask(key);
+    return value == nullptr ? preset : integerOf(*value, {path_, key}, least, most);
 }
 
-Integer ObjectReader::requiredInteger(const char* key) {
-    return integerOf(required(key), pathOf(key));
+Integer ObjectReader::requiredInteger(std::string_view key) {
+    return integerOf(required(key), {path_, key});
 }
 
-double ObjectReader::number(const char* key, double preset) {
-    known_.emplace(key);
-    return has(key) ? numberOf(at(key), pathOf(key)) : preset;
+double ObjectReader::number(std::string_view key, double preset) {
+    const TaskValue* const value = ask(key);
+    return value == nullptr ? preset : numberOf(*value, {path_, key});
 }
 
-double ObjectReader::requiredNumber(const char* key) {
-    return numberOf(required(key), pathOf(key));
+double ObjectReader::requiredNumber(std::string_view key) {
+    return numberOf(required(key), {path_, key});
 }
 
-QString ObjectReader::text(const char* key, const QString& preset) {
-    known_.emplace(key);
-    return has(key) ? textOf(at(key), pathOf(key)) : preset;
+QString ObjectReader::text(std::string_view key, const QString& preset) {
+    const TaskValue* const value = ask(key);
+    return value == nullptr ? preset : textOf(*value, {path_, key});
 }
 
-std::string ObjectReader::oneOf(const char* key, std::initializer_list<const char*> choices) {
-    const Json& value = required(key);
+std::string ObjectReader::oneOf(std::string_view key, std::initializer_list<const char*> choices) {
+    const TaskValue& value = required(key);
     std::string expected;
     for (const char* choice : choices) {
-        if (value == choice)
+        if (value.isText() && value.text == choice)
             return choice;
         expected += (expected.empty() ? "\"" : " or \"") + std::string(choice) + '"';
     }
     throw TaskError(pathOf(key), "expected " + expected);
 }
 
-std::optional<double> ObjectReader::optionalNumber(const char* key) {
-    return has(key) ? std::optional(numberOf(at(key), pathOf(key))) : std::nullopt;
+std::optional<double> ObjectReader::optionalNumber(std::string_view key) {
+    const TaskValue* const value = ask(key);
+    return value != nullptr ? std::optional(numberOf(*value, {path_, key})) : std::nullopt;
 }
 
-std::optional<QString> ObjectReader::fieldText(const char* key) {
+std::optional<QString> ObjectReader::fieldText(std::string_view key) {
     const std::optional<double> value = optionalNumber(key);
     return value ? std::optional(general(*value)) : std::nullopt;
 }
 
-std::optional<QString> ObjectReader::wholeFieldText(const char* key) {
+std::optional<QString> ObjectReader::wholeFieldText(std::string_view key) {
     const std::optional<double> value = optionalNumber(key);
     if (!value)
         return std::nullopt;
@@ -101,45 +116,47 @@ std::optional<QString> ObjectReader::wholeFieldText(const char* key) {
     return general(*value);
 }
 
-std::optional<int> ObjectReader::listNumber(const char* key, int first, int last) {
-    if (!has(key))
+std::optional<int> ObjectReader::listNumber(std::string_view key, int first, int last) {
+    const TaskValue* const value = ask(key);
+    if (value == nullptr)
         return std::nullopt;
-    return integerOf(at(key), pathOf(key), CInt(first), CInt(last));
+    return integerOf(*value, {path_, key}, CInt(first), CInt(last));
 }
 
 void ObjectReader::finish() const {
-    for (const auto& [key, value] : value_.items())
-        if (!known_.contains(key))
-            throw TaskError(pathOf(key), "unknown key");
+    const auto end = known_.begin() + knownKeys_;
+    for (const TaskValue& part : value_.parts())
+        if (std::find(known_.begin(), end, part.key) == end)
+            throw TaskError(pathOf(part.key), "unknown key");
 }
 
-Integer integerOf(const Json& value, const std::string& path, Integer least, Integer most) {
-    const bool whole = value.is_number() && value.get<double>() == Int(value.get<double>());
-    if (!whole || value.get<double>() < least || value.get<double>() > most)
-        throw TaskError(path, range(least, most) + found(value));
-    return CInt(value.get<double>());
+Integer integerOf(const TaskValue& value, const Place& place, Integer least, Integer most) {
+    const bool whole = value.isNumber() && value.number == Int(value.number);
+    if (!whole || value.number < least || value.number > most)
+        throw TaskError(place.path(), range(least, most) + found(value));
+    return CInt(value.number);
 }
 
-double numberOf(const Json& value, const std::string& path) {
-    if (!value.is_number())
-        throw TaskError(path, "expected a number" + found(value));
-    return value.get<double>();
+double numberOf(const TaskValue& value, const Place& place) {
+    if (!value.isNumber())
+        throw TaskError(place.path(), "expected a number" + found(value));
+    return value.number;
 }
 
-QString textOf(const Json& value, const std::string& path) {
-    if (!value.is_string())
-        throw TaskError(path, "expected a text" + found(value));
-    return QString::fromStdString(value.get_ref<const std::string&>());
+QString textOf(const TaskValue& value, const Place& place) {
+    if (!value.isText())
+        throw TaskError(place.path(), "expected a text" + found(value));
+    return QString::fromUtf8(value.text.data(), static_cast<qsizetype>(value.text.size()));
 }
 
-const Json& objectOf(const Json& value, const std::string& path) {
-    if (!value.is_object())
+const TaskValue& objectOf(const TaskValue& value, const std::string& path) {
+    if (!value.isObject())
         throw TaskError(path, "expected an object" + found(value));
     return value;
 }
 
-const Json& arrayOf(const Json& value, const std::string& path) {
-    if (!value.is_array())
+const TaskValue& arrayOf(const TaskValue& value, const std::string& path) {
+    if (!value.isArray())
         throw TaskError(path, "expected an array" + found(value));
     return value;
 }

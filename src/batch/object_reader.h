@@ -1,16 +1,18 @@
 #pragma once
 
 #include "batch/task_error.h"
+#include "batch/task_value.h"
 #include "runtime/numbers.h"
 
 #include <QString>
 
 #include <nlohmann/json.hpp>
 
+#include <array>
 #include <initializer_list>
 #include <optional>
-#include <set>
 #include <string>
+#include <string_view>
 
 namespace ferna::batch {
 
@@ -22,54 +24,67 @@ using Json = nlohmann::ordered_json;
 class ObjectReader {
 public:
     /// Refuses a value that is no object. `path` names it, empty for the task itself.
-    ObjectReader(const Json& value, std::string path);
+    ObjectReader(const TaskValue& value, std::string path);
     /// Refuses also an object that holds other keys than these.
-    ObjectReader(const Json& value, std::string path, std::initializer_list<const char*> keys);
+    ObjectReader(const TaskValue& value, std::string path, std::initializer_list<const char*> keys);
 
-    bool has(const char* key) const { return value_.contains(key); }
+    bool has(std::string_view key) const { return value_.find(key) != nullptr; }
     /// The value of a key that has been checked with `has`.
-    const Json& at(const char* key);
+    const TaskValue& at(std::string_view key);
     /// The same, refused where the key is missing.
-    const Json& required(const char* key);
-    std::string pathOf(const std::string& key) const;
+    const TaskValue& required(std::string_view key);
+    std::string pathOf(std::string_view key) const;
 
     /// A whole number of 16 bits between `least` and `most`.
-    Integer integer(const char* key, Integer preset, Integer least = -32768, Integer most = 32767);
-    Integer requiredInteger(const char* key);
-    double number(const char* key, double preset);
-    double requiredNumber(const char* key);
-    QString text(const char* key, const QString& preset = {});
+    Integer integer(std::string_view key, Integer preset, Integer least = -32768,
+                    Integer most = 32767);
+    Integer requiredInteger(std::string_view key);
+    double number(std::string_view key, double preset);
+    double requiredNumber(std::string_view key);
+    QString text(std::string_view key, const QString& preset = {});
     /// One of these texts; the key is required.
-    std::string oneOf(const char* key, std::initializer_list<const char*> choices);
+    std::string oneOf(std::string_view key, std::initializer_list<const char*> choices);
 
     // What is typed into a field of a form; empty without the key.
 
     /// A number as a text with the locale's decimal sign.
-    std::optional<QString> fieldText(const char* key);
+    std::optional<QString> fieldText(std::string_view key);
     /// The same for a field that is read as a whole number: it must fit 16 bits.
-    std::optional<QString> wholeFieldText(const char* key);
+    std::optional<QString> wholeFieldText(std::string_view key);
     /// A number of a list, `first`..`last`.
-    std::optional<int> listNumber(const char* key, int first, int last);
+    std::optional<int> listNumber(std::string_view key, int first, int last);
 
     /// Refuses keys that were not asked for.
     void finish() const;
 
 private:
-    std::optional<double> optionalNumber(const char* key);
+    std::optional<double> optionalNumber(std::string_view key);
 
-    const Json& value_;
+    const TaskValue* ask(std::string_view key);
+
+    static constexpr std::size_t mostKeys = 48; // that are told and asked for
+    const TaskValue& value_;
     std::string path_;
-    std::set<std::string, std::less<>> known_;
+    std::array<std::string_view, mostKeys> known_;
+    std::size_t knownKeys_ = 0;
+};
+
+/// Where a value stands: its key in an object or array of that path.
+struct Place {
+    std::string_view whole;
+    std::string_view key;
+
+    std::string path() const;
 };
 
 /// A value as a whole number of 16 bits between `least` and `most`.
-Integer integerOf(const Json& value, const std::string& path, Integer least = -32768,
+Integer integerOf(const TaskValue& value, const Place& place, Integer least = -32768,
                   Integer most = 32767);
-double numberOf(const Json& value, const std::string& path);
-QString textOf(const Json& value, const std::string& path);
+double numberOf(const TaskValue& value, const Place& place);
+QString textOf(const TaskValue& value, const Place& place);
 /// A value as an object.
-const Json& objectOf(const Json& value, const std::string& path);
+const TaskValue& objectOf(const TaskValue& value, const std::string& path);
 /// A value as an array.
-const Json& arrayOf(const Json& value, const std::string& path);
+const TaskValue& arrayOf(const TaskValue& value, const std::string& path);
 
 } // namespace ferna::batch

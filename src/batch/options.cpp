@@ -1,6 +1,7 @@
 #include "batch/options.h"
 
 #include "batch/report_files.h"
+#include "batch/schemas.h"
 
 #include <QCommandLineParser>
 
@@ -16,6 +17,13 @@ Leave badCall(const QString& what) {
 QString helpOf(const QCommandLineParser& parser) {
     return parser.helpText().replace(QStringLiteral("<executable_name>"),
                                      QStringLiteral("ferna-wsad"));
+}
+
+/// The schema of that name, or that there is none.
+Leave schemaLeave(const QString& name) {
+    if (const std::optional<std::string> schema = schemaOf(name))
+        return {*schema, 0};
+    return badCall(QStringLiteral("--schemat: expected zadanie or wynik and not \"%1\"").arg(name));
 }
 
 } // namespace
@@ -56,8 +64,13 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     const QCommandLineOption threads(QStringLiteral("watki"),
                                      QStringLiteral("Threads of a stream, 1 to 256."),
                                      QStringLiteral("N"), QStringLiteral("1"));
-    parser.addOptions({help, version, catalogue, decimal, report, result, lines, threads});
-    parser.addPositionalArgument(QStringLiteral("TASK.json"), QStringLiteral("The task."));
+    const QCommandLineOption schema(
+        QStringLiteral("schemat"),
+        QStringLiteral("Print the JSON schema of a task (zadanie) or of a result (wynik)."),
+        QStringLiteral("zadanie|wynik"));
+    parser.addOptions({help, version, catalogue, decimal, report, result, lines, threads, schema});
+    parser.addPositionalArgument(QStringLiteral("TASK.json"),
+                                 QStringLiteral("The task; - is standard input."));
 
     if (!parser.parse(QStringList{QStringLiteral("ferna-wsad")} + arguments))
         return badCall(parser.errorText());
@@ -65,6 +78,8 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         return Leave{helpOf(parser).toStdString(), 0};
     if (parser.isSet(version))
         return Leave{"ferna-wsad " FERNA_VERSION "\n", 0};
+    if (parser.isSet(schema))
+        return schemaLeave(parser.value(schema));
 
     Options options;
     options.catalogue = parser.value(catalogue);
@@ -100,7 +115,7 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         return badCall(QStringLiteral("--watki goes with --linie"));
     if (tasks.size() != 1)
         return badCall(QStringLiteral("expected one task file (see --help)"));
-    options.task = tasks.front();
+    options.task = tasks.front() == u"-" ? QStringLiteral("/dev/stdin") : tasks.front();
     return options;
 }
 

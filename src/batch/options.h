@@ -18,7 +18,7 @@ struct Options {
     QString result;                   ///< --wynik; standard output without it
     bool lines = false;               ///< --linie
     int threads = 1;                  ///< --watki
-    QString task;                     ///< the task file of a single run
+    QString task;                     ///< the task file of a single run; of "-" standard input's
 };
 
 /// Text to print and the exit code to leave with.

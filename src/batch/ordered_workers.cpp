@@ -24,7 +24,7 @@ public:
         try {
             std::string item;
             for (long number = take(item); number != 0; number = take(item))
-                hand(number, stream_.work(std::move(item), number));
+                hand(number, stream_.work(item, number));
         } catch (...) {
             fail(std::current_exception());
         }
@@ -69,14 +69,22 @@ private:
 
     void hand(long number, std::string result) {
         const std::lock_guard lock(mutex_);
-        finished_.emplace(number, std::move(result));
+        if (number == nextToDeliver_) { // mostly
+            deliver(result);
+        } else {
+            finished_.emplace(number, std::move(result));
+        }
         while (!finished_.empty() && finished_.begin()->first == nextToDeliver_) {
-            if (!failure_)
-                stream_.deliver(finished_.begin()->second);
+            deliver(finished_.begin()->second);
             finished_.erase(finished_.begin());
-            ++nextToDeliver_;
         }
         delivered_.notify_all();
+    }
+
+    void deliver(const std::string& result) {
+        if (!failure_)
+            stream_.deliver(result);
+        ++nextToDeliver_;
     }
 
     const Stream& stream_;

@@ -11,7 +11,7 @@ struct Stream {
     /// likes.
     std::function<bool(std::string& item)> next;
     /// The result of an item, which is the `number`-th, from 1. On any thread.
-    std::function<std::string(std::string item, long number)> work;
+    std::function<std::string(const std::string& item, long number)> work;
     /// Takes the results in the order of the items. One thread at a time.
     std::function<void(const std::string& result)> deliver;
     /// Ends a waiting `next`, from another thread; may be left out where `next` never waits long.

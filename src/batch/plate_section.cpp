@@ -47,7 +47,7 @@ const std::array<FieldKeys, PlateChecks> fieldKeys{
               {"S", false, Text3<7>}},
 };
 
-ObjectReader checkObject(const Json& value, const std::string& path, int check) {
+ObjectReader checkObject(const TaskValue& value, const std::string& path, int check) {
     switch (check) {
     case 1:
         return {value, path, {"bs", "ca", "S"}};
@@ -63,26 +63,17 @@ ObjectReader checkObject(const Json& value, const std::string& path, int check) 
     }
 }
 
-PlateTask::Check readCheck(const Json& value, const std::string& path, int check) {
+PlateTask::Check readCheck(const TaskValue& value, const std::string& path, int check) {
     ObjectReader object = checkObject(value, path, check);
-    struct Typed {
-        QString& (*field)(PlateFields&);
-        QString text;
-    };
-    std::vector<Typed> typed;
-    for (const FieldKey& key : fieldKeys[static_cast<std::size_t>(check - 1)])
-        if (const auto text =
-                key.whole ? object.wholeFieldText(key.key) : object.fieldText(key.key))
-            typed.push_back({key.field, *text});
-    std::optional<int> profile;
+    PlateTask::Check out{check, {}, {}};
+    const FieldKeys& keys = fieldKeys[static_cast<std::size_t>(check - 1)];
+    out.typed.reserve(keys.size());
+    for (const FieldKey& key : keys)
+        if (auto text = key.whole ? object.wholeFieldText(key.key) : object.fieldText(key.key))
+            out.typed.push_back({key.field, std::move(*text)});
     if (check == 4)
-        profile = object.listNumber("Nr_profilu", 1, static_cast<int>(profileNames().size()));
-    return {check, [typed, profile](PlateFields& fields) {
-                for (const Typed& one : typed)
-                    one.field(fields) = one.text;
-                if (profile)
-                    fields.cmbProfil = *profile - 1;
-            }};
+        out.profile = object.listNumber("Nr_profilu", 1, static_cast<int>(profileNames().size()));
+    return out;
 }
 
 /// The dialog of the user's plate steel, filled from the task; a refusal is followed by a cancel.
@@ -113,15 +104,24 @@ Json resultJson(const Stan& stan, const PlateForm& form) {
     Json results = Json::array();
     for (int n = 1; n <= PlateChecks; ++n)
         results.push_back(stan.raport.Spr_blachy(n));
-    return {{"Spr_blachy", results},
-            {"Fd_blachy", Double{stan.materialy.Fd_blachy}},
-            {"Grubosc", form.fields.Text4.toStdString()},
-            {"Wiersze_blachy", linesJson(stan.raport)}};
+    Json section;
+    section["Spr_blachy"] = std::move(results);
+    section["Fd_blachy"] = Double{stan.materialy.Fd_blachy};
+    section["Grubosc"] = form.fields.Text4.toStdString();
+    section["Wiersze_blachy"] = linesJson(stan.raport);
+    return section;
 }
 
 } // namespace
 
-PlateTask readPlateTask(const Json& value, const std::string& path) {
+void PlateTask::Check::type(PlateFields& fields) const {
+    for (const Typed& one : typed)
+        one.field(fields) = one.text;
+    if (profile)
+        fields.cmbProfil = *profile - 1;
+}
+
+PlateTask readPlateTask(const TaskValue& value, const std::string& path) {
     ObjectReader object(
         value, path,
         {"Nr_stali_blachy", "Blacha_nazwa", "Blacha_fd", "Blacha_t_max", "Grubosc", "Sprawdzenia"});
@@ -132,15 +132,16 @@ PlateTask readPlateTask(const Json& value, const std::string& path) {
     task.steel = {object.text("Blacha_nazwa"),
                   {object.fieldText("Blacha_fd").value_or(zero),
                    object.wholeFieldText("Blacha_t_max").value_or(zero)}};
-    if (object.has("Grubosc") && !object.at("Grubosc").is_null())
+    if (object.has("Grubosc") && !object.at("Grubosc").isNull())
         task.Grubosc = object.fieldText("Grubosc");
     if (!object.has("Sprawdzenia"))
         return task;
     ObjectReader checks(object.at("Sprawdzenia"), object.pathOf("Sprawdzenia"),
                         {"1", "2", "3", "4", "5", "6", "7", "8"});
-    for (const auto& item : object.at("Sprawdzenia").items())
-        task.checks.push_back(
-            readCheck(item.value(), checks.pathOf(item.key()), std::stoi(item.key())));
+    for (const TaskValue& part : object.at("Sprawdzenia").parts()) {
+        const std::string number(part.key);
+        task.checks.push_back(readCheck(part, checks.pathOf(number), std::stoi(number)));
+    }
     return task;
 }
 

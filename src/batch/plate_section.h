@@ -6,16 +6,24 @@
 #include "plate/plate_form.h"
 #include "plate/plate_report_lines.h"
 
-#include <functional>
+#include <optional>
 #include <vector>
 
 namespace ferna::batch {
 
 /// The key "Blacha" of a task: what the engineer types and presses in the plate form, in order.
 struct PlateTask {
+    /// What is typed for a check before its command.
     struct Check {
+        struct Typed {
+            QString& (*field)(PlateFields&);
+            QString text;
+        };
+        void type(PlateFields& fields) const;
+
         int check; ///< 1..8
-        std::function<void(PlateFields&)> type;
+        std::vector<Typed> typed;
+        std::optional<int> profile; ///< of check 4, from 1
     };
     std::string path; ///< key of the section
     int cmbStalb = -1;
@@ -30,7 +38,7 @@ struct PlateSectionResult : SectionResult {
 };
 
 /// Throws TaskError.
-PlateTask readPlateTask(const Json& value, const std::string& path = "Blacha");
+PlateTask readPlateTask(const TaskValue& value, const std::string& path = "Blacha");
 
 /// Opens the form on the results in the state, chooses the grade and leaves its list, runs the
 /// checks in their order, types the thickness and confirms. A run-time error ends the run where it

@@ -25,16 +25,20 @@ struct Destination {
     OutputFiles& outputs;
 };
 
+ReportModel modelOf(const ComputedTask& done) {
+    return reportModel(done.task.stan, done.raport);
+}
+
 QString writeText(const ComputedTask& done, const Destination& to) {
-    textReport(done.task.stan, done.raport).commit(to.file);
+    textReport(modelOf(done)).commit(to.file);
     return {};
 }
 
 /// The print commands; their pictures go into the same folder, under names of their own.
 QString writeCommands(const ComputedTask& done, const Destination& to) {
     const QString folder = QFileInfo(to.file).absolutePath();
-    Buduj_wyd(done.task.stan, done.raport, to.pictures); // saves the anchor's sketch too
-    WydWriter writer(done.task.stan, done.raport, folder, picturePrefix(to.file));
+    Buduj_wyd(modelOf(done), to.pictures); // saves the anchor's sketch too
+    WydWriter writer(modelOf(done), folder, picturePrefix(to.file));
     writer.body();
     copyPictures(writer.pictures(), to.pictures, folder, picturePrefix(to.file));
     writer.file().commit(to.file);
@@ -49,7 +53,7 @@ QString writePages(const ComputedTask& done, const Destination& to) {
     const QString made = to.pictures + QStringLiteral("/strony");
     QDir(made).removeRecursively();
     QDir().mkpath(made);
-    Buduj_wyd(done.task.stan, done.raport, to.pictures);
+    Buduj_wyd(modelOf(done), to.pictures);
     writeJob(to.pictures, RenderMode::ScreenPicture, done.task.stan.opcje.Nr_strony);
     runRenderer(to.pictures, {QString::fromLatin1(option),
                               made + u'/' + stem + to.file.mid(to.file.lastIndexOf(u'.'))});
@@ -64,12 +68,10 @@ QString writePages(const ComputedTask& done, const Destination& to) {
 
 /// The RTF report and the pictures that its text links to.
 QString writeRtf(const ComputedTask& done, const Destination& to) {
-    Stan stan = done.task.stan; // the writer counts pages on
-    Raport raport = done.raport;
-    RtfWriter writer(stan, raport, done.now);
-    writer.document();
-    if (stan.raport.Liczba_wierszy_kotwy >= 1)
-        saveAnchorSketch(to.pictures, stan.raport.Typ_szkicu_kotwy);
+    const ReportModel report = modelOf(done);
+    RtfWriter writer = rtfReport(report, done.task.stan.opcje.Tryb_RTF, done.now);
+    if (report.anchor)
+        saveAnchorSketch(to.pictures, report.anchor->sketch);
     const RtfPlace place = placeOfRtfPictures(to.file, writer.pictures(), to.pictures);
     if (place.isOwn)
         QDir().mkdir(place.pictures);
@@ -84,7 +86,7 @@ QString writeRtf(const ComputedTask& done, const Destination& to) {
 }
 
 QString writeWordDocument(const ComputedTask& done, const Destination& to) {
-    writeDocument(done.task.stan, done.raport, to.pictures, to.file);
+    writeDocument(modelOf(done), to.pictures, to.file);
     return {};
 }
 

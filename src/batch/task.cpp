@@ -44,7 +44,7 @@ void readSteel(ObjectReader& task, Task& out) {
     if (!task.has("Stal"))
         return;
     ObjectReader steel(task.at("Stal"), "Stal");
-    const auto single = [&steel](const char* key) {
+    const auto single = [&steel](std::string_view key) {
         const double value = steel.number(key, 0);
         if (!std::isfinite(static_cast<Single>(value)))
             throw TaskError(steel.pathOf(key), "expected a number that fits 32 bits");
@@ -61,15 +61,15 @@ void readSteel(ObjectReader& task, Task& out) {
 }
 
 void readAnchors(ObjectReader& task, Task& out) {
-    const Json& anchors = arrayOf(task.required("Kotwy"), "Kotwy");
-    if (anchors.size() > MaxAnchors)
+    const TaskValue& anchors = arrayOf(task.required("Kotwy"), "Kotwy");
+    if (anchors.count > MaxAnchors)
         throw TaskError("Kotwy", "expected at most " + std::to_string(MaxAnchors)
-                                     + " anchors, found " + std::to_string(anchors.size()));
+                                     + " anchors, found " + std::to_string(anchors.count));
     Plyta_i_kotwy& plate = out.stan.plyta;
-    for (std::size_t i = 0; i < anchors.size(); ++i) {
-        const std::string path = element("Kotwy", i);
-        ObjectReader anchor(anchors[i], path);
-        const auto coordinate = [&](const char* key) -> Integer {
+    std::size_t i = 0;
+    for (const TaskValue& part : anchors.parts()) {
+        ObjectReader anchor(part, element("Kotwy", i));
+        const auto coordinate = [&](std::string_view key) -> Integer {
             const double mm = anchor.requiredNumber(key);
             if (!(std::fabs(mm) <= 32767))
                 throw TaskError(anchor.pathOf(key),
@@ -78,7 +78,7 @@ void readAnchors(ObjectReader& task, Task& out) {
         };
         const Integer x = coordinate("x");
         const Integer y = coordinate("y");
-        plate.Liczba_srub = CInt(static_cast<int>(i) + 1);
+        plate.Liczba_srub = CInt(static_cast<int>(++i));
         storeAnchorAt(plate, plate.Liczba_srub, x, y, anchor.requiredInteger("fi"));
         anchor.finish();
     }
@@ -86,15 +86,16 @@ void readAnchors(ObjectReader& task, Task& out) {
 }
 
 void readCases(ObjectReader& task, Task& out) {
-    const Json& cases = arrayOf(task.required("Przypadki"), "Przypadki");
+    const TaskValue& cases = arrayOf(task.required("Przypadki"), "Przypadki");
     const std::size_t most = out.column ? MaxCases - 1 : MaxCases;
-    if (cases.empty() || cases.size() > most)
+    if (cases.count == 0 || cases.count > most)
         throw TaskError("Przypadki", "expected 1 to " + std::to_string(most)
                                          + (out.column ? " cases and a column" : " cases")
-                                         + ", found " + std::to_string(cases.size()));
-    for (std::size_t r = 0; r < cases.size(); ++r) {
-        ObjectReader loads(cases[r], element("Przypadki", r));
-        LoadRow<QString>& row = out.fields.loads.at(r);
+                                         + ", found " + std::to_string(cases.count));
+    std::size_t r = 0;
+    for (const TaskValue& part : cases.parts()) {
+        ObjectReader loads(part, element("Przypadki", r));
+        LoadRow<QString>& row = out.fields.loads.at(r++);
         row.N = general(loads.requiredNumber("N"));
         row.M1 = general(loads.requiredNumber("M1"));
         row.M2 = general(loads.requiredNumber("M2"));
@@ -102,12 +103,12 @@ void readCases(ObjectReader& task, Task& out) {
         row.Vy = general(loads.requiredNumber("Vy"));
         loads.finish();
     }
-    out.stan.obciazenia.Liczba_przyp = CInt(static_cast<int>(cases.size()));
+    out.stan.obciazenia.Liczba_przyp = CInt(static_cast<int>(cases.count));
 }
 
 } // namespace
 
-Task readTask(const Json& json) {
+Task readTask(const TaskValue& json) {
     Task out;
     ObjectReader task(json, "");
     readOptions(task, out);

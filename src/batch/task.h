@@ -24,14 +24,11 @@ struct Task {
     std::optional<AnchorTask> anchor; ///< "Kotwa"
 };
 
-/// Text to JSON. Throws TaskError where it is no JSON or a key stands twice in an object.
-Json parsed(std::string_view text);
-
 /// JSON to a task. Throws TaskError for what the companion refuses: unknown keys, wrong types,
 /// missing keys, list numbers outside their lists, more than 20 anchors or 6 cases, whole numbers
 /// beyond 16 bits. Everything else goes to the calculation as if typed. Numbers become field texts
 /// with the decimal sign of the process.
-Task readTask(const Json& json);
+Task readTask(const TaskValue& json);
 
 /// The line (from 1) of a task's text on which the value of a key path stands, 1 where it is not
 /// found.

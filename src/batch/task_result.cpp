@@ -2,109 +2,171 @@
 #include "batch/note_section.h"
 #include "batch/task_run.h"
 
-#include <charconv>
-#include <string_view>
-
 namespace ferna::batch {
 
 namespace {
 
-/// The shortest decimal that reads back to the same Single.
-Json single(Single value) {
-    char digits[32];
-    const auto end = std::to_chars(digits, digits + sizeof digits, value).ptr;
-    Double shortest = 0;
-    std::from_chars(digits, end, shortest);
-    return shortest;
+void texts(JsonWriter& json, std::string_view key, int first, int last, const auto& textAt) {
+    json.key(key);
+    json.beginArray();
+    for (int i = first; i <= last; ++i)
+        json.text(textAt(i));
+    json.endArray();
 }
 
-Json text(const QString& value) {
-    return value.toStdString();
+void single(JsonWriter& json, std::string_view key, Single value) {
+    json.key(key);
+    json.single(value);
 }
 
-Json materialsOf(const Stan& stan) {
+void whole(JsonWriter& json, std::string_view key, int value) {
+    json.key(key);
+    json.whole(value);
+}
+
+void boolean(JsonWriter& json, std::string_view key, bool value) {
+    json.key(key);
+    json.boolean(value);
+}
+
+void text(JsonWriter& json, std::string_view key, const QString& value) {
+    json.key(key);
+    json.text(value);
+}
+
+void writeMaterials(JsonWriter& json, const Stan& stan) {
     const Materialy& m = stan.materialy;
-    return {{"Fd_kotwy", single(m.Fd_kotwy)},
-            {"Fd2_kotwy", single(m.Fd2_kotwy)},
-            {"Fv_kotwy", single(m.Fv_kotwy)},
-            {"Klasa_stali", text(m.Klasa_stali)},
-            {"Nazwa_betonu", text(m.Nazwa_betonu)},
-            {"Rb_betonu", single(m.Rb_betonu)},
-            {"Eb_betonu", single(m.Eb_betonu)},
-            {"Wsp_n_val", single(stan.opcje.Wsp_n_val)},
-            {"Mnoznik_dlugosci", single(m.Mnoznik_dlugosci)},
-            {"Wsp_dlugosci", single(m.Wsp_dlugosci)}};
+    json.key("Materialy");
+    json.beginObject();
+    single(json, "Fd_kotwy", m.Fd_kotwy);
+    single(json, "Fd2_kotwy", m.Fd2_kotwy);
+    single(json, "Fv_kotwy", m.Fv_kotwy);
+    text(json, "Klasa_stali", m.Klasa_stali);
+    text(json, "Nazwa_betonu", m.Nazwa_betonu);
+    single(json, "Rb_betonu", m.Rb_betonu);
+    single(json, "Eb_betonu", m.Eb_betonu);
+    single(json, "Wsp_n_val", stan.opcje.Wsp_n_val);
+    single(json, "Mnoznik_dlugosci", m.Mnoznik_dlugosci);
+    single(json, "Wsp_dlugosci", m.Wsp_dlugosci);
+    json.endObject();
 }
 
-Json caseOf(const ComputedTask& done, int c) {
+/// The line that the search has found; a whole plate has none.
+void writeLine(JsonWriter& json, const CaseTrace& trace) {
+    const auto value = [&](std::string_view key, Double number) {
+        json.key(key);
+        if (trace.wholePlate)
+            json.null();
+        else
+            json.number(number);
+    };
+    value("Beta", trace.Beta);
+    value("C_linii", trace.C_linii);
+    value("Wsp_k", trace.Wsp_k);
+}
+
+void writeCase(JsonWriter& json, const ComputedTask& done, int c) {
     const Stan& stan = done.task.stan;
     const Wyniki& r = stan.wyniki;
     const CaseTrace& trace = done.traces.at(static_cast<std::size_t>(c));
-    Json lines = Json::array();
-    Json marks = Json::array();
-    for (int i = trace.firstLine; i <= trace.lastLine; ++i) {
-        lines.push_back(text(r.Wiersze_wynikow(i)));
-        marks.push_back(r.Znak_wiersza(i));
-    }
-    Json stresses = Json::array();
+    json.beginObject();
+    boolean(json, "Przyp_policzony", trace.wholePlate);
+    whole(json, "Typ_strefy_przyp", r.Typ_strefy_przyp(c));
+    whole(json, "Klasa_znaku", stan.obciazenia.Klasa_znaku(c));
+    single(json, "Przec_a", r.Przec_a(c));
+    single(json, "Przec_b", r.Przec_b(c));
+    single(json, "Przec_c", r.Przec_c(c));
+    single(json, "Przec_d", r.Przec_d(c));
+    single(json, "Sigma_b", r.Sigma_b(c));
+    json.key("Sigma_kotwy");
+    json.beginArray();
     for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
-        stresses.push_back(single(r.Sigma_kotwy(i)(c)));
-    const auto line = [&trace](Double value) { return trace.wholePlate ? Json() : Json(value); };
-    const bool zoneLine = done.reportReady && !trace.wholePlate;
-    return {{"Przyp_policzony", trace.wholePlate},
-            {"Typ_strefy_przyp", r.Typ_strefy_przyp(c)},
-            {"Klasa_znaku", stan.obciazenia.Klasa_znaku(c)},
-            {"Przec_a", single(r.Przec_a(c))},
-            {"Przec_b", single(r.Przec_b(c))},
-            {"Przec_c", single(r.Przec_c(c))},
-            {"Przec_d", single(r.Przec_d(c))},
-            {"Sigma_b", single(r.Sigma_b(c))},
-            {"Sigma_kotwy", std::move(stresses)},
-            {"Beta", line(trace.Beta)},
-            {"C_linii", line(trace.C_linii)},
-            {"Wsp_k", line(trace.Wsp_k)},
-            {"Wiersze", std::move(lines)},
-            {"Znaki", std::move(marks)},
-            {"Wiersz_strefy", zoneLine ? text(done.raport.Wiersze_strefy(c - 1)) : Json()}};
+        json.single(r.Sigma_kotwy(i)(c));
+    json.endArray();
+    writeLine(json, trace);
+    texts(json, "Wiersze", trace.firstLine, trace.lastLine,
+          [&](int i) -> const QString& { return r.Wiersze_wynikow(i); });
+    json.key("Znaki");
+    json.beginArray();
+    for (int i = trace.firstLine; i <= trace.lastLine; ++i)
+        json.whole(r.Znak_wiersza(i));
+    json.endArray();
+    json.key("Wiersz_strefy");
+    if (done.reportReady && !trace.wholePlate)
+        json.text(done.raport.Wiersze_strefy(c - 1));
+    else
+        json.null();
+    json.endObject();
 }
 
-void addResults(Json& result, const ComputedTask& done) {
+void writeResults(JsonWriter& json, const ComputedTask& done) {
     const Stan& stan = done.task.stan;
     const Wyniki& r = stan.wyniki;
-    result["Materialy"] = materialsOf(stan);
-    result["Fi_max"] = stan.plyta.Fi_max;
-    Json& cases = result["Przypadki"] = Json::array();
+    writeMaterials(json, stan);
+    whole(json, "Fi_max", stan.plyta.Fi_max);
+    json.key("Przypadki");
+    json.beginArray();
     for (int c = 1; c <= stan.obciazenia.Liczba_przyp; ++c)
-        cases.push_back(caseOf(done, c));
-    result["Sigma_b_max"] = single(r.Sigma_b_max);
-    result["Sigma_s_max"] = single(r.Sigma_s_max);
-    result["Sila_kotwy_max"] = single(r.Sila_kotwy_max);
-    result["Nr_kotwy_max"] = r.Nr_kotwy_max;
-    result["Kotwy_OK"] = r.Kotwy_OK != False;
-    Json& ratios = result["Tekst_przekroczenia"] = Json::array();
-    for (int i = 1; i <= r.Liczba_przekroczen; ++i)
-        ratios.push_back(text(r.Tekst_przekroczenia(i)));
-    Json& places = result["Wspolrzedne"] = Json::array();
-    for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
-        places.push_back({single(stan.plyta.X_kotwy(i)), single(stan.plyta.Y_kotwy(i))});
+        writeCase(json, done, c);
+    json.endArray();
+    single(json, "Sigma_b_max", r.Sigma_b_max);
+    single(json, "Sigma_s_max", r.Sigma_s_max);
+    single(json, "Sila_kotwy_max", r.Sila_kotwy_max);
+    whole(json, "Nr_kotwy_max", r.Nr_kotwy_max);
+    boolean(json, "Kotwy_OK", r.Kotwy_OK != False);
+    texts(json, "Tekst_przekroczenia", 1, r.Liczba_przekroczen,
+          [&](int i) -> const QString& { return r.Tekst_przekroczenia(i); });
+    json.key("Wspolrzedne");
+    json.beginArray();
+    for (int i = 1; i <= stan.plyta.Liczba_srub; ++i) {
+        json.beginArray();
+        json.single(stan.plyta.X_kotwy(i));
+        json.single(stan.plyta.Y_kotwy(i));
+        json.endArray();
+    }
+    json.endArray();
+}
+
+void writeMessages(JsonWriter& json, const ScriptedDialogs& dialogs) {
+    json.key("Komunikaty");
+    json.beginArray();
+    for (const ScriptedDialogs::Box& box : dialogs.messages) {
+        json.beginObject();
+        text(json, "tytul", box.title);
+        text(json, "tekst", box.text);
+        json.endObject();
+    }
+    json.endArray();
 }
 
 } // namespace
 
-Json resultOf(const ComputedTask& done) {
-    Json result = Json::object();
-    Json& messages = result["Komunikaty"] = Json::array();
-    for (const ScriptedDialogs::Box& box : done.dialogs.messages)
-        messages.push_back({{"tytul", text(box.title)}, {"tekst", text(box.text)}});
-    result["Blad"] = done.failure;
-    result["Obliczone"] = done.computed;
-    result["Przerwij_obliczenia"] = done.solver.Przerwij_obliczenia;
+std::string resultText(const ComputedTask& done, JsonWriter::Layout layout) {
+    JsonWriter json(layout);
+    json.beginObject();
+    writeMessages(json, done.dialogs);
+    json.key("Blad");
+    json.value(done.failure);
+    boolean(json, "Obliczone", done.computed);
+    boolean(json, "Przerwij_obliczenia", done.solver.Przerwij_obliczenia);
     if (done.computed)
-        addResults(result, done);
-    result.update(done.sections);
-    result["Rownowaga"] = equilibriaJson(done.equilibria);
-    result["Uwagi"] = notesJson(notes::notesOf(done.record));
-    return result;
+        writeResults(json, done);
+    if (done.sections.is_object()) {
+        for (const auto& [key, section] : done.sections.get_ref<const Json::object_t&>()) {
+            json.key(key);
+            json.value(section);
+        }
+    }
+    json.key("Rownowaga");
+    writeEquilibria(json, done.equilibria);
+    json.key("Uwagi");
+    json.value(notesJson(notes::notesOf(done.record)));
+    json.endObject();
+    return json.written();
+}
+
+Json resultOf(const ComputedTask& done) {
+    return Json::parse(resultText(done, JsonWriter::Layout::OneLine));
 }
 
 Json resultOfRefused(const std::string& why) {

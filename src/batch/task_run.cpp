@@ -2,7 +2,6 @@
 
 #include "batch/field_keys.h"
 #include "command/calculation.h"
-#include "design/language.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
@@ -26,7 +25,7 @@ public:
     void drawPlate(Stan& stan, const InputFields& fields) override {
         if (!options_.pictures.isEmpty())
             savePlatePicture(stan, fields, done_.dialogs,
-                             options_.pictures + QStringLiteral("/Ferrob.bmp"));
+                             options_.pictures + u'/' + platePictureFile);
     }
 
     int casesEnded() const { return casesEnded_; }
@@ -105,13 +104,9 @@ void prepareReport(ComputedTask& done, const RunOptions& options) {
 } // namespace
 
 ComputedTask run(Task task, const RunOptions& options) {
-    ComputedTask done;
-    done.task = std::move(task);
-    done.now = options.now;
+    ComputedTask done(std::move(task), options.now);
     Stan& stan = done.task.stan;
-    Czytaj_teksty(stan, options.catalogue.isEmpty()
-                            ? options.dataFolder + u'/' + catalogueFile(stan.opcje.Nr_jezyka)
-                            : options.catalogue);
+    stan.Teksty = options.catalogues->texts(stan.opcje.Nr_jezyka);
     const bool columnKept =
         !done.task.column
         || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "analysis/stan_przypadku.h"
+#include "batch/json_writer.h"
 #include "batch/task.h"
 #include "command/entered_equilibria.h"
+#include "design/language.h"
 #include "notes/notes.h"
 #include "report/report_lines.h"
 
 #include <QDateTime>
 
+#include <memory>
 #include <optional>
 
 namespace ferna::batch {
@@ -18,6 +21,8 @@ struct RunOptions {
     QString dataFolder;    ///< where the delivered catalogues are
     QDateTime now;         ///< date and time of the title block
     QString pictures = {}; ///< folder for the pictures of the report; empty: none are made
+    std::shared_ptr<CatalogueStock> catalogues =
+        std::make_shared<CatalogueStock>(dataFolder, catalogue); ///< as read for all tasks
 };
 
 /// What the solver leaves behind a case and the next case overwrites.
@@ -32,18 +37,20 @@ struct CaseTrace {
 
 /// A task with everything that its computation left behind.
 struct ComputedTask {
+    ComputedTask(Task&& asked, QDateTime moment) : task(std::move(asked)), now(std::move(moment)) {}
+
     Task task;
+    QDateTime now; ///< date and time of the title block
     Stan_przypadku solver;
     Raport raport;
     ScriptedDialogs dialogs;
     EnteredEquilibria equilibria; ///< of the task as typed
     notes::Record record;         ///< what the notes go by
-    QDateTime now;                ///< date and time of the title block
     Json failure;          ///< the run-time error that stopped the run, null where there was none
     bool computed = false; ///< false where a validation ended the command
     bool reportReady = false;                   ///< the lines of the report stand
     std::array<CaseTrace, MaxCases + 1> traces; ///< by case
-    Json sections = Json::object();             ///< results of "Slup", "Blacha", "Kotwa"
+    Json sections;                              ///< results of "Slup", "Blacha", "Kotwa"
 };
 
 /// Computes a task as "Oblicz" would and prepares the lines of its report.
@@ -51,7 +58,10 @@ struct ComputedTask {
 /// into the result.
 ComputedTask run(Task task, const RunOptions& options);
 
-/// The result of a computed task, or of a refused one.
+/// The result of a computed task as it is written.
+std::string resultText(const ComputedTask& done, JsonWriter::Layout layout);
+
+/// The same as a value.
 Json resultOf(const ComputedTask& done);
 
 /// The result line of a task that the companion itself refuses.

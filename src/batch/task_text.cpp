@@ -1,6 +1,7 @@
 #include "batch/task.h"
 
 #include <iterator>
+#include <set>
 #include <vector>
 
 namespace ferna::batch {
@@ -10,10 +11,10 @@ namespace {
 /// Keeps the key path of the value that the parser is at, and refuses a key that stands twice.
 class PathKeeper {
 public:
-    using Event = Json::parse_event_t;
+    using Event = nlohmann::json::parse_event_t;
 
     /// To be called at every event. Returns the path where a value begins, else null.
-    const std::string* at(Event event, const Json& value) {
+    const std::string* at(Event event, const nlohmann::json& value) {
         switch (event) {
         case Event::key:
             key(value.get_ref<const std::string&>());
@@ -98,29 +99,13 @@ private:
 
 } // namespace
 
-Json parsed(std::string_view text) {
-    PathKeeper path;
-    try {
-        return Json::parse(text, [&path](int /*depth*/, Json::parse_event_t event, Json& value) {
-            path.at(event, value);
-            return true;
-        });
-    } catch (const Json::exception& failure) {
-        const std::string what = failure.what();
-        const std::size_t behindTheId = what.find("] ");
-        throw TaskError(
-            "", "expected JSON: "
-                    + (behindTheId == std::string::npos ? what : what.substr(behindTheId + 2)));
-    }
-}
-
 int lineOf(std::string_view text, const std::string& path) {
     int line = 1;
     int found = 1;
     bool known = path.empty();
     PathKeeper keeper;
     try {
-        const auto note = [&](int /*depth*/, Json::parse_event_t event, Json& value) {
+        const auto note = [&](int /*depth*/, PathKeeper::Event event, nlohmann::json& value) {
             if (const std::string* const at = keeper.at(event, value);
                 at != nullptr && *at == path && !known) {
                 found = line;
@@ -128,12 +113,13 @@ int lineOf(std::string_view text, const std::string& path) {
             }
             return true;
         };
-        const Json whole = Json::parse(CountingIterator(text.data(), &line),
-                                       CountingIterator(text.data() + text.size(), &line), note);
+        const nlohmann::json whole =
+            nlohmann::json::parse(CountingIterator(text.data(), &line),
+                                  CountingIterator(text.data() + text.size(), &line), note);
     } catch (const TaskError&) { // a key that stands twice ends the reading at its second place
         if (!known)
             found = line;
-    } catch (const Json::exception&) {
+    } catch (const nlohmann::json::exception&) {
         return line;
     }
     // A missing key has no line of its own: that of the object it belongs to.

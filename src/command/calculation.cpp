@@ -17,6 +17,16 @@ struct Refusal {
     int loadCase = 0; ///< that was refused for its axial force
 };
 
+/// `inControl` of a field of the load table, whose name is put together only where it is needed.
+template <typename Take>
+decltype(auto) inRow(const char* control, std::size_t row, const Take& take) {
+    try {
+        return take();
+    } catch (const RunTimeError&) {
+        return inControl(QString::fromLatin1(control).arg(row), take);
+    }
+}
+
 Single number(const QString& text, const QString& control) {
     return inControl(control, [&] { return CSng(text); });
 }
@@ -109,29 +119,28 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
     const LoadRow<QString>& typed = fields.loads.at(row);
     // A load and what the configuration keeps of it.
     const auto load = [&](auto& place, int kept, const QString& text, const char* control) {
-        inControl(QString::fromLatin1(control).arg(row), [&] {
+        inRow(control, row, [&] {
             place = CSng(text);
             loads.Tablica_obc(kept)(c) = tenths(CSng(place));
         });
     };
     loads.Pierwsza_proba(c) = true;
     load(loads.Sila_N(c), 1, typed.N, "Text6_%1");
-    const QString title = QStringLiteral("Schemat nr ") + Format(c, u"###");
+    const auto title = [c] { return QStringLiteral("Schemat nr ") + Format(c, u"###"); };
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
-                      title, c};
+                      title(), c};
     if (loads.Sila_N(c) == 0)
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
-                      title, c};
-    loads.Sila_N_kG(c) = inControl(QStringLiteral("Text6_%1").arg(row),
-                                   [&] { return forceInKilograms(loads.Sila_N(c)); });
+                      title(), c};
+    loads.Sila_N_kG(c) = inRow("Text6_%1", row, [&] { return forceInKilograms(loads.Sila_N(c)); });
 
     load(loads.Moment_M1(c), 2, typed.M1, "Text7_%1");
     load(loads.Moment_M2(c), 3, typed.M2, "Text8_%1");
     load(loads.Sila_Vx(c), 4, typed.Vx, "Text5_%1");
     load(loads.Sila_Vy(c), 5, typed.Vy, "Text10_%1");
-    loads.Klasa_znaku(c) = signClass(CSng(loads.Moment_M1(c)), CSng(loads.Moment_M2(c)));
+    loads.Klasa_znaku(c) = signClass(loads.Moment_M1(c), loads.Moment_M2(c));
 }
 
 /// A diameter off the series leaves the earlier area.

@@ -68,17 +68,6 @@ bool canBeSaved(Single Wsp_n_val) {
            && held <= std::numeric_limits<Integer>::max();
 }
 
-RendererReply readRendererReply(const QString& path) {
-    FieldReader file(path);
-    RendererReply reply;
-    file.nextLine();
-    reply.printed = file.single();
-    if (file.atLineEnd())
-        file.nextLine();
-    reply.nextPage = file.integer();
-    return reply;
-}
-
 void takeNextPage(Stan& stan, const RendererReply& reply) {
     if (reply.printed > 0)
         stan.opcje.Nr_strony = reply.nextPage;

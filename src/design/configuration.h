@@ -1,18 +1,9 @@
 #pragma once
 
 #include "design/stan.h"
+#include "protocol/reply.h"
 
 namespace ferna {
-
-/// What the renderer reported as its last act.
-struct RendererReply {
-    Single printed = 0;   ///< above 0: pages were made
-    Integer nextPage = 0; ///< number of the next free page
-};
-
-/// The reply file of the renderer: two values, separated by a comma or a line end.
-/// Errors of the field reader.
-RendererReply readRendererReply(const QString& path);
 
 /// True where the configuration can hold the ratio n: it keeps whole hundredths, as a number of 16
 /// bits, so n from -327.68 up to below 327.68.

@@ -14,16 +14,15 @@ struct Accuracy<double> {
     static constexpr double enough = 1e-15;
     static constexpr double nearby = 1e-9; ///< below it an error that halves no more is rounding
     static constexpr double noise = 1e-14; ///< of an energy
+    static constexpr int mostTrials = 60;
 };
 template <>
 struct Accuracy<Quad> {
     static constexpr double enough = 1e-18;
     static constexpr double nearby = 1e-16;
     static constexpr double noise = 1e-30;
+    static constexpr int mostTrials = 300;
 };
-
-/// Evaluations of one search.
-constexpr int mostTrials = 120;
 
 /// A plane with what the section answers to it.
 template <typename Number>
@@ -54,8 +53,8 @@ public:
 
     Trial<Number> from(const CornerPlane<Number>& start) noexcept {
         Trial<Number> now = at(start);
-        const int last = steps_ + mostTrials;
-        while (now.size > Accuracy<Number>::enough && steps_ < last) {
+        const int last = steps_ + Accuracy<Number>::mostTrials;
+        while (now.size > Accuracy<Number>::enough && steps_ < std::min(last, mostSteps)) {
             Triple<Number> way;
             if (!solve(now.response.stiffness, now.error, way))
                 break;
@@ -121,7 +120,7 @@ private:
         Number atLow = slope;
         Number high = 1;
         Number atHigh = slopeAt(to);
-        for (int cut = 0; cut < 40 && atHigh < 0; ++cut) {
+        for (int cut = 0; cut < 40 && atHigh < 0 && steps_ < mostSteps; ++cut) {
             Number share = (low * atHigh - high * atLow) / (atHigh - atLow);
             if (!(share > low && share < high))
                 break;

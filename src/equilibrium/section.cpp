@@ -11,7 +11,7 @@ namespace {
 template <typename Number>
 constexpr Number leastPivot = 1e-14;
 template <>
-constexpr Quad leastPivot<Quad> = 1e-30;
+constexpr Quad leastPivot<Quad> = 1e-33;
 
 } // namespace
 

@@ -10,6 +10,10 @@ namespace ferna::equilibrium {
 
 inline constexpr int mostAnchors = 20;
 
+/// Evaluations of the section after which the search for a plane is given up. It has never come
+/// near: ordinary loads take 10 at most, the worst of a million strange ones some hundreds.
+inline constexpr int mostSteps = 1000;
+
 // Computed in doubles; the few planes that these cannot hold finely enough, which press on a sliver
 // of the plate or pull anchors far stiffer than it, are finished in 113 bits.
 #if LDBL_MANT_DIG >= 113

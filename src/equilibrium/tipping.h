@@ -20,6 +20,9 @@ public:
     /// Finds the turns that the anchors leave free.
     void prepare(const Section& section) noexcept;
 
+    /// False where the anchors hold the plate against every turn.
+    bool leavesTurns() const noexcept { return count_ > 0; }
+
     /// True where a load of the size 1 has an equilibrium. A load that anchors carry alone, along
     /// an axis about which the plate is free, is on the verge: `load` is moved by 1e-12 to the safe
     /// side.

@@ -1,6 +1,7 @@
 #include "input/anchor_layout.h"
 
 #include "runtime/format.h"
+#include "runtime/line_of_text.h"
 
 #include <cstdlib>
 
@@ -84,14 +85,19 @@ void addAnchors(Stan& stan, Adding way, const std::function<NewAnchor()>& ask) {
 }
 
 QString Lista_srub(Stan& stan) {
-    QString list;
+    LineOfText list;
     for (int i = 1; i <= stan.plyta.Liczba_srub; ++i) {
         QString& line = stan.raport.Wiersze_srub(i);
-        line = general(i) + QStringLiteral(".   M") + general(stan.plyta.Fi_kotwy(i))
-               + QStringLiteral("  x=") + general(stan.plyta.X_kotwy_mm(i))
-               + QStringLiteral(" mm  y=") + general(stan.plyta.Y_kotwy_mm(i))
-               + QStringLiteral(" mm");
-        list += line + u'\n';
+        line = LineOfText()
+                   .general(i)
+                   .add(u".   M")
+                   .general(int{stan.plyta.Fi_kotwy(i)})
+                   .add(u"  x=")
+                   .general(stan.plyta.X_kotwy_mm(i))
+                   .add(u" mm  y=")
+                   .general(stan.plyta.Y_kotwy_mm(i))
+                   .add(u" mm");
+        list.add(line).add(u"\n");
     }
     return list;
 }

@@ -8,7 +8,7 @@
 #include <bit>
 #include <cmath>
 
-namespace ferna::renderer {
+namespace ferna::pages {
 
 namespace {
 
@@ -284,4 +284,4 @@ QByteArray emfOfAllPages(const Report& report) {
     return writer.finish();
 }
 
-} // namespace ferna::renderer
+} // namespace ferna::pages

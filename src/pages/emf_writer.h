@@ -7,7 +7,7 @@
 #include <compare>
 #include <map>
 
-namespace ferna::renderer {
+namespace ferna::pages {
 
 /// Writes an enhanced metafile record by record; one unit is 0.01 mm.
 class EmfWriter {
@@ -69,4 +69,4 @@ QByteArray emfOfPage(const Report& report, const Page& page);
 /// All pages under one another, as the screen shows them.
 QByteArray emfOfAllPages(const Report& report);
 
-} // namespace ferna::renderer
+} // namespace ferna::pages

@@ -4,7 +4,7 @@
 
 #include <numeric>
 
-namespace ferna::renderer {
+namespace ferna::pages {
 
 namespace {
 
@@ -42,4 +42,4 @@ bool Text::leavesInk() const {
     return underline ? !text.isEmpty() : !text.trimmed().isEmpty();
 }
 
-} // namespace ferna::renderer
+} // namespace ferna::pages

@@ -10,7 +10,7 @@
 
 #include <vector>
 
-namespace ferna::renderer {
+namespace ferna::pages {
 
 /// Positioned primitives. Millimetres from the top left corner of the frame, y downward.
 
@@ -62,4 +62,4 @@ inline constexpr QSizeF sheet{210, 297};
 /// The frame's corner on the sheet, mm.
 inline constexpr QPointF frameCorner{20, 5};
 
-} // namespace ferna::renderer
+} // namespace ferna::pages

@@ -4,7 +4,7 @@
 
 #include <QPainter>
 
-namespace ferna::renderer {
+namespace ferna::pages {
 
 namespace {
 
@@ -36,4 +36,4 @@ void paintPage(QPainter& painter, const Page& page) {
     }
 }
 
-} // namespace ferna::renderer
+} // namespace ferna::pages

@@ -4,9 +4,9 @@
 
 class QPainter;
 
-namespace ferna::renderer {
+namespace ferna::pages {
 
 /// Paints a page; one unit of the painter is 0.01 mm, its origin the sheet's top left corner.
 void paintPage(QPainter& painter, const Page& page);
 
-} // namespace ferna::renderer
+} // namespace ferna::pages

@@ -9,6 +9,13 @@ namespace ferna {
 // The sketches are delivered as bitmaps in the program folder. A section of the report that uses
 // one has it saved under the name that the report's records link.
 
+/// The general view of a column base, as delivered, and the plate of the task.
+inline const QString generalViewFile = QStringLiteral("Ferogo2.bmp");
+inline const QString platePictureFile = QStringLiteral("Ferrob.bmp");
+
+/// The delivered bitmap that stands where a sketch is due and there is none.
+inline const QString noSketchFile = QStringLiteral("gkrys0.bmp");
+
 /// Name under which the sketch of the anchor section is saved.
 inline const QString anchorSketchFile = QStringLiteral("Szkick.bmp");
 

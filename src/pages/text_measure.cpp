@@ -7,11 +7,9 @@
 #include <array>
 #include <cmath>
 
-namespace ferna::renderer {
+namespace ferna::pages {
 
 namespace {
-
-constexpr int symbolFont = 2;
 
 // Greek letters where the Symbol font keeps them: A to Z, then a to z.
 constexpr std::u16string_view symbolCapitals = u"ΑΒΧΔΕΦΓΗΙϑΚΛΜΝΟΠΘΡΣΤΥςΩΞΨΖ";
@@ -29,12 +27,12 @@ QChar symbol(QChar letter) {
 
 } // namespace
 
-QString lettersOf(const QString& text, int font) {
+QString lettersOf(const QString& text, bool symbolFont) {
     QString letters = text;
     for (QChar& c : letters) {
         if (c.category() == QChar::Other_Control) // of no use on paper, and no part of SVG
             c = u' ';
-        if (font == symbolFont)
+        if (symbolFont)
             c = symbol(c);
     }
     return letters;
@@ -67,4 +65,4 @@ void scaleText(Text& text, QPointF baseline, double factor) {
     measure(text);
 }
 
-} // namespace ferna::renderer
+} // namespace ferna::pages

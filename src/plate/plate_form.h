@@ -64,7 +64,7 @@ struct PlateForm {
     PlateFace face;
     PlateInputs inputs;
     std::array<bool, PlateChecks> refused{}; ///< check n at n - 1: pressed last without a result
-    Integer Nr_stali_blachy = 0; ///< item of cmbStalb plus 1, as last taken
+    Integer Nr_stali_blachy = 0;             ///< item of cmbStalb plus 1, as last taken
 };
 
 /// A tab of the form, in the order on the screen.

@@ -1,5 +1,7 @@
 #include "plate/plate_report_lines.h"
 
+#include "design/catalogue.h"
+#include "design/plate_blocks.h"
 #include "plate/plate_tables.h"
 #include "runtime/format.h"
 
@@ -22,15 +24,24 @@ public:
     void header(Single thickness) {
         Stan_raportu& report = stan_.raport;
         report.Wiersze_blachy(0) = QStringLiteral("\r\n");
-        report.Wiersze_blachy(1) = text(35) + general(thickness) + mm + text(36) + steel();
+        report.Wiersze_blachy(1) = text(phrase::AdoptedThickness) + general(thickness) + mm
+                                   + text(phrase::SteelOfPlate) + steel();
         report.Wiersze_blachy(2) = QStringLiteral("\r\n");
-        report.Liczba_wierszy_blachy = 2;
+        report.Liczba_wierszy_blachy = plateHeadLines - 1;
     }
 
-    void block(int check) { write(linesOf(check)); }
+    /// Writes the block with as many lines as it takes; those it does not need are empty.
+    void block(const PlateBlockForm& form) {
+        const QStringList lines = linesOf(form.check);
+        Integer& last = stan_.raport.Liczba_wierszy_blachy;
+        for (int i = 0; i < form.lines; ++i) {
+            last = CInt(last + 1);
+            stan_.raport.Wiersze_blachy(last) = lines.value(i);
+        }
+    }
 
 private:
-    const QString& text(int n) const { return stan_.Teksty(n); }
+    const QString& text(phrase::Line line) const { return stan_.Teksty(line); }
 
     QString steel() const {
         const Materialy& materials = stan_.materialy;
@@ -42,42 +53,49 @@ private:
     }
 
     QString required(int check) const {
-        return text(41) + general(stan_.raport.Spr_blachy(check)) + mm;
+        return text(phrase::RequiredThickness) + general(stan_.raport.Spr_blachy(check)) + mm;
     }
 
     QStringList stripInTension() const {
         const auto& in = form_.inputs.check1;
-        return {text(37) + text(59),
-                text(38) + general(in.S) + kN + text(39) + Format(in.ca, u"###0") + mm,
-                text(40) + Format(in.bs, u"###0") + mm, required(1)};
+        return {text(phrase::CantileverAtAnchor) + text(phrase::InTensionZone),
+                text(phrase::ForceInAnchor) + general(in.S) + kN
+                    + text(phrase::CantileverBehindForce) + Format(in.ca, u"###0") + mm,
+                text(phrase::EffectiveWidth) + Format(in.bs, u"###0") + mm, required(1)};
     }
 
     QStringList stripInCompression() const {
         const auto& in = form_.inputs.check2;
-        return {text(42) + text(58),
-                text(43) + general(in.sigma_k) + QStringLiteral(" ...") + general(in.sigma_p) + MPa,
-                text(44) + Format(in.ca, u"###0") + mm, required(2)};
+        return {text(phrase::CantileverAtEdge) + text(phrase::InCompressionZone),
+                text(phrase::StressUnderPlate) + general(in.sigma_k) + QStringLiteral(" ...")
+                    + general(in.sigma_p) + MPa,
+                text(phrase::CantileverLength) + Format(in.ca, u"###0") + mm, required(2)};
     }
 
     QStringList fragment(int check, const PlateInputs::Fragment& in, const QString& edges) const {
-        return {text(55) + edges + text(56), text(58), text(43) + general(in.sigma) + MPa,
-                text(57) + general(in.l) + times + general(in.b) + mm, required(check)};
+        return {text(phrase::PanelSupportedOn) + edges + text(phrase::SupportedEdges),
+                text(phrase::InCompressionZone),
+                text(phrase::StressUnderPlate) + general(in.sigma) + MPa,
+                text(phrase::PanelDimensions) + general(in.l) + times + general(in.b) + mm,
+                required(check)};
     }
 
     QStringList columnWithoutStiffeners() const {
         const auto& in = form_.inputs.check4;
-        return {text(53) + text(58), text(54) + profileNames().value(in.Nr_profilu - 1),
-                text(43) + general(in.sigma) + MPa, required(4)};
+        return {text(phrase::ColumnWithoutStiffeners) + text(phrase::InCompressionZone),
+                text(phrase::ColumnProfile) + profileNames().value(in.Nr_profilu - 1),
+                text(phrase::StressUnderPlate) + general(in.sigma) + MPa, required(4)};
     }
 
-    QStringList anchorFragment(int check, const PlateInputs::AnchorFragment& in, int fragmentText,
-                               const QString& figure) const {
-        return {text(60) + figure,
+    QStringList anchorFragment(int check, const PlateInputs::AnchorFragment& in,
+                               phrase::Line fixedOn, const QString& figure) const {
+        return {text(phrase::AnnexFormulaAndFigure) + figure,
                 // "3" stands for either fragment
-                text(fragmentText) + u'3' + text(62) + text(59),
-                text(38) + general(in.S) + kN + text(63) + general(in.c) + text(64),
-                text(57) + QStringLiteral(" (2a x b) ") + general(CInt(2 * in.a)) + times
-                    + general(in.b) + mm,
+                text(fixedOn) + u'3' + text(phrase::FixedEdges) + text(phrase::InTensionZone),
+                text(phrase::ForceInAnchor) + general(in.S) + kN + text(phrase::AnchorPosition)
+                    + general(in.c) + text(phrase::Millimetres),
+                text(phrase::PanelDimensions) + QStringLiteral(" (2a x b) ")
+                    + general(CInt(2 * in.a)) + times + general(in.b) + mm,
                 required(check)};
     }
 
@@ -97,33 +115,16 @@ private:
         case 6:
             return fragment(6, inputs.check6, QStringLiteral("2 "));
         case 7:
-            return anchorFragment(7, inputs.check7, 61, QStringLiteral("B.2"));
-        default: // the block of check 8 is closed by an empty line
-            return anchorFragment(8, inputs.check8, 65, QStringLiteral("B.3")) << QString();
+            return anchorFragment(7, inputs.check7, phrase::PanelFixedOn, QStringLiteral("B.2"));
+        default:
+            return anchorFragment(8, inputs.check8, phrase::PanelFixedOnTwoOnly,
+                                  QStringLiteral("B.3"));
         }
-    }
-
-    void write(const QStringList& lines) {
-        Stan_raportu& report = stan_.raport;
-        int last = report.Liczba_wierszy_blachy;
-        for (const QString& line : lines)
-            report.Wiersze_blachy(++last) = line;
-        report.Liczba_wierszy_blachy = CInt(last);
     }
 
     Stan& stan_;
     const PlateForm& form_;
 };
-
-/// Sketches by check less one; the column without stiffeners has none.
-constexpr std::array<PlateSketch, PlateChecks> sketches{{{1, "Szkic1.bmp"},
-                                                         {2, "Szkic2.bmp"},
-                                                         {3, "Szkic31.bmp"},
-                                                         {0, nullptr},
-                                                         {4, "Szkic32.bmp"},
-                                                         {5, "Szkic33.bmp"},
-                                                         {6, "Szkic51.bmp"},
-                                                         {7, "Szkic52.bmp"}}};
 
 } // namespace
 
@@ -139,13 +140,12 @@ std::optional<PlateSection> writePlateSection(Stan& stan, const PlateForm& form,
     SectionWriter writer(stan, form);
     writer.header(thickness);
     PlateSection section;
-    for (int n = 1; n <= PlateChecks; ++n) {
-        if (stan.raport.Spr_blachy(n) <= 0)
+    for (const PlateBlockForm& block : plateBlockForms) {
+        if (stan.raport.Spr_blachy(block.check) <= 0)
             continue;
-        writer.block(n);
-        const PlateSketch& sketch = sketches[static_cast<std::size_t>(n - 1)];
-        if (sketch.file)
-            section.sketches.push_back(sketch);
+        writer.block(block);
+        if (block.image > 0)
+            section.sketches.push_back({block.image, block.sketch});
     }
     return section;
 }

@@ -13,4 +13,9 @@ QString pathLine(const QString& folder, const QString& name) {
     return std::all_of(path.begin(), path.end(), codepage::holds) ? path : name;
 }
 
+QString pathOfLine(const QString& folder, const QString& line) {
+    const QString path = line.trimmed();
+    return path.isEmpty() ? path : QDir(folder).absoluteFilePath(QDir::fromNativeSeparators(path));
+}
+
 } // namespace ferna::wyd

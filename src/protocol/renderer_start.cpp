@@ -2,10 +2,8 @@
 
 #include "protocol/renderer_files.h"
 #include "protocol/renderer_news.h"
-#include "runtime/format.h"
 #include "runtime/passing_folder.h"
 #include "runtime/run_time_error.h"
-#include "runtime/text_file.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -22,24 +20,6 @@ const QString rendererName = QStringLiteral("Wyd_drk.exe");
 #else
 const QString rendererName = QStringLiteral("Wyd_drk");
 #endif
-
-constexpr int cancelledByUser = 3; // in a dialog of the renderer's own
-
-QString modeText(RenderMode mode) {
-    switch (mode) {
-    case RenderMode::Clipboard:
-        return QStringLiteral("3, 1.0, 0.5, 1.0, ");
-    case RenderMode::ScreenPicture:
-        return QStringLiteral("-2, 1.0, 0.5, 1.0, ");
-    case RenderMode::Print:
-        return QStringLiteral("-1, 1.0, 0.5, 1.0, ");
-    case RenderMode::PrintChosen:
-        return QStringLiteral("1, 1.0, 0.5, 1.0, ");
-    case RenderMode::Emf:
-        return QStringLiteral(" 2, 1.0, 0.5, 1.0, ");
-    }
-    throw RunTimeError(error::InvalidCall);
-}
 
 /// The renderer's own last words, for the message.
 QString wordsOf(QProcess& process) {
@@ -71,18 +51,6 @@ bool waitFor(QProcess& process, const WaitOn& waitOn, RendererNews& news) {
 }
 
 } // namespace
-
-QString jobLine(RenderMode mode, Integer Nr_strony) {
-    return modeText(mode) + general(Nr_strony);
-}
-
-void writeJob(const QString& folder, RenderMode mode, Integer Nr_strony) {
-    TextFileWriter job;
-    job.line(jobLine(mode, Nr_strony));
-    job.line(wyd::pathLine(folder, wyd::bodyFile));
-    job.line(wyd::pathLine(folder, wyd::frameFile));
-    job.commit(folder + u'/' + wyd::jobFile, Lasting::UntilNextUse);
-}
 
 QString rendererPath(const QString& folder) {
     const QString own = folder + u'/' + rendererName;
@@ -117,9 +85,9 @@ RendererReport runRenderer(const QString& folder, const QStringList& options, co
     if (process.exitStatus() != QProcess::NormalExit)
         throw RunTimeError(error::NoObject,
                            rendererName + QStringLiteral(" przerwał pracę") + wordsOf(process));
-    if (process.exitCode() == cancelledByUser)
+    if (process.exitCode() == wyd::CancelledByUser)
         return {};
-    if (process.exitCode() != 0)
+    if (process.exitCode() != wyd::Done)
         throw RunTimeError(error::NoObject, QStringLiteral("%1 zakończył pracę z kodem %2%3")
                                                 .arg(rendererName)
                                                 .arg(process.exitCode())

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/numbers.h"
+#include "protocol/job.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,21 +9,6 @@
 #include <functional>
 
 namespace ferna {
-
-/// What the renderer is asked for, by the mode it is told in the job file.
-enum class RenderMode {
-    Clipboard,     ///< screen picture on the clipboard
-    ScreenPicture, ///< screen picture as a metafile in the program folder
-    Print,         ///< default printer
-    PrintChosen,   ///< printer of the user's choice
-    Emf            ///< metafiles under a name that the user is asked for
-};
-
-/// The job file's first line: mode, three constants of the renderer, first page number.
-QString jobLine(RenderMode mode, Integer Nr_strony);
-
-/// Writes the job file into the program folder. Errors of `writeFileWhole`.
-void writeJob(const QString& folder, RenderMode mode, Integer Nr_strony);
 
 /// The renderer at work.
 struct RendererState {

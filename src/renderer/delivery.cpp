@@ -2,6 +2,7 @@
 
 #include "pages/emf_writer.h"
 #include "pages/metafile.h"
+#include "protocol/renderer_files.h"
 #include "protocol/renderer_news.h"
 #include "renderer/news.h"
 #include "renderer/own_window.h"
@@ -22,7 +23,7 @@ namespace ferna::renderer {
 namespace {
 
 /// The metafile on the clipboard, and a bitmap for programs that know no metafiles.
-void toClipboard(const Report& report) {
+void toClipboard(const pages::Report& report) {
     constexpr double pixelsPerMm = 6;
     const QByteArray bytes = emfOfAllPages(report);
     const Metafile file = Metafile::fromBytes(bytes);
@@ -39,7 +40,7 @@ void toClipboard(const Report& report) {
         throw RunTimeError(error::DeviceIO, QStringLiteral("nie można zająć schowka"));
 }
 
-void saveAsEmf(const Report& report, const Call& call) {
+void saveAsEmf(const pages::Report& report, const Call& call) {
     const OutputFormat& emf = *outputFormat(QStringLiteral("emf"));
     SaveSurroundings surroundings;
     surroundings.files = [&](const QString& name) { return fileNames(report, emf, name); };
@@ -59,36 +60,37 @@ void saveAsEmf(const Report& report, const Call& call) {
 
 bool needsScreen(const Call& call, const Job& job) {
     return call.format == nullptr
-           && (job.mode == Mode::ChosenPrinter || job.mode == Mode::SaveEmf
-               || job.mode == Mode::Clipboard);
+           && (job.mode == RenderMode::PrintChosen || job.mode == RenderMode::Emf
+               || job.mode == RenderMode::Clipboard);
 }
 
 bool keepsLastReply(const Call& call, const Job& job) {
-    const bool screenPicture = job.mode == Mode::ScreenFile || job.mode == Mode::Clipboard;
+    const bool screenPicture =
+        job.mode == RenderMode::ScreenPicture || job.mode == RenderMode::Clipboard;
     return call.format == nullptr && !screenPicture
-           && QFileInfo::exists(QDir(job.folder).filePath(QStringLiteral("W_X.txt")));
+           && QFileInfo::exists(QDir(job.folder).filePath(wyd::replyFile));
 }
 
-void deliver(const Report& report, const Call& call, const Job& job) {
+void deliver(const pages::Report& report, const Call& call, const Job& job) {
     if (call.format != nullptr) {
         writeReport(report, *call.format, call.outputPath, call.dpi);
         return;
     }
     switch (job.mode) {
-    case Mode::ScreenFile:
-        writeFileWhole(QDir(job.folder).filePath(QStringLiteral("$a1.emf")), emfOfAllPages(report),
+    case RenderMode::ScreenPicture:
+        writeFileWhole(QDir(job.folder).filePath(wyd::screenPicture), emfOfAllPages(report),
                        Lasting::UntilNextUse);
         break;
-    case Mode::DefaultPrinter:
+    case RenderMode::Print:
         printOnDefault(report);
         break;
-    case Mode::ChosenPrinter:
+    case RenderMode::PrintChosen:
         printOnChosen(report);
         break;
-    case Mode::SaveEmf:
+    case RenderMode::Emf:
         saveAsEmf(report, call);
         break;
-    case Mode::Clipboard:
+    case RenderMode::Clipboard:
         toClipboard(report);
         break;
     }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "protocol/job.h"
 #include "renderer/command_line.h"
-#include "renderer/job.h"
 
 namespace ferna::renderer {
 
@@ -14,6 +14,6 @@ bool keepsLastReply(const Call& call, const Job& job);
 
 /// Hands a report over as the call or the job's mode asks. Errors of the ways: 57, 70, 75, 76, 61,
 /// 32755 where a dialog is cancelled.
-void deliver(const Report& report, const Call& call, const Job& job);
+void deliver(const pages::Report& report, const Call& call, const Job& job);
 
 } // namespace ferna::renderer

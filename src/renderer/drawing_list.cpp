@@ -1,13 +1,14 @@
 #include "renderer/drawing_list.h"
 
+#include "pages/bitmap_file.h"
 #include "pages/drawing.h"
 #include "pages/text_measure.h"
+#include "protocol/renderer_files.h"
+#include "runtime/run_time_error.h"
+#include "runtime/text_file.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QPainter>
-#include <QtEndian>
 
 #include <algorithm>
 #include <cmath>
@@ -18,10 +19,10 @@ namespace {
 
 /// How many records from `first` on repeat the frame: those up to the record that closes it, or,
 /// where that one is missing, as many as agree with the frame file.
-std::size_t repeatedFrame(const std::vector<Record>& records, std::size_t first, std::size_t end,
-                          const std::vector<Record>& frame) {
+std::size_t repeatedFrame(const std::vector<wyd::Record>& records, std::size_t first,
+                          std::size_t end, const std::vector<wyd::Record>& frame) {
     for (std::size_t i = first; i < end; ++i)
-        if (std::holds_alternative<FrameEndRecord>(records[i].content))
+        if (std::holds_alternative<wyd::FrameEndRecord>(records[i].content))
             return i + 1 - first;
     std::size_t same = 0;
     while (first + same < end && same < frame.size()
@@ -30,8 +31,9 @@ std::size_t repeatedFrame(const std::vector<Record>& records, std::size_t first,
     return same;
 }
 
-std::size_t segmentEnd(const std::vector<Record>& records, std::size_t first) {
-    while (first < records.size() && !std::holds_alternative<NewPageRecord>(records[first].content))
+std::size_t segmentEnd(const std::vector<wyd::Record>& records, std::size_t first) {
+    while (first < records.size()
+           && !std::holds_alternative<wyd::NewPageRecord>(records[first].content))
         ++first;
     return first;
 }
@@ -42,26 +44,18 @@ QRectF united(const QRectF& a, const QRectF& b) {
             QPointF(qMax(a.right(), b.right()), qMax(a.bottom(), b.bottom()))};
 }
 
-/// True for a bitmap file shorter than its header says, of which only the lower rows would be
-/// drawn.
-bool isCutShort(const QString& path) {
-    QFile file(path);
-    const QByteArray header = file.open(QIODevice::ReadOnly) ? file.read(6) : QByteArray();
-    return header.size() == 6 && header.startsWith("BM")
-           && file.size() < qFromLittleEndian<quint32>(header.constData() + 2);
-}
-
 } // namespace
 
 QRectF Chain::box() const {
     QRectF all;
-    for (const Text& text : texts)
+    for (const pages::Text& text : texts)
         all |= text.box();
     return all;
 }
 
 bool Chain::leavesInk() const {
-    return std::any_of(texts.begin(), texts.end(), [](const Text& t) { return t.leavesInk(); });
+    return std::any_of(texts.begin(), texts.end(),
+                       [](const pages::Text& t) { return t.leavesInk(); });
 }
 
 bool TextLine::leavesInk() const {
@@ -75,30 +69,30 @@ bool TextLine::underlined() const {
 void Block::translate(double dy) {
     rect.translate(0, dy);
     picture.rect.translate(0, dy);
-    for (Line& line : lines)
+    for (pages::Line& line : lines)
         line.line.translate(0, dy);
-    for (Text& text : texts)
+    for (pages::Text& text : texts)
         text.baseline.ry() += dy;
 }
 
 void Block::scale(double factor) {
     const auto scaled = [&](QPointF p) { return rect.topLeft() + (p - rect.topLeft()) * factor; };
     picture.rect.setSize(picture.rect.size() * factor);
-    for (Line& line : lines)
+    for (pages::Line& line : lines)
         line.line = QLineF(scaled(line.line.p1()), scaled(line.line.p2()));
-    for (Text& text : texts)
+    for (pages::Text& text : texts)
         scaleText(text, scaled(text.baseline), factor);
     rect.setSize(rect.size() * factor);
 }
 
-Segment RecordInterpreter::frame(const std::vector<Record>& records) {
-    for (const Record& record : records)
+Segment RecordInterpreter::frame(const std::vector<wyd::Record>& records) {
+    for (const wyd::Record& record : records)
         interpret(record);
     return std::exchange(segment_, {});
 }
 
-std::vector<Segment> RecordInterpreter::body(const std::vector<Record>& records,
-                                             const std::vector<Record>& frameRecords) {
+std::vector<Segment> RecordInterpreter::body(const std::vector<wyd::Record>& records,
+                                             const std::vector<wyd::Record>& frameRecords) {
     std::vector<Segment> segments;
     std::size_t first = 0;
     for (;;) {
@@ -119,19 +113,19 @@ std::vector<Segment> RecordInterpreter::body(const std::vector<Record>& records,
     }
 }
 
-void RecordInterpreter::interpret(const Record& record) {
-    if (const auto* move = std::get_if<PenRecord>(&record.content)) {
+void RecordInterpreter::interpret(const wyd::Record& record) {
+    if (const auto* move = std::get_if<wyd::PenRecord>(&record.content)) {
         pen(*move);
         return;
     }
     figureOpen_ = false;
-    if (const auto* words = std::get_if<TextRecord>(&record.content))
+    if (const auto* words = std::get_if<wyd::TextRecord>(&record.content))
         text(*words);
-    else if (const auto* bitmap = std::get_if<PictureRecord>(&record.content))
+    else if (const auto* bitmap = std::get_if<wyd::PictureRecord>(&record.content))
         picture(*bitmap, record.line);
 }
 
-void RecordInterpreter::text(const TextRecord& record) {
+void RecordInterpreter::text(const wyd::TextRecord& record) {
     if (record.height)
         height_ = qMax(1, static_cast<int>(std::lround(*record.height * drawing::unitsPerMm)));
     underline_ = record.underline.value_or(underline_);
@@ -147,8 +141,8 @@ void RecordInterpreter::text(const TextRecord& record) {
         segment_.lines.push_back({lineY_, {}});
     newLine_ = false;
 
-    Text text;
-    text.text = lettersOf(record.text, font_);
+    pages::Text text;
+    text.text = pages::lettersOf(record.text, font_ == wyd::symbolFont);
     text.baseline = QPointF(record.x.value_or(x_), y_);
     text.height = height_;
     text.weight = weight_;
@@ -162,7 +156,7 @@ void RecordInterpreter::text(const TextRecord& record) {
     chains.back().texts.push_back(std::move(text));
 }
 
-void RecordInterpreter::picture(const PictureRecord& record, int line) {
+void RecordInterpreter::picture(const wyd::PictureRecord& record, int line) {
     // Every field is kept, also of a picture that lacks one.
     bool whole = true;
     const auto keep = [&whole](std::optional<double>& present, const std::optional<double>& given) {
@@ -181,33 +175,31 @@ void RecordInterpreter::picture(const PictureRecord& record, int line) {
     Block block;
     block.rect = {*pictureX_, *pictureY_, *pictureWidth_, *pictureHeight_};
     block.picture = {block.rect, image(record.path, line)};
+    pictureBytes_ += block.picture.image.sizeInBytes();
+    if (pictureBytes_ > wyd::mostPictureBytes)
+        throw RunTimeError(error::DeviceIO, QStringLiteral("%1, wiersz %2: rysunki mają razem "
+                                                           "ponad %3 MB")
+                                                .arg(QDir::toNativeSeparators(path_))
+                                                .arg(line)
+                                                .arg(wyd::mostPictureBytes / megabyte));
     if (block.picture.image.isNull())
         standIn(block, QFileInfo(QDir::fromNativeSeparators(record.path)).fileName());
     segment_.blocks.push_back(std::move(block));
 }
 
 QImage RecordInterpreter::image(const QString& path, int line) {
-    const QString full =
-        QFileInfo(path_).absoluteDir().absoluteFilePath(QDir::fromNativeSeparators(path));
+    const QString full = wyd::pathOfLine(QFileInfo(path_).absolutePath(), path);
     const auto known = images_.constFind(full);
     if (known != images_.constEnd())
         return *known;
-    const QImage image = isCutShort(full) ? QImage() : QImage(full);
+    const QImage image = readPicture(full);
     if (image.isNull())
         complaints_.add(path_, line,
                         (QFileInfo::exists(full) ? QStringLiteral("nie można wczytać rysunku %1")
                                                  : QStringLiteral("brak pliku rysunku %1"))
                             .arg(QDir::toNativeSeparators(full)));
-    // A transparent picture stands on the white sheet.
-    QImage opaque(image.size(), QImage::Format_RGB32);
-    if (image.hasAlphaChannel()) {
-        opaque.fill(Qt::white);
-        QPainter(&opaque).drawImage(0, 0, image);
-    } else {
-        opaque = image.convertToFormat(QImage::Format_RGB32);
-    }
-    images_.insert(full, opaque);
-    return opaque;
+    images_.insert(full, image);
+    return image;
 }
 
 void RecordInterpreter::standIn(Block& block, const QString& file) {
@@ -215,7 +207,7 @@ void RecordInterpreter::standIn(Block& block, const QString& file) {
     const QPointF corners[] = {r.topLeft(), r.topRight(), r.bottomRight(), r.bottomLeft()};
     for (std::size_t i = 0; i < 4; ++i)
         block.lines.push_back({QLineF(corners[i], corners[(i + 1) % 4]), lineWidthMm_});
-    Text text;
+    pages::Text text;
     text.text = QStringLiteral("brak rysunku ") + file;
     text.height = 280;
     measure(text);
@@ -226,7 +218,7 @@ void RecordInterpreter::standIn(Block& block, const QString& file) {
     block.texts.push_back(std::move(text));
 }
 
-void RecordInterpreter::pen(const PenRecord& record) {
+void RecordInterpreter::pen(const wyd::PenRecord& record) {
     const QPointF target(record.x.value_or(pen_.x()), record.y.value_or(pen_.y()));
     penDraws_ = record.draws.value_or(penDraws_);
     if (penDraws_) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/page.h"
-#include "renderer/records.h"
+#include "protocol/commands.h"
 
 #include <QHash>
 
@@ -9,7 +9,7 @@ namespace ferna::renderer {
 
 /// Texts that go on one behind the other from one explicit x.
 struct Chain {
-    std::vector<Text> texts;
+    std::vector<pages::Text> texts;
     bool pageNumber = false; ///< the frame's text that changes from page to page
 
     double left() const { return texts.front().baseline.x(); }
@@ -29,9 +29,9 @@ struct TextLine {
 /// A picture, or straight lines drawn in one go.
 struct Block {
     QRectF rect;
-    Picture picture; ///< its image is null for straight lines
-    std::vector<Line> lines;
-    std::vector<Text> texts; ///< the name in place of a missing picture
+    pages::Picture picture; ///< its image is null for straight lines
+    std::vector<pages::Line> lines;
+    std::vector<pages::Text> texts; ///< the name in place of a missing picture
 
     void translate(double dy);
     /// Made smaller about its top left corner.
@@ -48,33 +48,34 @@ struct Segment {
 /// cannot be read is named in `complaints` and an outline with its name stands in its place.
 class RecordInterpreter {
 public:
-    RecordInterpreter(QString path, double lineWidthMm, Complaints& complaints)
+    RecordInterpreter(QString path, double lineWidthMm, wyd::Complaints& complaints)
         : path_(std::move(path)), lineWidthMm_(lineWidthMm), complaints_(complaints) {}
 
     /// The frame file: one segment.
-    Segment frame(const std::vector<Record>& records);
+    Segment frame(const std::vector<wyd::Record>& records);
     /// The body file: a segment up to each new page. The frame that the body repeats at the start
     /// of each segment sets the text settings and is not drawn.
-    std::vector<Segment> body(const std::vector<Record>& records,
-                              const std::vector<Record>& frameRecords);
+    std::vector<Segment> body(const std::vector<wyd::Record>& records,
+                              const std::vector<wyd::Record>& frameRecords);
 
 private:
-    void interpret(const Record& record);
-    void text(const TextRecord& record);
-    void picture(const PictureRecord& record, int line);
-    void pen(const PenRecord& record);
+    void interpret(const wyd::Record& record);
+    void text(const wyd::TextRecord& record);
+    void picture(const wyd::PictureRecord& record, int line);
+    void pen(const wyd::PenRecord& record);
     void standIn(Block& block, const QString& file);
     QImage image(const QString& path, int line);
 
     QString path_;
     double lineWidthMm_;
-    Complaints& complaints_;
+    wyd::Complaints& complaints_;
     Segment segment_;
     QHash<QString, QImage> images_;
+    qsizetype pictureBytes_ = 0; ///< as drawn: a picture that is placed twice counts twice
 
     // The settings that stay in force.
     double x_ = 0, lineY_ = 0, y_ = 0; ///< behind the last text; its line; with subscript
-    int height_ = 350, weight_ = 400, font_ = 5;
+    int height_ = 350, weight_ = 400, font_ = wyd::textFont;
     bool underline_ = false;
     QPointF pen_;
     bool penDraws_ = false;

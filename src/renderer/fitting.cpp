@@ -33,7 +33,7 @@ void shrinkChain(Chain& chain, double right) {
     const double factor = (right - left - 0.05) / width;
     const double y = chain.texts.front().baseline.y();
     double x = left;
-    for (Text& text : chain.texts) {
+    for (pages::Text& text : chain.texts) {
         scaleText(text, QPointF(x, y + (text.baseline.y() - y) * factor), factor);
         x += text.widthMm();
     }
@@ -57,7 +57,7 @@ void fitFrame(Segment& frame) {
         for (Chain& chain : line.chains) {
             double right = rightMost;
             for (const Block& block : frame.blocks)
-                for (const Line& rule : block.lines) {
+                for (const pages::Line& rule : block.lines) {
                     const QRectF box = QRectF(rule.line.p1(), rule.line.p2()).normalized();
                     if (box.width() == 0 && box.left() > chain.left()
                         && touchUpright(box, chain.box()))

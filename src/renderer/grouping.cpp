@@ -136,7 +136,7 @@ void Group::translate(double dy) {
     for (TextLine& line : lines) {
         line.y += dy;
         for (Chain& chain : line.chains)
-            for (Text& text : chain.texts)
+            for (pages::Text& text : chain.texts)
                 text.baseline.ry() += dy;
     }
     for (Block& block : blocks)

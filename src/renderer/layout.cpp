@@ -15,30 +15,22 @@ namespace {
 constexpr double mmPerPoint = 25.4 / 72;
 constexpr double projectLine = 19; // mm, where the frame has the project's name
 
-/// "Strona 12" becomes "Strona " and the page's own number.
+/// The page-number text with the page's own number.
 void number(Chain& chain, int page) {
-    Text& text = chain.texts.front();
-    qsizetype end = text.text.size();
-    while (end > 0 && text.text[end - 1].isDigit())
-        --end;
-    if (end > 0 && end < text.text.size() && text.text[end - 1] == u'-')
-        --end;
-    text.text.truncate(end);
-    if (!text.text.isEmpty() && !text.text.endsWith(u' '))
-        text.text += u' ';
-    text.text += QString::number(page);
+    pages::Text& text = chain.texts.front();
+    text.text = wyd::wordsOfPageNumber(text.text) + QString::number(page);
     measure(text);
 }
 
 /// The frame with its page number, as every page starts.
-Page framed(const Segment& frame, int page) {
+pages::Page framed(const Segment& frame, int page) {
     Segment own = frame;
     for (TextLine& line : own.lines)
         for (Chain& chain : line.chains)
             if (chain.pageNumber)
                 number(chain, page);
     fitFrame(own);
-    Page result;
+    pages::Page result;
     result.number = page;
     for (const TextLine& line : own.lines)
         addTo(result, line);
@@ -64,7 +56,7 @@ QString projectOf(const Segment& frame) {
 
 } // namespace
 
-std::vector<Page> layOut(Segment frame, std::vector<Segment> body, int firstPage) {
+std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int firstPage) {
     PageFlow flow([&frame, firstPage](int index) { return framed(frame, firstPage + index); });
     for (Segment& segment : body) {
         flow.newPage();
@@ -74,17 +66,17 @@ std::vector<Page> layOut(Segment frame, std::vector<Segment> body, int firstPage
     return flow.takePages();
 }
 
-Report compose(const Job& job, Complaints& complaints) {
-    const std::vector<Record> frameRecords = readRecordFile(job.framePath, complaints);
+pages::Report compose(const Job& job, wyd::Complaints& complaints) {
+    const std::vector<wyd::Record> frameRecords = wyd::readRecordFile(job.framePath, complaints);
     if (frameRecords.empty())
         throw RunTimeError(error::DeviceIO, QDir::toNativeSeparators(job.framePath)
                                                 + QStringLiteral(": brak poleceń ramki strony"));
-    const std::vector<Record> bodyRecords = readRecordFile(job.bodyPath, complaints);
+    const std::vector<wyd::Record> bodyRecords = wyd::readRecordFile(job.bodyPath, complaints);
     const double width = job.lineWidthPt * mmPerPoint;
     Segment frame = RecordInterpreter(job.framePath, width, complaints).frame(frameRecords);
     std::vector<Segment> body =
         RecordInterpreter(job.bodyPath, width, complaints).body(bodyRecords, frameRecords);
-    Report report;
+    pages::Report report;
     report.title = titleOf(frame);
     report.project = projectOf(frame);
     report.pages = layOut(std::move(frame), std::move(body), job.firstPage);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "renderer/complaints.h"
+#include "protocol/complaints.h"
+#include "protocol/job.h"
 #include "renderer/drawing_list.h"
-#include "renderer/job.h"
 
 namespace ferna::renderer {
 
@@ -14,10 +14,10 @@ inline constexpr double bodyTop = 40;        ///< the body of a following page s
 /// Lays frame and body out on pages numbered from `firstPage`. What would break a rule moves to the
 /// next page, a picture together with the lines beside it; a text that would run into a picture, a
 /// rule of the frame or off the sheet is set in smaller letters.
-std::vector<Page> layOut(Segment frame, std::vector<Segment> body, int firstPage);
+std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int firstPage);
 
 /// Reads both command files of a job and lays them out. Errors of `readLines`, 57 where the frame
 /// file holds no record at all.
-Report compose(const Job& job, Complaints& complaints);
+pages::Report compose(const Job& job, wyd::Complaints& complaints);
 
 } // namespace ferna::renderer

@@ -1,4 +1,6 @@
 #include "pages/drawing.h"
+#include "protocol/renderer_files.h"
+#include "protocol/reply.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
 #include "runtime/run_time_error.h"
@@ -11,13 +13,12 @@
 
 #include <cstdio>
 #include <memory>
+#include <new>
 
 using namespace ferna;
 using namespace ferna::renderer;
 
 namespace {
-
-enum ExitCode { Done = 0, Failed = 1, BadCall = 2, CancelledByUser = 3 };
 
 void say(const QString& line) {
     std::fputs(("Wyd_drk: " + line.toUtf8() + '\n').constData(), stderr);
@@ -49,21 +50,22 @@ void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage
     const QString face = QFontInfo(drawing::fontOf(1)).family();
     if (face != drawing::textFace)
         say(QStringLiteral("brak czcionki %1, zamiast niej %2").arg(drawing::textFace, face));
-    Complaints complaints;
-    const Report report = compose(job, complaints);
+    wyd::Complaints complaints;
+    const pages::Report report = compose(job, complaints);
     for (const QString& line : complaints.lines())
         say(line);
     deliver(report, call, job);
     nextPage = job.firstPage + static_cast<int>(report.pages.size());
 }
 
-/// Reads the job; where it cannot be read the reply says so.
+/// Reads the job; where it cannot be read the reply says so. Beside a file that is no job of ours
+/// nothing is written.
 Job jobOrFailure(const Call& call) {
     try {
         return readJob(call.jobPath);
     } catch (const RunTimeError&) {
         const QString folder = folderOf(call.jobPath);
-        if (QFileInfo(folder).isDir())
+        if (QFileInfo(call.jobPath).fileName() == wyd::jobFile && QFileInfo(folder).isDir())
             writeReply(folder, false, 1);
         throw;
     }
@@ -77,13 +79,13 @@ int main(int argc, char** argv) {
         arguments += QString::fromLocal8Bit(argv[i]);
     if (const QString answer = answerTo(arguments); !answer.isEmpty()) {
         std::fputs(answer.toLocal8Bit().constData(), stdout);
-        return Done;
+        return wyd::Done;
     }
     QString fault;
     const std::optional<Call> call = parseCall(arguments, fault);
     if (!call) {
         say(fault + QStringLiteral(". ") + usage());
-        return BadCall;
+        return wyd::BadCall;
     }
     const QString folder = folderOf(call->jobPath);
     try {
@@ -94,13 +96,15 @@ int main(int argc, char** argv) {
             writeReply(folder, false, page);
         run(argc, argv, *call, job, page);
         writeReply(folder, true, page);
-        return Done;
+        return wyd::Done;
     } catch (const RunTimeError& failure) {
         if (failure.number() == error::Cancelled)
-            return CancelledByUser;
+            return wyd::CancelledByUser;
         say(failure.text());
+    } catch (const std::bad_alloc&) {
+        say(QStringLiteral("brak pamięci"));
     } catch (const std::exception& failure) {
         say(QString::fromLocal8Bit(failure.what()));
     }
-    return Failed;
+    return wyd::Failed;
 }

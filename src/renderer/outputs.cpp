@@ -23,7 +23,7 @@ namespace {
 constexpr double mmPerInch = 25.4;
 
 /// Title of a document: what it is, and of which project.
-QString documentTitle(const Report& report) {
+QString documentTitle(const pages::Report& report) {
     return report.project.isEmpty() ? report.title
                                     : report.title + QStringLiteral(" - ") + report.project;
 }
@@ -34,7 +34,7 @@ QString documentTitle(const Report& report) {
         QStringLiteral("nie można narysować strony (%1)").arg(QLatin1String(format)));
 }
 
-QByteArray pdf(const Report& report, std::size_t, int) {
+QByteArray pdf(const pages::Report& report, std::size_t, int) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -47,7 +47,7 @@ QByteArray pdf(const Report& report, std::size_t, int) {
     if (!painter.begin(&writer))
         cannotDraw("PDF");
     bool first = true;
-    for (const Page& page : report.pages) {
+    for (const pages::Page& page : report.pages) {
         if (!std::exchange(first, false))
             writer.newPage();
         paintPage(painter, page);
@@ -56,8 +56,8 @@ QByteArray pdf(const Report& report, std::size_t, int) {
     return bytes;
 }
 
-QByteArray svg(const Report& report, std::size_t page, int) {
-    const QSize units = (sheet * drawing::unitsPerMm).toSize();
+QByteArray svg(const pages::Report& report, std::size_t page, int) {
+    const QSize units = (pages::sheet * drawing::unitsPerMm).toSize();
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -76,9 +76,9 @@ QByteArray svg(const Report& report, std::size_t page, int) {
     return bytes;
 }
 
-QByteArray png(const Report& report, std::size_t page, int dpi) {
+QByteArray png(const pages::Report& report, std::size_t page, int dpi) {
     const double scale = dpi / mmPerInch;
-    QImage image((sheet * scale).toSize(), QImage::Format_RGB32);
+    QImage image((pages::sheet * scale).toSize(), QImage::Format_RGB32);
     image.fill(Qt::white);
     image.setDotsPerMeterX(static_cast<int>(std::lround(scale * 1000)));
     image.setDotsPerMeterY(image.dotsPerMeterX());
@@ -97,7 +97,7 @@ QByteArray png(const Report& report, std::size_t page, int dpi) {
     return bytes;
 }
 
-QByteArray emf(const Report& report, std::size_t page, int) {
+QByteArray emf(const pages::Report& report, std::size_t page, int) {
     return emfOfPage(report, report.pages[page]);
 }
 
@@ -132,7 +132,8 @@ QString pageFileName(const QString& name, const OutputFormat& format, std::size_
            + (has ? name.right(suffix.size()) : suffix);
 }
 
-QStringList fileNames(const Report& report, const OutputFormat& format, const QString& name) {
+QStringList fileNames(const pages::Report& report, const OutputFormat& format,
+                      const QString& name) {
     const std::size_t files = format.onePerPage ? report.pages.size() : 1;
     QStringList names;
     for (std::size_t i = 0; i < files; ++i)
@@ -140,7 +141,8 @@ QStringList fileNames(const Report& report, const OutputFormat& format, const QS
     return names;
 }
 
-void writeReport(const Report& report, const OutputFormat& format, const QString& name, int dpi) {
+void writeReport(const pages::Report& report, const OutputFormat& format, const QString& name,
+                 int dpi) {
     std::size_t page = 0;
     for (const QString& file : fileNames(report, format, name))
         writeFileWhole(file, format.bytes(report, page++, dpi));

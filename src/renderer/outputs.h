@@ -13,7 +13,7 @@ struct OutputFormat {
     const char* option; ///< of the command line, without the two dashes; also the file suffix
     bool onePerPage;
     /// The bytes of one file: of the page with that index, or of all pages. Error 57.
-    QByteArray (*bytes)(const Report& report, std::size_t page, int dpi);
+    QByteArray (*bytes)(const pages::Report& report, std::size_t page, int dpi);
 };
 
 /// All formats there are.
@@ -30,9 +30,10 @@ QString pageFileName(const QString& name, const OutputFormat& format, std::size_
                      std::size_t pages);
 
 /// The names of all files that a report takes under a name.
-QStringList fileNames(const Report& report, const OutputFormat& format, const QString& name);
+QStringList fileNames(const pages::Report& report, const OutputFormat& format, const QString& name);
 
 /// Writes a report into these files. Errors of `writeFileWhole`, 57.
-void writeReport(const Report& report, const OutputFormat& format, const QString& name, int dpi);
+void writeReport(const pages::Report& report, const OutputFormat& format, const QString& name,
+                 int dpi);
 
 } // namespace ferna::renderer

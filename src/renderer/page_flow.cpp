@@ -36,10 +36,10 @@ void fitHeight(Group& group) {
 }
 
 /// The box of the frame's rules; empty for a frame that encloses the body too.
-QRectF frameBox(const Page& page) {
+QRectF frameBox(const pages::Page& page) {
     constexpr double shortest = 1; // mm; the stroke at the page's edge is no part of it
     QRectF box;
-    for (const Line& rule : page.lines)
+    for (const pages::Line& rule : page.lines)
         if (rule.line.length() > shortest)
             box |= QRectF(rule.line.p1(), rule.line.p2()).normalized();
     return box.bottom() < bodyTop ? box : QRectF();
@@ -55,14 +55,14 @@ double pushOf(const QRectF& box, const std::vector<QRectF>& obstacles) {
 
 } // namespace
 
-void addTo(Page& page, const TextLine& line) {
+void addTo(pages::Page& page, const TextLine& line) {
     for (const Chain& chain : line.chains)
-        for (const Text& text : chain.texts)
+        for (const pages::Text& text : chain.texts)
             if (text.leavesInk())
                 page.texts.push_back(text);
 }
 
-void addTo(Page& page, const Block& block) {
+void addTo(pages::Page& page, const Block& block) {
     if (!block.picture.image.isNull())
         page.pictures.push_back(block.picture);
     page.lines.insert(page.lines.end(), block.lines.begin(), block.lines.end());
@@ -133,7 +133,7 @@ std::vector<TextLine> PageFlow::takeLinesTooLow(Group& group) const {
 }
 
 void PageFlow::commit(const Group& group) {
-    Page& page = pages_.back();
+    pages::Page& page = pages_.back();
     for (const Block& block : group.blocks) {
         addTo(page, block);
         solid_.push_back(block.rect);

@@ -7,21 +7,21 @@
 namespace ferna::renderer {
 
 /// Adds primitives to a page as they stand.
-void addTo(Page& page, const TextLine& line);
-void addTo(Page& page, const Block& block);
+void addTo(pages::Page& page, const TextLine& line);
+void addTo(pages::Page& page, const Block& block);
 
 /// Fills pages from top to bottom. A group that would break a rule of the page starts the next one;
 /// from then on everything is drawn that much higher.
 class PageFlow {
 public:
     /// `start` gives the page of an index from 0, with its frame.
-    explicit PageFlow(std::function<Page(int)> start) : start_(std::move(start)) {}
+    explicit PageFlow(std::function<pages::Page(int)> start) : start_(std::move(start)) {}
 
     /// An explicit new page; coordinates count anew from its frame.
     void newPage();
     /// Groups come in the order of their tops, in the coordinates of the file.
     void place(Group group);
-    std::vector<Page> takePages() { return std::exchange(pages_, {}); }
+    std::vector<pages::Page> takePages() { return std::exchange(pages_, {}); }
 
 private:
     double pushNeeded(const Group& group) const;
@@ -29,8 +29,8 @@ private:
     std::vector<TextLine> takeLinesTooLow(Group& group) const;
     void commit(const Group& group);
 
-    std::function<Page(int)> start_;
-    std::vector<Page> pages_;
+    std::function<pages::Page(int)> start_;
+    std::vector<pages::Page> pages_;
     double offset_ = 0;             ///< mm from the file's y to the page's
     bool pageEmpty_ = true;         ///< nothing but the frame so far
     std::vector<QRectF> solid_;     ///< pictures and the frame on the present page

@@ -10,14 +10,61 @@ namespace ferna::renderer {
 
 #ifdef FERNA_CUPS
 
+namespace {
+
+/// What the server says of a queue.
+class Queue {
+public:
+    explicit Queue(const QString& name)
+        : queue_(cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.toUtf8().constData(), nullptr)) {}
+    ~Queue() {
+        if (queue_ != nullptr)
+            cupsFreeDests(1, queue_);
+    }
+    Queue(const Queue&) = delete;
+    Queue& operator=(const Queue&) = delete;
+
+    bool isThere() const { return queue_ != nullptr; }
+    QByteArray option(const char* name) const {
+        return queue_ == nullptr ? nullptr
+                                 : cupsGetOption(name, queue_->num_options, queue_->options);
+    }
+
+private:
+    cups_dest_t* queue_;
+};
+
+/// True where no server answers; the queue may be there all the same.
+bool isServerSilent() {
+    http_t* const server = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
+                                        cupsEncryption(), 1, 3000, nullptr);
+    if (server == nullptr)
+        return true;
+    httpClose(server);
+    return false;
+}
+
+} // namespace
+
 QString queueRefusal(const QString& name) {
-    cups_dest_t* queue = cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.toUtf8().constData(), nullptr);
-    if (queue == nullptr)
-        return QStringLiteral("nie ma takiej kolejki wydruku");
-    const QByteArray accepts =
-        cupsGetOption("printer-is-accepting-jobs", queue->num_options, queue->options);
-    cupsFreeDests(1, queue);
-    return accepts == "false" ? QStringLiteral("kolejka nie przyjmuje zadań") : QString();
+    const Queue queue(name);
+    if (!queue.isThere())
+        return isServerSilent() ? QStringLiteral("serwer wydruku nie odpowiada")
+                                : QStringLiteral("nie ma takiej kolejki wydruku");
+    return queue.option("printer-is-accepting-jobs") == "false"
+               ? QStringLiteral("kolejka nie przyjmuje zadań")
+               : QString();
+}
+
+QString queueObstacle(const QString& name) {
+    const Queue queue(name);
+    const QByteArray reasons = queue.option("printer-state-reasons");
+    if (queue.option("printer-state") == "5" || reasons.contains("paused")) // 5: stopped
+        return QStringLiteral("kolejka jest wstrzymana");
+    if (reasons.contains("offline") || reasons.contains("connecting-to-device")
+        || reasons.contains("timed-out"))
+        return QStringLiteral("drukarka jest nieosiągalna");
+    return {};
 }
 
 int lastJobOf(const QString& name) {
@@ -32,13 +79,28 @@ int lastJobOf(const QString& name) {
     return last;
 }
 
+bool isWaiting(const QString& name, int job) {
+    cups_job_t* jobs = nullptr;
+    const int count = cupsGetJobs(&jobs, name.toUtf8().constData(), 0, CUPS_WHICHJOBS_ACTIVE);
+    const bool waits = std::any_of(jobs, jobs + std::max(count, 0),
+                                   [job](const cups_job_t& active) { return active.id == job; });
+    cupsFreeJobs(std::max(count, 0), jobs);
+    return waits;
+}
+
 #else
 
 QString queueRefusal(const QString&) {
     return {};
 }
+QString queueObstacle(const QString&) {
+    return {};
+}
 int lastJobOf(const QString&) {
     return -1;
+}
+bool isWaiting(const QString&, int) {
+    return false;
 }
 
 #endif

@@ -13,6 +13,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QThread>
 
 #include <algorithm>
 #include <numeric>
@@ -27,12 +28,32 @@ constexpr double mmPerInch = 25.4;
     throw RunTimeError(error::DeviceIO, detail);
 }
 
-void setUp(QPrinter& printer, const Report& report) {
+void setUp(QPrinter& printer, const pages::Report& report) {
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(QPageLayout::Portrait);
     printer.setFullPage(true);
     printer.setDocName(report.project.isEmpty() ? report.title : report.project);
     printer.setCreator(QStringLiteral("Wyd_drk"));
+}
+
+} // namespace
+
+namespace {
+
+/// The engineer would look for the sheets in vain: a job that waits is told. A queue finds out
+/// about its printer only once it sends to it.
+void tellObstacle(const QString& name, int job) {
+    constexpr int looks = 4;
+    constexpr unsigned long between = 250; // ms
+    QString obstacle = queueObstacle(name);
+    for (int i = 1; i < looks && obstacle.isEmpty() && isWaiting(name, job); ++i) {
+        QThread::msleep(between);
+        obstacle = queueObstacle(name);
+    }
+    if (!obstacle.isEmpty() && isWaiting(name, job))
+        cannotPrint(QStringLiteral("drukarka %1: %2, wydruk czeka w niej jako zadanie nr %3")
+                        .arg(name, obstacle)
+                        .arg(job));
 }
 
 } // namespace
@@ -52,7 +73,7 @@ std::vector<std::size_t> pagesToPrint(const QPrinter& printer, std::size_t pages
     return chosen;
 }
 
-void printOn(QPrinter& printer, const Report& report) {
+void printOn(QPrinter& printer, const pages::Report& report) {
     const QString name = printer.printerName();
     const bool toFile = !printer.outputFileName().isEmpty();
     if (!toFile) {
@@ -78,12 +99,15 @@ void printOn(QPrinter& printer, const Report& report) {
         paintPage(painter, report.pages[page]);
     }
     const bool ended = painter.end();
+    const int job = toFile ? 0 : lastJobOf(name);
     if (!ended || printer.printerState() == QPrinter::Error
-        || (!toFile && jobsBefore >= 0 && lastJobOf(name) <= jobsBefore))
+        || (!toFile && jobsBefore >= 0 && job <= jobsBefore))
         cannotPrint(QStringLiteral("drukarka %1 nie przyjęła wydruku").arg(name));
+    if (!toFile)
+        tellObstacle(name, job);
 }
 
-void printOnDefault(const Report& report) {
+void printOnDefault(const pages::Report& report) {
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (info.isNull())
         cannotPrint(QStringLiteral("nie ma drukarki domyślnej"));
@@ -92,7 +116,7 @@ void printOnDefault(const Report& report) {
     printOn(printer, report);
 }
 
-void printOnChosen(const Report& report) {
+void printOnChosen(const pages::Report& report) {
     QPrinter printer(QPrinter::HighResolution);
     setUp(printer, report);
     QPrintDialog dialog(&printer);

@@ -1,6 +1,6 @@
 #include "report/document_writer.h"
 
-#include "report/zone_sketch.h"
+#include "pages/sketch_files.h"
 #include "runtime/format.h"
 
 #include <QDir>
@@ -15,9 +15,6 @@ constexpr QChar omega{u'\u03c9'};
 constexpr int firstSketch = 3; // the sketch of case c is picture c + 3
 constexpr Integer rowHeight = 80;
 constexpr Integer lastPlaceOfPage = 600; // points; what would stand lower starts a page
-const QString noSketch = QStringLiteral("gkrys0.bmp");
-const QString generalView = QStringLiteral("Ferogo2.bmp");
-const QString platePicture = QStringLiteral("Ferrob.bmp");
 
 /// Horizontal places of the case sketches, three to a row, points.
 int leftOfSketch(int c) {
@@ -27,31 +24,35 @@ int leftOfSketch(int c) {
 
 class DocumentBuilder {
 public:
-    DocumentBuilder(WordProcessor& word, const Stan& stan, const Raport& raport, QString folder)
-        : word_(word), stan_(stan), raport_(raport), folder_(std::move(folder)), results_(stan) {}
+    DocumentBuilder(WordProcessor& word, const ReportModel& report, QString folder)
+        : word_(word), report_(report), folder_(std::move(folder)) {}
 
     void build() {
         word_.getOrCreate();
         word_.Documents_Add();
         titleAndPictures();
         generalData();
-        row_ = CInt(pitch * (cases() + 4) + top1_ + 120);
-        for (int c = 1; c <= cases(); ++c)
+        row_ = CInt(pitch * (report_.caseCount() + 4) + top1_ + 120);
+        for (int c = 1; c <= report_.caseCount(); ++c)
             loadCase(c);
-        // About twice the line count: kept so, it steers the plate picture.
-        lines_ = CInt(stan_.wyniki.Ostatni_wiersz(cases()) + results_.nextLine());
-        if (cases() > 1)
-            summary();
-        if (stan_.raport.Liczba_wierszy_blachy > 0)
-            plateSection();
-        if (stan_.raport.Liczba_wierszy_kotwy > 0)
-            anchorSection();
+        // The last result line and the one behind it, so about twice the line count: kept so, it
+        // steers the plate picture.
+        lines_ = CInt(2 * report_.lastResultLine() + 1);
+        if (report_.summary)
+            summary(*report_.summary);
+        if (report_.plate)
+            plateSection(*report_.plate);
+        if (report_.anchor)
+            anchorSection(*report_.anchor);
     }
 
 private:
-    int cases() const { return stan_.obciazenia.Liczba_przyp; }
-
     void add(const QString& text) { word_.InsertAfter(text + QStringLiteral("\r\n")); }
+
+    void addAll(const QStringList& lines) {
+        for (const QString& line : lines)
+            add(line);
+    }
 
     void picture(const QString& file, int number, Integer top, int left) {
         word_.AddPicture(QDir::toNativeSeparators(folder_ + u'/' + file), false, true);
@@ -62,64 +63,55 @@ private:
 
     void titleAndPictures() {
         for (int i = 1; i <= 8; ++i)
-            add(raport_.Wiersze_naglowka(i).left(longestTitle));
-        top1_ = CInt(pitch * (stan_.plyta.Liczba_srub + 13));
-        picture(generalView, 2, top1_, 50);
-        picture(platePicture, 3, top1_, 250);
+            add(report_.title(i).left(longestTitle));
+        top1_ = CInt(pitch * (report_.anchorCount() + 13));
+        picture(report_.generalView, 2, top1_, 50);
+        picture(report_.platePicture, 3, top1_, 250);
     }
 
     void generalData() {
-        for (int i = 1; i <= 4; ++i)
-            add(raport_.Wiersze_danych(i));
-        for (int i = 0; i <= stan_.plyta.Liczba_srub; ++i)
-            add(stan_.raport.Wiersze_srub(i));
-        for (int i = 0; i <= cases() + 2; ++i)
-            add(stan_.raport.Wiersze_obciazen(i));
-        add(raport_.Wiersze_stale(0));
+        addAll(report_.data);
+        addAll(report_.anchors);
+        addAll(report_.loads);
+        add(report_.resultsHeading);
     }
 
     void loadCase(int c) {
+        const ReportCase& section = report_.cases[static_cast<std::size_t>(c - 1)];
         if (c == 4)
             row_ = CInt(row_ + rowHeight);
-        add(caseTitle(stan_, c));
-        picture(wholePlate(stan_, c) ? noSketch : zoneSketchFile(c), c + firstSketch, row_,
+        add(section.title);
+        picture(section.wholePlate() ? noSketchFile : section.figure, c + firstSketch, row_,
                 leftOfSketch(c));
-        if (!wholePlate(stan_, c)) {
-            add(raport_.Wiersze_strefy(c - 1));
-            add(raport_.Wiersze_stale(1));
-        }
-        add(raport_.Wiersze_stale(2));
-        results_.ofCase(
-            c, [this](const QString& text) { add(text); },
-            [this](const QString& text, const QString& ratio) {
-                add(text + omega + omegaSubscript(stan_) + ratio);
-            });
-        add(raport_.Wiersze_stale(2));
+        addAll(section.axis);
+        add({});
+        for (const ReportResultLine& line : section.results)
+            add(line.ratio ? line.text + omega + report_.omegaSubscript + *line.ratio : line.text);
+        add({});
     }
 
-    void summary() {
-        add(raport_.Wiersze_stale(3));
-        for (const QString& text : Wiersze_podsumowania(stan_))
+    void summary(const ReportSummary& section) {
+        add(section.heading);
+        for (const QString& text : section.lines)
             add(text);
         lines_ = CInt(lines_ + 4);
     }
 
-    void plateSection() {
+    void plateSection(const ReportPlate& section) {
         Integer top2 = CInt(pitch * lines_ + row_ + 80);
         if (top2 > lastPlaceOfPage) {
             word_.InsertAfter(QStringLiteral("\r\f"));
             top2 = CInt(top2 + 250);
         }
         word_.GoTo({}, {}, 1);
-        picture(generalView, cases() + firstSketch + 1, top2, 60);
-        for (int i = 0; i <= stan_.raport.Liczba_wierszy_blachy; ++i)
-            add(stan_.raport.Wiersze_blachy(i));
+        picture(report_.generalView, report_.caseCount() + firstSketch + 1, top2, 60);
+        addAll(section.lines());
     }
 
-    void anchorSection() {
-        add(QString());
-        for (int i = 1; i <= stan_.raport.Liczba_wierszy_kotwy; ++i)
-            add(stan_.raport.Wiersze_kotwy(i));
+    void anchorSection(const ReportAnchor& section) {
+        add({});
+        add(section.heading);
+        addAll(section.lines);
         word_.InsertAfter(QStringLiteral("\r\n"));
         word_.InsertAfter(
             QStringLiteral("Szkice kotew są w plikach: rys3f.bmp (kotwy fajkowe), rys2pm.bmp "));
@@ -127,10 +119,8 @@ private:
     }
 
     WordProcessor& word_;
-    const Stan& stan_;
-    const Raport& raport_;
+    const ReportModel& report_;
     QString folder_;
-    ResultLines results_;
     Integer top1_ = 0;  // vertical shift of the two fixed pictures, points
     Integer row_ = 0;   // vertical shift of the case sketches, points
     Integer lines_ = 0; // estimate of the lines written so far
@@ -138,9 +128,8 @@ private:
 
 } // namespace
 
-void buildDocument(WordProcessor& word, const Stan& stan, const Raport& raport,
-                   const QString& folder) {
-    DocumentBuilder(word, stan, raport, folder).build();
+void buildDocument(WordProcessor& word, const ReportModel& report, const QString& folder) {
+    DocumentBuilder(word, report, folder).build();
 }
 
 void saveDocument(WordProcessor& word, const QString& path) {
@@ -148,10 +137,10 @@ void saveDocument(WordProcessor& word, const QString& path) {
     word.Close();
 }
 
-void writeDocument(const Stan& stan, const Raport& raport, const QString& folder,
-                   const QString& path, const WordProcessorPlace& place) {
+void writeDocument(const ReportModel& report, const QString& folder, const QString& path,
+                   const WordProcessorPlace& place) {
     const std::unique_ptr<WordProcessor> word = openWordProcessor(place);
-    buildDocument(*word, stan, raport, folder);
+    buildDocument(*word, report, folder);
     saveDocument(*word, path);
 }
 

@@ -10,7 +10,7 @@
 namespace ferna {
 
 /// The lines of the report that belong to the results form. Together with the shared lines of the
-/// state they are the whole report: every output walks them and adds only its layout.
+/// state they are the whole report: `reportModel` makes its sections of them.
 struct Raport {
     IndexedArray<QString, 8> Wiersze_naglowka; ///< title block, from 1
     IndexedArray<QString, 10> Wiersze_danych;  ///< general data, 1..4
@@ -48,33 +48,5 @@ QString caseTitle(const Stan& stan, int c);
 inline bool wholePlate(const Stan& stan, int c) {
     return stan.wyniki.Przyp_policzony(c) == True;
 }
-
-/// Walks the result lines of the cases in their order, each case behind the last line of the one
-/// before. The ratios of exceeded concrete stress are counted over the whole report.
-class ResultLines {
-public:
-    explicit ResultLines(const Stan& stan) : stan_(stan) {}
-
-    /// `plain(text)` for a line as it stands, `exceedance(text, ratio)` for one that goes on with
-    /// omega and the ratio. A line with another mark is passed over.
-    template <typename Plain, typename Exceedance>
-    void ofCase(int c, const Plain& plain, const Exceedance& exceedance) {
-        for (; line_ <= stan_.wyniki.Ostatni_wiersz(c); ++line_) {
-            const QString& text = stan_.wyniki.Wiersze_wynikow(line_);
-            if (stan_.wyniki.Znak_wiersza(line_) == 0)
-                plain(text);
-            else if (stan_.wyniki.Znak_wiersza(line_) == 1)
-                exceedance(text, stan_.wyniki.Tekst_przekroczenia(ratio_++));
-        }
-    }
-
-    /// The line behind the last one walked.
-    int nextLine() const { return line_; }
-
-private:
-    const Stan& stan_;
-    int line_ = 1;
-    int ratio_ = 1;
-};
 
 } // namespace ferna

@@ -2,9 +2,9 @@
 
 #include "design/configuration.h"
 #include "design/typed_names.h"
+#include "pages/sketch_files.h"
 #include "protocol/renderer_files.h"
 #include "report/document_writer.h"
-#include "report/rtf_writer.h"
 #include "report/text_writer.h"
 #include "report/wyd_writer.h"
 #include "report/zone_sketch.h"
@@ -25,7 +25,7 @@ ResultsSession::ResultsSession(Stan& stan, Dialogs& dialogs, QString folder, boo
 
 void ResultsSession::saveSketches() {
     writeFileWhole(inFolder(QStringLiteral("ferogol.bmp")),
-                   readFileWhole(inFolder(QStringLiteral("Ferogo2.bmp"))));
+                   readFileWhole(inFolder(generalViewFile)));
     for (int c = 1; c <= stan_.obciazenia.Liczba_przyp; ++c)
         if (!wholePlate(stan_, c))
             Rysuj_strefe(raport_, stan_, c, inFolder(zoneSketchFile(c)));
@@ -40,7 +40,7 @@ void ResultsSession::open() {
 QByteArray ResultsSession::screenPicture() {
     const QString picture = inFolder(wyd::screenPicture);
     QFile::remove(picture);
-    Buduj_wyd(stan_, raport_, folder_);
+    Buduj_wyd(model(), folder_);
     writeJob(folder_, RenderMode::ScreenPicture, stan_.opcje.Nr_strony);
     render_();
     QByteArray bytes = readFileWhole(picture);
@@ -51,7 +51,7 @@ QByteArray ResultsSession::screenPicture() {
 void ResultsSession::print(RenderMode mode) {
     retitle();
     writeJob(folder_, mode, stan_.opcje.Nr_strony);
-    Buduj_wyd(stan_, raport_, folder_);
+    Buduj_wyd(model(), folder_);
     for (const QString& file : render_().written)
         noteWritten(file);
 }
@@ -100,29 +100,33 @@ void ResultsSession::saveText() {
                         QStringLiteral(".txt"),
                         QStringLiteral("plik wyników (*.txt)|*.txt|wszystkie pliki (*.*)|*.*")});
     try {
-        textReport(stan_, raport_).commit(path);
+        textReport(model()).commit(path);
         noteWritten(path);
     } catch (const RunTimeError&) { // ends silently
     }
     QDir::setCurrent(folder_);
 }
 
+void ResultsSession::keep(const RtfPages& reached) {
+    if (stan_.opcje.Nr_strony != reached.Nr_strony)
+        behindThePage_ = QStringLiteral(" ");
+    stan_.opcje.Nr_strony = reached.Nr_strony;
+    raport_.Wiersze_naglowka(6) = reached.pageLine;
+}
+
 void ResultsSession::saveRtf() {
     const QString path = askWhereToSave(rtfQuestion());
-    const Integer firstPage = stan_.opcje.Nr_strony;
     try {
-        saveRtfReport(stan_, raport_, now_(), path);
+        keep(saveRtfReport(model(), stan_.opcje.Tryb_RTF, now_(), path));
         noteWritten(path);
     } catch (const RunTimeError&) { // ends silently
     }
-    if (stan_.opcje.Nr_strony != firstPage)
-        behindThePage_ = QStringLiteral(" ");
     QDir::setCurrent(folder_);
 }
 
 std::unique_ptr<WordProcessor> ResultsSession::buildDocument() const {
     std::unique_ptr<WordProcessor> document = openWord_();
-    ferna::buildDocument(*document, stan_, raport_, folder_);
+    ferna::buildDocument(*document, model(), folder_);
     return document;
 }
 

@@ -2,7 +2,8 @@
 
 #include "desktop/word_processor.h"
 #include "protocol/renderer_start.h"
-#include "report/report_lines.h"
+#include "report/report_model.h"
+#include "report/rtf_writer.h"
 
 #include <functional>
 #include <memory>
@@ -82,6 +83,8 @@ private:
     QString inFolder(const QString& name) const { return folder_ + u'/' + name; }
     QString askWhereToSave(const SaveQuestion& question);
     void saveSketches();
+    void keep(const RtfPages& reached);
+    ReportModel model() const { return reportModel(stan_, raport_); }
     void noteWritten(const QString& path);
 
     Stan& stan_;

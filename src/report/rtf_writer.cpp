@@ -23,19 +23,21 @@ constexpr QStringView colourTable =
 constexpr QStringView paper =
     uR"(\paperw12240\paperh15840\margll1780\margr1080\margt1440\margb1440)";
 
-constexpr QStringView generalView =
+// The two fixed pictures, each up to the name of its file.
+constexpr QStringView generalViewFrame =
     uR"(\pard \absw2850\absh1860\phmrg{\*\flymaincnt0\flyanchor0\flycntnt})"
-    uR"({{\field\fldpriv{\*\fldinst{\\import Ferogo2.bmp}}{\fldrslt}}})";
-constexpr QStringView platePicture =
+    uR"({{\field\fldpriv{\*\fldinst{\\import )";
+constexpr QStringView platePictureFrame =
     uR"(\pard \absw3380\absh2260\posx4500\posy0{\*\flymaincnt0\flyanchor0\flycntnt})"
-    uR"({{\field\fldpriv{\*\fldinst{\\import Ferrob.bmp}}{\fldrslt}}})";
+    uR"({{\field\fldpriv{\*\fldinst{\\import )";
+constexpr QStringView frameEnd = uR"(}}{\fldrslt}}})";
 
 constexpr QStringView Rtf_par = u"\\par ";
 constexpr QStringView Rtf_pard = u"\\pard ";
 
 /// Omega with its subscript, in letters of their own.
-QString Rtf_omega(const Stan& stan) {
-    return QStringLiteral(R"({\f2\fs16 w}{\f1\fs10 )") + omegaSubscript(stan) + u'}';
+QString Rtf_omega(QChar subscript) {
+    return QStringLiteral(R"({\f2\fs16 w}{\f1\fs10 )") + subscript + u'}';
 }
 
 } // namespace
@@ -43,7 +45,7 @@ QString Rtf_omega(const Stan& stan) {
 QString rtfFrame(QStringView head, const QString& name) {
     return head.toString()
            + QStringLiteral(R"({\*\flyanchor0\flycntnt}{{\field\fldpriv{\*\fldinst{\\import )")
-           + name + QStringLiteral(R"(}}{\fldrslt}}})");
+           + name + frameEnd.toString();
 }
 
 void RtfWriter::line(const QString& text) {
@@ -81,18 +83,17 @@ QString RtfWriter::frame(QStringView head, const QString& name) {
 }
 
 void RtfWriter::titleBlock(QStringView opening) {
-    put(opening, raport_.Wiersze_naglowka(1));
+    put(opening, report_.title(1));
     for (int i = 2; i <= 8; ++i)
-        line(raport_.Wiersze_naglowka(i));
+        line(i == 6 ? reached_.pageLine : report_.title(i));
 }
 
 void RtfWriter::Koniec_strony_RTF(Single& y, Double wysokosc) {
     if (y + wysokosc > pageHeight) {
-        stan_.opcje.Nr_strony = CInt(stan_.opcje.Nr_strony + 1);
-        raport_.Wiersze_naglowka(6) =
-            now_.toString(u"dd/MM/yy") + QStringLiteral("     ") + now_.toString(u"hh:mm")
-            + QString(blanksBeforePageNumber, u' ') + QStringLiteral("Strona ")
-            + Format(stan_.opcje.Nr_strony, u"####");
+        reached_.Nr_strony = CInt(reached_.Nr_strony + 1);
+        reached_.pageLine = now_.toString(u"dd/MM/yy") + QStringLiteral("     ")
+                            + now_.toString(u"hh:mm") + QString(blanksBeforePageNumber, u' ')
+                            + QStringLiteral("Strona ") + Format(reached_.Nr_strony, u"####");
         titleBlock(u"\\par \\page\\pard\\plain\\f1\\fs16 ");
         y = topOfPage;
     }
@@ -100,73 +101,63 @@ void RtfWriter::Koniec_strony_RTF(Single& y, Double wysokosc) {
 }
 
 void RtfWriter::fixedPictures() {
-    notePicture(QStringLiteral("Ferogo2.bmp"));
-    file_.line(generalView);
+    notePicture(report_.generalView);
+    put(generalViewFrame, report_.generalView, frameEnd);
     file_.line(Rtf_pard);
-    notePicture(QStringLiteral("Ferrob.bmp"));
-    file_.line(platePicture);
+    notePicture(report_.platePicture);
+    put(platePictureFrame, report_.platePicture, frameEnd);
     file_.line(Rtf_pard);
 }
 
 void RtfWriter::generalData() {
-    for (int i = 1; i <= 4; ++i)
-        line(raport_.Wiersze_danych(i));
-    for (int i = 0; i <= stan_.plyta.Liczba_srub; ++i)
-        line(stan_.raport.Wiersze_srub(i));
-    for (int i = 0; i <= stan_.obciazenia.Liczba_przyp + 2; ++i)
-        line(stan_.raport.Wiersze_obciazen(i));
+    for (const QStringList* lines : {&report_.data, &report_.anchors, &report_.loads})
+        for (const QString& text : *lines)
+            line(text);
 }
 
-void RtfWriter::loadCase(ResultLines& results, int c, const QString& sketch) {
-    put(Rtf_par, caseTitle(stan_, c), Rtf_pard);
+void RtfWriter::loadCase(const ReportCase& section, const QString& sketch) {
+    put(Rtf_par, section.title, Rtf_pard);
     if (!sketch.isEmpty())
         placed(sketch);
-    if (!wholePlate(stan_, c)) {
-        line(raport_.Wiersze_strefy(c - 1));
-        line(raport_.Wiersze_stale(1));
-    }
-    results.ofCase(
-        c, [this](const QString& text) { line(text); },
-        [this](const QString& text, const QString& ratio) {
-            line(text + Rtf_omega(stan_) + ratio);
-        });
-    line(raport_.Wiersze_stale(2));
+    for (const QString& text : section.axis)
+        line(text);
+    for (const ReportResultLine& result : section.results)
+        line(result.ratio ? result.text + Rtf_omega(report_.omegaSubscript) + *result.ratio
+                          : result.text);
+    line({});
 }
 
-void RtfWriter::caseTest(int c, int furtherLines) {
-    const auto& last = stan_.wyniki.Ostatni_wiersz;
-    Koniec_strony_RTF(Poz_rtf, (last(c) - last(c - 1) + furtherLines) * lineHeight);
+void RtfWriter::caseTest(const ReportCase& section, int furtherLines) {
+    Koniec_strony_RTF(Poz_rtf, (section.countedLines + furtherLines) * lineHeight);
 }
 
-void RtfWriter::summary() {
+void RtfWriter::summary(const ReportSummary& section) {
     Koniec_strony_RTF(Poz_rtf, 15.85);
-    line(raport_.Wiersze_stale(3));
-    for (const QString& text : Wiersze_podsumowania(stan_))
+    line(section.heading);
+    for (const QString& text : section.lines)
         line(text);
 }
 
-void RtfWriter::plateHeading() {
-    const auto& lines = stan_.raport.Wiersze_blachy;
+void RtfWriter::plateHeading(const ReportPlate& section) {
     Koniec_strony_RTF(Poz_rtf, 15.85);
-    line(lines(0));
-    heading(lines(1));
-    reset(lines(2));
+    line(section.head[0]);
+    heading(section.heading());
+    reset(section.head[2]);
 }
 
-void RtfWriter::document() {
-    const Integer mode = stan_.opcje.Tryb_RTF;
-    if (mode != 1 && mode != 2)
-        throw RunTimeError(error::InvalidCall,
-                           QStringLiteral("raport RTF jest wyłączony (Tryb_RTF = %1)").arg(mode));
+void RtfWriter::document(Integer Tryb_RTF) {
+    if (Tryb_RTF != 1 && Tryb_RTF != 2)
+        throw RunTimeError(
+            error::InvalidCall,
+            QStringLiteral("raport RTF jest wyłączony (Tryb_RTF = %1)").arg(Tryb_RTF));
     file_.line(fontTable);
     file_.line(colourTable);
     file_.line(paper);
     titleBlock(uR"(\pard \f1\fs16 {)");
     fixedPictures();
     generalData();
-    Poz_rtf =
-        CSng((stan_.obciazenia.Liczba_przyp + stan_.plyta.Liczba_srub + 3) * lineHeight + 60 + 1);
-    if (mode == 1)
+    Poz_rtf = CSng((report_.caseCount() + report_.anchorCount() + 3) * lineHeight + 60 + 1);
+    if (Tryb_RTF == 1)
         Wyniki_RTF_ms();
     else
         Wyniki_RTF_so();
@@ -174,22 +165,17 @@ void RtfWriter::document() {
     file_.line(u"\\par}");
 }
 
-TextFileWriter rtfReport(Stan& stan, Raport& raport, const QDateTime& now) {
-    RtfWriter writer(stan, raport, now);
-    writer.document();
-    return writer.file();
+RtfWriter rtfReport(const ReportModel& report, Integer Tryb_RTF, const QDateTime& now) {
+    RtfWriter writer(report, now);
+    writer.document(Tryb_RTF);
+    return writer;
 }
 
-void saveRtfReport(Stan& stan, Raport& raport, const QDateTime& now, const QString& path) {
-    const Integer Nr_strony = stan.opcje.Nr_strony;
-    const QString pageLine = raport.Wiersze_naglowka(6);
-    try {
-        rtfReport(stan, raport, now).commit(path);
-    } catch (...) {
-        stan.opcje.Nr_strony = Nr_strony;
-        raport.Wiersze_naglowka(6) = pageLine;
-        throw;
-    }
+RtfPages saveRtfReport(const ReportModel& report, Integer Tryb_RTF, const QDateTime& now,
+                       const QString& path) {
+    RtfWriter writer = rtfReport(report, Tryb_RTF, now);
+    writer.file().commit(path);
+    return writer.reached();
 }
 
 SaveQuestion rtfQuestion() {

@@ -2,7 +2,6 @@
 
 #include "pages/sketch_files.h"
 #include "protocol/renderer_files.h"
-#include "report/zone_sketch.h"
 #include "runtime/format.h"
 
 #include <array>
@@ -15,89 +14,79 @@ constexpr Single lineStep = 4.5F; // mm
 constexpr Single topOfBody = 85;
 constexpr Single topOfFollowingPage = 40;
 
-/// A block of the plate section: its sketch beside its lines, then the step to the next block.
-struct PlateBlock {
-    int check;
-    const char* size; // of the sketch; empty: none
-    const char* file;
-    int lines;
-    Single step;
+/// Place of a check of the plate section: its sketch beside its lines, then the step to the next.
+struct PlateBlockPlace {
+    const char* width; // of the sketch; empty: none
+    const char* height;
+    Single step;            // 0: y simply runs on
     Single sketchAbove = 0; // how far the sketch stands above the first line
 };
 
-constexpr std::array plateBlocks{
-    PlateBlock{1, ", 32.3, 35.5", "Szkic1.bmp", 4, 27, 12},
-    PlateBlock{2, ", 32.3, 29.3", "Szkic2.bmp", 4, 28},
-    PlateBlock{3, ", 33.7, 22.3", "Szkic31.bmp", 5, 23},
-    PlateBlock{4, "", "", 4, 18},
-    PlateBlock{5, ", 33.7, 22.3", "Szkic32.bmp", 5, 23},
-    PlateBlock{6, ", 33.7, 22.3", "Szkic33.bmp", 5, 23},
-    PlateBlock{7, ", 33.7, 22.3", "Szkic51.bmp", 5, 23},
-    PlateBlock{8, ", 33.7, 22.3", "Szkic52.bmp", 6, 0}, // y simply runs on
+constexpr PlateBlockPlace plateBlockPlaces[] = {
+    {"32.3", "35.5", 27, 12}, {"32.3", "29.3", 28}, {"33.7", "22.3", 23}, {"", "", 18},
+    {"33.7", "22.3", 23},     {"33.7", "22.3", 23}, {"33.7", "22.3", 23}, {"33.7", "22.3", 0},
 };
 
-constexpr std::array frameLines{
-    "14,178.,0.,0",  "14,178.,0.1,1", "14,0.,0.,0",    "14,177.,0.,1",
-    "14,177.,30.,1", "14,0.,30.,1",   "14,0.,0.,1",    "14,0.,15.,0",
-    "14,177.,15.,1", "14,143.,15.,0", "14,143.,30.,1",
+/// The frame's rules; those without a pen are moves.
+struct FrameRule {
+    const char* x;
+    const char* y;
+    bool draws;
+};
+constexpr FrameRule frameRules[] = {
+    {"178.", "0.", false}, {"178.", "0.1", true},  {"0.", "0.", false},   {"177.", "0.", true},
+    {"177.", "30.", true}, {"0.", "30.", true},    {"0.", "0.", true},    {"0.", "15.", false},
+    {"177.", "15.", true}, {"143.", "15.", false}, {"143.", "30.", true},
 };
 
-QString frameText(const QString& y) {
-    return QStringLiteral("3,3.,") + y + QStringLiteral(",1,,3.5,1.,0.,0,0,0,400,5");
+const QString bodyLeft = QStringLiteral("7.0");
+const QString bodyHeight = QStringLiteral("3.2"); // of letters, mm
+const QString frameHeight = QStringLiteral("3.5");
+
+wyd::TextFields frameText(const QString& y) {
+    return {QStringLiteral("3."), y, frameHeight};
 }
 
 } // namespace
 
 void WydWriter::Naglowek_wyd() {
-    const auto& title = raport_.Wiersze_naglowka;
-    for (const char* line : frameLines)
-        file_.line(QLatin1String(line).toString());
-    for (int i = 1; i <= 3; ++i) {
-        file_.line(frameText(Format_kropka(i * 4.5, u"##.#")));
-        file_.line(title(i));
+    const auto& title = report_.title;
+    for (const FrameRule& rule : frameRules) {
+        const QLatin1String x(rule.x);
+        const QLatin1String y(rule.y);
+        if (rule.draws)
+            commands_.lineTo(x, y);
+        else
+            commands_.moveTo(x, y);
     }
-    file_.line(frameText(QStringLiteral("19.0")));
-    file_.line(title(4));
-    file_.line(frameText(QStringLiteral("23.5")));
-    file_.line(title(5));
-    file_.line(frameText(QStringLiteral("28.0")));
-    file_.line(title(7));
-    file_.line(u"13,147.,23.5,1,,3.5,1.,0.,0,0,0,400,5");
-    file_.line(title(6) + Format(stan_.opcje.Nr_strony, u"####"));
-    file_.line(u"3, 3., 55.");
-    file_.line(u" ");
-    file_.line(u"9,5.");
+    for (int i = 1; i <= 3; ++i)
+        commands_.text(frameText(Format_kropka(i * 4.5, u"##.#")), title(i));
+    commands_.text(frameText(QStringLiteral("19.0")), title(4));
+    commands_.text(frameText(QStringLiteral("23.5")), title(5));
+    commands_.text(frameText(QStringLiteral("28.0")), title(7));
+    commands_.pageNumber({QStringLiteral("147."), QStringLiteral("23.5"), frameHeight}, title(6),
+                         report_.firstPage);
+    commands_.textAt(QStringLiteral("3."), QStringLiteral("55."), u" ");
+    commands_.frameEnd();
 }
 
-void WydWriter::bodyLine(const QString& text, QStringView yPattern) {
-    file_.line(QStringLiteral("3,7.0,") + Format_kropka(Poz_y, yPattern)
-               + QStringLiteral(",1,,3.2,1.,0.,0,0,0,400,5"));
-    file_.line(text);
+void WydWriter::bodyLine(const QString& text, QStringView yPattern, bool underlined) {
+    commands_.text({bodyLeft, Format_kropka(Poz_y, yPattern), bodyHeight, underlined}, text);
     Poz_y += lineStep;
 }
 
 void WydWriter::underlinedLine(const QString& text) {
-    file_.line(QStringLiteral("3,7.0,") + Format_kropka(Poz_y, u"#0.0")
-               + QStringLiteral(",1,,3.2,1.,0.,0,1,0,400,5"));
-    file_.line(text);
-    Poz_y += lineStep;
+    bodyLine(text, u"#0.0", true);
 }
 
-/// The line behind a picture record.
-void WydWriter::placed(const QString& name) {
+void WydWriter::picture(const wyd::PictureFields& fields, const QString& name) {
     pictures_ += name;
-    file_.line(wyd::pathLine(folder_, prefix_ + name));
-}
-
-void WydWriter::picture(QLatin1String x, Single y, QStringView yPattern, QLatin1String size,
-                        const QString& name) {
-    file_.line(QStringLiteral("5, ") + x + Format_kropka(y, yPattern) + size);
-    placed(name);
+    commands_.picture(fields, wyd::pathLine(folder_, prefix_ + name));
 }
 
 void WydWriter::newPage() {
     Licznik_stron = CInt(Licznik_stron + 1);
-    file_.line(u"10");
+    commands_.newPage();
     Naglowek_wyd();
 }
 
@@ -117,114 +106,113 @@ void WydWriter::KoniecZ98R(Single& y, Single& y2, Integer wysokosc) {
     y2 = topOfFollowingPage;
 }
 
+void WydWriter::bodyLines(const QStringList& lines) {
+    for (const QString& line : lines)
+        bodyLine(line);
+}
+
 void WydWriter::generalData() {
-    for (int i = 1; i <= 4; ++i)
-        bodyLine(raport_.Wiersze_danych(i));
-    for (int i = 0; i <= stan_.plyta.Liczba_srub; ++i)
-        bodyLine(stan_.raport.Wiersze_srub(i));
-    for (int i = 0; i <= stan_.obciazenia.Liczba_przyp + 2; ++i)
-        bodyLine(stan_.raport.Wiersze_obciazen(i));
-    bodyLine(raport_.Wiersze_stale(0));
+    bodyLines(report_.data);
+    bodyLines(report_.anchors);
+    bodyLines(report_.loads);
+    bodyLine(report_.resultsHeading);
 }
 
 /// The omega of the line is a letter of the Symbol font, its subscript a millimetre lower.
 void WydWriter::exceedanceLine(const QString& text, const QString& ratio) {
     bodyLine(text);
-    file_.line(u"3,,,1,,3.2,1.,0.,0,0,0,400,2");
-    file_.line(u"w");
-    file_.line(u"3,,@1,1,,3.2,1.,0.,0,0,0,400,5");
-    file_.line(QString(omegaSubscript(stan_)));
-    file_.line(u"3,,@-1,1,,3.2,1.,0.,0,0,0,400,5");
-    file_.line(ratio);
+    commands_.text({{}, {}, bodyHeight, false, wyd::symbolFont}, u"w");
+    commands_.text({{}, QStringLiteral("@1"), bodyHeight}, QString(report_.omegaSubscript));
+    commands_.text({{}, QStringLiteral("@-1"), bodyHeight}, ratio);
 }
 
-void WydWriter::loadCase(ResultLines& results, int c) {
-    bodyLine(caseTitle(stan_, c));
-    if (!wholePlate(stan_, c)) {
-        picture(QLatin1String("125.,"), Poz_y - lineStep, u"#0.0", QLatin1String(", 41.1, 27.9"),
-                zoneSketchFile(c));
-        bodyLine(raport_.Wiersze_strefy(c - 1));
-        bodyLine(raport_.Wiersze_stale(1));
+void WydWriter::loadCase(const ReportCase& section) {
+    bodyLine(section.title);
+    if (!section.wholePlate())
+        picture({QStringLiteral("125."), Format_kropka(Poz_y - lineStep, u"#0.0"),
+                 QStringLiteral("41.1"), QStringLiteral("27.9")},
+                section.figure);
+    bodyLines(section.axis);
+    bodyLine({});
+    for (const ReportResultLine& line : section.results) {
+        if (line.ratio)
+            exceedanceLine(line.text, *line.ratio);
+        else
+            bodyLine(line.text);
     }
-    bodyLine(raport_.Wiersze_stale(2));
-    results.ofCase(
-        c, [this](const QString& text) { bodyLine(text); },
-        [this](const QString& text, const QString& ratio) { exceedanceLine(text, ratio); });
-    bodyLine(raport_.Wiersze_stale(2));
+    bodyLine({});
 }
 
-void WydWriter::summary() {
-    bodyLine(raport_.Wiersze_stale(2));
-    bodyLine(raport_.Wiersze_stale(3));
-    for (const QString& line : Wiersze_podsumowania(stan_))
+void WydWriter::summary(const ReportSummary& section) {
+    bodyLine({});
+    bodyLine(section.heading);
+    for (const QString& line : section.lines)
         bodyLine(line);
 }
 
-void WydWriter::plateSection() {
-    const auto& lines = stan_.raport.Wiersze_blachy;
-    bodyLine(lines(0));
-    underlinedLine(lines(1));
-    bodyLine(lines(2));
+void WydWriter::plateSection(const ReportPlate& section) {
+    bodyLine(section.head[0]);
+    underlinedLine(section.heading());
+    bodyLine(section.head[2]);
     Poz_y_blachy = Poz_y;
-    int k = 2; // last line written
-    for (const PlateBlock& block : plateBlocks) {
-        if (stan_.raport.Spr_blachy(block.check) <= 0)
-            continue;
-        if (block.file[0] != '\0')
-            picture(QLatin1String("135.,"), Poz_y_blachy - block.sketchAbove, u"##0.0",
-                    QLatin1String(block.size), QLatin1String(block.file));
-        for (int i = 1; i <= block.lines; ++i)
-            bodyLine(lines(k + i), u"##0.0");
-        k += block.lines;
-        if (block.step > 0) {
-            Poz_y_blachy += block.step;
+    for (const ReportPlateBlock& block : section.blocks) {
+        const PlateBlockPlace& place = plateBlockPlaces[block.check - 1];
+        if (!block.figure.isEmpty())
+            picture({QStringLiteral("135."),
+                     Format_kropka(Poz_y_blachy - place.sketchAbove, u"##0.0"),
+                     QLatin1String(place.width), QLatin1String(place.height)},
+                    block.figure);
+        for (const QString& line : block.lines)
+            bodyLine(line, u"##0.0");
+        if (place.step > 0) {
+            Poz_y_blachy += place.step;
             Poz_y = Poz_y_blachy;
         }
     }
 }
 
-void WydWriter::anchorSection() {
-    const auto& lines = stan_.raport.Wiersze_kotwy;
+void WydWriter::anchorSection(const ReportAnchor& section) {
+    constexpr int besideSketch = 5; // lines
     Poz_y += 2;
-    underlinedLine(lines(1));
-    for (int i = 2; i <= 6; ++i)
-        bodyLine(lines(i));
-    picture(QLatin1String("80.0,"), Poz_y - 27, u"##0.0", QLatin1String(", 91.5, 29.0"),
-            anchorSketchFile);
-    file_.line();
+    underlinedLine(section.heading);
+    bodyLines(section.lines.mid(0, besideSketch));
+    picture({QStringLiteral("80.0"), Format_kropka(Poz_y - 27, u"##0.0"), QStringLiteral("91.5"),
+             QStringLiteral("29.0")},
+            section.figure);
+    commands_.emptyLine();
     Poz_y += 6;
-    for (int i = 7; i <= stan_.raport.Liczba_wierszy_kotwy; ++i)
-        bodyLine(lines(i));
+    bodyLines(section.lines.mid(besideSketch));
 }
 
 void WydWriter::body() {
     Naglowek_wyd();
-    file_.line(u"5, 10., 35., 52.9, 34.7");
-    placed(QStringLiteral("Ferogo2.bmp"));
-    file_.line(u"5, 75., 35., 70.1, 46.6");
-    placed(QStringLiteral("Ferrob.bmp"));
+    picture({QStringLiteral("10."), QStringLiteral(" 35."), QStringLiteral("52.9"),
+             QStringLiteral("34.7")},
+            report_.generalView);
+    picture({QStringLiteral("75."), QStringLiteral(" 35."), QStringLiteral("70.1"),
+             QStringLiteral("46.6")},
+            report_.platePicture);
     Poz_y = topOfBody;
     generalData();
-    ResultLines results(stan_);
-    for (int c = 1; c <= stan_.obciazenia.Liczba_przyp; ++c)
-        loadCase(results, c);
-    if (stan_.obciazenia.Liczba_przyp > 1)
-        summary();
-    if (stan_.raport.Liczba_wierszy_blachy >= 1)
-        plateSection();
-    if (stan_.raport.Liczba_wierszy_kotwy >= 1)
-        anchorSection();
+    for (const ReportCase& section : report_.cases)
+        loadCase(section);
+    if (report_.summary)
+        summary(*report_.summary);
+    if (report_.plate)
+        plateSection(*report_.plate);
+    if (report_.anchor)
+        anchorSection(*report_.anchor);
 }
 
-void Buduj_wyd(const Stan& stan, const Raport& raport, const QString& folder) {
-    WydWriter frame(stan, raport, folder);
+void Buduj_wyd(const ReportModel& report, const QString& folder) {
+    WydWriter frame(report, folder);
     frame.Naglowek_wyd();
     frame.file().commit(folder + u'/' + wyd::frameFile, Lasting::UntilNextUse);
-    WydWriter report(stan, raport, folder);
-    report.body();
-    if (stan.raport.Liczba_wierszy_kotwy >= 1)
-        saveAnchorSketch(folder, stan.raport.Typ_szkicu_kotwy);
-    report.file().commit(folder + u'/' + wyd::bodyFile, Lasting::UntilNextUse);
+    WydWriter whole(report, folder);
+    whole.body();
+    if (report.anchor)
+        saveAnchorSketch(folder, report.anchor->sketch);
+    whole.file().commit(folder + u'/' + wyd::bodyFile, Lasting::UntilNextUse);
 }
 
 } // namespace ferna

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "report/report_lines.h"
-#include "runtime/text_file.h"
+#include "protocol/commands.h"
+#include "report/report_model.h"
 
 namespace ferna {
 
@@ -10,8 +10,8 @@ namespace ferna {
 class WydWriter {
 public:
     /// `folder` is that of the pictures; `prefix` stands before their names in the records.
-    WydWriter(const Stan& stan, const Raport& raport, QString folder, QString prefix = {})
-        : stan_(stan), raport_(raport), folder_(std::move(folder)), prefix_(std::move(prefix)) {}
+    WydWriter(ReportModel report, QString folder, QString prefix = {})
+        : report_(std::move(report)), folder_(std::move(folder)), prefix_(std::move(prefix)) {}
 
     /// The page frame with the title block.
     void Naglowek_wyd();
@@ -24,7 +24,7 @@ public:
     /// 290, a new page begins and y and y2 become 40.
     void KoniecZ98R(Single& y, Single& y2, Integer wysokosc);
 
-    TextFileWriter& file() { return file_; }
+    TextFileWriter& file() { return commands_.file(); }
     /// Names of the pictures that the records place, without the prefix.
     const QStringList& pictures() const { return pictures_; }
     Single Poz_y = 0;          ///< running y of the body, mm
@@ -32,29 +32,27 @@ public:
     Integer Licznik_stron = 0; ///< pages begun by the page tests
 
 private:
-    void bodyLine(const QString& text, QStringView yPattern = u"#0.0");
+    void bodyLine(const QString& text, QStringView yPattern = u"#0.0", bool underlined = false);
     void underlinedLine(const QString& text);
-    void placed(const QString& name);
-    void picture(QLatin1String x, Single y, QStringView yPattern, QLatin1String size,
-                 const QString& name);
+    void picture(const wyd::PictureFields& fields, const QString& name);
     void newPage();
     void generalData();
-    void loadCase(ResultLines& results, int c);
+    void bodyLines(const QStringList& lines);
+    void loadCase(const ReportCase& section);
     void exceedanceLine(const QString& text, const QString& ratio);
-    void summary();
-    void plateSection();
-    void anchorSection();
+    void summary(const ReportSummary& section);
+    void plateSection(const ReportPlate& section);
+    void anchorSection(const ReportAnchor& section);
 
-    const Stan& stan_;
-    const Raport& raport_;
+    const ReportModel report_;
     QString folder_;
     QString prefix_;
-    TextFileWriter file_;
+    wyd::CommandWriter commands_;
     QStringList pictures_;
 };
 
-/// Writes both command files into the program folder from the report as it stands, and saves the
-/// anchor sketch where there is an anchor section. Errors of `writeFileWhole`.
-void Buduj_wyd(const Stan& stan, const Raport& raport, const QString& folder);
+/// Writes both command files into the program folder, and saves the anchor sketch where there is an
+/// anchor section. Errors of `writeFileWhole`.
+void Buduj_wyd(const ReportModel& report, const QString& folder);
 
 } // namespace ferna

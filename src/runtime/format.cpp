@@ -1,44 +1,76 @@
 #include "runtime/format.h"
 
+#include "runtime/line_of_text.h"
 #include "runtime/run_time_error.h"
 
 #include <QLocale>
 
+#include <array>
 #include <charconv>
+#include <cstdint>
 #include <cstdlib>
-#include <string>
+#include <string_view>
 
 namespace ferna {
 
 namespace {
 
+using Letters = LineOfText::Letters;
+
 constexpr int singleDigits = 7;
 constexpr int doubleDigits = 15;
+
+/// Digits in a row of fixed room.
+class Digits {
+public:
+    bool empty() const { return size_ == 0; }
+    int size() const { return size_; }
+    char operator[](int place) const { return digits_[static_cast<std::size_t>(place)]; }
+    char& back() { return digits_[static_cast<std::size_t>(size_ - 1)]; }
+    const char* data() const { return digits_.data(); }
+
+    void push_back(char digit) { digits_[static_cast<std::size_t>(size_++)] = digit; }
+    void pop_back() { --size_; }
+    void shorten(int size) { size_ = size; }
+    void append(std::string_view more) {
+        for (const char digit : more)
+            push_back(digit);
+    }
+    /// True where from that place on there are only zeros.
+    bool onlyZerosFrom(int place) const {
+        while (place < size_ && (*this)[place] == '0')
+            ++place;
+        return place >= size_;
+    }
+
+private:
+    static constexpr std::size_t most = 48;
+    std::array<char, most> digits_;
+    int size_ = 0;
+};
 
 /// A number as decimal digits: 0.d1d2d3... times ten to the power `point`.
 struct Decimal {
     bool negative = false;
-    std::string digits; // no leading zero; empty for zero
-    int point = 0;      // digits left of the decimal sign
+    Digits digits; // no leading zero; empty for zero
+    int point = 0; // digits left of the decimal sign
 
     char at(int place) const { // place 0 is the first digit
-        return place >= 0 && place < static_cast<int>(digits.size())
-                   ? digits[static_cast<std::size_t>(place)]
-                   : '0';
+        return place >= 0 && place < digits.size() ? digits[place] : '0';
     }
 };
 
-void stripTrailingZeros(std::string& digits) {
+void stripTrailingZeros(Digits& digits) {
     while (!digits.empty() && digits.back() == '0')
         digits.pop_back();
 }
 
 /// Keeps `kept` digits, half away from zero.
 void keepDigits(Decimal& number, int kept) {
-    if (kept >= static_cast<int>(number.digits.size()))
+    if (kept >= number.digits.size())
         return;
     const bool up = kept >= 0 && number.at(kept) >= '5';
-    number.digits.resize(kept > 0 ? static_cast<std::size_t>(kept) : 0);
+    number.digits.shorten(kept > 0 ? kept : 0);
     if (up) {
         while (!number.digits.empty() && number.digits.back() == '9')
             number.digits.pop_back();
@@ -60,20 +92,31 @@ Decimal digitsOf(Double magnitude, int count) {
     const auto end =
         std::to_chars(text, text + sizeof text, magnitude, std::chars_format::scientific, count - 1)
             .ptr;
-    const std::string_view written(text, static_cast<std::size_t>(end - text));
-    const std::size_t exponent = written.find('e');
+    // "d.ddde-dd" with `count` digits
+    const std::size_t exponent = static_cast<std::size_t>(count) + 1;
+    int power = 0;
+    std::from_chars(text + exponent + 2, end, power);
     Decimal result;
-    result.digits.reserve(static_cast<std::size_t>(count));
-    result.digits.push_back(written.front());
-    result.digits.append(written.substr(2, exponent - 2));
-    result.point = std::atoi(written.data() + exponent + 1) + 1;
+    result.digits.push_back(text[0]);
+    result.digits.append({text + 2, static_cast<std::size_t>(count - 1)});
+    result.point = (text[exponent + 1] == '-' ? -power : power) + 1;
+    return result;
+}
+
+/// The digits of a whole number, which need no rounding.
+Decimal digitsOfWhole(std::int64_t magnitude) {
+    char text[24];
+    const auto end = std::to_chars(text, text + sizeof text, magnitude).ptr;
+    Decimal result;
+    result.digits.append({text, end});
+    result.point = result.digits.size();
+    stripTrailingZeros(result.digits);
     return result;
 }
 
 /// Whether what stands behind the first `count` digits reads as one half exactly.
-bool endsInAHalf(const std::string& digits, int count) {
-    const std::size_t behind = static_cast<std::size_t>(count);
-    return digits[behind] == '5' && digits.find_first_not_of('0', behind + 1) == std::string::npos;
+bool endsInAHalf(const Digits& digits, int count) {
+    return digits[count] == '5' && digits.onlyZerosFrom(count + 1);
 }
 
 /// The value at `count` significant digits, half away from zero.
@@ -84,9 +127,13 @@ Decimal decimalOf(Double value, int count) {
         return {};
     constexpr int fewDigits = 17;
     constexpr int further = 26; // digits enough to tell a half from what lies just below it
+    constexpr Double largestWhole = 1e15; // of exact doubles
     const Double magnitude = std::fabs(value);
-    Decimal result = digitsOf(magnitude, fewDigits);
-    if (endsInAHalf(result.digits, count)) // as it may read only for having been rounded
+    const bool isWhole = magnitude < largestWhole && magnitude == std::floor(magnitude);
+    Decimal result = isWhole ? digitsOfWhole(static_cast<std::int64_t>(magnitude))
+                             : digitsOf(magnitude, fewDigits);
+    if (!isWhole
+        && endsInAHalf(result.digits, count)) // as it may read only for having been rounded
         result = digitsOf(magnitude, count + further);
     result.negative = value < 0;
     keepDigits(result, count);
@@ -106,85 +153,85 @@ int countPlaceholders(QStringView part) {
 
 /// The integer part of a pattern, filled from the left: `count` placeholders stand for the last
 /// `count` places in front of the decimal sign, and the first takes all places further left.
-void writeIntegerPart(QString& out, const Decimal& number, QStringView part, int count) {
+void writeIntegerPart(Letters& out, const Decimal& number, QStringView part, int count) {
     int remaining = count; // placeholders from here to the decimal sign
     bool zeroSeen = false; // a "0" of the pattern forces all places behind it
     for (const QChar c : part) {
         if (!isPlaceholder(c)) {
-            out += c;
+            out.append(c);
             continue;
         }
         if (remaining == count)
             for (int place = 0; place < number.point - count; ++place)
-                out += QLatin1Char(number.at(place));
+                out.append(QLatin1Char(number.at(place)));
         zeroSeen = zeroSeen || c == u'0';
         if (remaining <= number.point || zeroSeen)
-            out += QLatin1Char(number.at(number.point - remaining));
+            out.append(QLatin1Char(number.at(number.point - remaining)));
         --remaining;
     }
 }
 
 /// The part behind the decimal sign: a "#" is written only while digits are left, and in front of
 /// a "0" that is still to come.
-void writeFraction(QString& out, const Decimal& number, QStringView part) {
+void writeFraction(Letters& out, const Decimal& number, QStringView part) {
     const qsizetype lastZero = part.lastIndexOf(u'0');
     int place = number.point;
     for (qsizetype i = 0; i < part.size(); ++i) {
         if (!isPlaceholder(part[i])) {
-            out += part[i];
+            out.append(part[i]);
             continue;
         }
-        if (i <= lastZero || place < static_cast<int>(number.digits.size()))
-            out += QLatin1Char(number.at(place));
+        if (i <= lastZero || place < number.digits.size())
+            out.append(QLatin1Char(number.at(place)));
         ++place;
     }
 }
 
-QString formatted(Decimal number, QStringView pattern) {
+void write(Letters& out, Decimal number, QStringView pattern) {
     const qsizetype point = pattern.indexOf(u'.');
     const QStringView integerPart = point < 0 ? pattern : pattern.left(point);
     const QStringView fraction = point < 0 ? QStringView() : pattern.mid(point + 1);
     keepDigits(number, number.point + countPlaceholders(fraction));
-    QString out;
-    out.reserve(pattern.size() + 8);
     if (number.negative)
-        out += u'-';
+        out.append(u'-');
     writeIntegerPart(out, number, integerPart, countPlaceholders(integerPart));
     if (point >= 0) {
-        out += decimalSign();
+        out.append(decimalSign());
         writeFraction(out, number, fraction);
     }
-    return out;
 }
 
-QString generalForm(Double value, int count) {
+/// The exponent of the general form, with its sign and two digits at least.
+void writeExponent(Letters& out, int exponent) {
+    out.append(u'E');
+    out.append(exponent < 0 ? u'-' : u'+');
+    const QString digits = QString::number(std::abs(exponent)).rightJustified(2, u'0');
+    out.append(digits.constData(), digits.size());
+}
+
+void writeGeneral(Letters& out, Double value, int count) {
     const Decimal number = decimalOf(value, count);
-    if (number.digits.empty())
-        return QStringLiteral("0");
-    QString out;
+    if (number.digits.empty()) {
+        out.append(u'0');
+        return;
+    }
     if (number.negative)
-        out += u'-';
-    const int digits = static_cast<int>(number.digits.size());
+        out.append(u'-');
+    const int digits = number.digits.size();
     const int exponent = number.point - 1;
-    if (exponent >= count || exponent < -5) {
-        out += QLatin1Char(number.at(0));
-        if (digits > 1) {
-            out += decimalSign();
-            out += QLatin1String(number.digits.data() + 1, digits - 1);
-        }
-        out += exponent < 0 ? u"E-" : u"E+";
-        return out + QString::number(std::abs(exponent)).rightJustified(2, u'0');
+    const bool hasExponent = exponent >= count || exponent < -5;
+    const int point = hasExponent ? 1 : number.point; // digits in front of the decimal sign
+    if (point <= 0)
+        out.append(u'0');
+    for (int place = 0; place < point; ++place)
+        out.append(QLatin1Char(number.at(place)));
+    if (digits > point) {
+        out.append(decimalSign());
+        for (int place = point; place < digits; ++place) // at() gives 0 in front of them
+            out.append(QLatin1Char(number.at(place)));
     }
-    if (number.point <= 0)
-        out += u'0';
-    for (int place = 0; place < number.point; ++place)
-        out += QLatin1Char(number.at(place));
-    if (digits > number.point) {
-        out += decimalSign();
-        for (int place = number.point; place < digits; ++place) // at() gives 0 in front of them
-            out += QLatin1Char(number.at(place));
-    }
-    return out;
+    if (hasExponent)
+        writeExponent(out, exponent);
 }
 
 } // namespace
@@ -206,15 +253,15 @@ void setDecimalSign(QChar sign) {
 }
 
 QString Format(Single value, QStringView pattern) {
-    return formatted(decimalOf(Double{value}, singleDigits), pattern);
+    return LineOfText().number(value, pattern);
 }
 
 QString Format(Double value, QStringView pattern) {
-    return formatted(decimalOf(value, doubleDigits), pattern);
+    return LineOfText().number(value, pattern);
 }
 
 QString Format(int value, QStringView pattern) {
-    return formatted(decimalOf(value, doubleDigits), pattern);
+    return LineOfText().number(value, pattern);
 }
 
 QString Format_kropka(Single value, QStringView pattern) {
@@ -226,11 +273,39 @@ QString Format_kropka(Double value, QStringView pattern) {
 }
 
 QString general(Single value) {
-    return generalForm(Double{value}, singleDigits);
+    return value == 0 ? QStringLiteral("0") : QString(LineOfText().general(value));
 }
 
 QString general(Double value) {
-    return generalForm(value, doubleDigits);
+    return value == 0 ? QStringLiteral("0") : QString(LineOfText().general(value));
+}
+
+LineOfText& LineOfText::number(Single value, QStringView pattern) {
+    write(letters_, decimalOf(Double{value}, singleDigits), pattern);
+    return *this;
+}
+
+LineOfText& LineOfText::number(Double value, QStringView pattern) {
+    write(letters_, decimalOf(value, doubleDigits), pattern);
+    return *this;
+}
+
+LineOfText& LineOfText::number(int value, QStringView pattern) {
+    return number(static_cast<Double>(value), pattern);
+}
+
+LineOfText& LineOfText::general(Single value) {
+    writeGeneral(letters_, Double{value}, singleDigits);
+    return *this;
+}
+
+LineOfText& LineOfText::general(Double value) {
+    writeGeneral(letters_, value, doubleDigits);
+    return *this;
+}
+
+LineOfText& LineOfText::general(int value) {
+    return general(static_cast<Double>(value));
 }
 
 } // namespace ferna

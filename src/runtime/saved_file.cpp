@@ -170,17 +170,21 @@ void writeThrough(const QByteArray& path, const struct stat& info, const QByteAr
         fail(given);
 }
 
+/// True where the open file still stands under that name.
+bool isNamed(int file, const QByteArray& name) {
+    struct stat here {};
+    struct stat named {};
+    return ::fstat(file, &here) == 0 && ::lstat(name.constData(), &named) == 0
+           && here.st_ino == named.st_ino;
+}
+
 /// Removes a hidden name unless the saving that made it is under way. False where it is.
 bool removeLeft(const QByteArray& hidden) {
     const Descriptor left(
         ::open(hidden.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat here {};
-    struct stat named {};
     if (left && ::flock(left.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return false;
-    if (left
-        && (::fstat(left.number(), &here) != 0 || ::lstat(hidden.constData(), &named) != 0
-            || here.st_ino != named.st_ino))
+    if (left && !isNamed(left.number(), hidden))
         return true; // it has got its name in the meantime
     return ::unlink(hidden.constData()) == 0 || errno == ENOENT;
 }
@@ -214,7 +218,8 @@ public:
             openHidden(mode);
         if (!file_)
             fail(given_);
-        ::flock(file_.number(), LOCK_EX | LOCK_NB);
+        if (!hasName_)
+            ::flock(file_.number(), LOCK_EX | LOCK_NB);
     }
     ~Saving() {
         if (hasName_)
@@ -255,12 +260,14 @@ private:
         for (;;) {
             constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
             file_.reset(::open(hidden_.constData(), flags, mode));
-            hasName_ = static_cast<bool>(file_);
+            if (!file_ && errno != EEXIST)
+                fail(given_);
+            // Before it was locked it may have been taken for a left one, and be without its name.
+            hasName_ =
+                file_ && ::flock(file_.number(), LOCK_EX) == 0 && isNamed(file_.number(), hidden_);
             if (hasName_)
                 return;
-            if (errno != EEXIST)
-                fail(given_);
-            if (!removeLeft(hidden_))
+            if (!file_ && !removeLeft(hidden_))
                 patience.wait();
         }
     }

@@ -1,5 +1,6 @@
 #include "selection/selection_form.h"
 
+#include "design/catalogue.h"
 #include "runtime/format.h"
 #include "selection/anchor_catalogue.h"
 #include "selection/clauses.h"
@@ -130,21 +131,24 @@ void bringToFront(SelectionForm& form, int tab) {
 }
 
 void acceptSelection(Stan& stan, const SelectionForm& form) {
-    const auto text = [&](int n) { return stan.Teksty(n); };
+    const auto text = [&](phrase::Line line) { return stan.Teksty(line); };
     const auto T = static_cast<std::size_t>(form.tab);
-    const QString whole = text(29) + form.lblLcalk[T] + text(30);
-    const QString thickness = text(28) + general(form.Grub_laczna) + mm;
-    QStringList lines{text(21) + form.lblNazwa[T],
-                      text(22) + Format(form.Nosnosc, u"### ##0.0") + QStringLiteral(" kN"),
-                      text(23) + form.lbldia[T], text(27) + form.lblLd[T],
-                      text(26) + form.lblLo[T]};
+    const QString whole =
+        text(phrase::TotalLength) + form.lblLcalk[T] + text(phrase::RoundedToFifty);
+    const QString thickness = text(phrase::CombinedThickness) + general(form.Grub_laczna) + mm;
+    QStringList lines{
+        text(phrase::SelectedAnchor) + form.lblNazwa[T],
+        text(phrase::AnchorCapacity) + Format(form.Nosnosc, u"### ##0.0") + QStringLiteral(" kN"),
+        text(phrase::NominalDiameter) + form.lbldia[T],
+        text(phrase::ThreadedLength) + form.lblLd[T], text(phrase::StraightLength) + form.lblLo[T]};
     if (form.tab == 0) {
-        lines << text(24) + form.lblLh << text(25) + form.lblD;
+        lines << text(phrase::HookLength) + form.lblLh << text(phrase::BendDiameter) + form.lblD;
     } else {
         const QString times = QStringLiteral(" x ");
-        lines << text(31) + general(form.a) + times + general(form.a) + times + inMm(form.t);
+        lines << text(phrase::AnchorEndPlate) + general(form.a) + times + general(form.a) + times
+                     + inMm(form.t);
         if (form.d > largestSmallSketch)
-            lines << text(32) + form.lblL1;
+            lines << text(phrase::RibLength) + form.lblL1;
     }
     lines << whole << thickness;
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScreen>
@@ -57,6 +58,24 @@ void stopTabAtTheChoice(QWidget* group) {
                 for (QRadioButton* one : options)
                     one->setFocusPolicy(one == option ? Qt::StrongFocus : Qt::ClickFocus);
         });
+}
+
+void keepRoomForEveryTab(QTabWidget* tabs) {
+    QSize room;
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        QWidget* const page = tabs->widget(tab);
+        for (QWidget* control : page->findChildren<QWidget*>())
+            control->ensurePolished(); // fonts and margins as they will be
+        page->layout()->activate();
+        room = room.expandedTo(page->layout()->totalSizeHint());
+    }
+    for (int tab = 0; tab < tabs->count(); ++tab) {
+        const QLayout* const layout = tabs->widget(tab)->layout();
+        if (layout->hasHeightForWidth())
+            room.setHeight(qMax(room.height(), layout->totalHeightForWidth(room.width())));
+    }
+    for (int tab = 0; tab < tabs->count(); ++tab)
+        tabs->widget(tab)->setMinimumSize(room);
 }
 
 void addTabKeys(QWidget* form, QTabWidget* tabs) {

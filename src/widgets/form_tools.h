@@ -17,6 +17,10 @@ void allowOnlyNumbers(QLineEdit* field);
 /// Makes the chosen option of a group the only one that Tab stops at; the arrows go to the others.
 void stopTabAtTheChoice(QWidget* group);
 
+/// Gives every page of a tab widget the room that the largest of them needs, so that the form
+/// stands still when another one comes to the front.
+void keepRoomForEveryTab(QTabWidget* tabs);
+
 /// Brings the tabs of a form to the front by keys wherever the focus is: Alt with the number of the
 /// tab, Ctrl+Tab and Ctrl+PageDown to the next one that can be chosen, with Shift and Ctrl+PageUp
 /// to the one before.

@@ -71,8 +71,15 @@ public:
 
 } // namespace
 
+// A width that is set takes the place of the one that the layout keeps to: only a form that is
+// narrower than its title is given one.
 void makeRoomForTitle(QWidget* form) {
-    form->setMinimumWidth(qMax(form->minimumWidth(), widthForTitle(form)));
+    for (QWidget* control : form->findChildren<QWidget*>())
+        control->ensurePolished();
+    const QLayout* const layout = form->layout();
+    const int own = layout ? layout->totalMinimumSize().width() : form->minimumWidth();
+    if (own < widthForTitle(form))
+        form->setMinimumWidth(widthForTitle(form));
 }
 
 void dressWindows(QApplication& application) {

@@ -3,6 +3,7 @@
 #include "support/decimal_comma.h"
 #include "support/golden.h"
 #include "support/printing.h"
+#include "support/task_document.h"
 
 using namespace ferna;
 using namespace ferna::batch;
@@ -21,7 +22,8 @@ TEST_F(AnchorSectionOfATask, EveryReferenceTaskAgrees) {
         for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
             stan.plyta.Pole_kotwy(i) = coreArea(stan.plyta.Fi_kotwy(i)).value();
         ScriptedDialogs dialogs;
-        const auto result = runAnchorTask(readAnchorTask(golden.task.at("Kotwa")), stan, dialogs);
+        const auto result =
+            runAnchorTask(readAnchorTask(documentOf(golden.task.at("Kotwa"))), stan, dialogs);
         expectSame(golden.expected.at("Kotwa"), result.value,
                    "task " + std::to_string(golden.line));
         EXPECT_TRUE(dialogs.messages.empty());
@@ -32,7 +34,7 @@ TEST_F(AnchorSectionOfATask, EveryReferenceTaskAgrees) {
 
 std::string refusal(const char* text) {
     try {
-        readAnchorTask(Json::parse(text));
+        readAnchorTask(parsed(text));
     } catch (const TaskError& error) {
         return error.what();
     }
@@ -62,7 +64,7 @@ TEST_F(AnchorSectionOfATask, AfterAFailedLoadingThereAreNoLines) {
     stan.wyniki.Nr_kotwy_max = 1;
     ScriptedDialogs dialogs;
     const auto result =
-        runAnchorTask(readAnchorTask(Json::parse(R"({"rodzaj": "F", "g": 32000})")), stan, dialogs);
+        runAnchorTask(readAnchorTask(parsed(R"({"rodzaj": "F", "g": 32000})")), stan, dialogs);
     EXPECT_TRUE(result.value.at("Wiersze_kotwy").empty());
     ASSERT_EQ(dialogs.messages.size(), 1U);
     EXPECT_EQ(dialogs.messages[0].text, QStringLiteral("6!!!!"));

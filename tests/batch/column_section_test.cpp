@@ -2,6 +2,7 @@
 #include "support/decimal_comma.h"
 #include "support/golden.h"
 #include "support/printing.h"
+#include "support/task_document.h"
 
 using namespace ferna;
 using namespace ferna::batch;
@@ -20,7 +21,8 @@ TEST_F(ColumnSectionOfATask, EveryReferenceTaskAgrees) {
         const auto before = golden.task.at("Przypadki").size();
         stan.obciazenia.Liczba_przyp = static_cast<Integer>(before);
         InputFields fields;
-        const auto result = runColumnTask(readColumnTask(golden.task.at("Slup")), stan, fields);
+        const auto result =
+            runColumnTask(readColumnTask(documentOf(golden.task.at("Slup"))), stan, fields);
         const GoldenJson& expected = golden.expected.at("Slup");
         EXPECT_EQ(expected.dump(), result.value.dump()) << "task " << golden.line;
         EXPECT_TRUE(result.Blad.is_null());
@@ -37,7 +39,7 @@ TEST_F(ColumnSectionOfATask, EveryReferenceTaskAgrees) {
 
 std::string refusal(const char* text) {
     try {
-        readColumnTask(Json::parse(text));
+        readColumnTask(parsed(text));
     } catch (const TaskError& error) {
         return error.what();
     }
@@ -65,8 +67,8 @@ TEST_F(ColumnSectionOfATask, ValuesLeftOutKeepTheFirstTextsOfTheDialog) {
     Stan stan;
     InputFields fields;
     const auto result = runColumnTask(
-        readColumnTask(Json::parse(R"([{"kierunek": "pionowe", "rodzaj": "sila", "ex": 500}])")),
-        stan, fields);
+        readColumnTask(parsed(R"([{"kierunek": "pionowe", "rodzaj": "sila", "ex": 500}])")), stan,
+        fields);
     EXPECT_EQ(result.value.at("N"), " 1,0");
     EXPECT_EQ(result.value.at("M1"), " 0,5");
 }
@@ -74,7 +76,7 @@ TEST_F(ColumnSectionOfATask, ValuesLeftOutKeepTheFirstTextsOfTheDialog) {
 TEST_F(ColumnSectionOfATask, AnEmptyListWritesItsRow) {
     Stan stan;
     InputFields fields;
-    runColumnTask(readColumnTask(Json::parse("[]")), stan, fields);
+    runColumnTask(readColumnTask(parsed("[]")), stan, fields);
     EXPECT_EQ(fields.loads[1].N, QStringLiteral("0"));
 }
 
@@ -84,7 +86,7 @@ TEST_F(ColumnSectionOfATask, ASixteenthLoadIsTheErrorOfTheRun) {
     ColumnTask task;
     task.loads.resize(16);
     const auto result = runColumnTask(task, stan, fields);
-    EXPECT_EQ(result.Blad.dump(), R"({"numer":9,"tekst":"Subscript out of range"})");
+    EXPECT_EQ(result.Blad.dump(), R"({"numer":9,"tekst":"Subscript out of range","klucz":"[15]"})");
     EXPECT_EQ(result.value.at("lista").size(), 15U);
     EXPECT_EQ(stan.obciazenia.Liczba_przyp, 1);
 }

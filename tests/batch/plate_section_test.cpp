@@ -2,6 +2,7 @@
 #include "support/decimal_comma.h"
 #include "support/golden.h"
 #include "support/printing.h"
+#include "support/task_document.h"
 
 using namespace ferna;
 using namespace ferna::batch;
@@ -20,7 +21,8 @@ TEST_F(PlateSectionOfATask, EveryReferenceTaskAgrees) {
             continue;
         Stan stan = calculatedState(golden);
         ScriptedDialogs dialogs;
-        const auto result = runPlateTask(readPlateTask(golden.task.at("Blacha")), stan, dialogs);
+        const auto result =
+            runPlateTask(readPlateTask(documentOf(golden.task.at("Blacha"))), stan, dialogs);
         const std::string where = "task " + std::to_string(golden.line);
         expectSame(golden.expected.at("Blacha"), result.value, where);
         expectSame(golden.expected.at("Blad"), result.Blad, where);
@@ -28,10 +30,6 @@ TEST_F(PlateSectionOfATask, EveryReferenceTaskAgrees) {
         ++count;
     }
     EXPECT_GT(count, 80);
-}
-
-Json parsed(const char* text) {
-    return Json::parse(text);
 }
 
 std::string refusal(const char* text) {
@@ -87,7 +85,9 @@ TEST_F(PlateSectionOfATask, AnUnreadableFieldOfTheLaterChecksStopsTheRun) {
         readPlateTask(
             parsed(R"({"Nr_stali_blachy": 2, "Grubosc": 30, "Sprawdzenia": {"7": {"S": 50}}})")),
         stan, dialogs);
-    EXPECT_EQ(result.Blad.dump(), R"({"numer":13,"tekst":"Type mismatch"})");
+    EXPECT_EQ(
+        result.Blad.dump(),
+        R"({"numer":13,"tekst":"Type mismatch","klucz":"Blacha.Sprawdzenia.7","szczegol":"\" \""})");
     EXPECT_EQ(result.value.at("Grubosc"), "0");
     EXPECT_TRUE(result.value.at("Wiersze_blachy").empty());
     EXPECT_FALSE(result.section);

@@ -3,11 +3,13 @@
 #include "support/decimal_comma.h"
 #include "support/places.h"
 #include "support/printing.h"
+#include "support/task_document.h"
 
 #include <gtest/gtest.h>
 
 using namespace ferna;
 using namespace ferna::batch;
+using ferna::testing::documentOf;
 using ferna::testing::WithDecimalSign;
 
 namespace {
@@ -17,7 +19,7 @@ const std::string smallest = R"({"Dlug_plyty_mm": 600, "Szer_plyty_mm": 400,
  "Przypadki": [{"N": 300, "M1": 12.5, "M2": 0, "Vx": 10, "Vy": 0}]})";
 
 Json smallestTask() {
-    return parsed(smallest);
+    return Json::parse(smallest);
 }
 
 struct Refusal {
@@ -27,7 +29,7 @@ struct Refusal {
 
 Refusal refusalOf(const Json& task) {
     try {
-        readTask(task);
+        readTask(documentOf(task));
     } catch (const TaskError& failure) {
         return {failure.path, failure.what()};
     }
@@ -40,7 +42,7 @@ struct Tasks : ::testing::Test {
 };
 
 TEST_F(Tasks, KeysLeftOutTakeTheirDefaults) {
-    const Task read = readTask(task);
+    const Task read = readTask(documentOf(task));
     EXPECT_EQ(read.fields.txtNaz_proj, QString());
     EXPECT_EQ(read.Nazwa_stopy, QString());
     EXPECT_EQ(read.fields.txtNr_strony, QStringLiteral("1"));
@@ -79,7 +81,7 @@ TEST_F(Tasks, EveryKeyReachesItsPlace) {
                     {"Stal_fi_max", 36},
                     {"Stal_Re", 640},
                     {"Stal_Rm", 800}};
-    const Task read = readTask(task);
+    const Task read = readTask(documentOf(task));
     EXPECT_EQ(read.fields.txtNaz_proj, QStringLiteral("Hala ż"));
     EXPECT_EQ(read.Nazwa_stopy, QStringLiteral("F-1"));
     EXPECT_EQ(read.fields.txtNr_strony, QStringLiteral("7"));
@@ -100,7 +102,7 @@ TEST_F(Tasks, EveryKeyReachesItsPlace) {
 TEST_F(Tasks, CoordinatesRoundToWholeMillimetresWithTiesToEven) {
     task["Kotwy"][0]["x"] = 12.5;
     task["Kotwy"][0]["y"] = -13.5;
-    const Task read = readTask(task);
+    const Task read = readTask(documentOf(task));
     EXPECT_EQ(read.stan.plyta.X_kotwy_mm(1), 12);
     EXPECT_EQ(read.stan.plyta.Y_kotwy_mm(1), -14);
 }
@@ -216,7 +218,7 @@ struct Runs : ::testing::Test {
     RunOptions options{{}, places::data(), QDateTime(QDate(2026, 3, 1), QTime(12, 30), Qt::UTC)};
     Json task = smallestTask();
 
-    Json result() { return resultOf(run(readTask(task), options)); }
+    Json result() { return resultOf(run(readTask(documentOf(task)), options)); }
 };
 
 TEST_F(Runs, AComputedTaskHasItsResults) {
@@ -243,7 +245,7 @@ TEST_F(Runs, ARefusedValidationLeavesTheOtherKeysOut) {
     EXPECT_EQ(r["Komunikaty"][0]["tytul"], "Ferna 2005 Pr");
     EXPECT_FALSE(r["Obliczone"]);
     EXPECT_FALSE(r.contains("Materialy"));
-    EXPECT_FALSE(solved(run(readTask(task), options)));
+    EXPECT_FALSE(solved(run(readTask(documentOf(task)), options)));
 }
 
 TEST_F(Runs, ARunTimeErrorGoesIntoTheResult) {

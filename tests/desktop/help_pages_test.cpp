@@ -9,6 +9,7 @@
 #include <QProcess>
 #include <QSet>
 #include <QTemporaryDir>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -26,6 +27,8 @@ bool leadsSomewhere(const QString& link, const QString& fromPage) {
     if (page.startsWith(u"szkice/"))
         return QFileInfo::exists(helpFolder + u'/' + page)
                || QFileInfo::exists(places::data("/") + page);
+    if (page.startsWith(u"przewodnik/")) // made of the guides by the build
+        return QFileInfo(places::bin("/../help/") + page).isFile();
     const QString target = page.isEmpty() ? fromPage : page;
     if (!QFileInfo(helpFolder + u'/' + target).isFile())
         return false;
@@ -72,6 +75,29 @@ TEST(HelpPages, EveryLinkAndPictureOfAPageExists) {
             ++links;
         }
     EXPECT_GT(links, 80);
+}
+
+// As the build has laid them: with their anchors, their pictures and the files they name.
+TEST(HelpPages, EveryLinkAndPictureOfAGuideExists) {
+    const QString root = places::bin("/../help/przewodnik");
+    int links = 0;
+    for (const char* language : {"/en", "/pl"}) {
+        const QDir folder(root + QLatin1String(language));
+        for (const QString& name : folder.entryList({QStringLiteral("*.html")}, QDir::Files))
+            for (const QString& link : captured(textOf(folder.filePath(name)),
+                                                QStringLiteral("\\b(?:href|src)=\"([^\"]*)\""))) {
+                const QUrl url(link);
+                const QString target = folder.filePath(url.path().isEmpty() ? name : url.path());
+                EXPECT_TRUE(QFileInfo(target).isFile())
+                    << name.toStdString() << ": " << link.toStdString();
+                const QString anchor = url.fragment(QUrl::FullyDecoded);
+                EXPECT_TRUE(anchor.isEmpty()
+                            || textOf(target).contains(QStringLiteral(" id=\"%1\"").arg(anchor)))
+                    << name.toStdString() << ": " << link.toStdString();
+                ++links;
+            }
+    }
+    EXPECT_GT(links, 40);
 }
 
 TEST(HelpPages, EveryPageHasItsTitleInsideAndOut) {

@@ -5,6 +5,9 @@ import subprocess
 import time
 
 
+FONTS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "fonts.conf")
+
+
 class Failure(Exception):
     pass
 
@@ -33,7 +36,8 @@ class Desktop:
 
     def open_screen(self, home, size):
         self.env = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": "C.UTF-8",
-                    "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb"} | self.environment
+                    "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb", "FONTCONFIG_FILE": FONTS}
+        self.env |= self.environment
         read, write = os.pipe()
         self.started.append(subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp",

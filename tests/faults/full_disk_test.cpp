@@ -60,9 +60,11 @@ TEST_F(FullDisk, KeepsTheLastTaskAndTellsWhy) {
 TEST_F(FullDisk, IsToldOfEveryFileOfAReport) {
     ASSERT_NO_FATAL_FAILURE(computeReport());
     disk.fill();
-    EXPECT_EQ(errorNumberOf([&] { textReport(base.stan, raport).commit(disk.path("a.txt")); }),
+    EXPECT_EQ(errorNumberOf(
+                  [&] { textReport(reportModel(base.stan, raport)).commit(disk.path("a.txt")); }),
               error::DiskFull);
-    EXPECT_EQ(errorNumberOf([&] { Buduj_wyd(base.stan, raport, disk.folder()); }), error::DiskFull);
+    EXPECT_EQ(errorNumberOf([&] { Buduj_wyd(reportModel(base.stan, raport), disk.folder()); }),
+              error::DiskFull);
     EXPECT_EQ(errorNumberOf([&] { PictureBox(QSize(265, 176)).saveBitmap(disk.path("a.bmp")); }),
               error::DiskFull);
     EXPECT_EQ(disk.names().size(), 1) << "the file that fills the disk";
@@ -70,7 +72,7 @@ TEST_F(FullDisk, IsToldOfEveryFileOfAReport) {
 
 TEST_F(FullDisk, EndsTheRendererWithAMessageAndWithoutAPicture) {
     ASSERT_NO_FATAL_FAILURE(computeReport());
-    Buduj_wyd(base.stan, raport, disk.folder());
+    Buduj_wyd(reportModel(base.stan, raport), disk.folder());
     writeFileWhole(disk.path("W_KK.txt"),
                    "-2, 1.0, 0.5, 1.0, 1\r\nFERNAPr.wyd\r\nFERNAPr1.wyd\r\n");
     disk.fill();

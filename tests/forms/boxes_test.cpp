@@ -30,6 +30,13 @@ protected:
         return button == nullptr ? QString() : button->text().remove(u'&');
     }
 
+    static void press(const QMessageBox& box, const char* caption) {
+        for (QAbstractButton* button : box.buttons())
+            if (textOf(button) == QString::fromUtf8(caption))
+                return QTest::mouseClick(button, Qt::LeftButton);
+        ADD_FAILURE() << "no button " << caption;
+    }
+
     /// The next box has this face; the key is pressed in it.
     void expect(const Face& face, Qt::Key key, const QString& name = {}) {
         answers.dialog(name, [face, key](QWidget& modal) {
@@ -115,7 +122,7 @@ TEST_F(Boxes, ADamagedFileOfTheStartIsNamedAndStaysUnlessReplacingItIsChosen) {
                   QStringLiteral("Program może zacząć pracę z dostarczonym katalogiem języka; "
                                  "zadanie w Ferna.cfg pozostaje bez zmian. Uszkodzony plik "
                                  "Ferpl.txt zostanie zachowany jako Ferpl.txt.uszkodzony.2."));
-        QTest::keyClick(box, Qt::Key_D, Qt::AltModifier);
+        press(*box, "Dostarczony katalog");
     });
     EXPECT_TRUE(wantsDeliveredFile(catalogue));
 
@@ -123,7 +130,7 @@ TEST_F(Boxes, ADamagedFileOfTheStartIsNamedAndStaysUnlessReplacingItIsChosen) {
         auto* const box = qobject_cast<QMessageBox*>(&modal);
         EXPECT_EQ(box->informativeText(),
                   QStringLiteral("Program może zacząć pracę z ustawieniami początkowymi."));
-        QTest::keyClick(box, Qt::Key_U, Qt::AltModifier);
+        press(*box, "Ustawienia początkowe");
     });
     EXPECT_TRUE(wantsDeliveredFile({QStringLiteral("Ferna.cfg"), why, QString(), true}));
 }
@@ -136,18 +143,20 @@ TEST_F(Boxes, AFileThatExistsIsAskedAboutBeforeItIsReplaced) {
         answers.dialog(QStringLiteral("saveQuestion"), [this](QWidget& modal) {
             auto* const field = modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
             field->setText(path(QStringLiteral("raport.txt")));
-            QTest::keyClick(field, Qt::Key_Return); // the question below stands while this waits
-            if (modal.isVisible())
-                static_cast<QFileDialog&>(modal).reject();
+            QTest::keyClick(field, Qt::Key_Return);
         });
-        answers.dialog({}, [replace](QWidget& modal) {
+        answers.dialog(QStringLiteral("replaceQuestion"), [replace](QWidget& modal) {
             auto* const box = qobject_cast<QMessageBox*>(&modal);
             ASSERT_NE(box, nullptr);
-            EXPECT_EQ(box->icon(), QMessageBox::Warning);
-            EXPECT_EQ(box->defaultButton(), box->button(QMessageBox::No));
-            QTest::mouseClick(box->button(replace ? QMessageBox::Yes : QMessageBox::No),
-                              Qt::LeftButton);
+            EXPECT_EQ(box->icon(), QMessageBox::Question);
+            EXPECT_EQ(box->text(), QStringLiteral("Zastąpić istniejące pliki: raport.txt?"));
+            EXPECT_EQ(box->defaultButton()->text(), QStringLiteral("&Nie"));
+            EXPECT_EQ(box->escapeButton()->text(), QStringLiteral("&Nie"));
+            press(*box, replace ? "Tak" : "Nie");
         });
+        if (!replace) // the name is asked for again
+            answers.dialog(QStringLiteral("saveQuestion"),
+                           [](QWidget& modal) { static_cast<QFileDialog&>(modal).reject(); });
         const auto chosen = dialogs.saveFile({QStringLiteral("Podaj nazwę pliku tekstowego"),
                                               QStringLiteral("Wyniki"), QStringLiteral(".txt"),
                                               QStringLiteral("plik wyników (*.txt)|*.txt")});

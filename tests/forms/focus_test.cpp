@@ -50,7 +50,6 @@ TEST_F(FocusOfTheMainForm, IsOnTheFirstFieldAfterTheResults) {
     show(Sruby);
     form->hide();
     form->show();
-    settle();
     EXPECT_EQ(shownTab(), Dane_ogolne);
     EXPECT_EQ(focused(), QStringLiteral("Text1"));
 }
@@ -76,7 +75,7 @@ TEST_F(WorkedForm, TheFocusOfThePlateFormComesBackFromItsBoxes) {
     form.show();
     Hand hand(form);
     hand.activate();
-    answers.box(programTitle, QStringLiteral("Musisz okreslić stal dla blachy"));
+    answers.box(programTitle, QStringLiteral("Musisz określić gatunek stali"));
     hand.click("cmdOblicz1");
     EXPECT_EQ(hand.focused(), QStringLiteral("cmdOblicz1"));
     EXPECT_TRUE(hand.the<QPushButton>("cmdOblicz1")->isDefault());

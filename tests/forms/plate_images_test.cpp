@@ -76,7 +76,8 @@ TEST_F(PlateImages, EachCheckSavesItsOwnUnderItsOwnName) {
         QString nearest;
         double least = 255;
         for (const char* other : names) {
-            const QString source = QStringLiteral(":/szkice/%1.svg").arg(QString::fromLatin1(other).toLower());
+            const QString source =
+                QStringLiteral(":/szkice/%1.svg").arg(QString::fromLatin1(other).toLower());
             const double differs = difference(saved, drawn(source, saved.size()));
             if (differs < least) {
                 least = differs;

@@ -63,6 +63,8 @@ TEST_F(PlatePicture, StaysEmptyWhereASizeIsNoNumber) {
 
 TEST_F(PlatePicture, GrowsWithTheForm) {
     show(Sruby);
+    form->resize(form->size() + QSize(300, 200)); // beyond what the captions of the commands need
+    settle();
     const QSize before = the("Picture3")->size();
     form->resize(form->size() + QSize(300, 200));
     settle();

@@ -28,7 +28,6 @@ protected:
 
     /// Types 400 into the field, leaves it by `leave`, and finds it refused and still there.
     void expectRefused(const std::function<void()>& leave) {
-        show(Dane_ogolne);
         type("Text2", QStringLiteral("400"));
         answers.stop(error::Overflow);
         leave();
@@ -51,6 +50,7 @@ TEST_F(Ratio, ThatCannotBeSavedIsRefusedByTheOfferWhichStaysOpen) {
 TEST_F(Ratio, ThatCannotBeSavedIsRefusedWhereTheFieldIsLeft) {
     show(Sruby);
     add("cmdDodaj4", 30, 250, 150);
+    show(Dane_ogolne);
     expectRefused([this] { key(Qt::Key_Tab); });
     expectRefused([this] { show(Obciazenia_); });
     expectRefused([this] { key(Qt::Key_Return); });

@@ -22,13 +22,13 @@ protected:
 };
 
 TEST_F(Windows, AreWideEnoughForTheirTitles) {
+    show(Sruby);
     add("cmdDodaj4", 20, 100, 100);
     const auto wideEnough = [](QWidget& modal) {
         EXPECT_GE(modal.width(), titleWidth(modal) + frameButtons)
             << modal.windowTitle().toStdString();
         QTest::keyClick(&modal, Qt::Key_Escape);
     };
-    show(Sruby);
     answers.dialog(QStringLiteral("Fernafi"), wideEnough);
     click("cmdZmienwfi");
     answers.dialog(QStringLiteral("inputBox"), wideEnough);

@@ -26,7 +26,7 @@ protected:
         double y = sample.calculation(20, 2, 3);
         y = sample.plateSection(y, {1, 4});
         sample.anchorSection(y);
-        Complaints complaints;
+        wyd::Complaints complaints;
         report = compose(readJob(sample.write(QStringLiteral("-2"), 1)), complaints);
         ASSERT_TRUE(complaints.lines().isEmpty());
         ASSERT_GE(report.pages.size(), 2U);
@@ -45,8 +45,8 @@ protected:
         return image;
     }
 
-    QImage painted(const Page& page) const {
-        QImage image = blank(sheet);
+    QImage painted(const pages::Page& page) const {
+        QImage image = blank(pages::sheet);
         QPainter painter(&image);
         painter.scale(pixelsPerMm / drawing::unitsPerMm, pixelsPerMm / drawing::unitsPerMm);
         paintPage(painter, page);
@@ -73,15 +73,15 @@ protected:
 
     QTemporaryDir folder;
     SampleReport sample{folder.path()};
-    Report report;
+    pages::Report report;
 };
 
 TEST_F(MetafileOfAReport, PlayedItLooksLikeThePagePaintedDirectly) {
-    for (const Page& page : report.pages) {
+    for (const pages::Page& page : report.pages) {
         const QImage direct = painted(page);
         ASSERT_GT(dark(direct), 5000) << "something is drawn at all";
         const Metafile file = Metafile::fromBytes(emfOfPage(report, page));
-        EXPECT_EQ(file.sizeMm(), sheet);
+        EXPECT_EQ(file.sizeMm(), pages::sheet);
         EXPECT_LT(difference(direct, played(file)), 0.0005);
     }
 }
@@ -91,7 +91,7 @@ TEST_F(MetafileOfAReport, TheScreenPictureHasAllPagesUnderOneAnother) {
     const auto pages = static_cast<int>(report.pages.size());
     EXPECT_EQ(file.sizeMm(), QSizeF(210, 297 * pages));
     const QImage all = played(file);
-    const int height = static_cast<int>(sheet.height() * pixelsPerMm);
+    const int height = static_cast<int>(pages::sheet.height() * pixelsPerMm);
     for (int i = 0; i < pages; ++i) {
         const QImage one = all.copy(0, i * height, all.width(), height);
         EXPECT_LT(difference(painted(report.pages[static_cast<std::size_t>(i)]), one), 0.002);
@@ -134,7 +134,7 @@ TEST_F(MetafileOfAReport, EveryTextCarriesTheWidthsOfItsLetters) {
     for (qsizetype at = 0; at < bytes.size(); at += u32(at + 4)) {
         if (u32(at) != 84)
             continue;
-        const Text& text = report.pages[0].texts.at(texts++);
+        const pages::Text& text = report.pages[0].texts.at(texts++);
         ASSERT_EQ(u32(at + 44), static_cast<quint32>(text.text.size()));
         int width = 0;
         for (qsizetype i = 0; i < text.text.size(); ++i)
@@ -154,9 +154,9 @@ TEST_F(MetafileOfAReport, AFileCutShortAnywhereIsRefused) {
 
 TEST_F(MetafileOfAReport, DamagedBytesNeverReachOutsideTheFile) {
     // Under the address sanitizer a read outside ends the test.
-    Report small = report;
+    pages::Report small = report;
     small.pages.resize(1);
-    for (Picture& picture : small.pages[0].pictures)
+    for (pages::Picture& picture : small.pages[0].pictures)
         picture.image = picture.image.scaled(20, 20);
     const QByteArray bytes = emfOfPage(small, small.pages[0]);
     QRandomGenerator random(20260517);

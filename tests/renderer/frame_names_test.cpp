@@ -17,7 +17,7 @@ using namespace ferna::renderer;
 namespace {
 
 double drawnWidth(const QString& text) {
-    Text drawn;
+    pages::Text drawn;
     drawn.text = text;
     drawn.height = 350;
     measure(drawn);
@@ -38,10 +38,11 @@ TEST(FrameNames, LettersOfALongProjectNameAreAsSmallAsWasSaid) {
         ferna::testing::SampleReport sample(folder.path());
         sample.projectName = QStringLiteral("Rozbudowa hali nr 4 w Sączu ").repeated(repetitions);
         sample.line(85, QStringLiteral("wiersz"));
-        Complaints complaints;
-        const Report report = compose(readJob(sample.write(QStringLiteral("-2"), 1)), complaints);
+        wyd::Complaints complaints;
+        const pages::Report report =
+            compose(readJob(sample.write(QStringLiteral("-2"), 1)), complaints);
         const auto& texts = report.pages.front().texts;
-        const auto drawn = std::find_if(texts.begin(), texts.end(), [&](const Text& text) {
+        const auto drawn = std::find_if(texts.begin(), texts.end(), [&](const pages::Text& text) {
             return text.text == sample.projectName;
         });
         ASSERT_NE(drawn, texts.end());

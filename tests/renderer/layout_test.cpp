@@ -17,14 +17,15 @@ namespace {
 
 class Layout : public ::testing::Test {
 protected:
-    Report laidOut(int firstPage = 1) {
-        Complaints complaints;
-        Report report = compose(readJob(sample.write(QStringLiteral("-2"), firstPage)), complaints);
+    pages::Report laidOut(int firstPage = 1) {
+        wyd::Complaints complaints;
+        pages::Report report =
+            compose(readJob(sample.write(QStringLiteral("-2"), firstPage)), complaints);
         complained = complaints.lines();
         return report;
     }
 
-    static Place at(const Report& report, const char* text) {
+    static Place at(const pages::Report& report, const char* text) {
         return find(report, QString::fromUtf8(text));
     }
 
@@ -35,7 +36,7 @@ protected:
 
 TEST_F(Layout, AShortReportIsOnePageWithOneFrame) {
     sample.calculation(4, 1, 3);
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 1U);
     EXPECT_EQ(count(report.pages[0], QStringLiteral("Zakotwienie słupów")), 1)
         << "the frame that the body repeats is not drawn a second time";
@@ -54,7 +55,7 @@ TEST_F(Layout, ALineAt225StartsTheNextPageAt40) {
     sample.line(224.9, QStringLiteral("jeszcze"));
     sample.line(225.0, QStringLiteral("pierwszy"));
     sample.line(229.5, QStringLiteral("drugi"));
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 2U);
     EXPECT_EQ(at(report, "jeszcze").page, 0);
     EXPECT_EQ(at(report, "pierwszy").page, 1);
@@ -65,7 +66,7 @@ TEST_F(Layout, ALineAt225StartsTheNextPageAt40) {
 TEST_F(Layout, TheBodyGoesOnOverManyPages) {
     for (int i = 0; i < 100; ++i)
         sample.line(85 + 4.5 * i, QStringLiteral("wiersz %1.").arg(i));
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     // 32 lines fit below y = 85 and 42 below y = 40.
     ASSERT_EQ(report.pages.size(), 3U);
     EXPECT_EQ(at(report, "wiersz 31.").page, 0);
@@ -79,7 +80,7 @@ TEST_F(Layout, APageStartsWithALineThatHasLetters) {
     sample.line(220.5, QStringLiteral("ostatni"));
     sample.line(225, {});
     sample.line(229.5, QStringLiteral("pierwszy"));
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 2U);
     EXPECT_DOUBLE_EQ(at(report, "pierwszy").baseline.y(), 40);
 }
@@ -99,7 +100,7 @@ TEST_F(Layout, APictureMovesWithTheLinesBesideIt) {
     sample.picture(125, 216, 41.1, 27.9, QStringLiteral("a.bmp"));
     sample.line(220.5, QStringLiteral("obok"));
     sample.line(225.0, QStringLiteral("dalej"));
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 2U);
     EXPECT_EQ(at(report, "przed").page, 0);
     EXPECT_EQ(at(report, "tytuł").page, 1);
@@ -121,7 +122,7 @@ TEST_F(Layout, APictureMayEndAt290AndNotBeyond) {
     other.line(200.0, QStringLiteral("tytuł"));
     other.picture(125, 200, 41.1, 90.1, QStringLiteral("a.bmp"));
     sample = other;
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 2U);
     EXPECT_EQ(at(report, "tytuł").page, 1);
 }
@@ -129,7 +130,7 @@ TEST_F(Layout, APictureMayEndAt290AndNotBeyond) {
 TEST_F(Layout, APlatePictureThatStartsAboveItsLinesTakesItsHeadingAlong) {
     sample.line(193.5, QStringLiteral("przed"));
     sample.plateSection(198, {1});
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 2U);
     const Place heading = at(report, "Przyjęta grubość");
     EXPECT_EQ(heading.page, 1);
@@ -143,7 +144,7 @@ TEST_F(Layout, APlatePictureThatStartsAboveItsLinesTakesItsHeadingAlong) {
 TEST_F(Layout, AnUnderlinedHeadingDoesNotStayBehindAlone) {
     sample.line(207, QStringLiteral("przed"));
     sample.plateSection(211.5, {4}); // heading at 216, its first line at 225
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 2U);
     EXPECT_EQ(at(report, "przed").page, 0);
     EXPECT_EQ(at(report, "Przyjęta grubość").page, 1);
@@ -151,7 +152,7 @@ TEST_F(Layout, AnUnderlinedHeadingDoesNotStayBehindAlone) {
 
 TEST_F(Layout, TheTallPictureOfPlateBlockTwoIsNotCutByTheNext) {
     sample.plateSection(60, {2, 3});
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 1U);
     ASSERT_EQ(report.pages[0].pictures.size(), 2U);
     EXPECT_GE(report.pages[0].pictures[1].rect.top(), report.pages[0].pictures[0].rect.bottom());
@@ -164,7 +165,7 @@ TEST_F(Layout, ABlockWithoutAPictureIsNotHeldByTheOneAbove) {
     sample.line(180, QStringLiteral("przed"));
     const double y = sample.plateSection(183.5, {2, 4}) - 18;
     EXPECT_DOUBLE_EQ(y, 225);
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(report.pages.size(), 2U);
     EXPECT_EQ(at(report, "Blok 2").page, 0);
     EXPECT_EQ(at(report, "Blok 4").page, 1);
@@ -178,11 +179,11 @@ TEST_F(Layout, AWholeReportKeepsTheRulesOnEveryPage) {
             double y = sample.calculation(anchors, cases, anchors);
             y = sample.plateSection(y, {1, 2, 3, 4, 5, 6, 7, 8});
             sample.anchorSection(y);
-            const Report report = laidOut();
+            const pages::Report report = laidOut();
             EXPECT_GE(report.pages.size(), 2U);
             expectGoodPages(report);
             std::size_t pictures = 0;
-            for (const Page& page : report.pages) {
+            for (const pages::Page& page : report.pages) {
                 EXPECT_EQ(count(page, QStringLiteral("Zakotwienie słupów")), 1);
                 EXPECT_EQ(page.lines.size(), 7U);
                 pictures += page.pictures.size();
@@ -196,10 +197,10 @@ TEST_F(Layout, PagesCountUpFromTheFirstPageNumber) {
     for (int i = 0; i < 100; ++i)
         sample.line(85 + 4.5 * i, QStringLiteral("x"));
     for (const int first : {12, 0, -1, -32768}) {
-        const Report report = laidOut(first);
+        const pages::Report report = laidOut(first);
         ASSERT_EQ(report.pages.size(), 3U);
         for (int i = 0; i < 3; ++i) {
-            const Page& page = report.pages[static_cast<std::size_t>(i)];
+            const pages::Page& page = report.pages[static_cast<std::size_t>(i)];
             EXPECT_EQ(page.number, first + i);
             EXPECT_EQ(count(page, QStringLiteral("Strona ") + QString::number(first + i)), 1);
             EXPECT_EQ(count(page, QStringLiteral("Strona")), 1);
@@ -211,7 +212,7 @@ TEST_F(Layout, AnExplicitNewPageStartsWithTheFrameOnce) {
     sample.line(85, QStringLiteral("pierwsza"));
     sample.newPage();
     sample.line(40, QStringLiteral("druga"));
-    const Report report = laidOut(5);
+    const pages::Report report = laidOut(5);
     ASSERT_EQ(report.pages.size(), 2U);
     EXPECT_EQ(at(report, "druga").page, 1);
     EXPECT_DOUBLE_EQ(at(report, "druga").baseline.y(), 40);
@@ -222,10 +223,10 @@ TEST_F(Layout, AnExplicitNewPageStartsWithTheFrameOnce) {
 TEST_F(Layout, TextGoesOnBehindTheLastAndTheSubscriptStandsLower) {
     sample.exceedance(100, QStringLiteral("gdy wsp. docisku min. "), QStringLiteral(" = 1,063"));
     sample.line(104.5, QStringLiteral("dalej"));
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     const auto& texts = report.pages[0].texts;
     ASSERT_GE(texts.size(), 5U);
-    const Text* chain = &texts[texts.size() - 5];
+    const pages::Text* chain = &texts[texts.size() - 5];
     EXPECT_EQ(chain[1].text, QStringLiteral("ω")) << "the Symbol font's w";
     EXPECT_EQ(chain[2].text, QStringLiteral("d"));
     for (int i = 1; i < 4; ++i)
@@ -240,7 +241,7 @@ TEST_F(Layout, TextGoesOnBehindTheLastAndTheSubscriptStandsLower) {
 TEST_F(Layout, ATextsLastBlankCountsInItsWidth) {
     sample.exceedance(100, QStringLiteral("min. "), QStringLiteral("="));
     sample.exceedance(110, QStringLiteral("min."), QStringLiteral("="));
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     const auto& texts = report.pages[0].texts;
     const double with = texts[texts.size() - 8].widthMm();
     const double without = texts[texts.size() - 4].widthMm();
@@ -251,8 +252,8 @@ TEST_F(Layout, AShortTextRecordKeepsTheSettingsBefore) {
     sample.underlined(100, QStringLiteral("pierwszy"));
     sample.raw(QStringLiteral("3, 9., 110."));
     sample.raw(QStringLiteral("drugi"));
-    const Report report = laidOut();
-    const Text& second = report.pages[0].texts.back();
+    const pages::Report report = laidOut();
+    const pages::Text& second = report.pages[0].texts.back();
     EXPECT_EQ(second.text, QStringLiteral("drugi"));
     EXPECT_EQ(second.baseline, QPointF(9, 110));
     EXPECT_TRUE(second.underline);
@@ -265,7 +266,7 @@ TEST_F(Layout, ALongTextIsSetSmallerBesideAPictureAndAtTheSheetsEdge) {
     sample.line(104.5, longText);
     sample.picture(125, 100, 41.1, 27.9, QStringLiteral("a.bmp"));
     sample.line(150, longText);
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     expectGoodPages(report);
     const auto& texts = report.pages[0].texts;
     EXPECT_LE(texts[texts.size() - 2].box().right(), 125);
@@ -275,10 +276,10 @@ TEST_F(Layout, ALongTextIsSetSmallerBesideAPictureAndAtTheSheetsEdge) {
 
 TEST_F(Layout, ALongProjectNameEndsBeforeThePageNumber) {
     sample.projectName = QString(100, u'W');
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     const Place place = find(report, sample.projectName);
     EXPECT_EQ(place.page, 0);
-    for (const Text& text : report.pages[0].texts) {
+    for (const pages::Text& text : report.pages[0].texts) {
         if (text.text == sample.projectName) {
             EXPECT_LE(text.box().right(), 143);
         }
@@ -289,7 +290,7 @@ TEST_F(Layout, AMissingPictureLeavesAnOutlineWithItsName) {
     sample.picture(10, 35, 52.9, 34.7, QStringLiteral("Ferogo2.bmp"));
     ASSERT_TRUE(QFile::remove(sample.path(QStringLiteral("Ferogo2.bmp"))));
     sample.line(85, QStringLiteral("dalej"));
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     ASSERT_EQ(complained.size(), 1);
     EXPECT_TRUE(complained[0].contains(QStringLiteral("brak pliku rysunku")));
     EXPECT_EQ(find(report, QStringLiteral("brak rysunku Ferogo2.bmp")).page, 0);
@@ -300,7 +301,7 @@ TEST_F(Layout, AMissingPictureLeavesAnOutlineWithItsName) {
 TEST_F(Layout, APictureTallerThanThePageIsMadeSmaller) {
     sample.line(50, QStringLiteral("przed"));
     sample.picture(10, 60, 100, 400, QStringLiteral("a.bmp"));
-    const Report report = laidOut();
+    const pages::Report report = laidOut();
     expectGoodPages(report);
     const QRectF rect = report.pages.back().pictures.at(0).rect;
     EXPECT_NEAR(rect.height(), 250, 1e-6);
@@ -316,7 +317,7 @@ TEST_F(Layout, AFarOffCoordinateMakesOnePageNotThousands) {
 TEST_F(Layout, AMissingFrameFileIsAnError) {
     const QString job = sample.write(QStringLiteral("-2"), 1);
     ASSERT_TRUE(QFile::remove(sample.path(QStringLiteral("FERNAPr1.wyd"))));
-    Complaints complaints;
+    wyd::Complaints complaints;
     try {
         compose(readJob(job), complaints);
         FAIL() << "no error";

@@ -24,9 +24,9 @@ protected:
     QString path(const char* name) const { return sample.path(QLatin1String(name)); }
     QString job() const { return sample.write(QStringLiteral("-2"), 1); }
 
-    Report report() const {
-        Complaints complaints;
-        Report result = compose(readJob(job()), complaints);
+    pages::Report report() const {
+        wyd::Complaints complaints;
+        pages::Report result = compose(readJob(job()), complaints);
         EXPECT_TRUE(complaints.lines().isEmpty());
         return result;
     }
@@ -63,12 +63,12 @@ TEST_F(PageGeometry, OfThePrint) {
 TEST_F(PageGeometry, OfTheMetafile) {
     ASSERT_EQ(runRenderer({QStringLiteral("--emf"), path("a.emf"), job()}).exitCode, 0);
     const Metafile file = Metafile::fromFile(path("a.emf"));
-    QImage sheet((file.sizeMm() * inkPixelsPerMm).toSize(), QImage::Format_RGB32);
-    sheet.fill(Qt::white);
-    QPainter painter(&sheet);
-    file.paint(painter, QRectF(sheet.rect()));
+    QImage drawn((file.sizeMm() * inkPixelsPerMm).toSize(), QImage::Format_RGB32);
+    drawn.fill(Qt::white);
+    QPainter painter(&drawn);
+    file.paint(painter, QRectF(drawn.rect()));
     painter.end();
-    expectGeometryOfTheSample(sheet);
+    expectGeometryOfTheSample(drawn);
 }
 
 // Read from the bytes, so that writer and player cannot agree on something wrong.

@@ -158,6 +158,21 @@ TEST_F(Print, AQueueThatTakesNoJobsIsAFailure) {
     EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
 }
 
+TEST_F(Print, APausedQueueIsToldWithTheNumberOfTheJobThatWaits) {
+    ASSERT_EQ(runProgram(QStringLiteral("/usr/sbin/cupsdisable"), {QStringLiteral("Raport")},
+                         server.environment())
+                  .exitCode,
+              0);
+    const Outcome run = runRenderer({job}, server.environment());
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains(QStringLiteral(
+        "drukarka Raport: kolejka jest wstrzymana, wydruk czeka w niej jako zadanie nr 1")))
+        << run.errors.toStdString();
+    const QString waiting =
+        runProgram(QStringLiteral("lpstat"), {QStringLiteral("-o")}, server.environment()).output;
+    EXPECT_TRUE(waiting.startsWith(QStringLiteral("Raport-1 "))) << waiting.toStdString();
+}
+
 TEST(PrintWithoutAPrinter, SaysSo) {
     QTemporaryDir folder;
     SampleReport sample(folder.path());
@@ -174,7 +189,7 @@ protected:
     void SetUp() override {
         for (int i = 0; i < 100; ++i)
             sample.line(85 + 4.5 * i, QStringLiteral("wiersz %1.").arg(i));
-        Complaints complaints;
+        wyd::Complaints complaints;
         report = compose(readJob(sample.write(QStringLiteral("-1"), 1)), complaints);
         ASSERT_EQ(report.pages.size(), 3U);
         printer.setOutputFormat(QPrinter::PdfFormat);
@@ -185,7 +200,7 @@ protected:
 
     QTemporaryDir folder;
     SampleReport sample{folder.path()};
-    Report report;
+    pages::Report report;
     QPrinter printer{QPrinter::HighResolution};
     QString file = folder.filePath(QStringLiteral("wydruk.pdf"));
 };

@@ -6,8 +6,11 @@
 #include "runtime/text_file.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
+
+#include <sys/stat.h>
 
 using namespace ferna;
 using ferna::testing::Outcome;
@@ -157,6 +160,60 @@ TEST_F(Renderer, AMissingJobLeavesAReplyToo) {
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_TRUE(run.errors.contains(path("W_KK.txt")));
     EXPECT_EQ(reply(), QStringLiteral(" 0 , 1 "));
+}
+
+TEST_F(Renderer, AFileThatIsNoJobGetsNoReplyBesideIt) {
+    for (const char* text : {"notatki\r\n", "", "7, 1.0, 0.5, 1.0, 1\r\na\r\nb\r\n"}) {
+        writeFileWhole(path("notatki.txt"), text);
+        const Outcome run = runRenderer({path("notatki.txt")});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_TRUE(run.errors.contains(QStringLiteral("notatki.txt")));
+        EXPECT_FALSE(exists("W_X.txt")) << text;
+    }
+}
+
+TEST_F(Renderer, APipeIsNeitherAJobNorACommandFileNorAPicture) {
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path("łącze")).constData(), 0600), 0);
+    const Outcome asJob = runRenderer({path("łącze")});
+    EXPECT_EQ(asJob.exitCode, 1);
+    EXPECT_TRUE(asJob.errors.contains(QStringLiteral("zwykły plik"))) << asJob.errors.toStdString();
+    sample.raw(QStringLiteral("5, 10., 35., 52.9, 34.7"));
+    sample.raw(path("łącze"));
+    const Outcome asPicture = runRenderer({sample.write(QStringLiteral("-2"), 1)});
+    EXPECT_EQ(asPicture.exitCode, 0);
+    EXPECT_TRUE(asPicture.errors.contains(QStringLiteral("nie można wczytać rysunku")));
+    const QString job = this->job();
+    QFile::remove(path("FERNAPr.wyd"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path("FERNAPr.wyd")).constData(), 0600), 0);
+    EXPECT_TRUE(runRenderer({job}).errors.contains(QStringLiteral("zwykły plik")));
+}
+
+TEST_F(Renderer, ALongLineIsDrawnCutAndNamedAtOnce) {
+    sample.line(85, QString(200'000, u'x'));
+    QElapsedTimer clock;
+    clock.start();
+    const Outcome run = runRenderer({sample.write(QStringLiteral("-2"), 1)});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_TRUE(run.errors.contains(QStringLiteral("tekst obcięty do 1000 znaków")));
+    EXPECT_LT(clock.elapsed(), 5000);
+}
+
+TEST_F(Renderer, AFloodOfPicturesIsRefused) {
+    QImage(10, 10, QImage::Format_RGB32).save(path("a.bmp"));
+    QImage(2000, 2000, QImage::Format_Grayscale8).save(path("b.bmp")); // 16 MB as drawn
+    const auto refusal = [&](const char* picture, int times) {
+        sample = SampleReport(folder.path());
+        for (int i = 0; i < times; ++i) {
+            sample.raw(QStringLiteral("5, 10., 35., 52.9, 34.7"));
+            sample.raw(path(picture));
+        }
+        const Outcome run = runRenderer({sample.write(QStringLiteral("-2"), 1)});
+        EXPECT_EQ(run.exitCode, 1);
+        EXPECT_FALSE(exists("$a1.emf"));
+        return run.errors;
+    };
+    EXPECT_TRUE(refusal("a.bmp", 3000).contains(QStringLiteral("ponad 100 rysunków")));
+    EXPECT_TRUE(refusal("b.bmp", 17).contains(QStringLiteral("rysunki mają razem ponad 256 MB")));
 }
 
 TEST_F(Renderer, AnOutputThatCannotBeWrittenIsNamed) {

@@ -88,7 +88,7 @@ TEST_F(DocumentEndToEnd, SavedDocumentOpensAgainWithItsTextAndItsPictures) {
     const WithDecimalSign comma(u',');
     const HandFilledReport report = wholeReport();
     const QString file = out(QStringLiteral("Wyniki.doc"));
-    writeDocument(report.stan, report.raport, program_.path(), file, place_);
+    writeDocument(report.model(), program_.path(), file, place_);
     EXPECT_TRUE(fileBytes(file).startsWith("\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1")) << "no .doc";
 
     const QString pdf = pdfOf(file);
@@ -117,7 +117,7 @@ TEST_F(DocumentEndToEnd, SavedDocumentOpensAgainWithItsTextAndItsPictures) {
 TEST_F(DocumentEndToEnd, PictureThatThePageCannotHoldHeadsThePlateSection) {
     const HandFilledReport report = wholeReport();
     const QString file = out(QStringLiteral("Wyniki.doc"));
-    writeDocument(report.stan, report.raport, program_.path(), file, place_);
+    writeDocument(report.model(), program_.path(), file, place_);
     const QString pdf = pdfOf(file);
     const QList<Placed> pictures = picturesOf(pdf, out_.path());
     ASSERT_FALSE(pictures.isEmpty());
@@ -134,7 +134,7 @@ TEST_F(DocumentEndToEnd, PictureThatThePageCannotHoldHeadsThePlateSection) {
 TEST_F(DocumentEndToEnd, TextAndPicturesDoNotLieOverEachOther) {
     const HandFilledReport report = wholeReport();
     const QString file = out(QStringLiteral("Wyniki.doc"));
-    writeDocument(report.stan, report.raport, program_.path(), file, place_);
+    writeDocument(report.model(), program_.path(), file, place_);
     const QString xml =
         QString::fromUtf8(outputOf(QStringLiteral("pdftohtml"),
                                    {QStringLiteral("-xml"), QStringLiteral("-zoom"),
@@ -173,7 +173,7 @@ TEST_F(DocumentEndToEnd, OpenDocumentTextIsWrittenByItsEnding) {
     const WithDecimalSign comma(u',');
     const HandFilledReport report = wholeReport();
     const QString file = out(QStringLiteral("raport.odt"));
-    writeDocument(report.stan, report.raport, program_.path(), file, place_);
+    writeDocument(report.model(), program_.path(), file, place_);
     EXPECT_TRUE(fileBytes(file).contains("application/vnd.oasis.opendocument.text"));
     const QString pdf = pdfOf(file);
     expectReportText(QString::fromUtf8(
@@ -186,7 +186,7 @@ TEST_F(DocumentEndToEnd, NameWithoutAnEndingIsKeptInTheCurrentFolder) {
     ASSERT_TRUE(QDir::setCurrent(out_.path()));
     const HandFilledReport report(1);
     const std::unique_ptr<WordProcessor> word = openWordProcessor(place_);
-    buildDocument(*word, report.stan, report.raport, program_.path());
+    buildDocument(*word, report.model(), program_.path());
     saveDocument(*word, QStringLiteral("Wyniki"));
     QDir::setCurrent(before);
     EXPECT_TRUE(fileBytes(out(QStringLiteral("Wyniki"))).startsWith("\xD0\xCF\x11\xE0"));
@@ -195,8 +195,7 @@ TEST_F(DocumentEndToEnd, NameWithoutAnEndingIsKeptInTheCurrentFolder) {
 TEST_F(DocumentEndToEnd, OneDocumentAfterTheOther) {
     const HandFilledReport report(1);
     for (const char* name : {"pierwszy.doc", "drugi.doc"}) {
-        writeDocument(report.stan, report.raport, program_.path(), out(QLatin1String(name)),
-                      place_);
+        writeDocument(report.model(), program_.path(), out(QLatin1String(name)), place_);
         EXPECT_TRUE(QFile::exists(out(QLatin1String(name)))) << name;
         EXPECT_TRUE(runningWriters().isEmpty());
     }

@@ -60,10 +60,14 @@ TEST_F(DocumentFailure, WordProcessorThatEndsAtOnceIsAnErrorAtOnce) {
 }
 
 TEST_F(DocumentFailure, WordProcessorThatAlwaysAsksForASecondStartIsGivenUp) {
-    makeExecutable(out_.path(), "exit 81\n");
+    makeExecutable(out_.path(), "echo start >> \"${0%/*}/starty\"\nexit 81\n");
     place_.program = out_.path();
-    place_.startLimit = std::chrono::seconds(2);
-    EXPECT_EQ(errorOf([this] { opened(); }).number(), error::NoObject);
+    place_.startLimit = std::chrono::seconds(20);
+    const RunTimeError failure = errorOf([this] { opened(); });
+    EXPECT_EQ(failure.number(), error::NoObject);
+    EXPECT_TRUE(failure.detail().contains(QStringLiteral("po 3 uruchomieniach")))
+        << failure.detail().toStdString();
+    EXPECT_EQ(fileBytes(out(QStringLiteral("starty"))).count('\n'), 3);
 }
 
 TEST_F(DocumentFailure, WordProcessorThatNeverAnswersIsGivenUpAndEnded) {
@@ -126,7 +130,7 @@ TEST_F(DocumentFailure, WordProcessorThatHangsInTheMiddleIsEnded) {
 TEST_F(DocumentFailure, DocumentLeftOpenIsClosedWithTheWordProcessor) {
     const HandFilledReport report(1);
     const std::unique_ptr<WordProcessor> word = openWordProcessor(place_);
-    buildDocument(*word, report.stan, report.raport, program_.path());
+    buildDocument(*word, report.model(), program_.path());
     EXPECT_EQ(runningWriters().size(), 1);
     // Not saved, as after a cancelled question for the name; the rest is seen when the test ends.
 }

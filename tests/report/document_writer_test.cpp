@@ -18,7 +18,7 @@ const QString folder = QStringLiteral("/program");
 
 RecordingWordProcessor built(const HandFilledReport& report) {
     RecordingWordProcessor word;
-    buildDocument(word, report.stan, report.raport, folder);
+    buildDocument(word, report.model(), folder);
     return word;
 }
 
@@ -65,10 +65,9 @@ TEST(DocumentText, LongTitleLineStandsWholeInTheOtherOutputs) {
     HandFilledReport report(1);
     const QByteArray longLine(200, 'x');
     report.raport.Wiersze_naglowka(6) = QString::fromLatin1(longLine);
-    report.stan.opcje.Tryb_RTF = 1;
-    EXPECT_TRUE(textReport(report.stan, report.raport).bytes().contains(longLine));
-    EXPECT_TRUE(rtfReport(report.stan, report.raport, report.now).bytes().contains(longLine));
-    WydWriter commands(report.stan, report.raport, folder);
+    EXPECT_TRUE(textReport(report.model()).bytes().contains(longLine));
+    EXPECT_TRUE(rtfReport(report.model(), 1, report.now).file().bytes().contains(longLine));
+    WydWriter commands(report.model(), folder);
     commands.Naglowek_wyd();
     EXPECT_TRUE(commands.file().bytes().contains(longLine));
     EXPECT_FALSE(built(report).text.contains(QString(151, u'x')));
@@ -144,7 +143,7 @@ TEST(DocumentPictures, OtherNumberingOfTheWordProcessorIsAnError) {
     RecordingWordProcessor word;
     word.firstNumber = 1;
     try {
-        buildDocument(word, report.stan, report.raport, folder);
+        buildDocument(word, report.model(), folder);
         FAIL() << "no error";
     } catch (const RunTimeError& failure) {
         EXPECT_EQ(failure.number(), error::Subscript);
@@ -231,7 +230,7 @@ TEST(DocumentSave, MissingWordProcessorStopsBeforeAnythingIsWritten) {
     RecordingWordProcessor word;
     word.failAt = QStringLiteral("get or create");
     try {
-        buildDocument(word, report.stan, report.raport, folder);
+        buildDocument(word, report.model(), folder);
         FAIL() << "no error";
     } catch (const RunTimeError& failure) {
         EXPECT_EQ(failure.number(), error::NoObject);

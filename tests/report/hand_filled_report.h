@@ -1,6 +1,6 @@
 #pragma once
 
-#include "report/report_lines.h"
+#include "report/report_model.h"
 
 #include <QDateTime>
 
@@ -19,6 +19,8 @@ struct HandFilledReport {
     /// 2 and 3 is one of exceeded concrete stress, the third of case 1 is of no kind that is
     /// written. `whole`: the cases in which the whole plate is compressed.
     explicit HandFilledReport(int cases, int resultLines = 4, const std::set<int>& whole = {});
+
+    ReportModel model() const { return reportModel(stan, raport); }
 
     /// Adds the plate section with these of the eight checks.
     HandFilledReport& withPlate(std::initializer_list<int> checks);

@@ -40,7 +40,7 @@ struct ReportLines : ::testing::Test {
     }
 
     QStringList written() const {
-        return codepage::decoded(textReport(base.stan, raport).bytes())
+        return codepage::decoded(textReport(reportModel(base.stan, raport)).bytes())
             ->split(QStringLiteral("\r\n"));
     }
 };
@@ -289,8 +289,8 @@ TEST_P(GoldenReports, StandAsTheyWereAccepted) {
     const QString path =
         places::golden("/report/") + QString::fromLatin1(golden.name) + QStringLiteral(".txt");
     if (std::getenv("FERNA_ACCEPT_GOLDEN") != nullptr) // see tests/accept_golden.sh
-        textReport(base.stan, raport).commit(path);
-    EXPECT_EQ(textReport(base.stan, raport).bytes().toStdString(),
+        textReport(reportModel(base.stan, raport)).commit(path);
+    EXPECT_EQ(textReport(reportModel(base.stan, raport)).bytes().toStdString(),
               Folder::bytesOf(path).toStdString());
 }
 

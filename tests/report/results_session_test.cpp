@@ -125,6 +125,24 @@ TEST_F(Results, TellWhatWasWrittenAndWhere) {
     EXPECT_EQ(session->takeWritten(), QStringList()) << "nothing was written";
 }
 
+TEST_F(Results, KeepThePageThatTheRtfReportReachedAndItsTitleLine) {
+    base.stan.opcje.Tryb_RTF = 1;
+    base.dialogs.answers = {QStringLiteral("F-1"), folder.path(QStringLiteral("a.rtf"))};
+    base.fourAnchors(200, 100).fourAnchors(150, 50).fourAnchors(220, 120).fourAnchors(230, 130);
+    session->open();
+    base.stan.opcje.Nr_strony = 7;
+    session->saveRtf();
+    const auto pages = static_cast<Integer>(folder.read(QStringLiteral("a.rtf")).count("\\page"));
+    ASSERT_GT(pages, 0);
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 7 + pages);
+    EXPECT_EQ(session->pagePanel(), QStringLiteral(" Strona %1 ").arg(7 + pages));
+    EXPECT_TRUE(
+        session->raport().Wiersze_naglowka(6).endsWith(QStringLiteral("Strona %1").arg(7 + pages)));
+    base.dialogs.answers = {folder.path(QStringLiteral("no/a.rtf"))};
+    session->saveRtf();
+    EXPECT_EQ(base.stan.opcje.Nr_strony, 7 + pages) << "what was not written counts no page";
+}
+
 TEST_F(Results, EndSilentlyWhereTheTextCannotBeWritten) {
     session->open();
     base.dialogs.answers.push_back(folder.path(QStringLiteral("no/such/folder.txt")));

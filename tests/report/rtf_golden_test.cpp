@@ -88,9 +88,8 @@ void compareAll(Integer Tryb_RTF, QLatin1Char pattern) {
         SCOPED_TRACE(golden.name);
         HandFilledReport report = golden.make();
         report.stan.opcje.Nr_normy = golden.Nr_normy;
-        report.stan.opcje.Tryb_RTF = Tryb_RTF;
         report.stan.opcje.Nr_strony = 7;
-        const TextFileWriter file = rtfReport(report.stan, report.raport, report.now);
+        const TextFileWriter file = rtfReport(report.model(), Tryb_RTF, report.now).file();
         expectGolden(file.bytes(), QStringLiteral("rtf/") + pattern + u'_'
                                        + QLatin1String(golden.name) + QStringLiteral(".rtf"));
     }

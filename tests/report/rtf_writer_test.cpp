@@ -21,8 +21,7 @@ QStringList linesOf(const QByteArray& bytes) {
 }
 
 QStringList rtfLines(HandFilledReport& report, Integer Tryb_RTF) {
-    report.stan.opcje.Tryb_RTF = Tryb_RTF;
-    return linesOf(rtfReport(report.stan, report.raport, report.now).bytes());
+    return linesOf(rtfReport(report.model(), Tryb_RTF, report.now).file().bytes());
 }
 
 /// The names of the linked pictures in their order.
@@ -67,25 +66,23 @@ TEST(RtfFile, ClosesEveryBraceThatItOpens) {
 TEST(RtfFile, IsInCodePage1250WithQuestionMarksForWhatThePageLacks) {
     HandFilledReport report(1);
     report.raport.Wiersze_naglowka(4) = QStringLiteral("Łódź \u03c9");
-    report.stan.opcje.Tryb_RTF = patternA;
-    const QByteArray bytes = rtfReport(report.stan, report.raport, report.now).bytes();
+    const QByteArray bytes = rtfReport(report.model(), patternA, report.now).file().bytes();
     EXPECT_TRUE(bytes.contains("\r\n\\par \xA3\xF3\x64\x9F ?\r\n"));
 }
 
 TEST(RtfFile, FirstPageHasItsPageLineAsTheTitleBlockMadeIt) {
     HandFilledReport report(1);
     report.stan.opcje.Nr_strony = 7;
-    const QStringList lines = rtfLines(report, patternA);
-    EXPECT_EQ(lines[8], QStringLiteral("\\par Strona "));
-    EXPECT_EQ(report.stan.opcje.Nr_strony, 7) << "one page, nothing is counted";
-    EXPECT_EQ(report.raport.Wiersze_naglowka(6), QStringLiteral("Strona "));
+    RtfWriter writer = rtfReport(report.model(), patternA, report.now);
+    EXPECT_EQ(linesOf(writer.file().bytes())[8], QStringLiteral("\\par Strona "));
+    EXPECT_EQ(writer.reached().Nr_strony, 7) << "one page, nothing is counted";
+    EXPECT_EQ(writer.reached().pageLine, QStringLiteral("Strona "));
 }
 
 TEST(RtfFile, ReportSwitchedOffIsRefused) {
-    HandFilledReport report(1);
-    report.stan.opcje.Tryb_RTF = 0;
+    const HandFilledReport report(1);
     try {
-        rtfReport(report.stan, report.raport, report.now);
+        rtfReport(report.model(), 0, report.now);
         FAIL() << "no refusal";
     } catch (const RunTimeError& refusal) {
         EXPECT_EQ(refusal.number(), error::InvalidCall);
@@ -95,25 +92,25 @@ TEST(RtfFile, ReportSwitchedOffIsRefused) {
 TEST(RtfPage, BlockThatEndsAtTheLastLineOfThePageStays) {
     HandFilledReport report(1);
     report.stan.opcje.Nr_strony = 7;
-    RtfWriter writer(report.stan, report.raport, report.now);
+    RtfWriter writer(report.model(), report.now);
     Single y = 200;
     writer.Koniec_strony_RTF(y, 10);
     EXPECT_EQ(y, 210);
-    EXPECT_EQ(report.stan.opcje.Nr_strony, 7);
+    EXPECT_EQ(writer.reached().Nr_strony, 7);
     EXPECT_TRUE(writer.file().bytes().isEmpty());
 }
 
 TEST(RtfPage, BlockThatEndsBelowItStartsANewPageWithTheTitleBlock) {
     HandFilledReport report(1);
     report.stan.opcje.Nr_strony = 7;
-    RtfWriter writer(report.stan, report.raport, report.now);
+    RtfWriter writer(report.model(), report.now);
     Single y = 200;
     writer.Koniec_strony_RTF(y, 10.5);
     EXPECT_EQ(y, 11.5F);
-    EXPECT_EQ(report.stan.opcje.Nr_strony, 8);
+    EXPECT_EQ(writer.reached().Nr_strony, 8);
     const QString pageLine =
         QStringLiteral("14/03/25     09:05") + QString(120, u' ') + QStringLiteral("Strona 8");
-    EXPECT_EQ(report.raport.Wiersze_naglowka(6), pageLine);
+    EXPECT_EQ(writer.reached().pageLine, pageLine);
     EXPECT_EQ(linesOf(writer.file().bytes()),
               QStringList({QStringLiteral("\\par \\page\\pard\\plain\\f1\\fs16 Zakotwienie słupów "
                                           "stalowych wg PN-B-03215:1999 oraz PN-84/B-03264"),
@@ -126,7 +123,7 @@ TEST(RtfPage, BlockThatEndsBelowItStartsANewPageWithTheTitleBlock) {
 
 TEST(RtfPage, HeightIsKeptInSinglePrecision) {
     HandFilledReport report(1);
-    RtfWriter writer(report.stan, report.raport, report.now);
+    RtfWriter writer(report.model(), report.now);
     Single y = 0;
     for (int i = 0; i < 3; ++i)
         writer.Koniec_strony_RTF(y, 3.17);
@@ -136,33 +133,31 @@ TEST(RtfPage, HeightIsKeptInSinglePrecision) {
 TEST(RtfPage, NumberOfPageZeroIsLeftOut) {
     HandFilledReport report(1);
     report.stan.opcje.Nr_strony = -1;
-    RtfWriter writer(report.stan, report.raport, report.now);
+    RtfWriter writer(report.model(), report.now);
     Single y = 210;
     writer.Koniec_strony_RTF(y, 1);
-    EXPECT_EQ(report.stan.opcje.Nr_strony, 0);
-    EXPECT_TRUE(report.raport.Wiersze_naglowka(6).endsWith(QStringLiteral("  Strona ")));
+    EXPECT_EQ(writer.reached().Nr_strony, 0);
+    EXPECT_TRUE(writer.reached().pageLine.endsWith(QStringLiteral("  Strona ")));
 }
 
-TEST(RtfPage, PageBreakInTheReportRaisesThePageNumberForGood) {
+TEST(RtfPage, PageBreakInTheReportRaisesThePageNumberThatTheReportGivesBack) {
     for (const Integer mode : {patternA, patternB}) {
         HandFilledReport report(3, 20);
         report.stan.opcje.Nr_strony = 7;
-        const QStringList lines = rtfLines(report, mode);
-        const qsizetype pages = lines.filter(QStringLiteral("\\page")).size();
+        RtfWriter writer = rtfReport(report.model(), mode, report.now);
+        const qsizetype pages =
+            linesOf(writer.file().bytes()).filter(QStringLiteral("\\page")).size();
         EXPECT_GE(pages, 1);
-        EXPECT_EQ(report.stan.opcje.Nr_strony, 7 + pages);
-        EXPECT_TRUE(
-            report.raport.Wiersze_naglowka(6).endsWith(QStringLiteral("Strona %1").arg(7 + pages)))
-            << report.raport.Wiersze_naglowka(6).toStdString();
-        rtfLines(report, mode);
-        EXPECT_EQ(report.stan.opcje.Nr_strony, 7 + 2 * pages) << "and on from there the next time";
+        EXPECT_EQ(writer.reached().Nr_strony, 7 + pages);
+        EXPECT_TRUE(writer.reached().pageLine.endsWith(QStringLiteral("Strona %1").arg(7 + pages)))
+            << writer.reached().pageLine.toStdString();
     }
 }
 
 TEST(RtfPage, PageBehindTheLargestNumberIsAnOverflow) {
     HandFilledReport report(1);
     report.stan.opcje.Nr_strony = 32767;
-    RtfWriter writer(report.stan, report.raport, report.now);
+    RtfWriter writer(report.model(), report.now);
     Single y = 210;
     try {
         writer.Koniec_strony_RTF(y, 1);
@@ -203,7 +198,7 @@ TEST(RtfCases, PatternAReservesALineMoreForEachCaseFromTheFourthOn) {
     // No page ends, so the height is the plain sum: the row of sketches, then the cases.
     for (const int cases : {1, 3, 4, 6}) {
         HandFilledReport report(cases, 1);
-        RtfWriter writer(report.stan, report.raport, report.now);
+        RtfWriter writer(report.model(), report.now);
         writer.Poz_rtf = 0;
         writer.Wyniki_RTF_ms();
         Single y = 24;
@@ -221,7 +216,7 @@ TEST(RtfCases, PatternAReservesALineMoreForEachCaseFromTheFourthOn) {
 
 TEST(RtfCases, PatternBReservesTheSameForEachCase) {
     HandFilledReport report(6, 1);
-    RtfWriter writer(report.stan, report.raport, report.now);
+    RtfWriter writer(report.model(), report.now);
     writer.Poz_rtf = 0;
     writer.Wyniki_RTF_so();
     Single y = 0;
@@ -330,28 +325,28 @@ TEST(RtfPlate, PatternBLeavesOutTheSixthLineOfTheLastCheck) {
     EXPECT_EQ(rtfLines(report, patternB).filter(QStringLiteral("blacha 8.")).size(), 5);
 }
 
-TEST(RtfSave, FileThatCannotBeWrittenCountsNoPage) {
+TEST(RtfSave, FileThatCannotBeWrittenIsAnErrorAndGivesNoPagesBack) {
     QTemporaryDir folder;
-    HandFilledReport report(3, 20);
-    report.stan.opcje.Nr_strony = 7;
+    const HandFilledReport report(3, 20);
     try {
-        saveRtfReport(report.stan, report.raport, report.now,
+        saveRtfReport(report.model(), patternA, report.now,
                       folder.filePath(QStringLiteral("brak/Wyniki.rtf")));
         FAIL() << "no error";
     } catch (const RunTimeError& failure) {
         EXPECT_EQ(failure.number(), error::PathNotFound);
     }
-    EXPECT_EQ(report.stan.opcje.Nr_strony, 7);
-    EXPECT_EQ(report.raport.Wiersze_naglowka(6), QStringLiteral("Strona "));
 }
 
 TEST(RtfSave, FileIsWrittenUnderTheNameAsItStands) {
     QTemporaryDir folder;
-    HandFilledReport report(1);
+    HandFilledReport report(3, 20);
+    report.stan.opcje.Nr_strony = 7;
     const QString path = folder.filePath(QStringLiteral("Wyniki"));
-    saveRtfReport(report.stan, report.raport, report.now, path);
-    HandFilledReport again(1);
-    EXPECT_EQ(fileBytes(path), rtfReport(again.stan, again.raport, again.now).bytes());
+    const RtfPages reached = saveRtfReport(report.model(), patternA, report.now, path);
+    RtfWriter again = rtfReport(report.model(), patternA, report.now);
+    EXPECT_EQ(fileBytes(path), again.file().bytes());
+    EXPECT_GT(reached.Nr_strony, 7);
+    EXPECT_EQ(reached.Nr_strony, again.reached().Nr_strony);
 }
 
 TEST(RtfSave, QuestionOffersTheName) {

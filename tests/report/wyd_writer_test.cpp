@@ -33,7 +33,7 @@ protected:
     }
 
     QByteArray body() {
-        WydWriter writer(base.stan, raport, QStringLiteral("/prog"));
+        WydWriter writer(reportModel(base.stan, raport), QStringLiteral("/prog"));
         writer.body();
         return writer.file().bytes();
     }
@@ -194,7 +194,7 @@ TEST_F(PrintCommands, KeepTheStepOfTheBlockWithoutAPicture) {
 TEST_F(PrintCommands, BeginANewPageByTheirPageTests) {
     base.fourAnchors(250, 150).loads(320, 60, 5);
     prepare();
-    WydWriter writer(base.stan, raport, QStringLiteral("/prog"));
+    WydWriter writer(reportModel(base.stan, raport), QStringLiteral("/prog"));
     writer.Poz_y = 224.5F;
     writer.KoniecZ98();
     EXPECT_TRUE(writer.file().bytes().isEmpty());
@@ -220,7 +220,7 @@ TEST_F(PrintCommands, NamePicturesAloneInAFolderWhoseNameTheCodePageLacks) {
     base.fourAnchors(250, 150).loads(320, 60, 5);
     prepare();
     const auto picturesIn = [&](const QString& folder) {
-        WydWriter writer(base.stan, raport, folder);
+        WydWriter writer(reportModel(base.stan, raport), folder);
         writer.body();
         return QString::fromLatin1(writer.file().bytes())
             .split(QStringLiteral("\r\n"))
@@ -238,7 +238,7 @@ TEST_F(PrintCommands, AreWrittenAsAFrameAndAsTheWholeReport) {
     fillAnchorSection();
     const Folder folder;
     folder.write(deliveredAnchorSketch(1), "sketch");
-    Buduj_wyd(base.stan, raport, folder.path(QStringLiteral(".")));
+    Buduj_wyd(reportModel(base.stan, raport), folder.path(QStringLiteral(".")));
     const QByteArray frame = folder.read(wyd::frameFile);
     const QByteArray report = folder.read(wyd::bodyFile);
     EXPECT_TRUE(frame.endsWith("9,5.\r\n"));

@@ -2,6 +2,7 @@
 
 #include "analysis/equilibrium.h"
 #include "analysis/load_case.h"
+#include "equilibrium/equilibrium.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 
@@ -56,10 +57,54 @@ double storedForce(const ColumnBase& base, double x, double y) {
     return std::nan("");
 }
 
+/// The exact equilibrium of a base, with the forces of its anchors in kN.
+struct Exact {
+    std::vector<equilibrium::Anchor> anchors;
+    equilibrium::Load load;
+    equilibrium::Result result;
+
+    Exact(double length, double width, double n, std::vector<equilibrium::Anchor> all,
+          equilibrium::Load applied)
+        : anchors(std::move(all)), load(applied),
+          result(equilibrium::Base(length, width, n, anchors).solve(load)) {}
+
+    double forceOf(std::size_t i) const { return -result.sigmaAnchor[i] * anchors[i].area / 1000; }
+    double force(double x, double y) const {
+        for (std::size_t i = 0; i < anchors.size(); ++i)
+            if (anchors[i].x == x && anchors[i].y == y)
+                return forceOf(i);
+        return std::nan("");
+    }
+    double tension() const {
+        double sum = 0;
+        for (std::size_t i = 0; i < anchors.size(); ++i)
+            sum += forceOf(i);
+        return sum;
+    }
+    /// Where the tension acts, mm, and where the pressure does, which carries it and the load.
+    equilibrium::Point tensionAt() const {
+        equilibrium::Point sum;
+        for (std::size_t i = 0; i < anchors.size(); ++i) {
+            sum.x += forceOf(i) * anchors[i].x / tension();
+            sum.y += forceOf(i) * anchors[i].y / tension();
+        }
+        return sum;
+    }
+    equilibrium::Point pressureAt() const {
+        const double pressure = load.N + tension();
+        return {(1000 * load.M1 + tension() * tensionAt().x) / pressure,
+                (1000 * load.M2 + tension() * tensionAt().y) / pressure};
+    }
+};
+
+std::vector<equilibrium::Anchor> fourAnchorsOf(double area) {
+    return {{-90, 90, area}, {-90, -90, area}, {90, 90, area}, {90, -90, area}};
+}
+
 } // namespace
 
-double Compared::deviation() const {
-    return published != 0 ? std::fabs(here / published - 1) : std::fabs(here);
+double Compared::deviationOf(double figure) const {
+    return published != 0 ? std::fabs(figure / published - 1) : std::fabs(figure);
 }
 
 std::vector<Compared> biaxialFourAnchors() {
@@ -86,15 +131,18 @@ std::vector<Compared> biaxialFourAnchors() {
     const double corner = s.Pol_b * s.Sin_beta + s.Pol_a * s.Cos_beta - s.C_linii;
     const double first = force(1);
     const double second = force(2);
-    return {{"anchor at (-90, 90) mm, kN", 15.998, first},
-            {"anchor at (-90, -90) mm, kN", 14.547, second},
-            {"anchors at x = 90 mm together, kN", 0, force(3) + force(4)},
-            {"tension resultant, kN", 30.545, s.Sila_T / kN},
-            {"its y, mm", 4, 90 * (first - second) / (first + second)},
-            {"compression resultant, kN", 44.545, s.Sila_C / kN},
-            {"its x, mm", 109, 10 * s.Xs_strefy},
-            {"its y, mm", -20, -10 * s.Ys_strefy},
-            {"concrete stress, MPa", 9.30, s.Wsp_k * corner * Gravity / 100}};
+    const Exact exact(250, 250, 200.0 / 30, fourAnchorsOf(84.3), {14, 7.6, -1});
+    return {{"anchor at (-90, 90) mm, kN", 15.998, first, exact.forceOf(0)},
+            {"anchor at (-90, -90) mm, kN", 14.547, second, exact.forceOf(1)},
+            {"anchors at x = 90 mm together, kN", 0, force(3) + force(4),
+             exact.forceOf(2) + exact.forceOf(3)},
+            {"tension resultant, kN", 30.545, s.Sila_T / kN, exact.tension()},
+            {"its y, mm", 4, 90 * (first - second) / (first + second), exact.tensionAt().y},
+            {"compression resultant, kN", 44.545, s.Sila_C / kN, 14 + exact.tension()},
+            {"its x, mm", 109, 10 * s.Xs_strefy, exact.pressureAt().x},
+            {"its y, mm", -20, -10 * s.Ys_strefy, exact.pressureAt().y},
+            {"concrete stress, MPa", 9.30, s.Wsp_k * corner * Gravity / 100,
+             exact.result.sigmaConcrete}};
 }
 
 std::vector<Compared> biaxialFourAnchorsOfTheTable() {
@@ -104,9 +152,11 @@ std::vector<Compared> biaxialFourAnchorsOfTheTable() {
     base.fields.Text2 = QStringLiteral("6,666667");
     base.loads(14, 7.6, -1);
     base.calculate();
-    return {{"anchor at (-90, 90) mm, kN", 15.998, storedForce(base, -90, 90)},
-            {"anchor at (-90, -90) mm, kN", 14.547, storedForce(base, -90, -90)},
-            {"concrete stress, MPa", 9.30, base.stan.wyniki.Sigma_b(1)}};
+    const Exact exact(250, 250, 6.666667, fourAnchorsOf(85), {14, 7.6, -1});
+    return {
+        {"anchor at (-90, 90) mm, kN", 15.998, storedForce(base, -90, 90), exact.forceOf(0)},
+        {"anchor at (-90, -90) mm, kN", 14.547, storedForce(base, -90, -90), exact.forceOf(1)},
+        {"concrete stress, MPa", 9.30, base.stan.wyniki.Sigma_b(1), exact.result.sigmaConcrete}};
 }
 
 std::vector<Compared> biaxialEightAnchors() {
@@ -119,14 +169,24 @@ std::vector<Compared> biaxialEightAnchors() {
     base.fields.Text2 = QStringLiteral("6,833333");
     base.loads(400, -150, 60);
     base.calculate();
-    return {{"anchor at (-190, 240) mm, kN", 52.883, force(-190, 240)},
-            {"anchor at (0, 240) mm, kN", 41.414, force(0, 240)},
-            {"anchor at (190, 240) mm, kN", 29.945, force(190, 240)},
-            {"anchor at (-190, 0) mm, kN", 23.928, force(-190, 0)},
-            {"anchor at (190, 0) mm, kN", 0.990, force(190, 0)},
-            {"the other anchors together, kN", 0,
-             force(-190, -240) + force(0, -240) + force(190, -240)},
-            {"concrete stress, MPa", 16.096, base.stan.wyniki.Sigma_b(1)}};
+    std::vector<equilibrium::Anchor> anchors;
+    for (const double y : {-240.0, 0.0, 240.0})
+        for (const double x : {-190.0, 0.0, 190.0})
+            if (x != 0 || y != 0)
+                anchors.push_back({y, x, 353});
+    const Exact exact(600, 500, 205.0 / 30, anchors, {400, -150, 60});
+    const auto row = [&](const char* what, double published, double x, double y) {
+        return Compared{what, published, force(x, y), exact.force(y, x)};
+    };
+    return {
+        row("anchor at (-190, 240) mm, kN", 52.883, -190, 240),
+        row("anchor at (0, 240) mm, kN", 41.414, 0, 240),
+        row("anchor at (190, 240) mm, kN", 29.945, 190, 240),
+        row("anchor at (-190, 0) mm, kN", 23.928, -190, 0),
+        row("anchor at (190, 0) mm, kN", 0.990, 190, 0),
+        {"the other anchors together, kN", 0, force(-190, -240) + force(0, -240) + force(190, -240),
+         exact.force(-240, -190) + exact.force(-240, 0) + exact.force(-240, 190)},
+        {"concrete stress, MPa", 16.096, base.stan.wyniki.Sigma_b(1), exact.result.sigmaConcrete}};
 }
 
 UniaxialSolution uniaxial(double D, double B, double f, double As, double n, double P, double M) {
@@ -143,9 +203,12 @@ UniaxialSolution uniaxial(double D, double B, double f, double As, double n, dou
 
 std::vector<Compared> uniaxialEquation() {
     const UniaxialSolution s = uniaxial(300, 300, 86, 390.7817, 10, 1075, 1'096'875);
-    return {{"bearing length Y, mm", 72.5669, s.bearing},
-            {"tension T, kg", 4540.03, s.tension},
-            {"concrete stress, kg/cm2", 51.585, 100 * s.concrete}};
+    // In kg instead of N: 1 for the load is 1000 kg.
+    const Exact exact(300, 300, 10, {{-86, 0, 390.7817}}, {1.075, 1.096875, 0});
+    return {
+        {"bearing length Y, mm", 72.5669, s.bearing, 150 - exact.result.neutralLine.value()[0].x},
+        {"tension T, kg", 4540.03, s.tension, 1000 * exact.tension()},
+        {"concrete stress, kg/cm2", 51.585, 100 * s.concrete, 100 * exact.result.sigmaConcrete}};
 }
 
 std::vector<Compared> uniaxialProgram() {
@@ -161,8 +224,9 @@ std::vector<Compared> uniaxialProgram() {
     double tension = 0;
     for (int i = 1; i <= 2; ++i)
         tension -= r.Sigma_kotwy(i)(1) * base.stan.plyta.Pole_kotwy(i) * 0.1; // kN
-    return {{"tension T, kN", s.tension, tension},
-            {"concrete stress, MPa", 1000 * s.concrete, r.Sigma_b(1)}};
+    const Exact exact(300, 300, 10, {{-86, -100, As / 2}, {-86, 100, As / 2}}, {50, 20, 0});
+    return {{"tension T, kN", s.tension, tension, exact.tension()},
+            {"concrete stress, MPa", 1000 * s.concrete, r.Sigma_b(1), exact.result.sigmaConcrete}};
 }
 
 } // namespace ferna::testing

@@ -11,9 +11,11 @@ struct Compared {
     std::string what; ///< with its unit
     double published = 0;
     double here = 0;
+    double exact = 0; ///< the exact equilibrium
 
     /// Share of the published figure; where that is 0, the difference.
-    double deviation() const;
+    double deviation() const { return deviationOf(here); }
+    double deviationOf(double figure) const;
 };
 
 /// Biaxial bending, four anchors M12 of 84.3 mm2, which the program's table has at 85 mm2: its

@@ -1,9 +1,12 @@
 #include "support/golden_file.h"
 #include "support/places.h"
 #include "verification/published_examples.h"
+#include "verification/search_record.h"
 #include "verification/verification_page.h"
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 using namespace ferna::testing;
 
@@ -36,6 +39,26 @@ TEST(PublishedExample, OfOneRowGivesTheBearingLength) {
 
 TEST(PublishedExample, OfOneRowAgreesWithTheProgramUpToTheSubstituteMoment) {
     expectWithin(uniaxialProgram(), 0.01, 0);
+}
+
+TEST(PublishedExample, HasTheFiguresOfTheExactEquilibrium) {
+    for (const std::vector<Compared>& figures :
+         {biaxialFourAnchors(), biaxialEightAnchors(), uniaxialEquation(), uniaxialProgram()})
+        for (const Compared& one : figures) {
+            const bool wholeMillimetres = one.what == "its x, mm" || one.what == "its y, mm";
+            EXPECT_NEAR(one.exact, one.published,
+                        wholeMillimetres ? 0.5 : 0.0005 * std::fabs(one.published) + 1e-9)
+                << one.what;
+        }
+}
+
+TEST(SearchRecord, CountsWhatTheSearchMakesOfRandomBases) {
+    const SearchRecord record = searchRecord(600);
+    EXPECT_GT(record.outside, 250);
+    EXPECT_GT(record.gaveUp, 10);
+    EXPECT_LT(record.gaveUp, record.outside / 4);
+    EXPECT_LE(record.gaveUpPasses, record.gaveUp);
+    EXPECT_LE(record.falsePasses, record.verdictFalls);
 }
 
 #ifndef FERNA_SANITIZE // the page's statistics take too long there

@@ -12,11 +12,14 @@
 #include "input/load_table.h"
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
+#include "pages/sketch_files.h"
+#include "protocol/renderer_files.h"
 #include "runtime/format.h"
 #include "statics/forms/StatykaS.h"
 #include "ui_Ferna3.h"
 #include "widgets/codepage_note.h"
 #include "widgets/environment_stop.h"
+#include "widgets/field_place.h"
 #include "widgets/form_tools.h"
 #include "widgets/notes.h"
 #include "widgets/number_field.h"
@@ -211,6 +214,7 @@ void Ferna3::load() {
     leaveText1();
     Rysuj_P3();
     ui_->SSTab1->setCurrentIndex(generalTab);
+    keepRoomForEveryTab(ui_->SSTab1);
     centreOnScreen(this);
 }
 
@@ -294,7 +298,7 @@ void Ferna3::tabChanged() {
 
 void Ferna3::focusFirstField() {
     const std::array<QWidget*, 4> first{ui_->txtNaz_proj, ui_->Text1, loads_[0][0], ui_->cmdDodaj4};
-    first.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex()))->setFocus();
+    goTo(first.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex())));
 }
 
 void Ferna3::leaveText1() {
@@ -411,7 +415,7 @@ void Ferna3::KGM8(Stan& stan) {
 }
 
 void Ferna3::drawPlate(Stan& stan, const InputFields& fields) {
-    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + QStringLiteral("/Ferrob.bmp")));
+    showPlate(savePlatePicture(stan, fields, dialogs_, folder_ + u'/' + platePictureFile));
 }
 
 void Ferna3::calculate() {
@@ -424,7 +428,7 @@ void Ferna3::calculate() {
 }
 
 void Ferna3::leaveProgram() {
-    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + QStringLiteral("/W_X.txt"));
+    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"), folder_ + u'/' + wyd::replyFile);
     hide();
     QCoreApplication::exit(0);
 }

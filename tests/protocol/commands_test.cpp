@@ -1,9 +1,10 @@
-#include "renderer/records.h"
+#include "protocol/commands.h"
+#include "runtime/run_time_error.h"
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
 
-using namespace ferna::renderer;
+using namespace ferna::wyd;
 
 namespace {
 
@@ -43,6 +44,37 @@ TEST(RecordReader, ReadsATextWithAllItsFields) {
     EXPECT_EQ(text.font, 5);
     EXPECT_FALSE(text.pageNumber);
     EXPECT_EQ(text.text, QStringLiteral("  Długość, x =  600 mm ")) << "the text as it stands";
+}
+
+TEST(RecordReader, WhatIsTooLongIsCutOrPassedOverAndNamed) {
+    const Read text = read({QStringLiteral("3, 3., 55."), QString(longestText, u'x'),
+                            QStringLiteral("3, 3., 55."), QString(longestText + 1, u'x')});
+    ASSERT_EQ(text.records.size(), 2U);
+    EXPECT_EQ(std::get<TextRecord>(text.records[1].content).text.size(), longestText);
+    EXPECT_EQ(text.complaints, QStringList(file
+                                           + QStringLiteral(", wiersz 4: tekst obcięty do "
+                                                            "1000 znaków")));
+    const Read command = read({QStringLiteral("3, 3., ") + QString(2000, u'1'),
+                               QStringLiteral("10"), QStringLiteral("14,1.,2.,1")});
+    EXPECT_EQ(command.records.size(), 1U) << "its text line goes with it";
+    EXPECT_EQ(command.complaints.size(), 1);
+}
+
+TEST(RecordReader, AFloodOfRecordsIsRefused) {
+    const auto refused = [](const QString& record, int times, const char* what) {
+        try {
+            read(QStringList(times, record));
+        } catch (const ferna::RunTimeError& failure) {
+            return failure.text().contains(QString::fromUtf8(what))
+                   && failure.text().contains(QStringLiteral("wiersz"));
+        }
+        return false;
+    };
+    const QString line = QStringLiteral("14,1.,2.,1");
+    EXPECT_FALSE(refused(line, mostRecordsOfAPage, ""));
+    EXPECT_TRUE(refused(line, mostRecordsOfAPage + 1, "ponad 10000 poleceń na stronie"));
+    EXPECT_FALSE(refused(QStringLiteral("10"), mostPages, ""));
+    EXPECT_TRUE(refused(QStringLiteral("10"), mostPages + 1, "ponad 1000 stron"));
 }
 
 TEST(RecordReader, BlanksAroundFieldsDoNotMatter) {

@@ -1,14 +1,29 @@
-#include "renderer/records.h"
+#include "protocol/commands.h"
 
+#include "runtime/format.h"
+#include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
 
+#include <QDir>
+
+#include <algorithm>
 #include <cmath>
 
-namespace ferna::renderer {
+namespace ferna::wyd {
 
 namespace {
 
 constexpr double largestCoordinate = 1e6; // mm
+
+/// The first field of a record.
+namespace command {
+constexpr QLatin1String text("3");
+constexpr QLatin1String pageNumber("13");
+constexpr QLatin1String picture("5");
+constexpr QLatin1String pen("14");
+constexpr QLatin1String frameEnd("9");
+constexpr QLatin1String newPage("10");
+} // namespace command
 
 /// A record that cannot be understood; the text says why.
 struct Malformed {
@@ -26,13 +41,16 @@ bool isPlainNumber(QStringView text) {
 class Fields {
 public:
     explicit Fields(const QString& line) {
-        for (const QString& field : line.split(u','))
+        isTooLong_ = line.size() > longestText;
+        for (const QString& field : line.left(longestText).split(u','))
             fields_ += field.trimmed();
         while (fields_.size() > 1 && fields_.last().isEmpty())
             fields_.removeLast();
     }
 
     void expectAtMost(int count) const {
+        if (isTooLong_)
+            throw Malformed{QStringLiteral("polecenie ma ponad %1 znaków").arg(longestText)};
         if (fields_.size() - 1 > count)
             throw Malformed{
                 QStringLiteral("za dużo pól (%1 zamiast %2)").arg(fields_.size() - 1).arg(count)};
@@ -80,6 +98,7 @@ public:
 
 private:
     QStringList fields_;
+    bool isTooLong_ = false;
 };
 
 std::optional<Baseline> baseline(const Fields& fields, int index) {
@@ -131,6 +150,7 @@ public:
             try {
                 records.push_back(one(Fields(lines_[next_])));
                 records.back().line = line;
+                count(records.back());
             } catch (const Malformed& malformed) {
                 complaints_.add(path_, line, malformed.why);
             }
@@ -140,36 +160,59 @@ public:
 
 private:
     Record one(const Fields& fields) {
-        const QString command = fields.field(0);
-        if (command == u"3" || command == u"13" || command == u"5") {
+        const QString number = fields.field(0);
+        if (number == command::text || number == command::pageNumber
+            || number == command::picture) {
             const qsizetype textLine = ++next_; // gone past also where the record is malformed
             Record record;
-            if (command == u"5")
+            if (number == command::picture)
                 record.content = pictureRecord(fields);
             else
-                record.content = textRecord(fields, command == u"13");
+                record.content = textRecord(fields, number == command::pageNumber);
             if (textLine >= lines_.size())
                 throw Malformed{QStringLiteral("brak wiersza z tekstem")};
             setText(record, lines_[textLine]);
             return record;
         }
-        if (command == u"14")
+        if (number == command::pen)
             return {0, penRecord(fields)};
-        if (command == u"9") {
+        if (number == command::frameEnd) {
             fields.expectAtMost(1);
             (void)fields.number(1);
             return {0, FrameEndRecord{}};
         }
-        if (command == u"10") {
+        if (number == command::newPage) {
             fields.expectAtMost(0);
             return {0, NewPageRecord{}};
         }
-        throw Malformed{QStringLiteral("nieznane polecenie \"%1\"").arg(command)};
+        throw Malformed{QStringLiteral("nieznane polecenie \"%1\"").arg(number)};
     }
 
-    static void setText(Record& record, const QString& text) {
+    void count(const Record& record) {
+        const bool isNewPage = std::holds_alternative<NewPageRecord>(record.content);
+        onThisPage_ = isNewPage ? 0 : onThisPage_ + 1;
+        pages_ += isNewPage ? 1 : 0;
+        pictures_ += std::holds_alternative<PictureRecord>(record.content) ? 1 : 0;
+        limit(record.line, onThisPage_, mostRecordsOfAPage, "poleceń na stronie");
+        limit(record.line, pages_, mostPages, "stron");
+        limit(record.line, pictures_, mostPictures, "rysunków");
+    }
+
+    void limit(int line, int count, int most, const char* what) const {
+        if (count > most)
+            throw RunTimeError(error::DeviceIO, QStringLiteral("%1, wiersz %2: ponad %3 %4")
+                                                    .arg(QDir::toNativeSeparators(path_))
+                                                    .arg(line)
+                                                    .arg(most)
+                                                    .arg(QString::fromUtf8(what)));
+    }
+
+    void setText(Record& record, const QString& text) {
         if (auto* words = std::get_if<TextRecord>(&record.content)) {
-            words->text = text;
+            words->text = text.left(longestText);
+            if (text.size() > longestText)
+                complaints_.add(path_, static_cast<int>(next_) + 1,
+                                QStringLiteral("tekst obcięty do %1 znaków").arg(longestText));
             return;
         }
         auto& picture = std::get<PictureRecord>(record.content);
@@ -182,7 +225,19 @@ private:
     const QString& path_;
     Complaints& complaints_;
     qsizetype next_ = 0;
+    int onThisPage_ = 0;
+    int pages_ = 0;
+    int pictures_ = 0;
 };
+
+/// A record of a text with all its fields; those between have one value only.
+QString textRecordLine(QLatin1String number, const TextFields& fields) {
+    return number
+           + QStringLiteral(",%1,%2,1,,%3,1.,0.,0,%4,0,400,%5")
+                 .arg(fields.x, fields.y, fields.height)
+                 .arg(fields.underline ? 1 : 0)
+                 .arg(fields.font);
+}
 
 } // namespace
 
@@ -195,4 +250,51 @@ std::vector<Record> readRecordFile(const QString& path, Complaints& complaints) 
     return readRecords(readLines(path), path, complaints);
 }
 
-} // namespace ferna::renderer
+void CommandWriter::text(const TextFields& fields, QStringView text) {
+    file_.line(textRecordLine(command::text, fields));
+    file_.line(text);
+}
+
+void CommandWriter::textAt(const QString& x, const QString& y, QStringView text) {
+    file_.line(command::text + QStringLiteral(", ") + x + QStringLiteral(", ") + y);
+    file_.line(text);
+}
+
+void CommandWriter::pageNumber(const TextFields& fields, const QString& words, Integer number) {
+    file_.line(textRecordLine(command::pageNumber, fields));
+    file_.line(words + Format(number, u"####"));
+}
+
+void CommandWriter::picture(const PictureFields& fields, QStringView path) {
+    file_.line(command::picture + QStringLiteral(", ") + fields.x + u',' + fields.y
+               + QStringLiteral(", ") + fields.width + QStringLiteral(", ") + fields.height);
+    file_.line(path);
+}
+
+void CommandWriter::pen(const QString& x, const QString& y, QChar draws) {
+    file_.line(command::pen + QStringLiteral(",") + x + u',' + y + u',' + draws);
+}
+
+void CommandWriter::frameEnd() {
+    file_.line(command::frameEnd + QStringLiteral(",5."));
+}
+
+void CommandWriter::newPage() {
+    file_.line(QString(command::newPage));
+}
+
+// Every digit at the end goes, not only the number of the job: the words may carry that of an
+// earlier page already.
+QString wordsOfPageNumber(const QString& text) {
+    qsizetype end = text.size();
+    while (end > 0 && text[end - 1].isDigit())
+        --end;
+    if (end > 0 && end < text.size() && text[end - 1] == u'-')
+        --end;
+    QString words = text.left(end);
+    if (!words.isEmpty() && !words.endsWith(u' '))
+        words += u' ';
+    return words;
+}
+
+} // namespace ferna::wyd

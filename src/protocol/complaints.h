@@ -3,7 +3,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace ferna::renderer {
+namespace ferna::wyd {
 
 /// What was passed over while a report was read, one Polish line each: file, line, reason.
 class Complaints {
@@ -15,4 +15,4 @@ private:
     QStringList lines_;
 };
 
-} // namespace ferna::renderer
+} // namespace ferna::wyd

@@ -1,12 +1,12 @@
-#include "renderer/complaints.h"
+#include "protocol/complaints.h"
 
 #include <QDir>
 
-namespace ferna::renderer {
+namespace ferna::wyd {
 
 void Complaints::add(const QString& path, int line, const QString& what) {
     lines_ +=
         QStringLiteral("%1, wiersz %2: %3").arg(QDir::toNativeSeparators(path)).arg(line).arg(what);
 }
 
-} // namespace ferna::renderer
+} // namespace ferna::wyd

@@ -1,0 +1,53 @@
+#include "equilibrium/equilibrium.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+
+// The sanitizers have an allocator of their own.
+#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#define FERNA_COUNTS_ALLOCATIONS 1
+#endif
+
+#ifdef FERNA_COUNTS_ALLOCATIONS
+namespace {
+thread_local long allocations = 0;
+}
+
+extern "C" {
+void* __libc_malloc(std::size_t size);
+// Every allocation of the program comes through here, operator new and the library's too.
+void* malloc(std::size_t size) {
+    ++allocations;
+    return __libc_malloc(size);
+}
+}
+#endif
+
+using namespace ferna::equilibrium;
+
+namespace {
+
+TEST(Equilibrium, AllocatesNothing) {
+#ifndef FERNA_COUNTS_ALLOCATIONS
+    GTEST_SKIP() << "the allocator of a sanitizer is not counted";
+#else
+    constexpr Anchor anchors[] = {{250, 150, 353}, {-250, 150, 353}, {250, -150, 353}};
+    constexpr Anchor row[] = {{300, -100, 353}, {300, 100, 353}};
+    const long before = allocations;
+    const Base base(600, 400, 6.83, anchors);
+    bool all = base.solve({100, 60, 25}).exists;
+    const Base verge(600, 400, 6.83, row);
+    all = all && verge.solve({-10, -3, 0.5}).exists; // in the finer numbers
+    const bool none = verge.solve({-10, -2.9, 0}).exists;
+    EXPECT_EQ(allocations - before, 0);
+    EXPECT_TRUE(all);
+    EXPECT_FALSE(none);
+
+    const std::string counted(100, 'x');
+    EXPECT_GT(allocations - before, 0) << "nothing is counted: " << counted;
+#endif
+}
+
+} // namespace
