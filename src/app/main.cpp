@@ -83,7 +83,11 @@ private:
     FernaWyn::Links links() {
         return {
             .plateForm =
-                [this](QWidget* parent) { Grub_bla(stan_, folder_, dialogs_, parent).exec(); },
+                [this](QWidget* parent) {
+                    Grub_bla form(stan_, folder_, dialogs_, parent);
+                    if (form.exec() == QDialog::Accepted)
+                        input_.record().plateWorked(notes::plateFacts(stan_, form.worked(), true));
+                },
             .anchorForm =
                 [this](QWidget* parent) { Dobor_fer(stan_, folder_, dialogs_, parent).exec(); },
             .help = [this] { openHelp(folder_, help::Start); },
@@ -94,7 +98,17 @@ private:
                                folder_ + u'/' + wyd::replyFile);
                     QCoreApplication::exit(0);
                 },
+            .notes = [this](const QString& label) { return notesOn(label); },
         };
+    }
+
+    QStringList notesOn(const QString& label) {
+        notes::Record& record = input_.record();
+        record.labelled(label);
+        QStringList texts;
+        for (const notes::Note& note : notes::notesOf(record))
+            texts += note.text;
+        return texts;
     }
 
     Stan& stan_;

@@ -130,6 +130,7 @@ ComputedTask run(Task task, const RunOptions& options) {
         if (done.task.column && !failure.key().empty() && stopped == stan.obciazenia.Liczba_przyp)
             done.failure["klucz"] = done.task.column->path; // its totals are the last case
         done.computed = false;
+        done.record.stopped();
     }
     return done;
 }

@@ -65,6 +65,8 @@ public:
     /// To be called from the calculation's host.
     void caseEnded(const Stan& stan, int c);
     void caseRefused(const Stan& stan, int c);
+    /// A run-time error has ended the calculation: nothing was told.
+    void stopped() { told_ = {}; }
     /// The plate section has been through its form.
     void plateWorked(const PlateFacts& facts) { plate_ = facts; }
     /// The label of the footing, as typed.

@@ -67,6 +67,7 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
                    [this] { StatykaS(stan_, statyka_, *this, dialogs_, this).exec(); });
     connectCommand(ui_->cmdOblicz, [this] { calculate(); });
     connectCommand(ui_->cmdKoniec, [this] { leaveProgram(); });
+    uwagi_ = std::make_unique<InputNotesBand>(this, ui_->uwagi, stan_, [this] { return fields(); });
 }
 
 Ferna3::~Ferna3() = default;
@@ -305,6 +306,7 @@ void Ferna3::leaveText1() {
     takeCaseCount(stan_, text);
     ui_->Text1->setText(text);
     showRows();
+    uwagi_->renew();
 }
 
 void Ferna3::showRows() {
@@ -417,7 +419,10 @@ void Ferna3::drawPlate(Stan& stan, const InputFields& fields) {
 }
 
 void Ferna3::calculate() {
-    const CalculationEnd end = Oblicz(stan_, przypadek_, fields(), dialogs_, *this);
+    uwagi_->calculationBegins();
+    CalculationEnd end = CalculationEnd::Refused;
+    shownAfterwards([&] { end = Oblicz(stan_, przypadek_, fields(), dialogs_, *this); },
+                    [this] { uwagi_->calculationEnded(); });
     if (end == CalculationEnd::Computed)
         openResults_();
 }

@@ -3,6 +3,7 @@
 #include "analysis/stan_przypadku.h"
 #include "command/calculation.h"
 #include "input/anchor_layout.h"
+#include "input/forms/input_notes_band.h"
 #include "statics/load_list.h"
 #include "statics/load_scheme.h"
 
@@ -39,6 +40,9 @@ public:
     /// True where the first option of the norm is set.
     bool firstNorm() const;
 
+    /// What the notes of the last calculation go by.
+    notes::Record& record() { return uwagi_->record(); }
+
     /// Esc does nothing here: it must not end the program.
     void reject() override {}
 
@@ -50,6 +54,8 @@ protected:
 private:
     void KGM8(Stan& stan) override;
     void drawPlate(Stan& stan, const InputFields& fields) override;
+    void caseEnded(int c) override { record().caseEnded(stan_, c); }
+    void caseRefused(int c) override { record().caseRefused(stan_, c); }
     void setCount(const QString& text) override;
     void setRow(int r, const LoadRow<QString>& texts) override;
     void showRow(int r) override;
@@ -93,6 +99,7 @@ private:
     Stan_przypadku przypadek_;
     Stan_statyki statyka_;
     std::unique_ptr<Ui::Ferna3> ui_;
+    std::unique_ptr<InputNotesBand> uwagi_;
     std::unique_ptr<Nowa_Sruba> nowaSruba_; ///< hidden, not unloaded, between its uses
     std::array<std::array<QLineEdit*, 5>, MaxCases> loads_{}; ///< by row: N, M1, M2, Vx, Vy
     Integer Jezyk_wczytany = 0;

@@ -150,6 +150,12 @@ void FernaWyn::showPanels() {
     showAsWarning(state_, session_->exceeded());
     project_->setText(session_->projectPanel());
     label_->setText(session_->labelPanel());
+    showNotes();
+}
+
+void FernaWyn::showNotes() {
+    if (links_.notes)
+        ui_->uwagi->setNotes(links_.notes(session_->typedLabel()));
 }
 
 void FernaWyn::open() {

@@ -27,6 +27,8 @@ public:
         std::function<void()> help;
         std::function<void()> back;       ///< shows the input form
         std::function<void()> endProgram; ///< saves the configuration and ends
+        /// What there is to say beside the report, given the label as typed last.
+        std::function<QStringList(const QString& label)> notes = {};
     };
 
     FernaWyn(Stan& stan, std::unique_ptr<ResultsSession> session, Links links);
@@ -47,6 +49,7 @@ private:
     void addPanel(QWidget* panel, int share);
     void connectMenu();
     void showPanels();
+    void showNotes();
     void showRtfEntry();
     void tellWritten();
     void refresh();
