@@ -56,10 +56,11 @@ void remark(const QString& what) {
         std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
 }
 
-/// What is doubtful about a task, a line each. The remarks on the names go with the reports.
-void tellNotes(const ComputedTask& done, bool namesAreTold) {
+/// What is doubtful about a task, a line each. Names are left out: what they lose is told once, by
+/// its key, where a report is written that loses it.
+void tellNotes(const ComputedTask& done) {
     for (const notes::Note& note : notes::notesOf(done.record))
-        if (!namesAreTold || note.code < notes::Code::LiteraSpozaStrony)
+        if (note.code < notes::Code::LiteraSpozaStrony)
             remark(QStringLiteral("uwaga: ") + note.text);
 }
 
@@ -97,14 +98,13 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             writeFileWhole(options.result, QByteArray::fromStdString(result));
         for (const QString& what : remarksOf(done))
             remark(options.task + QStringLiteral(": ") + what);
-        const bool namesAreTold = done.reportReady && !options.reports.isEmpty();
-        if (namesAreTold)
+        if (done.reportReady && !options.reports.isEmpty())
             for (const QString& what : nameRemarks(done.task))
                 remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures, outputs));
-        tellNotes(done, namesAreTold);
+        tellNotes(done);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "
