@@ -11,6 +11,7 @@ namespace {
 
 constexpr int shareOfTheWindow = 4; // the band takes a quarter of it at most
 constexpr int leastLines = 3;       // but so many lines at least, if it has them
+constexpr int lineMargin = 3;       // around the text of a note
 
 /// A tint that is seen without shouting, on a light window and on a dark one.
 QColor tint(const QPalette& palette) {
@@ -45,7 +46,7 @@ void NoteBand::setNotes(const QStringList& texts, std::function<void(int)> follo
         auto* const line = new QLabel;
         line->setTextFormat(Qt::PlainText);
         line->setWordWrap(true);
-        line->setMargin(3);
+        line->setMargin(lineMargin);
         line->setAutoFillBackground(true);
         line->installEventFilter(this);
         layout_->addWidget(line);
@@ -65,8 +66,21 @@ void NoteBand::setNotes(const QStringList& texts, std::function<void(int)> follo
     fitHeight();
 }
 
+void NoteBand::keepRoom() {
+    keepsRoom_ = true;
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+    wanted_ = leastHeight();
+    setMinimumHeight(wanted_);
+}
+
+int NoteBand::leastHeight() const {
+    return leastLines * fontMetrics().lineSpacing() + 2 * lineMargin + 2 * frameWidth();
+}
+
 QSize NoteBand::sizeHint() const {
-    return {0, height()};
+    return {0, keepsRoom_ ? wanted_ : height()};
 }
 
 QSize NoteBand::minimumSizeHint() const {
@@ -96,7 +110,10 @@ void NoteBand::fitHeight() {
     int needed = layout_->heightForWidth(width() - frame) + frame;
     if (needed > most)
         needed = qMax(layout_->heightForWidth(width() - frame - bar) + frame, most);
-    setFixedHeight(qMin(needed, most));
+    if (!keepsRoom_)
+        return setFixedHeight(qMin(needed, most));
+    wanted_ = qBound(leastHeight(), needed, most);
+    updateGeometry();
 }
 
 void NoteBand::showChoice() {

@@ -10,9 +10,10 @@ class QVBoxLayout;
 
 namespace ferna {
 
-/// A quiet band of notes, one under the other. It takes no room where there are none, and a part of
-/// its window at most: more notes are scrolled. Where notes lead somewhere, a click leads there,
-/// and with the focus in the band the arrows choose a note and Enter or Space follows it.
+/// A quiet band of notes, one under the other. It takes no room where there are none, unless it is
+/// told to keep some, and a part of its window at most: more notes are scrolled. Where notes lead
+/// somewhere, a click leads there, and with the focus in the band the arrows choose a note and
+/// Enter or Space follows it.
 class NoteBand : public QScrollArea {
 public:
     explicit NoteBand(QWidget* parent = nullptr);
@@ -22,6 +23,10 @@ public:
     void setNotes(const QStringList& texts, std::function<void(int)> follow = {});
 
     QStringList notes() const { return texts_; }
+
+    /// Keeps the room of some lines where there are no notes, and takes more only where the window
+    /// has it to spare, so that the form stands still while notes come and go.
+    void keepRoom();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -40,12 +45,15 @@ private:
     void showChoice();
     void colour();
     void fitHeight();
+    int leastHeight() const;
 
     QStringList texts_;
     std::function<void(int)> follow_;
     std::vector<QLabel*> lines_;
     QVBoxLayout* layout_;
     int chosen_ = 0;
+    bool keepsRoom_ = false;
+    int wanted_ = 0; ///< the height that the notes ask for where room is kept
 };
 
 } // namespace ferna
