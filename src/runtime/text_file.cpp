@@ -59,6 +59,12 @@ private:
 } // namespace
 
 QByteArray readFileWhole(const QString& path, qsizetype most) {
+    if (path.startsWith(u':')) { // carried by the program itself: no file of the system
+        QFile carried(path);
+        if (!carried.open(QIODevice::ReadOnly))
+            cannotRead(path, ENOENT);
+        return carried.readAll();
+    }
     const OpenFile file(path);
     struct stat info {};
     if (file.number() < 0 || ::fstat(file.number(), &info) != 0)
