@@ -23,6 +23,9 @@ public:
 
     QStringList notes() const { return texts_; }
 
+    /// What a window keeps free for it at first, so that it does not grow when a few notes come.
+    int usualHeight() const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -46,6 +49,7 @@ private:
     std::vector<QLabel*> lines_;
     QVBoxLayout* layout_;
     int chosen_ = 0;
+    int room_ = 0; ///< height of all notes, or the most that the band takes
 };
 
 } // namespace ferna

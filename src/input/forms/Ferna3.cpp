@@ -258,6 +258,12 @@ void Ferna3::showRow(int r) {
         field->setVisible(true);
 }
 
+// With room for a few notes, so that the window does not grow when they come.
+QSize Ferna3::sizeHint() const {
+    const int free = ui_->uwagi->isHidden() ? ui_->uwagi->usualHeight() : 0;
+    return QDialog::sizeHint() + QSize(0, free);
+}
+
 void Ferna3::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     if (event->spontaneous())
