@@ -3,6 +3,7 @@
 #include "windows/window_dress.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QLineEdit>
@@ -78,6 +79,12 @@ void keepRoomForEveryTab(QTabWidget* tabs) {
     }
     for (int tab = 0; tab < tabs->count(); ++tab)
         tabs->widget(tab)->setMinimumSize(room);
+}
+
+// The toolkit keeps the least width that a list had before its items came.
+void makeRoomForItems(QComboBox* list) {
+    list->ensurePolished();
+    list->setMinimumWidth(list->sizeHint().width());
 }
 
 void addTabKeys(QWidget* form, QTabWidget* tabs) {

@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QComboBox;
 class QLineEdit;
 class QTabWidget;
 
@@ -20,6 +21,9 @@ void stopTabAtTheChoice(QWidget* group);
 /// Gives every page of a tab widget the room that the largest of them needs, so that the form
 /// stands still when another one comes to the front.
 void keepRoomForEveryTab(QTabWidget* tabs);
+
+/// Makes a list at least as wide as the longest of its items needs.
+void makeRoomForItems(QComboBox* list);
 
 /// Brings the tabs of a form to the front by keys wherever the focus is: Alt with the number of the
 /// tab, Ctrl+Tab and Ctrl+PageDown to the next one that can be chosen, with Shift and Ctrl+PageUp

@@ -145,7 +145,7 @@ class Day:
         results.save_emf(self.saved("raport.emf"), LABEL)
         self.pages = self.next_free_page() - FIRST_PAGE
         expect(self.pages == 2, f"the report has {self.pages} pages")
-        pages = [texts_of_emf(read(self.saved(f"raport-{page + 1}.emf")))
+        pages = [texts_of_emf(read(self.saved(f"raport-strona-{page + 1}-z-{self.pages}.emf")))
                  for page in range(self.pages)]
         for number, texts in enumerate(pages, FIRST_PAGE):
             expect(f"Strona {number}" in texts, f"no page number {number} in the metafile")

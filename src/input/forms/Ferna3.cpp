@@ -196,6 +196,7 @@ void Ferna3::leave(QWidget* field) {
 void Ferna3::load() {
     const Opcje_zadania& task = stan_.opcje;
     ui_->cmbStal->addItems(steelNames());
+    makeRoomForItems(ui_->cmbStal);
     findChild<QRadioButton*>(QStringLiteral("Jezyk_%1").arg(task.Nr_jezyka))->setChecked(true);
     Jezyk_wczytany = task.Nr_jezyka;
     findChild<QRadioButton*>(QStringLiteral("optRTF_%1").arg(task.Tryb_RTF))->setChecked(true);
@@ -324,6 +325,7 @@ void Ferna3::showRows() {
 void Ferna3::fillConcretes() {
     ui_->cmbBeton->clear();
     ui_->cmbBeton->addItems(concreteNames(stan_.opcje.Nr_normy));
+    makeRoomForItems(ui_->cmbBeton);
     const int index = stan_.opcje.Nr_betonu - 1;
     ui_->cmbBeton->setCurrentIndex(index < ui_->cmbBeton->count() ? index : -1);
 }
