@@ -56,9 +56,10 @@ TEST(NameRemarks, StandOnStandardErrorOnceWithTheKeyWhereAReportIsWritten) {
     const QString task =
         folder.write(QStringLiteral("t.json"), taskWith(R"("Nazwa_projektu": "Słup Ω",)"));
     const QString program = places::bin("/ferna-wsad");
-    EXPECT_EQ(runProgram(program, {task}).errors,
-              QStringLiteral("ferna-wsad: uwaga: Nazwa projektu: raport nie pomieści znaków Ω, w ich "
-                             "miejscu będzie \"?\". Wpisz nazwę bez nich.\n"));
+    EXPECT_EQ(
+        runProgram(program, {task}).errors,
+        QStringLiteral("ferna-wsad: uwaga: Nazwa projektu: raport nie pomieści znaków Ω, w ich "
+                       "miejscu będzie \"?\". Wpisz nazwę bez nich.\n"));
     const Outcome run = runProgram(
         program, {QStringLiteral("--raport"), folder.path(QStringLiteral("r.txt")), task});
     EXPECT_EQ(run.exitCode, 0);
