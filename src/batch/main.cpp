@@ -56,11 +56,10 @@ void remark(const QString& what) {
         std::cerr << "ferna-wsad: " << what.toStdString() << '\n';
 }
 
-/// What is doubtful about a task, a line each. Names are left out: what they lose is told once, by
-/// its key, where a report is written that loses it.
-void tellNotes(const ComputedTask& done) {
+/// What is doubtful about a task, a line each. The remarks on the names go with the reports.
+void tellNotes(const ComputedTask& done, bool namesAreTold) {
     for (const notes::Note& note : notes::notesOf(done.record))
-        if (note.code < notes::Code::LiteraSpozaStrony)
+        if (!namesAreTold || note.code < notes::Code::LiteraSpozaStrony)
             remark(QStringLiteral("uwaga: ") + note.text);
 }
 
@@ -98,13 +97,14 @@ int runOne(const Options& options, const RunOptions& runOptions) {
             writeFileWhole(options.result, QByteArray::fromStdString(result));
         for (const QString& what : remarksOf(done))
             remark(options.task + QStringLiteral(": ") + what);
-        if (done.reportReady && !options.reports.isEmpty())
+        const bool namesAreTold = done.reportReady && !options.reports.isEmpty();
+        if (namesAreTold)
             for (const QString& what : nameRemarks(done.task))
                 remark(options.task + QStringLiteral(": ") + what);
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures, outputs));
-        tellNotes(done);
+        tellNotes(done, namesAreTold);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
         return refuse(options.task.toStdString() + ", line "

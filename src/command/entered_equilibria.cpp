@@ -3,6 +3,8 @@
 #include "design/material_tables.h"
 #include "runtime/run_time_error.h"
 
+#include <algorithm>
+
 namespace ferna {
 
 namespace {
@@ -60,7 +62,7 @@ std::optional<equilibrium::Load> enteredLoad(const InputFields& fields, int c) {
 
 EnteredEquilibria enteredEquilibria(const Stan& stan, const InputFields& fields) {
     EnteredEquilibria result;
-    result.cases = stan.obciazenia.Liczba_przyp;
+    result.cases = std::clamp<int>(stan.obciazenia.Liczba_przyp, 0, MaxCases);
     result.anchors = stan.plyta.Liczba_srub;
     const std::optional<equilibrium::Base> base = enteredBase(stan, fields);
     if (!base)

@@ -52,8 +52,7 @@ Result Base::solve(const Load& load) const noexcept {
     if (!tipping_.carries(section_, carried))
         return tippedOver(forces);
     const Balance found = balance(section_, carried);
-    // So near the verge, with pressures of 1e12 times the load on the plate, that no plane holds
-    // it.
+    // So near the verge that no plane of finite digits holds it.
     constexpr double balanced = 5e-11;
     if (!(found.residual < balanced) && tipping_.leavesTurns()) {
         Result beyond = tippedOver(forces);

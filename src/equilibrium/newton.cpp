@@ -21,6 +21,15 @@ struct Accuracy<Quad> {
     static constexpr double enough = 1e-18;
     static constexpr double nearby = 1e-16;
     static constexpr double noise = 1e-30;
+    static constexpr double leastBed = 1e-24;
+    static constexpr int mostTrials = 300;
+};
+template <>
+struct Accuracy<Wide> {
+    static constexpr double enough = 1e-18;
+    static constexpr double nearby = 1e-16;
+    static constexpr double noise = 1e-60;
+    static constexpr double leastBed = 1e-56;
     static constexpr int mostTrials = 300;
 };
 
@@ -157,11 +166,12 @@ CornerPlane<To> converted(const CornerPlane<From>& plane) noexcept {
 
 /// Where the plate can turn without resistance, on a bed that is taken away little by little: its
 /// plane goes to the flattest of all that balance the load.
-Trial<Quad> softened(const Section& section, const Vector3& load, CornerPlane<Quad> plane,
-                     int& steps) noexcept {
-    for (Quad bed = 0.1; bed > 1e-24; bed /= 16)
-        plane = Search<Quad>(section, load, bed, steps).from(plane).plane;
-    return Search<Quad>(section, load, 0, steps).from(plane);
+template <typename Number>
+Trial<Number> softened(const Section& section, const Vector3& load, CornerPlane<Number> plane,
+                       int& steps) noexcept {
+    for (Number bed = 0.1; bed > Accuracy<Number>::leastBed; bed /= 16)
+        plane = Search<Number>(section, load, bed, steps).from(plane).plane;
+    return Search<Number>(section, load, 0, steps).from(plane);
 }
 
 /// The place to start from: nothing cracked, or without the anchors where the whole plate is
@@ -215,7 +225,11 @@ Balance balance(const Section& section, const Vector3& load) noexcept {
     Trial<Quad> finer = Search<Quad>(section, load, 0, steps).from(next);
     if (finer.size > fine)
         finer = softened(section, load, converted<Quad>(first), steps);
-    return {converted<double>(finer.plane), finer.plane, static_cast<double>(finer.size), steps};
+    if (finer.size < fine)
+        return {converted<double>(finer.plane), converted<Wide>(finer.plane),
+                static_cast<double>(finer.size), steps};
+    const Trial<Wide> finest = softened(section, load, converted<Wide>(first), steps);
+    return {converted<double>(finest.plane), finest.plane, static_cast<double>(finest.size), steps};
 }
 
 } // namespace ferna::equilibrium

@@ -9,7 +9,7 @@ namespace ferna::equilibrium {
 /// A plane that balances a load, how nearly, and after how many evaluations of the section.
 struct Balance {
     CornerPlane<double> plane;
-    std::optional<CornerPlane<Quad>> finer; ///< where doubles do not hold it finely enough
+    std::optional<CornerPlane<Wide>> finer; ///< where doubles do not hold it finely enough
     double residual = 0;
     int steps = 0;
 };

@@ -12,6 +12,8 @@ template <typename Number>
 constexpr Number leastPivot = 1e-14;
 template <>
 constexpr Quad leastPivot<Quad> = 1e-33;
+template <>
+constexpr Wide leastPivot<Wide> = 1e-66;
 
 } // namespace
 
@@ -183,9 +185,12 @@ Response<Number> responseOf(const Section& section, const CornerPlane<Number>& p
 
 template bool solve(const Moments<double>&, const Vector3&, Vector3&) noexcept;
 template bool solve(const Moments<Quad>&, const Triple<Quad>&, Triple<Quad>&) noexcept;
+template bool solve(const Moments<Wide>&, const Triple<Wide>&, Triple<Wide>&) noexcept;
 template struct CornerPlane<double>;
 template struct CornerPlane<Quad>;
+template struct CornerPlane<Wide>;
 template Response<double> responseOf(const Section&, const CornerPlane<double>&) noexcept;
 template Response<Quad> responseOf(const Section&, const CornerPlane<Quad>&) noexcept;
+template Response<Wide> responseOf(const Section&, const CornerPlane<Wide>&) noexcept;
 
 } // namespace ferna::equilibrium

@@ -2,6 +2,8 @@
 
 #include "design/material_tables.h"
 
+#include <algorithm>
+
 namespace ferna::notes {
 
 namespace {
@@ -14,7 +16,11 @@ Double toldStress(const Stan& stan, int i, int c) {
 } // namespace
 
 Entered entered(const Stan& stan, const InputFields& fields, const EnteredEquilibria& equilibria) {
-    return {fields, stan.plyta, stan.obciazenia.Liczba_przyp, {}, equilibria};
+    return {fields,
+            stan.plyta,
+            std::clamp<int>(stan.obciazenia.Liczba_przyp, 0, MaxCases),
+            {},
+            equilibria};
 }
 
 Entered entered(const Stan& stan, const InputFields& fields) {

@@ -78,7 +78,7 @@ QByteArray readFileWhole(const QString& path, qsizetype most) {
     QByteArray bytes;
     qsizetype read = 0;
     // Some files of the system's own have no size; one more byte tells the end of the others.
-    bytes.resize(qBound<qsizetype>(block, info.st_size + 1, most + 1));
+    bytes.resize(qMin<qsizetype>(qMax<qsizetype>(block, info.st_size + 1), most + 1));
     for (;;) {
         const ssize_t count = ::read(file.number(), bytes.data() + read,
                                      static_cast<std::size_t>(bytes.size() - read));

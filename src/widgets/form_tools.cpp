@@ -42,6 +42,8 @@ void centreOnScreen(QWidget* form) {
     makeRoomForTitle(form);
     form->adjustSize();
     const QRect screen = form->screen()->availableGeometry();
+    // On a small screen the toolkit keeps to two thirds of it, and the form grew at its first note.
+    form->resize(form->size().expandedTo(form->sizeHint()).boundedTo(screen.size()));
     form->move(
         screen.topLeft()
         + QPoint((screen.width() - form->width()) / 2, (screen.height() - form->height()) / 2));

@@ -11,7 +11,12 @@ namespace {
 
 constexpr int shareOfTheWindow = 4; // the band takes a quarter of it at most
 constexpr int leastLines = 3;       // but so many lines at least, if it has them
-constexpr int lineMargin = 3;       // around the text of a note
+
+constexpr int noteMargin = 3; // around a note
+
+int noteHeight(const QFontMetrics& font) {
+    return font.lineSpacing() + 2 * noteMargin;
+}
 
 /// A tint that is seen without shouting, on a light window and on a dark one.
 QColor tint(const QPalette& palette) {
@@ -30,7 +35,7 @@ NoteBand::NoteBand(QWidget* parent) : QScrollArea(parent) {
     setWidgetResizable(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameStyle(QFrame::StyledPanel | QFrame::Plain);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     setAccessibleName(QStringLiteral("Uwagi"));
     colour();
     hide();
@@ -46,7 +51,7 @@ void NoteBand::setNotes(const QStringList& texts, std::function<void(int)> follo
         auto* const line = new QLabel;
         line->setTextFormat(Qt::PlainText);
         line->setWordWrap(true);
-        line->setMargin(lineMargin);
+        line->setMargin(noteMargin);
         line->setAutoFillBackground(true);
         line->installEventFilter(this);
         layout_->addWidget(line);
@@ -66,25 +71,17 @@ void NoteBand::setNotes(const QStringList& texts, std::function<void(int)> follo
     fitHeight();
 }
 
-void NoteBand::keepRoom() {
-    keepsRoom_ = true;
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
-    wanted_ = leastHeight();
-    setMinimumHeight(wanted_);
-}
-
-int NoteBand::leastHeight() const {
-    return leastLines * fontMetrics().lineSpacing() + 2 * lineMargin + 2 * frameWidth();
-}
-
 QSize NoteBand::sizeHint() const {
-    return {0, keepsRoom_ ? wanted_ : height()};
+    return {0, room_};
 }
 
+// One note can always be read; a window that is only just high enough does not grow for more.
 QSize NoteBand::minimumSizeHint() const {
-    return {0, 0};
+    return {0, qMin(room_, noteHeight(fontMetrics()) + 2 * frameWidth())};
+}
+
+int NoteBand::usualHeight() const {
+    return leastLines * noteHeight(fontMetrics()) + 2 * frameWidth();
 }
 
 void NoteBand::colour() {
@@ -110,9 +107,8 @@ void NoteBand::fitHeight() {
     int needed = layout_->heightForWidth(width() - frame) + frame;
     if (needed > most)
         needed = qMax(layout_->heightForWidth(width() - frame - bar) + frame, most);
-    if (!keepsRoom_)
-        return setFixedHeight(qMin(needed, most));
-    wanted_ = qBound(leastHeight(), needed, most);
+    room_ = qMin(needed, most);
+    setMaximumHeight(room_);
     updateGeometry();
 }
 

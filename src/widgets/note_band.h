@@ -10,10 +10,9 @@ class QVBoxLayout;
 
 namespace ferna {
 
-/// A quiet band of notes, one under the other. It takes no room where there are none, unless it is
-/// told to keep some, and a part of its window at most: more notes are scrolled. Where notes lead
-/// somewhere, a click leads there, and with the focus in the band the arrows choose a note and
-/// Enter or Space follows it.
+/// A quiet band of notes, one under the other. It takes no room where there are none, and a part of
+/// its window at most: more notes are scrolled. Where notes lead somewhere, a click leads there,
+/// and with the focus in the band the arrows choose a note and Enter or Space follows it.
 class NoteBand : public QScrollArea {
 public:
     explicit NoteBand(QWidget* parent = nullptr);
@@ -24,9 +23,8 @@ public:
 
     QStringList notes() const { return texts_; }
 
-    /// Keeps the room of some lines where there are no notes, and takes more only where the window
-    /// has it to spare, so that the form stands still while notes come and go.
-    void keepRoom();
+    /// What a window keeps free for it at first, so that it does not grow when a few notes come.
+    int usualHeight() const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -45,15 +43,13 @@ private:
     void showChoice();
     void colour();
     void fitHeight();
-    int leastHeight() const;
 
     QStringList texts_;
     std::function<void(int)> follow_;
     std::vector<QLabel*> lines_;
     QVBoxLayout* layout_;
     int chosen_ = 0;
-    bool keepsRoom_ = false;
-    int wanted_ = 0; ///< the height that the notes ask for where room is kept
+    int room_ = 0; ///< height of all notes, or the most that the band takes
 };
 
 } // namespace ferna

@@ -51,12 +51,15 @@ TEST(NameRemarks, NameTheKeyAndWhatIsLost) {
                              "letters of 3.9 pt in place of 9.9 pt"));
 }
 
-TEST(NameRemarks, StandOnStandardErrorWhereAReportIsWritten) {
+TEST(NameRemarks, StandOnStandardErrorOnceWithTheKeyWhereAReportIsWritten) {
     const Folder folder;
     const QString task =
         folder.write(QStringLiteral("t.json"), taskWith(R"("Nazwa_projektu": "Słup Ω",)"));
     const QString program = places::bin("/ferna-wsad");
-    EXPECT_EQ(runProgram(program, {task}).errors, QString());
+    EXPECT_EQ(
+        runProgram(program, {task}).errors,
+        QStringLiteral("ferna-wsad: uwaga: Nazwa projektu: raport nie pomieści znaków Ω, w ich "
+                       "miejscu będzie \"?\". Wpisz nazwę bez nich.\n"));
     const Outcome run = runProgram(
         program, {QStringLiteral("--raport"), folder.path(QStringLiteral("r.txt")), task});
     EXPECT_EQ(run.exitCode, 0);

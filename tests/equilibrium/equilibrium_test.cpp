@@ -171,6 +171,28 @@ TEST(Equilibrium, PressesASliverJustInsideTheEdge) {
     }
 }
 
+TEST(Equilibrium, IsFoundWhereAnAnchorBesideThePlateTurnsTheLastOfTheLoadBack) {
+    // N on the edge y = -200 and this share short of the corner, an anchor beside the other edge.
+    // Pressed is a triangle at the corner whose hypotenuse runs to the anchor: so half of the
+    // share is the pressure's distance and the other half the anchor's pull.
+    for (const double share : {1e-6, 1e-7, 1e-8, 1e-9, 1e-10, 1e-11}) {
+        const double N = 100;
+        const BaseAndLoad problem{
+            600, 400, 6, {{440, -180, 353}}, {N, 0.3 * N * (1 - share), -0.2 * N}};
+        const Result result = problem.solved();
+        ASSERT_TRUE(result.exists) << share;
+        EXPECT_LT(result.residual, 1e-10) << share;
+        EXPECT_LT(result.steps, mostSteps) << share;
+        const double pull = N * share / 2 / (440.0 / 300 - 1);
+        const double loose = 4 * share + 1e-15 / share; // the corner is nearly all of it
+        EXPECT_NEAR(result.sigmaAnchor[0] * 353 / 1000 / -pull, 1, loose) << share;
+        const double u = share / 2;
+        const double v = pull / N * 0.1;
+        const double pressure = 6 / (16 * u * v) * N * 1000 / (300 * 200);
+        EXPECT_NEAR(result.sigmaConcrete / pressure, 1, 4 * loose) << share;
+    }
+}
+
 TEST(Equilibrium, IsFoundOnAStripThirtyThousandTimesLongerThanWide) {
     const BaseAndLoad problem{32000, 1, 6, {{-15990, 0, 85}, {15990, 0, 85}}, {1, 20, 1e-5}};
     const Result result = problem.solved();

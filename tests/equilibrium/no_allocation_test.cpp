@@ -40,6 +40,8 @@ TEST(Equilibrium, AllocatesNothing) {
     bool all = base.solve({100, 60, 25}).exists;
     const Base verge(600, 400, 6.83, row);
     all = all && verge.solve({-10, -3, 0.5}).exists; // in the finer numbers
+    const Anchor beside[] = {{440, -180, 353}};
+    all = all && Base(600, 400, 6, beside).solve({100, 30 - 3e-7, -20}).exists; // in the finest
     const bool none = verge.solve({-10, -2.9, 0}).exists;
     EXPECT_EQ(allocations - before, 0);
     EXPECT_TRUE(all);

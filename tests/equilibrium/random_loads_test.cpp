@@ -81,6 +81,41 @@ TEST(RandomLoads, HaveNoEquilibriumOnlyWhereNoForcesCarryThem) {
     EXPECT_GT(none, static_cast<int>(count() / 100));
 }
 
+// The hardest of the first two million: anchors beside the plate, the resultant at a corner.
+TEST(RandomLoads, AreCarriedThoughOnlyTheVeryVergeIsLeft) {
+    for (const std::uint64_t number : {910108U, 1574668U}) {
+        const BaseAndLoad problem = randomProblem(number);
+        ASSERT_TRUE(forcesCarry(problem, 1e-12)) << number;
+        const Result result = problem.solved();
+        EXPECT_TRUE(result.exists) << number;
+        EXPECT_LT(result.residual, 1e-10) << number;
+    }
+}
+
+TEST(RandomLoads, NearTheVergeAreCarriedUpToItsLastDigits) {
+    for (std::uint64_t number = 1; number <= count() / 1000; ++number) {
+        Dice dice(number);
+        const double a = dice.whole(50, 600);
+        const double b = dice.whole(50, 600);
+        const auto gap = [&dice] { return std::pow(10, dice.between(-12, -7)); };
+        const auto sign = [&dice] { return dice.oneIn(2) ? 1 : -1; };
+        BaseAndLoad problem{2 * a, 2 * b, 9, {}, {}};
+        for (int i = dice.whole(1, 3); i > 0; --i)
+            problem.anchors.push_back(
+                {sign() * a * dice.between(1, 2), b * dice.between(-2, 2), dice.between(80, 4000)});
+        problem.load = {1, sign() * (1 - gap()) * a / 1000,
+                        sign() * (dice.oneIn(2) ? 1 : 1 - gap()) * b / 1000};
+        const Result result = problem.solved();
+        if (!result.exists) {
+            EXPECT_FALSE(forcesCarry(problem, 1e-11)) << number;
+            continue;
+        }
+        EXPECT_TRUE(forcesCarry(problem, -1e-11)) << number;
+        EXPECT_LT(result.residual, 1e-10) << number;
+        EXPECT_LT(result.steps, equilibrium::mostSteps) << number;
+    }
+}
+
 TEST(RandomLoads, GiveTheMirroredStressesOnTheMirroredBase) {
     for (std::uint64_t number = 1; number <= count() / 4; ++number) {
         const BaseAndLoad problem = randomProblem(number);

@@ -48,7 +48,6 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
         stopTabAtTheChoice(group);
     showNote(ui_->txtNaz_proj, ui_->lblZnaki_projektu, projectNote);
     keepRoomForNote(ui_->lblZnaki_projektu);
-    ui_->uwagi->keepRoom();
     showAsWarning(ui_->lblLista_nieaktualna, true);
     keepTablesOut(this, {ui_->txtNaz_proj});
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/Ferogo2.svg"));
@@ -258,6 +257,12 @@ void Ferna3::setRow(int r, const LoadRow<QString>& texts) {
 void Ferna3::showRow(int r) {
     for (QLineEdit* field : loads_.at(static_cast<std::size_t>(r)))
         field->setVisible(true);
+}
+
+// With room for a few notes, so that the window does not grow when they come.
+QSize Ferna3::sizeHint() const {
+    const int free = ui_->uwagi->isHidden() ? ui_->uwagi->usualHeight() : 0;
+    return QDialog::sizeHint() + QSize(0, free);
 }
 
 void Ferna3::showEvent(QShowEvent* event) {

@@ -46,6 +46,8 @@ public:
     /// Esc does nothing here: it must not end the program.
     void reject() override {}
 
+    QSize sizeHint() const override;
+
 protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
