@@ -92,7 +92,7 @@ public:
     /// For finite loads of any size and sign. The result has an equilibrium, with a residual under
     /// 1e-10, wherever the load lies farther than 1e-12 of its size from those that have none, and
     /// none where it lies beyond them. Between a hundred-millionth and that it is the mathematics'
-    /// answer alone: a corner is pressed with 1e15 times the load's mean pressure and more, which
+    /// answer alone: an edge is pressed with 1e7 times the load's mean pressure and more, which
     /// no concrete bears, so a stress check fails there just as surely as where nothing holds.
     Result solve(const Load& load) const noexcept;
 

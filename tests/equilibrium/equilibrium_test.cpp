@@ -141,6 +141,7 @@ TEST(Equilibrium, EndsAboutARowOfAnchorsAlongTheEdge) {
     const Result pulled = BaseAndLoad{600, 400, 6, row, {-10, -3, 0.5}}.solved();
     ASSERT_TRUE(pulled.exists);
     EXPECT_NEAR(pulled.sigmaAnchor[0] * 353, -7.5e3, 0.1);
+    EXPECT_NEAR(pulled.residual, 1e-12, 1e-13) << "the load was moved off the verge by this";
     EXPECT_NEAR(pulled.sigmaAnchor[1] * 353, -2.5e3, 0.1);
     EXPECT_FALSE((BaseAndLoad{600, 400, 6, row, {-10, -3, 1.1}}.solved().exists));
     const Result tipping = BaseAndLoad{600, 400, 6, row, {-10, -2.9, 0}}.solved();

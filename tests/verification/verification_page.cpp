@@ -176,7 +176,7 @@ std::string besideTheExactEquilibrium() {
     return "## The search beside the exact equilibrium\n\n"
            "The exact equilibrium (`equilibrium/`) balances every load to 1e-10 of its size, or "
            "tells that none exists.\nBeside it the search, which stays as it is, made of random "
-           "ordinary bases (2 to 12 anchors, mostly in the\nusual layouts, loads around the "
+           "ordinary bases (1 to 12 anchors, mostly in the\nusual layouts, loads around the "
            "border of the kern and beyond):\n\n"
            + textOf(searchRecord(recordTasks), recordTasks)
            + "So a single anchor is not what makes a result false. Another number of tasks: "
