@@ -50,7 +50,7 @@ struct PlateFacts {
         required{};                 ///< thickness, mm; 0 where the check does not stand
     PlateInputs inputs;             ///< of the checks that stand
     std::optional<Single> accepted; ///< thickness in the report, mm
-    QString steelName; ///< of the user's steel in the report, else empty
+    QString steelName;              ///< of the user's steel in the report, else empty
     Double force = 0;               ///< the greatest of an anchor as computed, kN
     Double pressure = 0;            ///< the greatest as computed, MPa
 };
