@@ -26,6 +26,8 @@ class Nowa_Sruba;
 
 /// The main form: the whole design case on four tabs, and the commands to calculate and to leave.
 class Ferna3 : public QDialog, public ValueFields, private CalculationHost, private LoadTable {
+    Q_OBJECT
+
 public:
     /// `folder` is the program folder; `openResults` opens the results form after a calculation.
     Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs, std::function<void()> openResults);

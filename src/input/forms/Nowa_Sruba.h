@@ -17,6 +17,8 @@ namespace ferna {
 /// for the next use. It has no cancel: closed by the frame it hands over the values of its last
 /// use. Esc does nothing.
 class Nowa_Sruba : public QDialog, public ValueFields {
+    Q_OBJECT
+
 public:
     Nowa_Sruba(Stan& stan, Dialogs& dialogs, QWidget* parent);
     ~Nowa_Sruba() override;

@@ -23,6 +23,8 @@ class ResultAge;
 /// The thickness of the plate: a tab for every check of a fragment, the grade, and the thickness
 /// that governs.
 class Grub_bla : public QDialog, public ValueFields, private PlateSteelHost {
+    Q_OBJECT
+
 public:
     /// `folder` is the program folder; OK saves the sketches of the section there.
     Grub_bla(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget* parent);

@@ -15,6 +15,8 @@ namespace ferna {
 
 /// The values of one load, with the fields that its direction and kind need.
 class Obciazenie : public QDialog, public ValueFields {
+    Q_OBJECT
+
 public:
     /// `form` is the list's form: its options are read here, and it takes the load.
     Obciazenie(Stan_statyki& loads, StaticsForm& form, QWidget* parent);

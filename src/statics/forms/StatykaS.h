@@ -19,6 +19,8 @@ namespace ferna {
 
 /// The list of loads on the column and their forces at the base.
 class StatykaS : public QDialog, public ValueFields {
+    Q_OBJECT
+
 public:
     /// Opens with an empty list. `loads` outlives the form; `table` takes the totals at the end.
     StatykaS(Stan& stan, Stan_statyki& loads, LoadTable& table, Dialogs& dialogs, QWidget* parent);
