@@ -1,31 +1,33 @@
 # What is installed and where, and the Debian package. `cmake --install` puts the same files under any
-# prefix: the programs find their data (../share/ferna) and the word-processor module (../lib/ferna)
-# from where they lie.
+# prefix and under the usual folders (CMAKE_INSTALL_BINDIR, ...): the programs know where from their
+# own folder their data and the word-processor module lie.
 set(packaging ${CMAKE_SOURCE_DIR}/packaging)
 set(packaged ${CMAKE_BINARY_DIR}/packaging)
 
-install(TARGETS ferna ferna-wsad Wyd_drk RUNTIME DESTINATION bin)
+install(TARGETS ferna ferna-wsad Wyd_drk RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 if(TARGET ferna_writer)
-    install(TARGETS ferna_writer LIBRARY DESTINATION lib/ferna
+    install(TARGETS ferna_writer LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/ferna
         PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
-    install(FILES ${packaging}/lintian-overrides DESTINATION share/lintian/overrides RENAME ferna)
+    install(FILES ${packaging}/lintian-overrides
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides RENAME ferna)
 endif()
 # The texts from their sources: a program that was run from the build folder writes its last task
 # beside itself.
 list(TRANSFORM FERNA_DATA_FILES PREPEND ${CMAKE_SOURCE_DIR}/data/ OUTPUT_VARIABLE delivered_texts)
 set(delivered_bitmaps ${ferna_data_outputs})
 list(FILTER delivered_bitmaps INCLUDE REGEX "\\.bmp$")
-install(FILES ${delivered_texts} ${delivered_bitmaps} ${help_output} DESTINATION share/ferna)
-install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/przyklady DESTINATION share/ferna
+install(FILES ${delivered_texts} ${delivered_bitmaps} ${help_output}
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/ferna)
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/przyklady DESTINATION ${CMAKE_INSTALL_DATADIR}/ferna
     FILES_MATCHING PATTERN *.json)
-install(DIRECTORY ${guide_folder}/ DESTINATION share/doc/ferna)
-install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/schemat DESTINATION share/ferna
+install(DIRECTORY ${guide_folder}/ DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/schemat DESTINATION ${CMAKE_INSTALL_DATADIR}/ferna
     FILES_MATCHING PATTERN *.json)
 install(FILES ${packaging}/completion/ferna-wsad ${packaging}/completion/Wyd_drk
-    DESTINATION share/bash-completion/completions)
-install(FILES ${packaging}/ferna.desktop DESTINATION share/applications)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+install(FILES ${packaging}/ferna.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${CMAKE_SOURCE_DIR}/data/szkice/ferna.svg
-    DESTINATION share/icons/hicolor/scalable/apps)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 
 # The day of the package: that of the last commit, so that the same sources give the same texts.
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
@@ -68,12 +70,12 @@ execute_process(COMMAND fmt --tagged-paragraph --width=78 ${packaged}/changes
     OUTPUT_VARIABLE changes COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX REPLACE "[ \n]+$" "" changes "${changes}")
 
-ferna_packaged_text(${packaging}/changelog.in share/doc/ferna GZ)
-ferna_packaged_text(${packaging}/copyright.in share/doc/ferna)
-ferna_packaged_text(${packaging}/ferna.metainfo.xml.in share/metainfo)
+ferna_packaged_text(${packaging}/changelog.in ${CMAKE_INSTALL_DOCDIR} GZ)
+ferna_packaged_text(${packaging}/copyright.in ${CMAKE_INSTALL_DOCDIR})
+ferna_packaged_text(${packaging}/ferna.metainfo.xml.in ${CMAKE_INSTALL_DATADIR}/metainfo)
 foreach(program ferna ferna-wsad Wyd_drk)
-    ferna_packaged_text(${packaging}/man/${program}.1.in share/man/man1 GZ)
-    ferna_packaged_text(${packaging}/man/pl/${program}.1.in share/man/pl/man1 GZ)
+    ferna_packaged_text(${packaging}/man/${program}.1.in ${CMAKE_INSTALL_MANDIR}/man1 GZ)
+    ferna_packaged_text(${packaging}/man/pl/${program}.1.in ${CMAKE_INSTALL_MANDIR}/pl/man1 GZ)
 endforeach()
 
 set(CPACK_GENERATOR DEB)

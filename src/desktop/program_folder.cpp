@@ -52,7 +52,7 @@ QString heldElsewhere(const FolderHolder& holder) {
 QString deliveredDataFolder() {
     const QDir beside(QCoreApplication::applicationDirPath());
     for (const QString& folder :
-         {beside.path(), QDir::cleanPath(beside.filePath(QStringLiteral("../share/ferna")))})
+         {beside.path(), QDir::cleanPath(beside.filePath(QStringLiteral(FERNA_DATA_FOLDER)))})
         if (holdsTheData(folder))
             return folder;
     throw RunTimeError(error::PathNotFound, beside.filePath(catalogueFile(0))

@@ -11,7 +11,7 @@ class QLockFile;
 namespace ferna {
 
 /// The folder of the delivered data: that of the executable where it holds them, else the installed
-/// one beside it (../share/ferna). Error 76 where neither holds them.
+/// one where the installation puts it (share/ferna beside bin). Error 76 where neither holds them.
 QString deliveredDataFolder();
 
 /// The program folder: that of the executable where it can be written and holds the delivered data;

@@ -37,7 +37,7 @@ QString wordProcessorModule() {
     const QDir beside(QCoreApplication::applicationDirPath());
     const QString name = QStringLiteral("libferna_writer.so");
     const QString installed =
-        QDir::cleanPath(beside.filePath(QStringLiteral("../lib/ferna/") + name));
+        QDir::cleanPath(beside.filePath(QStringLiteral(FERNA_MODULE_FOLDER "/") + name));
     return !beside.exists(name) && QFileInfo::exists(installed) ? installed : beside.filePath(name);
 }
 
