@@ -6,20 +6,21 @@ namespace ferna::batch {
 
 namespace {
 
+using Load = ColumnTask::Load;
+
 /// A value of a load and the field of the dialog that it fills.
 struct ValueKey {
     const char* key;
-    bool inText2;
-    std::size_t index;
+    std::optional<QString> Load::*typed;
 };
 
 using ValueKeys = std::vector<ValueKey>;
 
-const ValueKeys verticalValues{{"P", false, 0}, {"ex", true, 0}, {"ey", true, 1}};
-const ValueKeys forceValues{{"H", false, 0}, {"h", true, 0}};
+const ValueKeys verticalValues{{"P", &Load::load}, {"ex", &Load::arm}, {"ey", &Load::secondArm}};
+const ValueKeys forceValues{{"H", &Load::load}, {"h", &Load::arm}};
 const ValueKeys distributedValues{
-    {"p1", false, 0}, {"p2", false, 1}, {"h1", true, 0}, {"h2", true, 1}};
-const ValueKeys momentValues{{"M", false, 0}};
+    {"p1", &Load::load}, {"p2", &Load::secondLoad}, {"h1", &Load::arm}, {"h2", &Load::secondArm}};
+const ValueKeys momentValues{{"M", &Load::load}};
 
 /// A load with exactly the values of its direction and kind.
 ObjectReader loadObject(const TaskValue& value, const std::string& path, int direction, int kind) {
@@ -38,12 +39,12 @@ const ValueKeys& valuesOf(int direction, int kind) {
     return kind == 0 ? forceValues : kind == 1 ? distributedValues : momentValues;
 }
 
-ColumnTask::Load readLoad(const TaskValue& value, const std::string& path) {
+Load readLoad(const TaskValue& value, const std::string& path) {
     ObjectReader any(
         value, path,
         {"kierunek", "rodzaj", "P", "ex", "ey", "H", "h", "p1", "p2", "h1", "h2", "M"});
     const std::string direction = any.oneOf("kierunek", {"pionowe", "ZX", "ZY"});
-    ColumnTask::Load load{};
+    Load load{};
     load.optTypObciaz = direction == "pionowe" ? 0 : direction == "ZX" ? 1 : 2;
     // A vertical load is always a force: the form hides the other kinds.
     const std::string kind = load.optTypObciaz == 0
@@ -52,18 +53,21 @@ ColumnTask::Load readLoad(const TaskValue& value, const std::string& path) {
     load.optTypsily = kind == "sila" ? 0 : kind == "ciagle" ? 1 : 2;
     ObjectReader object = loadObject(value, path, load.optTypObciaz, load.optTypsily);
     for (const ValueKey& key : valuesOf(load.optTypObciaz, load.optTypsily))
-        (key.inText2 ? load.Text2 : load.Text1)[key.index] = object.fieldText(key.key);
+        load.*key.typed = object.fieldText(key.key);
     return load;
 }
 
-void declare(const ColumnTask::Load& load, Stan_statyki& loads, StaticsForm& form) {
+void declare(const Load& load, Stan_statyki& loads, StaticsForm& form) {
     chooseDirection(form, load.optTypObciaz);
     chooseKind(form, load.optTypsily);
     LoadDialog dialog = openLoadDialog(form);
-    for (const std::size_t i : {0U, 1U}) {
-        dialog.Text1[i] = load.Text1[i].value_or(dialog.Text1[i]);
-        dialog.Text2[i] = load.Text2[i].value_or(dialog.Text2[i]);
-    }
+    const auto type = [](LoadDialog::Field& field, const std::optional<QString>& typed) {
+        field.text = typed.value_or(field.text);
+    };
+    type(dialog.load, load.load);
+    type(dialog.secondLoad, load.secondLoad);
+    type(dialog.arm, load.arm);
+    type(dialog.secondArm, load.secondArm);
     acceptLoad(loads, form, dialog);
 }
 
@@ -87,9 +91,11 @@ Json resultJson(const StaticsForm& form) {
     for (const QString& line : form.lstObciazen)
         list.push_back(line.toStdString());
     Json result;
-    const char* const names[] = {"N", "M1", "M2", "Vx", "Vy"};
-    for (std::size_t i = 0; i < std::size(names); ++i)
-        result[names[i]] = form.Text1[i].toStdString();
+    result["N"] = form.totals.N.toStdString();
+    result["M1"] = form.totals.M1.toStdString();
+    result["M2"] = form.totals.M2.toStdString();
+    result["Vx"] = form.totals.Vx.toStdString();
+    result["Vy"] = form.totals.Vy.toStdString();
     result["lista"] = std::move(list);
     return result;
 }
@@ -118,7 +124,7 @@ SectionResult runColumnTask(const ColumnTask& task, Stan& stan, InputFields& fie
             declare(task.loads[i], loads, form);
         }
         at = task.path;
-        saveTotals(stan, form.totals(), table);
+        saveTotals(stan, form.totals, table);
     } catch (const RunTimeError& failure) {
         result.Blad = errorJson(failure.of(at));
     }

@@ -15,8 +15,7 @@ struct ColumnTask {
         int optTypObciaz; ///< direction 0..2
         int optTypsily;   ///< kind 0..2
         // What is typed over the first texts of the dialog.
-        std::array<std::optional<QString>, 2> Text1;
-        std::array<std::optional<QString>, 2> Text2;
+        std::optional<QString> load, secondLoad, arm, secondArm;
     };
     std::string path; ///< key of the section
     std::vector<Load> loads;

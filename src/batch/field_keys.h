@@ -1,13 +1,13 @@
 #pragma once
 
-#include <QString>
+#include "runtime/typed_value.h"
 
 #include <string>
 
 namespace ferna::batch {
 
-/// The key of the task whose text stands in a control of the main form ("Text6_0" is
-/// "Przypadki[0].N"); empty for another control.
-std::string keyOfControl(const QString& control);
+/// The key of the task under which a value of the input stands (N of row 0 is "Przypadki[0].N");
+/// empty for another value.
+std::string keyOfValue(const TypedValue& value);
 
 } // namespace ferna::batch

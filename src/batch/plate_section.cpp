@@ -14,37 +14,41 @@ struct FieldKey {
     QString& (*field)(PlateFields&);
 };
 
-template <std::size_t i>
-QString& Text1(PlateFields& fields) {
-    return fields.Text1[i];
-}
-template <std::size_t i>
-QString& Text2(PlateFields& fields) {
-    return fields.Text2[i];
-}
-template <std::size_t i>
-QString& Text3(PlateFields& fields) {
-    return fields.Text3[i];
+using Fields = PlateFields;
+
+template <auto check, auto text>
+QString& in(Fields& fields) {
+    return fields.*check.*text;
 }
 
 using FieldKeys = std::vector<FieldKey>;
 
 /// The fields of each check 1..8; check 4 has its list of profiles besides.
 const std::array<FieldKeys, PlateChecks> fieldKeys{
-    FieldKeys{{"bs", false, Text1<0>}, {"ca", false, Text2<0>}, {"S", false, Text3<0>}},
-    FieldKeys{{"ca", false, Text2<1>}, {"sigma_k", false, Text3<1>}, {"sigma_p", false, Text3<8>}},
-    FieldKeys{{"l", true, Text1<1>}, {"b", true, Text2<2>}, {"sigma", false, Text3<3>}},
-    FieldKeys{{"sigma", false, Text3<2>}},
-    FieldKeys{{"l", true, Text1<2>}, {"b", true, Text2<3>}, {"sigma", false, Text3<4>}},
-    FieldKeys{{"l", true, Text1<3>}, {"b", true, Text2<4>}, {"sigma", false, Text3<5>}},
-    FieldKeys{{"b", true, Text1<4>},
-              {"a", true, Text2<5>},
-              {"c", true, Text2<6>},
-              {"S", false, Text3<6>}},
-    FieldKeys{{"b", true, Text1<5>},
-              {"a", true, Text2<8>},
-              {"c", true, Text2<7>},
-              {"S", false, Text3<7>}},
+    FieldKeys{{"bs", false, in<&Fields::check1, &Fields::TensionStrip::bs>},
+              {"ca", false, in<&Fields::check1, &Fields::TensionStrip::ca>},
+              {"S", false, in<&Fields::check1, &Fields::TensionStrip::S>}},
+    FieldKeys{{"ca", false, in<&Fields::check2, &Fields::CompressionStrip::ca>},
+              {"sigma_k", false, in<&Fields::check2, &Fields::CompressionStrip::sigma_k>},
+              {"sigma_p", false, in<&Fields::check2, &Fields::CompressionStrip::sigma_p>}},
+    FieldKeys{{"l", true, in<&Fields::check3, &Fields::Fragment::l>},
+              {"b", true, in<&Fields::check3, &Fields::Fragment::b>},
+              {"sigma", false, in<&Fields::check3, &Fields::Fragment::sigma>}},
+    FieldKeys{{"sigma", false, in<&Fields::check4, &Fields::ColumnBase::sigma>}},
+    FieldKeys{{"l", true, in<&Fields::check5, &Fields::Fragment::l>},
+              {"b", true, in<&Fields::check5, &Fields::Fragment::b>},
+              {"sigma", false, in<&Fields::check5, &Fields::Fragment::sigma>}},
+    FieldKeys{{"l", true, in<&Fields::check6, &Fields::Fragment::l>},
+              {"b", true, in<&Fields::check6, &Fields::Fragment::b>},
+              {"sigma", false, in<&Fields::check6, &Fields::Fragment::sigma>}},
+    FieldKeys{{"b", true, in<&Fields::check7, &Fields::AnchorFragment::b>},
+              {"a", true, in<&Fields::check7, &Fields::AnchorFragment::a>},
+              {"c", true, in<&Fields::check7, &Fields::AnchorFragment::c>},
+              {"S", false, in<&Fields::check7, &Fields::AnchorFragment::S>}},
+    FieldKeys{{"b", true, in<&Fields::check8, &Fields::AnchorFragment::b>},
+              {"a", true, in<&Fields::check8, &Fields::AnchorFragment::a>},
+              {"c", true, in<&Fields::check8, &Fields::AnchorFragment::c>},
+              {"S", false, in<&Fields::check8, &Fields::AnchorFragment::S>}},
 };
 
 ObjectReader checkObject(const TaskValue& value, const std::string& path, int check) {

@@ -124,7 +124,7 @@ ComputedTask run(Task task, const RunOptions& options) {
             runSections(done, options);
         }
     } catch (const RunTimeError& raised) {
-        const RunTimeError failure = raised.of(keyOfControl(raised.control()));
+        const RunTimeError failure = raised.of(keyOfValue(raised.value()));
         const std::optional<int> stopped = caseOf(failure, host.casesEnded(), stan);
         done.failure = errorJson(failure, stopped);
         if (done.task.column && !failure.key().empty() && stopped == stan.obciazenia.Liczba_przyp)

@@ -17,18 +17,8 @@ struct Refusal {
     int loadCase = 0; ///< that was refused for its axial force
 };
 
-/// `inControl` of a field of the load table, whose name is put together only where it is needed.
-template <typename Take>
-decltype(auto) inRow(const char* control, std::size_t row, const Take& take) {
-    try {
-        return take();
-    } catch (const RunTimeError&) {
-        return inControl(QString::fromLatin1(control).arg(row), take);
-    }
-}
-
-Single number(const QString& text, const QString& control) {
-    return inControl(control, [&] { return CSng(text); });
+Single number(const QString& text, Value value) {
+    return taking({value}, [&] { return CSng(text); });
 }
 
 void requireAnchors(const Stan& stan) {
@@ -37,8 +27,8 @@ void requireAnchors(const Stan& stan) {
 }
 
 void requireLengthAboveWidth(const InputFields& fields) {
-    const Single L = number(fields.Text3, QStringLiteral("Text3"));
-    const Single B = number(fields.Text4, QStringLiteral("Text4"));
+    const Single L = number(fields.Text3, Value::PlateLength);
+    const Single B = number(fields.Text4, Value::PlateWidth);
     if (B > L)
         throw Refusal{QStringLiteral("Długość płyty musi być większa od szerokości")};
 }
@@ -115,17 +105,16 @@ Single tenths(Single value) {
 
 void readCase(Stan& stan, const InputFields& fields, int c) {
     Obciazenia& loads = stan.obciazenia;
-    const auto row = static_cast<std::size_t>(c - 1);
-    const LoadRow<QString>& typed = fields.loads.at(row);
+    const LoadRow<QString>& typed = fields.loads.at(static_cast<std::size_t>(c - 1));
     // A load and what the configuration keeps of it.
-    const auto load = [&](auto& place, int kept, const QString& text, const char* control) {
-        inRow(control, row, [&] {
+    const auto load = [&](auto& place, int kept, const QString& text, Value value) {
+        taking({value, c - 1}, [&] {
             place = CSng(text);
             loads.Tablica_obc(kept)(c) = tenths(CSng(place));
         });
     };
     loads.Pierwsza_proba(c) = true;
-    load(loads.Sila_N(c), 1, typed.N, "Text6_%1");
+    load(loads.Sila_N(c), 1, typed.N, Value::N);
     const auto title = [c] { return QStringLiteral("Schemat nr ") + Format(c, u"###"); };
     if (loads.Sila_N(c) < 0)
         throw Refusal{QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"),
@@ -134,12 +123,13 @@ void readCase(Stan& stan, const InputFields& fields, int c) {
         throw Refusal{QStringLiteral("Siła osiowa N nie może być równa 0: podaj siłę ściskającą "
                                      "większą od 0"),
                       title(), c};
-    loads.Sila_N_kG(c) = inRow("Text6_%1", row, [&] { return forceInKilograms(loads.Sila_N(c)); });
+    loads.Sila_N_kG(c) =
+        taking({Value::N, c - 1}, [&] { return forceInKilograms(loads.Sila_N(c)); });
 
-    load(loads.Moment_M1(c), 2, typed.M1, "Text7_%1");
-    load(loads.Moment_M2(c), 3, typed.M2, "Text8_%1");
-    load(loads.Sila_Vx(c), 4, typed.Vx, "Text5_%1");
-    load(loads.Sila_Vy(c), 5, typed.Vy, "Text10_%1");
+    load(loads.Moment_M1(c), 2, typed.M1, Value::M1);
+    load(loads.Moment_M2(c), 3, typed.M2, Value::M2);
+    load(loads.Sila_Vx(c), 4, typed.Vx, Value::Vx);
+    load(loads.Sila_Vy(c), 5, typed.Vy, Value::Vy);
     loads.Klasa_znaku(c) = signClass(loads.Moment_M1(c), loads.Moment_M2(c));
 }
 
@@ -157,10 +147,9 @@ void prepare(Stan& stan, Stan_przypadku& przypadek, const InputFields& fields,
     requireLengthAboveWidth(fields);
     stan.opcje.Nazwa_projektu = oneLine(fields.txtNaz_proj);
     clearResults(stan);
-    stan.opcje.Nr_strony =
-        inControl(QStringLiteral("txtNr_strony"), [&] { return CInt(fields.txtNr_strony); });
+    stan.opcje.Nr_strony = taking({Value::PageNumber}, [&] { return CInt(fields.txtNr_strony); });
     stan.materialy.Nazwa_betonu = concreteName(stan.opcje);
-    stan.opcje.Wsp_n_val = number(fields.Text2, QStringLiteral("Text2"));
+    stan.opcje.Wsp_n_val = number(fields.Text2, Value::RatioN);
     przypadek.Dane_skorygowane = false;
     stan.plyta.Fi_max = largestDiameter(stan.plyta);
     if (fields.cmbStal >= 0)

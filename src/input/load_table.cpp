@@ -4,11 +4,11 @@
 
 namespace ferna {
 
-void takeCaseCount(Stan& stan, QString& Text1) {
-    stan.obciazenia.Liczba_przyp = inControl(QStringLiteral("Text1"), [&] { return CInt(Text1); });
+void takeCaseCount(Stan& stan, QString& text) {
+    stan.obciazenia.Liczba_przyp = taking({Value::CaseCount}, [&] { return CInt(text); });
     if (stan.obciazenia.Liczba_przyp > MaxCases) {
         stan.obciazenia.Liczba_przyp = MaxCases;
-        Text1 = general(MaxCases);
+        text = general(MaxCases);
     }
 }
 

@@ -27,15 +27,12 @@ void require(bool fulfilled, const QString& otherwise) {
         throw Refusal{otherwise};
 }
 
-/// The field i of a control array, read as a number.
-template <typename Texts>
-Single number(const Texts& texts, std::size_t i, const char* control) {
-    return inControl(QString::fromLatin1(control).arg(i), [&] { return CSng(texts[i]); });
+Single number(const QString& text, const TypedValue& value) {
+    return taking(value, [&] { return CSng(text); });
 }
 
-template <typename Texts>
-Integer wholeNumber(const Texts& texts, std::size_t i, const char* control) {
-    return inControl(QString::fromLatin1(control).arg(i), [&] { return CInt(texts[i]); });
+Integer wholeNumber(const QString& text, const TypedValue& value) {
+    return taking(value, [&] { return CInt(text); });
 }
 
 /// The start common to all commands.
@@ -62,11 +59,11 @@ void cmdOblicz1(const PlateWork& work) {
     const PlateFields& fields = work.form.fields;
     takeGrade(work);
     auto& in = work.form.inputs.check1;
-    in.bs = CSng(fields.Text1[0]);
+    in.bs = number(fields.check1.bs, {Value::CheckBs, 1});
     require(in.bs != 0, QStringLiteral("Musisz okreslić szerokość pasa blachy (bs)!"));
-    in.ca = CSng(fields.Text2[0]);
+    in.ca = number(fields.check1.ca, {Value::CheckCa, 1});
     require(in.ca != 0, QStringLiteral("Musisz okreslić długość wspornika (ca)!"));
-    in.S = CSng(fields.Text3[0]);
+    in.S = number(fields.check1.S, {Value::CheckS, 1});
     require(in.S != 0, QStringLiteral("Musisz okreslić siłę w kotwie!"));
     finish(work, 1, tensionStripThickness(in.S, in.ca, in.bs, work.stan.materialy.Fd_blachy));
 }
@@ -76,11 +73,11 @@ void cmdOblicz2(const PlateWork& work) {
     const PlateFields& fields = work.form.fields;
     takeGrade(work, QStringLiteral("Musisz wybrać gatunek stali"));
     auto& in = work.form.inputs.check2;
-    in.ca = CSng(fields.Text2[1]);
+    in.ca = number(fields.check2.ca, {Value::CheckCa, 2});
     require(in.ca != 0, QStringLiteral("Musisz podać długość wspornika!"));
-    in.sigma_k = CSng(fields.Text3[1]);
+    in.sigma_k = number(fields.check2.sigma_k, {Value::CheckSigmaK, 2});
     require(in.sigma_k > 0, QStringLiteral("Musisz podać naprężenia na końcu wspornika!"));
-    in.sigma_p = CSng(fields.Text3[8]);
+    in.sigma_p = number(fields.check2.sigma_p, {Value::CheckSigmaP, 2});
     require(in.sigma_p > 0, QStringLiteral("Musisz podać naprężenia na początku wspornika!"));
     const Single M = compressionStripMoment(in.ca, in.sigma_k, in.sigma_p);
     finish(work, 2, compressionStripThickness(M, work.stan.materialy.Fd_blachy));
@@ -89,59 +86,52 @@ void cmdOblicz2(const PlateWork& work) {
 /// A fragment check: its fields, its limits of r = b/l and the words beyond them.
 struct FragmentCheck {
     int check;
-    std::size_t l, b, sigma; // Text1(l), Text2(b), Text3(sigma)
+    PlateFields::Fragment PlateFields::*fields;
+    PlateInputs::Fragment PlateInputs::*inputs;
     Single lowest, highest;
     const char16_t* tooLong;
     const char16_t* tooWide;
 };
 
 constexpr FragmentCheck onFourEdges{3,
-                                    1,
-                                    2,
-                                    3,
+                                    &PlateFields::check3,
+                                    &PlateInputs::check3,
                                     0.5F,
                                     1.0F,
                                     u"Zbyt długi fragment balchy (l/b>2)!",
                                     u"Zbyt szeroki fragment balchy (b/l>2)!"};
 constexpr FragmentCheck onThreeEdges{5,
-                                     2,
-                                     3,
-                                     4,
+                                     &PlateFields::check5,
+                                     &PlateInputs::check5,
                                      0.3F,
                                      2.0F,
                                      u"Zbyt długi fragment balchy (b/l<0.3)!",
                                      u"Zbyt szeroki fragment balchy (b/l>2)!"};
 constexpr FragmentCheck onTwoEdges{6,
-                                   3,
-                                   4,
-                                   5,
+                                   &PlateFields::check6,
+                                   &PlateInputs::check6,
                                    0.5F,
                                    1.0F,
                                    u"Zbyt długi fragment balchy (b/l<0.5)!",
                                    u"Zbyt szeroki fragment balchy (b/l>1)!"};
 
-PlateInputs::Fragment& inputsOf(const PlateWork& work, const FragmentCheck& check) {
-    PlateInputs& inputs = work.form.inputs;
-    return check.check == 3 ? inputs.check3 : check.check == 5 ? inputs.check5 : inputs.check6;
-}
-
 /// A fragment supported on its edges, under the stress of the concrete.
 void computeFragment(const PlateWork& work, const FragmentCheck& check) {
-    PlateFields& fields = work.form.fields;
+    PlateFields::Fragment& typed = work.form.fields.*check.fields;
     takeGrade(work);
-    PlateInputs::Fragment& in = inputsOf(work, check);
-    in.sigma = number(fields.Text3, check.sigma, "Text3_%1");
+    PlateInputs::Fragment& in = work.form.inputs.*check.inputs;
+    in.sigma = number(typed.sigma, {Value::CheckSigma, check.check});
     require(in.sigma != 0, QStringLiteral("Musisz okreslić naprężenia pod blachą!"));
-    in.l = wholeNumber(fields.Text1, check.l, "Text1_%1");
+    in.l = wholeNumber(typed.l, {Value::CheckL, check.check});
     if (in.l == 0) // said, but it does not end the command
         show(work.dialogs, QStringLiteral("Musisz okreslić długość podpartego fragmentu blachy!"));
-    in.b = wholeNumber(fields.Text2, check.b, "Text2_%1");
+    in.b = wholeNumber(typed.b, {Value::CheckB, check.check});
     require(in.b != 0, QStringLiteral("Musisz okreslić szrokość podpartego fragmentu blachy!"));
     if (in.l < in.b) {
         show(work.dialogs,
              QStringLiteral("Długośc fragmentu blachy musi być większa od szerokości!"));
-        fields.Text1[check.l] = general(in.b);
-        fields.Text2[check.b] = general(in.l);
+        typed.l = general(in.b);
+        typed.b = general(in.l);
         return;
     }
     const Single r = sideRatio(in.b, in.l);
@@ -171,7 +161,7 @@ void cmdOblicz4(const PlateWork& work) {
     auto& in = work.form.inputs.check4;
     in.Nr_profilu = CInt(fields.cmbProfil + 1);
     require(in.Nr_profilu != 0, QStringLiteral("Musisz wybrać profil słupa"));
-    in.sigma = CSng(fields.Text3[2]);
+    in.sigma = number(fields.check4.sigma, {Value::CheckSigma, 4});
     require(in.sigma != 0, QStringLiteral("Musisz okreslić naprężenia pod blachą!"));
     const ColumnProfile& profile = columnProfile(in.Nr_profilu);
     const Single t = columnBaseThickness(in.sigma, profile.h, profile.s, profile.k,
@@ -181,23 +171,17 @@ void cmdOblicz4(const PlateWork& work) {
     finish(work, 4, t);
 }
 
-/// Where an anchor fragment has its fields: Text3(S), Text1(b), Text2(a), Text2(c).
-struct AnchorFragmentFields {
-    std::size_t S, b, a, c;
-};
-
 /// A fragment fixed on its edges, under the force of an anchor.
 void computeAnchorFragment(const PlateWork& work, int check, PlateInputs::AnchorFragment& in,
-                           const AnchorFragmentFields& at) {
+                           const PlateFields::AnchorFragment& typed) {
     takeGrade(work);
-    const PlateFields& fields = work.form.fields;
-    in.S = number(fields.Text3, at.S, "Text3_%1");
+    in.S = number(typed.S, {Value::CheckS, check});
     require(in.S != 0, QStringLiteral("Musisz okreslić siłę w kotwie!"));
-    in.b = wholeNumber(fields.Text1, at.b, "Text1_%1");
+    in.b = wholeNumber(typed.b, {Value::CheckB, check});
     require(in.b != 0, QStringLiteral("Musisz okreslić szrokość podpartego fragmentu blachy!"));
-    in.a = wholeNumber(fields.Text2, at.a, "Text2_%1");
+    in.a = wholeNumber(typed.a, {Value::CheckA, check});
     require(in.a != 0, QStringLiteral("Musisz okreslić położenie kotwy (wymiar a)!"));
-    in.c = wholeNumber(fields.Text2, at.c, "Text2_%1");
+    in.c = wholeNumber(typed.c, {Value::CheckC, check});
     require(in.c != 0, QStringLiteral("Musisz okreslić położenie kotwy (wymiar c)!"));
     const ChartReading reading = Interpoluj_wykres(check, in.b, in.a, in.c);
     require(reading.message.isEmpty(), reading.message);
@@ -206,11 +190,11 @@ void computeAnchorFragment(const PlateWork& work, int check, PlateInputs::Anchor
 }
 
 void cmdOblicz51(const PlateWork& work) {
-    computeAnchorFragment(work, 7, work.form.inputs.check7, {6, 4, 5, 6});
+    computeAnchorFragment(work, 7, work.form.inputs.check7, work.form.fields.check7);
 }
 
 void cmdOblicz52(const PlateWork& work) {
-    computeAnchorFragment(work, 8, work.form.inputs.check8, {7, 5, 8, 7});
+    computeAnchorFragment(work, 8, work.form.inputs.check8, work.form.fields.check8);
 }
 
 using Command = void (*)(const PlateWork&);

@@ -10,16 +10,8 @@ namespace ferna {
 
 namespace {
 
-constexpr std::array<PlateTab, PlateChecks> tabs{{
-    {1, "cmdOblicz1", "Text1_0", 1},
-    {8, "cmdOblicz52", "Text1_5", 7},
-    {7, "cmdOblicz51", "Text1_4", 6},
-    {4, "cmdOblicz4", "cmbProfil", 0},
-    {2, "cmdOblicz2", "Text2_1", 2},
-    {6, "cmdOblicz33", "Text1_3", 5},
-    {5, "cmdOblicz32", "Text1_2", 4},
-    {3, "cmdOblicz31", "Text1_1", 3},
-}};
+constexpr std::array<PlateTab, PlateChecks> tabs{
+    {{1, 1}, {8, 7}, {7, 6}, {4, 0}, {2, 2}, {6, 5}, {5, 4}, {3, 3}}};
 
 PlateFields firstFields(const Stan& stan) {
     const Integer d = stan.plyta.Fi_kotwy(stan.wyniki.Nr_kotwy_max);
@@ -28,9 +20,11 @@ PlateFields firstFields(const Stan& stan) {
     const QString zero = QStringLiteral("0");
     const QString blank = QStringLiteral(" ");
     PlateFields fields;
-    fields.Text1 = {general(6 * d), zero, zero, zero, blank, blank};
-    fields.Text2 = {general(3 * d), general(6 * d), zero, zero, zero, {}, {}, {}, {}};
-    fields.Text3 = {force, stress, stress, stress, stress, stress, force, force, stress};
+    fields.check1 = {general(6 * d), general(3 * d), force};
+    fields.check2 = {general(6 * d), stress, stress};
+    fields.check3 = fields.check5 = fields.check6 = {zero, zero, stress};
+    fields.check4 = {stress};
+    fields.check7 = fields.check8 = {blank, {}, {}, force};
     fields.Text4 = zero;
     return fields;
 }

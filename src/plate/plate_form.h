@@ -15,13 +15,31 @@ inline constexpr int PlateChecks = 8;
 /// The line of a check before its first result.
 inline const QString noPlateResult = QStringLiteral("Wymagana ...");
 
-/// The fields of the form `Grub_bla` as they stand there; member names are those of the controls.
+/// The fields of the form `Grub_bla` as they stand there: the texts of each check by its own
+/// letters, and the controls that there are once.
 struct PlateFields {
     int cmbStalb = -1;  ///< chosen item, -1 for none
     int cmbProfil = -1; ///< chosen item, -1 for none
-    std::array<QString, 6> Text1;
-    std::array<QString, 9> Text2;
-    std::array<QString, 9> Text3;
+    struct TensionStrip {
+        QString bs, ca, S;
+    };
+    struct CompressionStrip {
+        QString ca, sigma_k, sigma_p;
+    };
+    struct Fragment {
+        QString l, b, sigma;
+    };
+    struct ColumnBase {
+        QString sigma;
+    };
+    struct AnchorFragment {
+        QString b, a, c, S;
+    };
+    TensionStrip check1;
+    CompressionStrip check2;
+    Fragment check3, check5, check6;
+    ColumnBase check4;
+    AnchorFragment check7, check8;
     QString Text4; ///< accepted thickness, mm
 };
 
@@ -69,10 +87,8 @@ struct PlateForm {
 
 /// A tab of the form, in the order on the screen.
 struct PlateTab {
-    int check;              ///< 1..8
-    const char* command;    ///< name of its command
-    const char* firstField; ///< name of the control that takes the focus with the tab
-    int sketch;             ///< image 1..7 of its sketch, 0 for none
+    int check;  ///< 1..8
+    int sketch; ///< image 1..7 of its sketch, 0 for none
 };
 
 /// Tab 0..7. Error 9 for another number.

@@ -130,7 +130,7 @@ private:
 
 std::optional<PlateSection> writePlateSection(Stan& stan, const PlateForm& form, Dialogs& dialogs) {
     const Single thickness =
-        inControl(QStringLiteral("Text4"), [&] { return CSng(form.fields.Text4); });
+        taking({Value::AcceptedThickness}, [&] { return CSng(form.fields.Text4); });
     if (!(thickness > 0)) {
         dialogs.message(QStringLiteral("Musisz sprawdzić chociaż jeden warunek\n"
                                        "i podać przyjętą grubość blachy"),

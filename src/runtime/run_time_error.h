@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/typed_value.h"
+
 #include <QString>
 
 #include <exception>
@@ -41,10 +43,9 @@ public:
 
     int number() const noexcept { return number_; }
     const QString& detail() const noexcept { return detail_; }
-    /// Name of the control whose text could not be taken, in front of it the form's and "/" where
-    /// the command can be another form's; empty where it was none.
-    const QString& control() const noexcept { return control_; }
-    void setControl(const QString& name) { control_ = name; }
+    /// The typed value that could not be taken; `Value::None` where it was none.
+    const TypedValue& value() const noexcept { return value_; }
+    void setValue(const TypedValue& value) noexcept { value_ = value; }
     /// Which value of the task was at fault, by its key ("Przypadki[0].N"); empty where none is
     /// known.
     const std::string& key() const noexcept { return key_; }
@@ -57,20 +58,19 @@ public:
 private:
     int number_;
     QString detail_;
-    QString control_;
+    TypedValue value_;
     std::string what_;
     std::string key_;
 };
 
-/// Takes the text of a control; an error that this raises names the control. Gives what `take`
-/// gives.
+/// Takes a typed value; an error that this raises tells which it was. Gives what `take` gives.
 template <typename Take>
-decltype(auto) inControl(const QString& name, const Take& take) {
+decltype(auto) taking(const TypedValue& value, const Take& take) {
     try {
         return take();
     } catch (RunTimeError& failure) {
-        if (failure.control().isEmpty())
-            failure.setControl(name);
+        if (failure.value().value == Value::None)
+            failure.setValue(value);
         throw;
     }
 }

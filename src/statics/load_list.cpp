@@ -3,17 +3,19 @@
 #include "runtime/format.h"
 #include "statics/load_shares.h"
 
+#include <utility>
+
 namespace ferna {
 
 namespace {
 
-/// Texts of the dialog for a direction and a kind; an empty one hides its pair.
+/// Texts of the dialog for a direction and a kind; an empty one hides its field.
 struct Layout {
     const char16_t* Label1;
-    const char16_t* Label2_0;
-    const char16_t* Label2_1;
-    const char16_t* Label3_0;
-    const char16_t* Label3_1;
+    const char16_t* load;
+    const char16_t* secondLoad;
+    const char16_t* arm;
+    const char16_t* secondArm;
     int sketch;
 };
 
@@ -45,27 +47,32 @@ const Layout& layoutOf(int Kierunek, int Rodzaj) {
 
 /// Reads the fields that the dialog shows into the rows of a slot, one after the other.
 void readValues(Stan_statyki& loads, const LoadDialog& dialog, int slot) {
-    const QString* const texts[] = {&dialog.Text1[0], &dialog.Text1[1], &dialog.Text2[0],
-                                    &dialog.Text2[1]};
-    const char* const fields[] = {"Text1_0", "Text1_1", "Text2_0", "Text2_1"};
-    const bool shown[] = {dialog.Text1_visible[0], dialog.Text1_visible[1], dialog.Text2_visible[0],
-                          dialog.Text2_visible[1]};
-    for (std::size_t row = 0; row < 4; ++row)
-        if (shown[row])
-            loads.Obc_wart[row](slot) =
-                inControl(QString::fromLatin1(fields[row]), [&] { return CSng(*texts[row]); });
+    const std::pair<const LoadDialog::Field&, Value> fields[] = {
+        {dialog.load, Value::ColumnLoad},
+        {dialog.secondLoad, Value::ColumnSecondLoad},
+        {dialog.arm, Value::ColumnArm},
+        {dialog.secondArm, Value::ColumnSecondArm}};
+    auto row = loads.Obc_wart.begin();
+    for (const auto& [field, value] : fields) {
+        if (field.shown())
+            (*row)(slot) = taking({value}, [&typed = field.text] { return CSng(typed); });
+        ++row;
+    }
 }
 
 /// The totals live in their texts: read back, changed by the shares, written with one decimal.
 void changeTotals(StaticsForm& form, const LoadShares& shares, Double sign) {
-    const Single changes[] = {shares.N, shares.M1, shares.M2, shares.Vx, shares.Vy};
-    std::array<Single, 5> totals{};
-    for (std::size_t i = 0; i < totals.size(); ++i)
-        totals[i] = CSng(inControl(QStringLiteral("StatykaS/Text1_%1").arg(i),
-                                   [&] { return CSng(form.Text1[i]); })
-                         + sign * changes[i]);
-    for (std::size_t i = 0; i < totals.size(); ++i)
-        form.Text1[i] = Format(totals[i], u"### ##0.0");
+    LoadRow<QString>& texts = form.totals;
+    const auto changed = [sign](const QString& text, Value value, Single change) {
+        return CSng(taking({value}, [&] { return CSng(text); }) + sign * change);
+    };
+    const LoadRow<Single> totals{
+        changed(texts.N, Value::TotalN, shares.N), changed(texts.M1, Value::TotalM1, shares.M1),
+        changed(texts.M2, Value::TotalM2, shares.M2), changed(texts.Vx, Value::TotalVx, shares.Vx),
+        changed(texts.Vy, Value::TotalVy, shares.Vy)};
+    const auto written = [](Single total) { return Format(total, u"### ##0.0"); };
+    texts = {written(totals.N), written(totals.M1), written(totals.M2), written(totals.Vx),
+             written(totals.Vy)};
 }
 
 /// Slot of the load to be removed, the selected line gone from the list; 0 without a selection.
@@ -93,7 +100,8 @@ StaticsForm openStatics(Stan_statyki& loads) {
             row(slot) = 0;
     }
     StaticsForm form;
-    form.Text1.fill(QStringLiteral("0"));
+    const QString zero = QStringLiteral("0");
+    form.totals = {zero, zero, zero, zero, zero};
     return form;
 }
 
@@ -115,10 +123,11 @@ LoadDialog openLoadDialog(const StaticsForm& form) {
     const Layout& layout = layoutOf(dialog.Kierunek, dialog.Rodzaj);
     const auto text = [](const char16_t* words) { return QString::fromUtf16(words); };
     dialog.Label1 = text(layout.Label1);
-    dialog.Label2 = {text(layout.Label2_0), text(layout.Label2_1)};
-    dialog.Label3 = {text(layout.Label3_0), text(layout.Label3_1)};
-    dialog.Text1_visible[1] = !dialog.Label2[1].isEmpty();
-    dialog.Text2_visible = {!dialog.Label3[0].isEmpty(), !dialog.Label3[1].isEmpty()};
+    const QString zero = QStringLiteral("0");
+    dialog.load = {text(layout.load), QStringLiteral("1")};
+    dialog.secondLoad = {text(layout.secondLoad), zero};
+    dialog.arm = {text(layout.arm), zero};
+    dialog.secondArm = {text(layout.secondArm), zero};
     dialog.sketch = layout.sketch;
     return dialog;
 }

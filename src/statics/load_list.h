@@ -28,15 +28,12 @@ struct Stan_statyki {
 /// The form `StatykaS`.
 struct StaticsForm {
     QStringList lstObciazen;
-    int selected = -1;            ///< line of lstObciazen, -1 for none
-    std::array<QString, 5> Text1; ///< totals N, M1, M2, Vx, Vy; the only place of them
-    int optTypObciaz = -1;        ///< chosen direction 0..2, -1 for none
-    int optTypsily = -1;          ///< chosen kind 0..2, -1 for none
-    bool kindsVisible = true;     ///< optTypsily(1) and (2)
+    int selected = -1;        ///< line of lstObciazen, -1 for none
+    LoadRow<QString> totals;  ///< the only place of them
+    int optTypObciaz = -1;    ///< chosen direction 0..2, -1 for none
+    int optTypsily = -1;      ///< chosen kind 0..2, -1 for none
+    bool kindsVisible = true; ///< optTypsily(1) and (2)
     bool cmdUsun_enabled = false;
-
-    /// The totals as a row of loads.
-    LoadRow<QString> totals() const { return {Text1[0], Text1[1], Text1[2], Text1[3], Text1[4]}; }
 };
 
 /// Opens the form with an empty list.
@@ -49,17 +46,21 @@ void chooseKind(StaticsForm& form, int index);
 
 /// The dialog `Obciazenie`: its layout by direction and kind, and its fields.
 struct LoadDialog {
+    /// A field with its caption; without one it is hidden.
+    struct Field {
+        QString caption;
+        QString text;
+
+        bool shown() const { return !caption.isEmpty(); }
+    };
     Integer Kierunek = 0; ///< index of the direction
     Integer Rodzaj = 0;   ///< index of the kind
     QString Label1;
-    // The pairs of label and field; the first one is always shown.
-    std::array<QString, 2> Label2;
-    std::array<QString, 2> Label3;
-    std::array<bool, 2> Text1_visible{true, false};
-    std::array<bool, 2> Text2_visible{false, false};
-    std::array<QString, 2> Text1{QStringLiteral("1"), QStringLiteral("0")};
-    std::array<QString, 2> Text2{QStringLiteral("0"), QStringLiteral("0")};
-    int sketch = 1; ///< image 1..7 of `ilsObciaz`
+    Field load;       ///< P, H, p1 or M
+    Field secondLoad; ///< p2
+    Field arm;        ///< ex, h or h1
+    Field secondArm;  ///< ey or h2
+    int sketch = 1;   ///< image 1..7 of `ilsObciaz`
 };
 
 /// `cmdDodaj`: the dialog for the options of the form; one that is not chosen counts as 0.

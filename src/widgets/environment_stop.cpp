@@ -5,6 +5,7 @@
 #include "widgets/field_place.h"
 
 #include <QCoreApplication>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -31,7 +32,7 @@ bool endsReally(QWidget* box) {
 /// True where the engineer goes back to the program, into the field that the error stands in;
 /// otherwise the program's end is under way.
 bool stop(QWidget* form, const RunTimeError& failure, const QString& whatComes) {
-    QWidget* const field = controlOf(form, failure.control());
+    QLineEdit* const field = fieldOf(form, failure.value());
     QMessageBox box(
         QMessageBox::Critical, programTitle,
         QStringLiteral("Błąd wykonania '%1':\n%2").arg(failure.number()).arg(failure.text())

@@ -40,14 +40,16 @@ std::pair<QTabWidget*, QWidget*> tabOf(const QWidget* field) {
 
 } // namespace
 
-QWidget* controlOf(QWidget* form, const QString& name) {
-    if (form == nullptr || name.isEmpty())
-        return nullptr;
-    const QString owner = name.section(u'/', 0, -2);
-    QWidget* window = form->window();
-    while (window != nullptr && !owner.isEmpty() && window->objectName() != owner)
-        window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
-    return window ? window->findChild<QWidget*>(name.section(u'/', -1)) : nullptr;
+QLineEdit* fieldOf(const QWidget* form, const TypedValue& value) {
+    const QWidget* window = form;
+    while (window != nullptr) {
+        window = window->window();
+        if (const auto* const fields = dynamic_cast<const ValueFields*>(window))
+            if (QLineEdit* const field = fields->fieldOf(value))
+                return field;
+        window = window->parentWidget();
+    }
+    return nullptr;
 }
 
 QString placeOf(const QWidget* field) {

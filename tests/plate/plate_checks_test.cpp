@@ -23,27 +23,27 @@ TEST_F(PlateChecksByHand, CantileverInTheTensionZone) {
 
 // M = 100^2 ((6 - 4) / 6 + 4 / 2) = 23333 N, t = sqrt(6 M / fd) = sqrt(140000 / 205) = 26.13 mm
 TEST_F(PlateChecksByHand, CantileverWithTheSmallerStressAtTheEdge) {
-    form.fields.Text2[1] = QStringLiteral("100");
-    form.fields.Text3[1] = QStringLiteral("4");
-    form.fields.Text3[8] = QStringLiteral("6");
+    form.fields.check2.ca = QStringLiteral("100");
+    form.fields.check2.sigma_k = QStringLiteral("4");
+    form.fields.check2.sigma_p = QStringLiteral("6");
     compute(2);
     EXPECT_EQ(result(2), 26);
 }
 
 // M = 100^2 ((9 - 4) / 3 + 4 / 2) = 36667 N, t = sqrt(220000 / 205) = 32.76 mm
 TEST_F(PlateChecksByHand, CantileverWithTheGreaterStressAtTheEdge) {
-    form.fields.Text2[1] = QStringLiteral("100");
-    form.fields.Text3[1] = QStringLiteral("9");
-    form.fields.Text3[8] = QStringLiteral("4");
+    form.fields.check2.ca = QStringLiteral("100");
+    form.fields.check2.sigma_k = QStringLiteral("9");
+    form.fields.check2.sigma_p = QStringLiteral("4");
     compute(2);
     EXPECT_EQ(result(2), 33);
 }
 
 // equal stresses: t = ca sqrt(3 sigma / fd) = 100 sqrt(15 / 205) = 27.05 mm
 TEST_F(PlateChecksByHand, CantileverUnderEqualStresses) {
-    form.fields.Text2[1] = QStringLiteral("100");
-    form.fields.Text3[1] = QStringLiteral("5");
-    form.fields.Text3[8] = QStringLiteral("5");
+    form.fields.check2.ca = QStringLiteral("100");
+    form.fields.check2.sigma_k = QStringLiteral("5");
+    form.fields.check2.sigma_p = QStringLiteral("5");
     compute(2);
     EXPECT_EQ(result(2), 27);
 }
@@ -95,7 +95,7 @@ TEST_F(PlateChecksByHand, FragmentOnTwoEdges) {
 // = 17.81 mm
 TEST_F(PlateChecksByHand, ColumnWithoutStiffeners) {
     form.fields.cmbProfil = 10; // IPE 300
-    form.fields.Text3[2] = QStringLiteral("4");
+    form.fields.check4.sigma = QStringLiteral("4");
     compute(4);
     EXPECT_EQ(result(4), 18);
 }
@@ -142,15 +142,15 @@ TEST_F(PlateValidation, TheTensionCantileverReadsItsFieldsOneByOne) {
 
 TEST_F(PlateValidation, TheCompressionCantileverNeedsStressesAboveZero) {
     auto& f = form.fields;
-    f.Text2[1] = QStringLiteral("0");
+    f.check2.ca = QStringLiteral("0");
     compute(2);
     EXPECT_EQ(refusal(), QStringLiteral("Musisz podać długość wspornika!"));
-    f.Text2[1] = QStringLiteral("10");
-    f.Text3[1] = QStringLiteral("-1");
+    f.check2.ca = QStringLiteral("10");
+    f.check2.sigma_k = QStringLiteral("-1");
     compute(2);
     EXPECT_EQ(refusal(), QStringLiteral("Musisz podać naprężenia na końcu wspornika!"));
-    f.Text3[1] = QStringLiteral("1");
-    f.Text3[8] = QStringLiteral("0");
+    f.check2.sigma_k = QStringLiteral("1");
+    f.check2.sigma_p = QStringLiteral("0");
     compute(2);
     EXPECT_EQ(refusal(), QStringLiteral("Musisz podać naprężenia na początku wspornika!"));
 }
@@ -178,8 +178,8 @@ TEST_F(PlateValidation, ALengthOfZeroIsSaidAndThenSwappedWithTheWidth) {
     ASSERT_EQ(dialogs.messages.size(), 2U);
     EXPECT_EQ(dialogs.messages[1].text,
               QStringLiteral("Długośc fragmentu blachy musi być większa od szerokości!"));
-    EXPECT_EQ(form.fields.Text1[1], QStringLiteral("120"));
-    EXPECT_EQ(form.fields.Text2[2], QStringLiteral("0"));
+    EXPECT_EQ(form.fields.check3.l, QStringLiteral("120"));
+    EXPECT_EQ(form.fields.check3.b, QStringLiteral("0"));
     EXPECT_EQ(result(3), 0);
 }
 
@@ -187,8 +187,8 @@ TEST_F(PlateValidation, AFragmentWiderThanLongIsTurnedAndComputedAtTheNextPress)
     fragment(5, 200, 400, u"5");
     compute(5);
     EXPECT_EQ(result(5), 0);
-    EXPECT_EQ(form.fields.Text1[2], QStringLiteral("400"));
-    EXPECT_EQ(form.fields.Text2[3], QStringLiteral("200"));
+    EXPECT_EQ(form.fields.check5.l, QStringLiteral("400"));
+    EXPECT_EQ(form.fields.check5.b, QStringLiteral("200"));
     compute(5);
     EXPECT_GT(result(5), 0);
 }
@@ -225,7 +225,7 @@ TEST_F(PlateValidation, TheColumnCheckNeedsAProfileAndAStress) {
     compute(4);
     EXPECT_EQ(refusal(), QStringLiteral("Musisz wybrać profil słupa"));
     form.fields.cmbProfil = 0;
-    form.fields.Text3[2] = QStringLiteral("0");
+    form.fields.check4.sigma = QStringLiteral("0");
     compute(4);
     EXPECT_EQ(refusal(), QStringLiteral("Musisz okreslić naprężenia pod blachą!"));
     EXPECT_TRUE(enabled(3));
@@ -258,12 +258,12 @@ class PlateRunTimeErrors : public PlateDesk {};
 TEST_F(PlateRunTimeErrors, TheFirstFourCommandsShowANumberThatIsNone) {
     strip(u"abc", u"10", u"10");
     compute(1);
-    form.fields.Text2[1] = QStringLiteral("abc");
+    form.fields.check2.ca = QStringLiteral("abc");
     compute(2);
-    form.fields.Text3[3] = QString();
+    form.fields.check3.sigma = QString();
     compute(3);
     form.fields.cmbProfil = 0;
-    form.fields.Text3[2] = QStringLiteral("abc");
+    form.fields.check4.sigma = QStringLiteral("abc");
     compute(4);
     ASSERT_EQ(dialogs.messages.size(), 4U);
     for (const auto& box : dialogs.messages) {
@@ -455,7 +455,7 @@ TEST_F(ChecksThatExclude, AFragmentCheckDisablesTheColumnCheckAlsoWhenItsThickne
 TEST_F(ChecksThatExclude, TheColumnCheckDisablesTheFragmentChecksAlsoWhenRefused) {
     form.fields.cmbStalb = 0;
     form.fields.cmbProfil = 24;
-    form.fields.Text3[2] = QStringLiteral("20");
+    form.fields.check4.sigma = QStringLiteral("20");
     compute(4);
     EXPECT_EQ(result(4), 0);
     for (const int n : {3, 5, 6})

@@ -68,27 +68,24 @@ protected:
     }
 
     void strip(const char16_t* bs, const char16_t* ca, const char16_t* S) {
-        form.fields.Text1[0] = QString::fromUtf16(bs);
-        form.fields.Text2[0] = QString::fromUtf16(ca);
-        form.fields.Text3[0] = QString::fromUtf16(S);
+        form.fields.check1.bs = QString::fromUtf16(bs);
+        form.fields.check1.ca = QString::fromUtf16(ca);
+        form.fields.check1.S = QString::fromUtf16(S);
     }
     /// A fragment check 3, 5 or 6.
     void fragment(int check, int l, int b, const char16_t* sigma) {
-        const std::size_t i = check == 3 ? 1 : check == 5 ? 2 : 3;
-        form.fields.Text1[i] = QString::number(l);
-        form.fields.Text2[i + 1] = QString::number(b);
-        form.fields.Text3[i + 2] = QString::fromUtf16(sigma);
+        PlateFields& fields = form.fields;
+        auto& typed = check == 3 ? fields.check3 : check == 5 ? fields.check5 : fields.check6;
+        typed = {QString::number(l), QString::number(b), QString::fromUtf16(sigma)};
     }
     void anchorFragment(int check, int b, int a, int c, const char16_t* S) {
-        form.fields.Text1[check == 7 ? 4 : 5] = QString::number(b);
-        form.fields.Text2[check == 7 ? 5 : 8] = QString::number(a);
-        form.fields.Text2[check == 7 ? 6 : 7] = QString::number(c);
-        form.fields.Text3[check == 7 ? 6 : 7] = QString::fromUtf16(S);
+        (check == 7 ? form.fields.check7 : form.fields.check8) = {
+            QString::number(b), QString::number(a), QString::number(c), QString::fromUtf16(S)};
     }
     /// Check 1 with a cantilever chosen for the required thickness t in the grade of the list.
     void stripOfThickness(double t, double Fd) {
         strip(u"100", u"100", u"1");
-        form.fields.Text3[0] = general(t * t / (2.2 * 2.2) * Fd / 1000.0);
+        form.fields.check1.S = general(t * t / (2.2 * 2.2) * Fd / 1000.0);
     }
 
     WithDecimalSign comma{u','};

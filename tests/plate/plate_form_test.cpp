@@ -10,39 +10,44 @@ namespace {
 class PlateFormOpened : public PlateDesk {};
 
 TEST_F(PlateFormOpened, TheFirstLengthsComeFromTheMostStressedAnchor) {
-    EXPECT_EQ(form.fields.Text1[0], QStringLiteral("120"));
-    EXPECT_EQ(form.fields.Text2[0], QStringLiteral("60"));
-    EXPECT_EQ(form.fields.Text2[1], QStringLiteral("120"));
+    EXPECT_EQ(form.fields.check1.bs, QStringLiteral("120"));
+    EXPECT_EQ(form.fields.check1.ca, QStringLiteral("60"));
+    EXPECT_EQ(form.fields.check2.ca, QStringLiteral("120"));
 }
 
 TEST_F(PlateFormOpened, TheForceStandsWithoutSignBehindTheBlankOfItsPattern) {
-    for (const std::size_t i : {0U, 6U, 7U})
-        EXPECT_EQ(form.fields.Text3[i], QStringLiteral(" 12,3")) << i;
+    const PlateFields& fields = form.fields;
+    for (const QString& force : {fields.check1.S, fields.check7.S, fields.check8.S})
+        EXPECT_EQ(force, QStringLiteral(" 12,3"));
 }
 
 TEST_F(PlateFormOpened, TheStressStandsInSixFields) {
-    for (const std::size_t i : {1U, 2U, 3U, 4U, 5U, 8U})
-        EXPECT_EQ(form.fields.Text3[i], QStringLiteral("3,5")) << i;
+    const PlateFields& fields = form.fields;
+    for (const QString& stress : {fields.check2.sigma_k, fields.check2.sigma_p, fields.check3.sigma,
+                                  fields.check4.sigma, fields.check5.sigma, fields.check6.sigma})
+        EXPECT_EQ(stress, QStringLiteral("3,5"));
 }
 
 TEST_F(PlateFormOpened, AForceFromAThousandOnIsSplitByTheBlankAndStillReadsAsANumber) {
     stan.wyniki.Sila_kotwy_max = -1234.5F;
     form = openPlateForm(stan);
-    EXPECT_EQ(form.fields.Text3[0], QStringLiteral("1 234,5"));
+    EXPECT_EQ(form.fields.check1.S, QStringLiteral("1 234,5"));
     form.fields.cmbStalb = 1;
     compute(1);
     EXPECT_EQ(form.inputs.check1.S, 1234.5F);
 }
 
 TEST_F(PlateFormOpened, TheOtherFieldsKeepTheirDesignedTexts) {
-    for (const std::size_t i : {1U, 2U, 3U})
-        EXPECT_EQ(form.fields.Text1[i], QStringLiteral("0")) << i;
-    for (const std::size_t i : {2U, 3U, 4U})
-        EXPECT_EQ(form.fields.Text2[i], QStringLiteral("0")) << i;
-    for (const std::size_t i : {4U, 5U})
-        EXPECT_EQ(form.fields.Text1[i], QStringLiteral(" ")) << i;
-    for (const std::size_t i : {5U, 6U, 7U, 8U})
-        EXPECT_TRUE(form.fields.Text2[i].isEmpty()) << i;
+    const PlateFields& fields = form.fields;
+    for (const PlateFields::Fragment& one : {fields.check3, fields.check5, fields.check6}) {
+        EXPECT_EQ(one.l, QStringLiteral("0"));
+        EXPECT_EQ(one.b, QStringLiteral("0"));
+    }
+    for (const PlateFields::AnchorFragment& one : {fields.check7, fields.check8}) {
+        EXPECT_EQ(one.b, QStringLiteral(" "));
+        EXPECT_TRUE(one.a.isEmpty());
+        EXPECT_TRUE(one.c.isEmpty());
+    }
 }
 
 TEST_F(PlateFormOpened, NothingIsChosenAndTheThicknessIsHidden) {
@@ -76,25 +81,20 @@ TEST_F(PlateFormOpened, WithoutTensionTheForceIsZeroAndTheCheckRefuses) {
     stan.wyniki.Nr_kotwy_max = 0;
     stan.wyniki.Sila_kotwy_max = 0;
     form = openPlateForm(stan);
-    EXPECT_EQ(form.fields.Text3[0], QStringLiteral(" 0,0"));
-    EXPECT_EQ(form.fields.Text1[0], QStringLiteral("0"));
+    EXPECT_EQ(form.fields.check1.S, QStringLiteral(" 0,0"));
+    EXPECT_EQ(form.fields.check1.bs, QStringLiteral("0"));
     form.fields.cmbStalb = 1;
     strip(u"100", u"50", u" 0,0");
     compute(1);
     EXPECT_EQ(refusal(), QStringLiteral("Musisz okreslić siłę w kotwie!"));
 }
 
-TEST_F(PlateFormOpened, EveryTabKnowsItsCheckAndTheFieldOfTheFocus) {
+TEST_F(PlateFormOpened, EveryTabKnowsItsCheckAndItsSketch) {
     const int checks[] = {1, 8, 7, 4, 2, 6, 5, 3};
-    const char* fields[] = {"Text1_0", "Text1_5", "Text1_4", "cmbProfil",
-                            "Text2_1", "Text1_3", "Text1_2", "Text1_1"};
-    for (int tab = 0; tab < PlateChecks; ++tab) {
+    for (int tab = 0; tab < PlateChecks; ++tab)
         EXPECT_EQ(plateTab(tab).check, checks[tab]);
-        EXPECT_STREQ(plateTab(tab).firstField, fields[tab]);
-    }
     EXPECT_EQ(plateTab(3).sketch, 0);
     EXPECT_EQ(plateTab(1).sketch, 7);
-    EXPECT_STREQ(plateTab(1).command, "cmdOblicz52");
     EXPECT_THROW(plateTab(8), RunTimeError);
 }
 

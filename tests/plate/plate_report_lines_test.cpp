@@ -63,7 +63,7 @@ TEST_F(PlateSectionOfTheReport, TheUsersSteelIsPrintedAlsoAfterAReturnToAListedG
 
 TEST_F(PlateSectionOfTheReport, TheColumnCheckAloneHasFourLinesAndNoSketch) {
     form.fields.cmbProfil = 18;
-    form.fields.Text3[2] = QStringLiteral("1,5");
+    form.fields.check4.sigma = QStringLiteral("1,5");
     compute(4);
     EXPECT_EQ(written().mid(3),
               (QStringList{QStringLiteral("<53><58>"), QStringLiteral("<54>HEB <=300"),
@@ -93,9 +93,9 @@ TEST_F(PlateSectionOfTheReport, TheSectionEndsOnAnEmptyLineBehindTheLastBlock) {
 }
 
 TEST_F(PlateSectionOfTheReport, FragmentsAreToldByTheNumberOfTheirEdges) {
-    form.fields.Text2[1] = QStringLiteral("100,5");
-    form.fields.Text3[1] = QStringLiteral("4,25");
-    form.fields.Text3[8] = QStringLiteral("6");
+    form.fields.check2.ca = QStringLiteral("100,5");
+    form.fields.check2.sigma_k = QStringLiteral("4,25");
+    form.fields.check2.sigma_p = QStringLiteral("6");
     compute(2);
     const std::pair<int, const char16_t*> checks[] = {{3, u"4 "}, {5, u"3 "}, {6, u"2 "}};
     for (const auto& [n, edges] : checks) {

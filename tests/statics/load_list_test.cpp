@@ -2,10 +2,12 @@
 #include "statics/load_shares.h"
 #include "support/decimal_comma.h"
 #include "support/printing.h"
+#include "support/run_time_errors.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 using namespace ferna;
 using ferna::testing::WithDecimalSign;
@@ -25,15 +27,15 @@ class ColumnLoads : public ::testing::Test {
 protected:
     ColumnLoads() : form(openStatics(loads)) {}
 
-    /// Declares a load with the texts of T1(0), T1(1), T2(0), T2(1) as far as they are given.
+    /// Declares a load with the texts of its loads and of its arms as far as they are given.
     void add(int direction, int kind, const QStringList& T1, const QStringList& T2 = {}) {
         chooseDirection(form, direction);
         chooseKind(form, kind);
         LoadDialog dialog = openLoadDialog(form);
-        for (qsizetype i = 0; i < T1.size(); ++i)
-            dialog.Text1.at(static_cast<std::size_t>(i)) = T1[i];
-        for (qsizetype i = 0; i < T2.size(); ++i)
-            dialog.Text2.at(static_cast<std::size_t>(i)) = T2[i];
+        dialog.load.text = T1.value(0, dialog.load.text);
+        dialog.secondLoad.text = T1.value(1, dialog.secondLoad.text);
+        dialog.arm.text = T2.value(0, dialog.arm.text);
+        dialog.secondArm.text = T2.value(1, dialog.secondArm.text);
         acceptLoad(loads, form, dialog);
     }
     void vertical(const char* P) { add(0, 0, {QString::fromLatin1(P)}); }
@@ -45,7 +47,10 @@ protected:
         form.selected = line;
         removeLoad(loads, form, dialogs);
     }
-    QStringList totals() const { return {form.Text1.begin(), form.Text1.end()}; }
+    QStringList totals() const {
+        const LoadRow<QString>& sum = form.totals;
+        return {sum.N, sum.M1, sum.M2, sum.Vx, sum.Vy};
+    }
     static QStringList totals(const char* N, const char* M1, const char* M2, const char* Vx,
                               const char* Vy) {
         QStringList list;
@@ -130,22 +135,22 @@ TEST_F(ColumnLoads, InTheOtherPlaneTheDistributedLoadIsToldAsPy) {
 TEST_F(ColumnLoads, TotalsAreRoundedAfterEachLoad) {
     for (int i = 0; i < 3; ++i)
         vertical("0,04");
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 0,0"));
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 0,0"));
 }
 
 TEST_F(ColumnLoads, ATotalFromAThousandOnReadsBackWithItsBlank) {
     vertical("900");
     vertical("250,5");
-    EXPECT_EQ(form.Text1[0], QStringLiteral("1 150,5"));
+    EXPECT_EQ(form.totals.N, QStringLiteral("1 150,5"));
     vertical("1");
-    EXPECT_EQ(form.Text1[0], QStringLiteral("1 151,5"));
+    EXPECT_EQ(form.totals.N, QStringLiteral("1 151,5"));
 }
 
 TEST_F(ColumnLoads, ANegativeTotalReadsBackWithItsSign) {
     vertical("-2");
-    EXPECT_EQ(form.Text1[0], QStringLiteral("- 2,0"));
+    EXPECT_EQ(form.totals.N, QStringLiteral("- 2,0"));
     vertical("-0,5");
-    EXPECT_EQ(form.Text1[0], QStringLiteral("- 2,5"));
+    EXPECT_EQ(form.totals.N, QStringLiteral("- 2,5"));
 }
 
 TEST_F(ColumnLoads, WithoutAnyOptionTheDialogIsThatOfAVerticalForce) {
@@ -186,14 +191,14 @@ TEST_F(ColumnLoads, TheDialogShowsWhatItsLoadNeeds) {
         chooseKind(form, row.kind);
         const LoadDialog dialog = openLoadDialog(form);
         EXPECT_EQ(dialog.Label1, QString::fromUtf8(row.heading));
-        EXPECT_EQ(dialog.Label2[0], QString::fromUtf8(row.first));
-        EXPECT_TRUE(dialog.Text1_visible[0]);
-        EXPECT_EQ(dialog.Text1_visible[1], row.second);
-        EXPECT_EQ(dialog.Text2_visible[0], row.third);
-        EXPECT_EQ(dialog.Text2_visible[1], row.fourth);
+        EXPECT_EQ(dialog.load.caption, QString::fromUtf8(row.first));
+        EXPECT_TRUE(dialog.load.shown());
+        EXPECT_EQ(dialog.secondLoad.shown(), row.second);
+        EXPECT_EQ(dialog.arm.shown(), row.third);
+        EXPECT_EQ(dialog.secondArm.shown(), row.fourth);
         EXPECT_EQ(dialog.sketch, row.sketch);
-        EXPECT_EQ(dialog.Text1[0], QStringLiteral("1"));
-        EXPECT_EQ(dialog.Text1[1], QStringLiteral("0"));
+        EXPECT_EQ(dialog.load.text, QStringLiteral("1"));
+        EXPECT_EQ(dialog.secondLoad.text, QStringLiteral("0"));
     }
 }
 
@@ -201,12 +206,12 @@ TEST_F(ColumnLoads, AFieldThatIsNoNumberStopsAfterTheCountHasGrown) {
     EXPECT_EQ(errorOf([&] { vertical("sto"); }), error::TypeMismatch);
     EXPECT_EQ(loads.Liczba_obc, 1);
     EXPECT_TRUE(form.lstObciazen.isEmpty());
-    EXPECT_EQ(form.Text1[0], QStringLiteral("0"));
+    EXPECT_EQ(form.totals.N, QStringLiteral("0"));
 }
 
 TEST_F(ColumnLoads, HiddenFieldsAreNotRead) {
     add(1, 2, {QStringLiteral("5"), QStringLiteral("x")}, {QStringLiteral("x")});
-    EXPECT_EQ(form.Text1[1], QStringLiteral(" 5,0"));
+    EXPECT_EQ(form.totals.M1, QStringLiteral(" 5,0"));
 }
 
 TEST_F(ColumnLoads, ASixteenthLoadOverrunsTheSlots) {
@@ -215,7 +220,7 @@ TEST_F(ColumnLoads, ASixteenthLoadOverrunsTheSlots) {
     EXPECT_EQ(errorOf([&] { vertical("1"); }), error::Subscript);
     EXPECT_EQ(loads.Liczba_obc, 16);
     EXPECT_EQ(form.lstObciazen.size(), 15);
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 15,0"));
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 15,0"));
 }
 
 TEST_F(ColumnLoads, RemovingTakesTheSharesOffAndMovesTheSlots) {
@@ -240,13 +245,13 @@ TEST_F(ColumnLoads, RemovingTheLastLoadLeavesWhatTheRoundingLeft) {
     remove(0);
     EXPECT_FALSE(form.cmdUsun_enabled);
     EXPECT_TRUE(form.lstObciazen.isEmpty());
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 0,0")); // 0.2 - 0.06 = 0.1, - 0.06 = 0.0
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 0,0")); // 0.2 - 0.06 = 0.1, - 0.06 = 0.0
     vertical("0,04");                                 // 0.0 in the total
     remove(0);
-    EXPECT_EQ(form.Text1[0], QStringLiteral("0,0").prepend(u' '));
+    EXPECT_EQ(form.totals.N, QStringLiteral("0,0").prepend(u' '));
     vertical("0,05");
     remove(0); // 0.1 - 0.05
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 0,1"));
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 0,1"));
 }
 
 TEST_F(ColumnLoads, WithoutASelectionTheSlotsMoveAndTheListStays) {
@@ -258,14 +263,14 @@ TEST_F(ColumnLoads, WithoutASelectionTheSlotsMoveAndTheListStays) {
               QStringLiteral("Musisz zazanczyć na liście usuwane obciążenie"));
     EXPECT_EQ(form.lstObciazen.size(), 2);
     EXPECT_TRUE(form.cmdUsun_enabled);
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 107,0")); // slot 0 held nothing
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 107,0")); // slot 0 held nothing
     EXPECT_EQ(loads.Liczba_obc, 1);
     EXPECT_EQ(loads.Obc_wart[0](0), 100.0F);
     EXPECT_EQ(loads.Obc_wart[0](1), 7.0F);
     remove(0); // the line of 100 takes off the 7 that has moved under it
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 100,0"));
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 100,0"));
     remove(-1); // and slot 0 now holds the 100
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 0,0"));
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 0,0"));
 }
 
 TEST_F(ColumnLoads, WhatSlotZeroHoldsOutlivesTheForm) {
@@ -275,7 +280,7 @@ TEST_F(ColumnLoads, WhatSlotZeroHoldsOutlivesTheForm) {
     EXPECT_EQ(loads.Liczba_obc, 0);
     vertical("1");
     remove(-1);
-    EXPECT_EQ(form.Text1[0], QStringLiteral("- 99,0"));
+    EXPECT_EQ(form.totals.N, QStringLiteral("- 99,0"));
 }
 
 TEST_F(ColumnLoads, AnOpeningClearsTheSlotsFromOneOn) {
@@ -304,12 +309,41 @@ TEST_F(ColumnLoads, AnEmptySlotHasNoShares) {
 }
 
 TEST_F(ColumnLoads, ATypedTotalIsTakenOnFrom) {
-    form.Text1[0] = QStringLiteral("10,26");
+    form.totals.N = QStringLiteral("10,26");
     vertical("1");
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 11,3"));
-    form.Text1[4] = QStringLiteral("x");
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 11,3"));
+    form.totals.Vy = QStringLiteral("x");
     EXPECT_EQ(errorOf([&] { vertical("1"); }), error::TypeMismatch);
-    EXPECT_EQ(form.Text1[0], QStringLiteral(" 11,3")); // all are read before one is written
+    EXPECT_EQ(form.totals.N, QStringLiteral(" 11,3")); // all are read before one is written
+}
+
+TEST_F(ColumnLoads, AnErrorTellsWhichTextCouldNotBeTaken) {
+    const auto atFault = [this](QString& text) {
+        const QString before = std::exchange(text, QStringLiteral("x"));
+        const auto failure = ferna::testing::errorOf([this] { vertical("1"); });
+        text = before;
+        return failure ? failure->value() : TypedValue{};
+    };
+    EXPECT_EQ(atFault(form.totals.N), TypedValue{Value::TotalN});
+    EXPECT_EQ(atFault(form.totals.M1), TypedValue{Value::TotalM1});
+    EXPECT_EQ(atFault(form.totals.M2), TypedValue{Value::TotalM2});
+    EXPECT_EQ(atFault(form.totals.Vx), TypedValue{Value::TotalVx});
+    EXPECT_EQ(atFault(form.totals.Vy), TypedValue{Value::TotalVy});
+    const auto texts = [](const char* first, const char* second) {
+        return QStringList{QString::fromLatin1(first), QString::fromLatin1(second)};
+    };
+    const std::pair<QStringList, QStringList> typed[] = {{texts("x", "1"), texts("1", "2")},
+                                                         {texts("1", "x"), texts("1", "2")},
+                                                         {texts("1", "1"), texts("x", "2")},
+                                                         {texts("1", "1"), texts("1", "x")}};
+    const Value values[] = {Value::ColumnLoad, Value::ColumnSecondLoad, Value::ColumnArm,
+                            Value::ColumnSecondArm};
+    for (std::size_t i = 0; i < std::size(values); ++i) {
+        const auto failure =
+            ferna::testing::errorOf([&] { add(1, 1, typed[i].first, typed[i].second); });
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->value(), TypedValue{values[i]});
+    }
 }
 
 } // namespace

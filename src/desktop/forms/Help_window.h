@@ -35,6 +35,8 @@ void openHelp(const QString& programFolder, int context);
 /// The help: contents, index and full-text search beside the page. A window of its own that stays
 /// usable while a modal form stands; Esc closes it.
 class HelpWindow : public QWidget {
+    Q_OBJECT
+
 public:
     /// `programFolder` holds Ferna.qch; the collection with the index of the search is kept there.
     /// Errors as `openHelp`.

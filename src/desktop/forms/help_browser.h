@@ -7,6 +7,8 @@ namespace ferna {
 
 /// Shows the pages of the packed help with their sketches, sharp at the screen's scale.
 class HelpBrowser : public QTextBrowser {
+    Q_OBJECT
+
 public:
     explicit HelpBrowser(const QHelpEngineCore& engine, QWidget* parent = nullptr);
 

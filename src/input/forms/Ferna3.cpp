@@ -73,35 +73,74 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
 Ferna3::~Ferna3() = default;
 
 void Ferna3::collectFields() {
-    for (int r = 0; r < MaxCases; ++r) {
-        auto& row = loads_.at(static_cast<std::size_t>(r));
-        std::size_t column = 0;
-        for (const char* name : {"Text6_%1", "Text7_%1", "Text8_%1", "Text5_%1", "Text10_%1"}) {
-            QLineEdit* const field = findChild<QLineEdit*>(QString::fromLatin1(name).arg(r));
+    const Ui::Ferna3& u = *ui_;
+    loads_ = {{{u.Text6_0, u.Text7_0, u.Text8_0, u.Text5_0, u.Text10_0},
+               {u.Text6_1, u.Text7_1, u.Text8_1, u.Text5_1, u.Text10_1},
+               {u.Text6_2, u.Text7_2, u.Text8_2, u.Text5_2, u.Text10_2},
+               {u.Text6_3, u.Text7_3, u.Text8_3, u.Text5_3, u.Text10_3},
+               {u.Text6_4, u.Text7_4, u.Text8_4, u.Text5_4, u.Text10_4},
+               {u.Text6_5, u.Text7_5, u.Text8_5, u.Text5_5, u.Text10_5}}};
+    for (const auto& row : loads_)
+        for (QLineEdit* field : row) {
             QSizePolicy policy = field->sizePolicy();
             policy.setRetainSizeWhenHidden(true);
             field->setSizePolicy(policy);
-            row.at(column++) = field;
         }
+    Jezyk_ = {u.Jezyk_0, u.Jezyk_1, u.Jezyk_2, u.Jezyk_3, u.Jezyk_4};
+    optRTF_ = {u.optRTF_0, u.optRTF_1, u.optRTF_2};
+    optHsruby_ = {u.optHsruby_0, u.optHsruby_1};
+    Norma_ = {u.Norma_0, u.Norma_1};
+    Wsp_n_ = {u.Wsp_n_0, u.Wsp_n_1};
+}
+
+QLineEdit* Ferna3::fieldOf(const TypedValue& value) const {
+    const auto ofCase = [&](std::size_t column) {
+        return loads_.at(static_cast<std::size_t>(value.of)).at(column);
+    };
+    switch (value.value) {
+    case Value::PageNumber:
+        return ui_->txtNr_strony;
+    case Value::CaseCount:
+        return ui_->Text1;
+    case Value::RatioN:
+        return ui_->Text2;
+    case Value::PlateLength:
+        return ui_->Text3;
+    case Value::PlateWidth:
+        return ui_->Text4;
+    case Value::N:
+        return ofCase(0);
+    case Value::M1:
+        return ofCase(1);
+    case Value::M2:
+        return ofCase(2);
+    case Value::Vx:
+        return ofCase(3);
+    case Value::Vy:
+        return ofCase(4);
+    default:
+        return nullptr;
     }
 }
 
 void Ferna3::connectOptions() {
-    const auto onClick = [this](const char* name, int count, auto handler) {
-        for (int i = 0; i < count; ++i)
-            connectGuarded(findChild<QRadioButton*>(QString::fromLatin1(name).arg(i)),
-                           &QRadioButton::clicked, this, [handler, i] { handler(CInt(i)); });
+    const auto onClick = [this](const auto& options, auto handler) {
+        Integer i = 0;
+        for (QRadioButton* option : options) {
+            connectGuarded(option, &QRadioButton::clicked, this, [handler, i] { handler(i); });
+            ++i;
+        }
     };
-    onClick("Jezyk_%1", 5, [this](Integer i) { chooseLanguage(i); });
-    onClick("optRTF_%1", 3, [this](Integer i) { stan_.opcje.Tryb_RTF = i; });
-    onClick("optHsruby_%1", 2, [this](Integer i) { stan_.opcje.Hsily_wszystkie = i; });
-    onClick("Norma_%1", 2, [this](Integer i) {
+    onClick(Jezyk_, [this](Integer i) { chooseLanguage(i); });
+    onClick(optRTF_, [this](Integer i) { stan_.opcje.Tryb_RTF = i; });
+    onClick(optHsruby_, [this](Integer i) { stan_.opcje.Hsily_wszystkie = i; });
+    onClick(Norma_, [this](Integer i) {
         chooseNorm(stan_, i);
         fillConcretes();
         if (ui_->Wsp_n_0->isChecked())
             showRatio();
     });
-    onClick("Wsp_n_%1", 2, [this](Integer i) { chooseRatioMode(i); });
+    onClick(Wsp_n_, [this](Integer i) { chooseRatioMode(i); });
 }
 
 void Ferna3::connectAnchorCommands() {
@@ -197,11 +236,11 @@ void Ferna3::load() {
     const Opcje_zadania& task = stan_.opcje;
     ui_->cmbStal->addItems(steelNames());
     makeRoomForItems(ui_->cmbStal);
-    findChild<QRadioButton*>(QStringLiteral("Jezyk_%1").arg(task.Nr_jezyka))->setChecked(true);
+    Jezyk_.at(static_cast<std::size_t>(task.Nr_jezyka))->setChecked(true);
     Jezyk_wczytany = task.Nr_jezyka;
-    findChild<QRadioButton*>(QStringLiteral("optRTF_%1").arg(task.Tryb_RTF))->setChecked(true);
-    findChild<QRadioButton*>(QStringLiteral("Norma_%1").arg(task.Nr_normy))->setChecked(true);
-    findChild<QRadioButton*>(QStringLiteral("Wsp_n_%1").arg(task.Tryb_wsp_n))->setChecked(true);
+    optRTF_.at(static_cast<std::size_t>(task.Tryb_RTF))->setChecked(true);
+    Norma_.at(static_cast<std::size_t>(task.Nr_normy))->setChecked(true);
+    Wsp_n_.at(static_cast<std::size_t>(task.Tryb_wsp_n))->setChecked(true);
     const InputFields start = startFields(stan_);
     ui_->cmbStal->setCurrentIndex(start.cmbStal);
     fillConcretes();

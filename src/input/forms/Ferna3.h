@@ -6,6 +6,7 @@
 #include "input/forms/input_notes_band.h"
 #include "statics/load_list.h"
 #include "statics/load_scheme.h"
+#include "widgets/field_place.h"
 
 #include <QDialog>
 
@@ -13,8 +14,8 @@
 #include <functional>
 #include <memory>
 
-class QLineEdit;
 class QPushButton;
+class QRadioButton;
 
 namespace Ui {
 class Ferna3;
@@ -25,11 +26,15 @@ namespace ferna {
 class Nowa_Sruba;
 
 /// The main form: the whole design case on four tabs, and the commands to calculate and to leave.
-class Ferna3 : public QDialog, private CalculationHost, private LoadTable {
+class Ferna3 : public QDialog, public ValueFields, private CalculationHost, private LoadTable {
+    Q_OBJECT
+
 public:
     /// `folder` is the program folder; `openResults` opens the results form after a calculation.
     Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs, std::function<void()> openResults);
     ~Ferna3() override;
+
+    QLineEdit* fieldOf(const TypedValue& value) const override;
 
     /// Fills the controls from the state that `startUp` has brought in.
     void load();
@@ -104,6 +109,11 @@ private:
     std::unique_ptr<InputNotesBand> uwagi_;
     std::unique_ptr<Nowa_Sruba> nowaSruba_; ///< hidden, not unloaded, between its uses
     std::array<std::array<QLineEdit*, 5>, MaxCases> loads_{}; ///< by row: N, M1, M2, Vx, Vy
+    std::array<QRadioButton*, 5> Jezyk_{};
+    std::array<QRadioButton*, 3> optRTF_{};
+    std::array<QRadioButton*, 2> optHsruby_{};
+    std::array<QRadioButton*, 2> Norma_{};
+    std::array<QRadioButton*, 2> Wsp_n_{};
     Integer Jezyk_wczytany = 0;
     QList<QWidget*> left_;   ///< left, and what that brings has not run yet
     bool returning_ = false; ///< the focus goes back to a field that could not be left

@@ -15,6 +15,8 @@ namespace ferna {
 
 /// Offers the ratio n: the recommended one, the computed one, or another.
 class FernaPon : public QDialog {
+    Q_OBJECT
+
 public:
     FernaPon(Stan& stan, Dialogs& dialogs, QWidget* parent);
     ~FernaPon() override;

@@ -14,6 +14,8 @@ namespace ferna {
 
 /// Changes the diameter of one anchor or of all.
 class Fernafi : public QDialog {
+    Q_OBJECT
+
 public:
     Fernafi(Stan& stan, Integer Nr_zmienianej, Dialogs& dialogs, QWidget* parent);
     ~Fernafi() override;

@@ -12,6 +12,8 @@ namespace ferna {
 
 /// Describes the user's own steel for the anchors.
 class KGM8 : public SteelDialog {
+    Q_OBJECT
+
 public:
     KGM8(Stan& stan, Dialogs& dialogs, QWidget* parent);
     ~KGM8() override;

@@ -35,6 +35,17 @@ NewAnchor Nowa_Sruba::ask(const QString& caption) {
     return anchor_;
 }
 
+QLineEdit* Nowa_Sruba::fieldOf(const TypedValue& value) const {
+    switch (value.value) {
+    case Value::AnchorX:
+        return ui_->Text1;
+    case Value::AnchorY:
+        return ui_->Text2;
+    default:
+        return nullptr;
+    }
+}
+
 // Esc would look like a cancel, and store anchors all the same.
 void Nowa_Sruba::keyPressEvent(QKeyEvent* event) {
     if (!event->matches(QKeySequence::Cancel))
@@ -49,10 +60,10 @@ void Nowa_Sruba::accept() {
             ui_->cmbFi->setFocus();
             return;
         }
-        const auto number = [](const QLineEdit* field) {
-            return inControl(field->objectName(), [field] { return CInt(field->text()); });
+        const auto number = [this](Value value) {
+            return taking({value}, [&] { return CInt(fieldOf({value})->text()); });
         };
-        anchor_ = {CInt(ui_->cmbFi->currentText()), number(ui_->Text1), number(ui_->Text2)};
+        anchor_ = {CInt(ui_->cmbFi->currentText()), number(Value::AnchorX), number(Value::AnchorY)};
         QDialog::accept();
     });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "input/anchor_layout.h"
+#include "widgets/field_place.h"
 
 #include <QDialog>
 
@@ -15,10 +16,14 @@ namespace ferna {
 /// Asks for diameter and coordinates of a new anchor. It is hidden at its end and keeps its texts
 /// for the next use. It has no cancel: closed by the frame it hands over the values of its last
 /// use. Esc does nothing.
-class Nowa_Sruba : public QDialog {
+class Nowa_Sruba : public QDialog, public ValueFields {
+    Q_OBJECT
+
 public:
     Nowa_Sruba(Stan& stan, Dialogs& dialogs, QWidget* parent);
     ~Nowa_Sruba() override;
+
+    QLineEdit* fieldOf(const TypedValue& value) const override;
 
     /// Shows the dialog under a caption and returns what was accepted last.
     NewAnchor ask(const QString& caption);

@@ -32,12 +32,6 @@ void keepItsPlace(QWidget* control) {
     control->setSizePolicy(policy);
 }
 
-template <typename Control, std::size_t N>
-void collect(const QWidget* form, const char* name, std::array<Control*, N>& controls) {
-    for (std::size_t i = 0; i < N; ++i)
-        controls[i] = form->findChild<Control*>(QString::fromLatin1(name).arg(i));
-}
-
 } // namespace
 
 Grub_bla::Grub_bla(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget* parent)
@@ -46,6 +40,7 @@ Grub_bla::Grub_bla(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget*
     ui_->setupUi(this);
     keepTablesOut(this);
     collectControls();
+    collectLines();
     ui_->cmbStalb->addItems(plateSteelNames());
     ui_->cmbStalb->setCurrentIndex(-1);
     ui_->cmbStalb->installEventFilter(this);
@@ -54,12 +49,8 @@ Grub_bla::Grub_bla(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget*
     ui_->cmbProfil->setCurrentIndex(-1);
     connectTabs();
     connectCommands();
-    for (std::size_t i = 0; i < Text1_.size(); ++i)
-        Text1_[i]->setText(form_.fields.Text1[i]);
-    for (std::size_t i = 0; i < Text2_.size(); ++i)
-        Text2_[i]->setText(form_.fields.Text2[i]);
-    for (std::size_t i = 0; i < Text3_.size(); ++i)
-        Text3_[i]->setText(form_.fields.Text3[i]);
+    for (const Line& line : lines_)
+        line.field->setText(*line.text);
     showForm();
     chooseTab(0);
     centreOnScreen(this);
@@ -68,12 +59,15 @@ Grub_bla::Grub_bla(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget*
 Grub_bla::~Grub_bla() = default;
 
 void Grub_bla::collectControls() {
-    collect(this, "Text1_%1", Text1_);
-    collect(this, "Text2_%1", Text2_);
-    collect(this, "Text3_%1", Text3_);
-    collect(this, "Label8_%1", Label8_);
-    for (int tab = 0; tab < PlateChecks; ++tab)
-        cmdOblicz_.at(static_cast<std::size_t>(plateTab(tab).check - 1)) = command(tab);
+    const Ui::Grub_bla& u = *ui_;
+    Label8_ = {u.Label8_0, u.Label8_1, u.Label8_2, u.Label8_3,
+               u.Label8_4, u.Label8_5, u.Label8_6, u.Label8_7};
+    cmdOblicz_ = {u.cmdOblicz1,  u.cmdOblicz2,  u.cmdOblicz31, u.cmdOblicz4,
+                  u.cmdOblicz32, u.cmdOblicz33, u.cmdOblicz51, u.cmdOblicz52};
+    cmdAnulujto_ = {u.cmdAnulujto_0, u.cmdAnulujto_1, u.cmdAnulujto_2, u.cmdAnulujto_3,
+                    u.cmdAnulujto_4, u.cmdAnulujto_5, u.cmdAnulujto_6, u.cmdAnulujto_7};
+    firstFields_ = {u.Text1_0, u.Text1_5, u.Text1_4, u.cmbProfil,
+                    u.Text2_1, u.Text1_3, u.Text1_2, u.Text1_1};
     for (int tab = 0; tab < PlateChecks; ++tab) {
         const auto check = static_cast<std::size_t>(plateTab(tab).check - 1);
         resultAges_[check] = new ResultAge(ui_->SSTab1->widget(tab), Label8_[check], ui_->cmbStalb);
@@ -84,14 +78,54 @@ void Grub_bla::collectControls() {
          {static_cast<QWidget*>(ui_->Label10_0), static_cast<QWidget*>(ui_->Text4),
           static_cast<QWidget*>(ui_->Label10_1)})
         keepItsPlace(control);
-    std::array<PictureView*, sketches.size()> pictures{};
-    collect(this, "Picture1_%1", pictures);
+    const std::array<PictureView*, sketches.size()> pictures{
+        u.Picture1_0, u.Picture1_1, u.Picture1_2, u.Picture1_3,
+        u.Picture1_4, u.Picture1_5, u.Picture1_6};
     for (std::size_t i = 0; i < pictures.size(); ++i)
         pictures[i]->setSketch(QStringLiteral(":/szkice/%1.svg").arg(QLatin1String(sketches[i])));
 }
 
 QPushButton* Grub_bla::command(int tab) const {
-    return findChild<QPushButton*>(QString::fromLatin1(plateTab(tab).command));
+    return cmdOblicz_.at(static_cast<std::size_t>(plateTab(tab).check - 1));
+}
+
+void Grub_bla::collectLines() {
+    const Ui::Grub_bla& u = *ui_;
+    PlateFields& f = form_.fields;
+    lines_ = {
+        {u.Text1_0, &f.check1.bs, {Value::CheckBs, 1}},
+        {u.Text2_0, &f.check1.ca, {Value::CheckCa, 1}},
+        {u.Text3_0, &f.check1.S, {Value::CheckS, 1}},
+        {u.Text2_1, &f.check2.ca, {Value::CheckCa, 2}},
+        {u.Text3_1, &f.check2.sigma_k, {Value::CheckSigmaK, 2}},
+        {u.Text3_8, &f.check2.sigma_p, {Value::CheckSigmaP, 2}},
+        {u.Text1_1, &f.check3.l, {Value::CheckL, 3}},
+        {u.Text2_2, &f.check3.b, {Value::CheckB, 3}},
+        {u.Text3_3, &f.check3.sigma, {Value::CheckSigma, 3}},
+        {u.Text3_2, &f.check4.sigma, {Value::CheckSigma, 4}},
+        {u.Text1_2, &f.check5.l, {Value::CheckL, 5}},
+        {u.Text2_3, &f.check5.b, {Value::CheckB, 5}},
+        {u.Text3_4, &f.check5.sigma, {Value::CheckSigma, 5}},
+        {u.Text1_3, &f.check6.l, {Value::CheckL, 6}},
+        {u.Text2_4, &f.check6.b, {Value::CheckB, 6}},
+        {u.Text3_5, &f.check6.sigma, {Value::CheckSigma, 6}},
+        {u.Text1_4, &f.check7.b, {Value::CheckB, 7}},
+        {u.Text2_5, &f.check7.a, {Value::CheckA, 7}},
+        {u.Text2_6, &f.check7.c, {Value::CheckC, 7}},
+        {u.Text3_6, &f.check7.S, {Value::CheckS, 7}},
+        {u.Text1_5, &f.check8.b, {Value::CheckB, 8}},
+        {u.Text2_8, &f.check8.a, {Value::CheckA, 8}},
+        {u.Text2_7, &f.check8.c, {Value::CheckC, 8}},
+        {u.Text3_7, &f.check8.S, {Value::CheckS, 8}},
+        {u.Text4, &f.Text4, {Value::AcceptedThickness}},
+    };
+}
+
+QLineEdit* Grub_bla::fieldOf(const TypedValue& value) const {
+    for (const Line& line : lines_)
+        if (line.value == value)
+            return line.field;
+    return nullptr;
 }
 
 // The list of the tabs never takes the focus: the keys go to the first field of the chosen one.
@@ -130,7 +164,7 @@ void Grub_bla::connectCommands() {
             if (form_.face.Label8_visible[at] && form_.face.Label8[at] != noPlateResult)
                 resultAges_[at]->computed();
         });
-        connectCommand(findChild<QPushButton*>(QStringLiteral("cmdAnulujto_%1").arg(i)),
+        connectCommand(cmdAnulujto_.at(static_cast<std::size_t>(i)),
                        [this, i] { work([this, i] { cmdAnulujto(stan_, form_, i); }); });
     }
     connectCommand(ui_->cmdOK, [this] { writeSection(); });
@@ -208,8 +242,8 @@ void Grub_bla::chooseTab(int tab) {
 }
 
 void Grub_bla::focusFirstField() {
-    const PlateTab& shown = plateTab(ui_->SSTab1->currentIndex());
-    findChild<QWidget*>(QString::fromLatin1(shown.firstField))->setFocus(Qt::TabFocusReason);
+    firstFields_.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex()))
+        ->setFocus(Qt::TabFocusReason);
 }
 
 void Grub_bla::work(const std::function<void()>& core) {
@@ -218,14 +252,8 @@ void Grub_bla::work(const std::function<void()>& core) {
 }
 
 void Grub_bla::readFields() {
-    const auto texts = [](const auto& lines, auto& to) {
-        for (std::size_t i = 0; i < lines.size(); ++i)
-            to[i] = lines[i]->text();
-    };
-    texts(Text1_, form_.fields.Text1);
-    texts(Text2_, form_.fields.Text2);
-    texts(Text3_, form_.fields.Text3);
-    form_.fields.Text4 = ui_->Text4->text();
+    for (const Line& line : lines_)
+        *line.text = line.field->text();
     form_.fields.cmbStalb = ui_->cmbStalb->currentIndex();
     form_.fields.cmbProfil = ui_->cmbProfil->currentIndex();
 }

@@ -12,6 +12,8 @@ namespace ferna {
 
 /// Describes the user's own steel for the plate.
 class KGM8b : public SteelDialog {
+    Q_OBJECT
+
 public:
     KGM8b(Stan& stan, Dialogs& dialogs, QWidget* parent);
     ~KGM8b() override;

@@ -11,6 +11,8 @@ namespace ferna {
 /// shown as out of date, in grey and with a note under it, until they are as they were or the check
 /// is computed anew.
 class ResultAge : public QObject {
+    Q_OBJECT
+
 public:
     /// `page` holds the inputs of the check, `line` is its result, `grade` the list of steels.
     ResultAge(QWidget* page, QLabel* line, const QComboBox* grade);

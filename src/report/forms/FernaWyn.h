@@ -19,6 +19,8 @@ namespace ferna {
 /// The results form: shows the report as one picture, offers every output, and leads on to the
 /// plate and anchor forms. It draws nothing of the report itself.
 class FernaWyn : public QMainWindow {
+    Q_OBJECT
+
 public:
     /// Where the form leads to.
     struct Links {

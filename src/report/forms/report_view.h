@@ -9,6 +9,8 @@ namespace ferna {
 /// Shows the rendered report as wide as the widget, sharp at the screen's scale; the height follows
 /// from the pages.
 class ReportView : public QWidget {
+    Q_OBJECT
+
 public:
     explicit ReportView(QWidget* parent = nullptr) : QWidget(parent) {}
 

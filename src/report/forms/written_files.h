@@ -12,6 +12,8 @@ namespace ferna {
 /// The line of the results form that says which files were written last and where, with a way to
 /// open their folder. It is not there until something was written.
 class WrittenFiles : public QFrame {
+    Q_OBJECT
+
 public:
     explicit WrittenFiles(QWidget* parent = nullptr);
 

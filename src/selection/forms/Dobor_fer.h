@@ -14,6 +14,8 @@ namespace ferna {
 
 /// Offers the catalogue anchor of the most loaded diameter, hooked or with a plate.
 class Dobor_fer : public QDialog {
+    Q_OBJECT
+
 public:
     /// Asks for the combined thickness before the form is shown. `folder` is the program folder; OK
     /// saves the sketch of the section there.

@@ -31,26 +31,42 @@ void Obciazenie::showEvent(QShowEvent* event) {
 }
 
 void Obciazenie::showDialog() {
-    const auto showPair = [](QLabel* label, QLineEdit* field, const QString& caption,
-                             const QString& text, bool visible) {
-        label->setText(caption);
-        field->setText(text);
-        label->setVisible(visible);
-        field->setVisible(visible);
+    const auto show = [](QLabel* label, QLineEdit* line, const LoadDialog::Field& field) {
+        label->setText(field.caption);
+        line->setText(field.text);
+        label->setVisible(field.shown());
+        line->setVisible(field.shown());
     };
     const LoadDialog& d = dialog_;
     ui_->Label1->setText(d.Label1);
-    showPair(ui_->Label2_0, ui_->Text1_0, d.Label2[0], d.Text1[0], d.Text1_visible[0]);
-    showPair(ui_->Label2_1, ui_->Text1_1, d.Label2[1], d.Text1[1], d.Text1_visible[1]);
-    showPair(ui_->Label3_0, ui_->Text2_0, d.Label3[0], d.Text2[0], d.Text2_visible[0]);
-    showPair(ui_->Label3_1, ui_->Text2_1, d.Label3[1], d.Text2[1], d.Text2_visible[1]);
+    show(ui_->Label2_0, ui_->Text1_0, d.load);
+    show(ui_->Label2_1, ui_->Text1_1, d.secondLoad);
+    show(ui_->Label3_0, ui_->Text2_0, d.arm);
+    show(ui_->Label3_1, ui_->Text2_1, d.secondArm);
     ui_->Picture1->setSketch(QStringLiteral(":/szkice/obciaz%1.svg").arg(d.sketch));
+}
+
+QLineEdit* Obciazenie::fieldOf(const TypedValue& value) const {
+    switch (value.value) {
+    case Value::ColumnLoad:
+        return ui_->Text1_0;
+    case Value::ColumnSecondLoad:
+        return ui_->Text1_1;
+    case Value::ColumnArm:
+        return ui_->Text2_0;
+    case Value::ColumnSecondArm:
+        return ui_->Text2_1;
+    default:
+        return nullptr;
+    }
 }
 
 // A load that is stopped leaves the list as it was: the slot it had begun is given back.
 void Obciazenie::addLoad() {
-    dialog_.Text1 = {ui_->Text1_0->text(), ui_->Text1_1->text()};
-    dialog_.Text2 = {ui_->Text2_0->text(), ui_->Text2_1->text()};
+    dialog_.load.text = ui_->Text1_0->text();
+    dialog_.secondLoad.text = ui_->Text1_1->text();
+    dialog_.arm.text = ui_->Text2_0->text();
+    dialog_.secondArm.text = ui_->Text2_1->text();
     const Stan_statyki before = loads_;
     try {
         acceptLoad(loads_, form_, dialog_);

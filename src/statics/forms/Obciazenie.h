@@ -1,6 +1,7 @@
 #pragma once
 
 #include "statics/load_list.h"
+#include "widgets/field_place.h"
 
 #include <QDialog>
 
@@ -13,11 +14,15 @@ class Obciazenie;
 namespace ferna {
 
 /// The values of one load, with the fields that its direction and kind need.
-class Obciazenie : public QDialog {
+class Obciazenie : public QDialog, public ValueFields {
+    Q_OBJECT
+
 public:
     /// `form` is the list's form: its options are read here, and it takes the load.
     Obciazenie(Stan_statyki& loads, StaticsForm& form, QWidget* parent);
     ~Obciazenie() override;
+
+    QLineEdit* fieldOf(const TypedValue& value) const override;
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -74,6 +74,23 @@ void StatykaS::keyPressEvent(QKeyEvent* event) {
         QDialog::keyPressEvent(event);
 }
 
+QLineEdit* StatykaS::fieldOf(const TypedValue& value) const {
+    switch (value.value) {
+    case Value::TotalN:
+        return Text1_[0];
+    case Value::TotalM1:
+        return Text1_[1];
+    case Value::TotalM2:
+        return Text1_[2];
+    case Value::TotalVx:
+        return Text1_[3];
+    case Value::TotalVy:
+        return Text1_[4];
+    default:
+        return nullptr;
+    }
+}
+
 void StatykaS::addLoad() {
     work([this] { Obciazenie(loads_, form_, this).exec(); });
 }
@@ -82,7 +99,7 @@ void StatykaS::save() {
     readForm();
     Statyka_sch(stan_.obciazenia.Liczba_przyp, this).exec();
     try {
-        saveTotals(stan_, form_.totals(), table_);
+        saveTotals(stan_, form_.totals, table_);
     } catch (const RunTimeError& failure) {
         if (failure.number() != error::Subscript)
             throw;
@@ -99,17 +116,23 @@ void StatykaS::work(const std::function<void()>& core) {
 }
 
 void StatykaS::readForm() {
-    for (std::size_t i = 0; i < Text1_.size(); ++i)
-        form_.Text1[i] = Text1_[i]->text();
+    form_.totals = {Text1_[0]->text(), Text1_[1]->text(), Text1_[2]->text(), Text1_[3]->text(),
+                    Text1_[4]->text()};
     // The line with the focus frame is not chosen by that alone.
     const QModelIndexList chosen = ui_->lstObciazen->selectionModel()->selectedRows();
     form_.selected = chosen.isEmpty() ? -1 : chosen.front().row();
 }
 
 void StatykaS::showForm() {
-    for (std::size_t i = 0; i < Text1_.size(); ++i)
-        if (Text1_[i]->text() != form_.Text1[i])
-            Text1_[i]->setText(form_.Text1[i]);
+    const auto show = [](QLineEdit* field, const QString& total) {
+        if (field->text() != total)
+            field->setText(total);
+    };
+    show(Text1_[0], form_.totals.N);
+    show(Text1_[1], form_.totals.M1);
+    show(Text1_[2], form_.totals.M2);
+    show(Text1_[3], form_.totals.Vx);
+    show(Text1_[4], form_.totals.Vy);
     if (form_.lstObciazen.size() != ui_->lstObciazen->count()) {
         ui_->lstObciazen->clear();
         ui_->lstObciazen->addItems(form_.lstObciazen);

@@ -2,13 +2,13 @@
 
 #include "statics/load_list.h"
 #include "statics/load_scheme.h"
+#include "widgets/field_place.h"
 
 #include <QDialog>
 
 #include <functional>
 #include <memory>
 
-class QLineEdit;
 class QRadioButton;
 
 namespace Ui {
@@ -18,11 +18,15 @@ class StatykaS;
 namespace ferna {
 
 /// The list of loads on the column and their forces at the base.
-class StatykaS : public QDialog {
+class StatykaS : public QDialog, public ValueFields {
+    Q_OBJECT
+
 public:
     /// Opens with an empty list. `loads` outlives the form; `table` takes the totals at the end.
     StatykaS(Stan& stan, Stan_statyki& loads, LoadTable& table, Dialogs& dialogs, QWidget* parent);
     ~StatykaS() override;
+
+    QLineEdit* fieldOf(const TypedValue& value) const override;
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -16,6 +16,8 @@ namespace ferna {
 
 /// Offers a mode of writing and a scheme. It is a face only: nothing of the choice is kept.
 class Statyka_sch : public QDialog {
+    Q_OBJECT
+
 public:
     Statyka_sch(Integer Liczba_przyp, QWidget* parent);
     ~Statyka_sch() override;
