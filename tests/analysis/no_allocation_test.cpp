@@ -1,32 +1,11 @@
 #include "analysis/load_case.h"
 #include "analysis/search.h"
 #include "analysis/solve.h"
+#include "support/allocations.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 
 #include <gtest/gtest.h>
-
-#include <cstdlib>
-
-// The sanitizers have an allocator of their own.
-#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-#define FERNA_COUNTS_ALLOCATIONS 1
-#endif
-
-#ifdef FERNA_COUNTS_ALLOCATIONS
-namespace {
-thread_local long allocations = 0;
-}
-
-extern "C" {
-void* __libc_malloc(std::size_t size);
-// Every allocation of the program comes through here, operator new and the library's too.
-void* malloc(std::size_t size) {
-    ++allocations;
-    return __libc_malloc(size);
-}
-}
-#endif
 
 using namespace ferna;
 using namespace ferna::testing;
