@@ -1,19 +1,11 @@
 #include "app/command_line.h"
-#include "design/configuration.h"
+#include "app/program.h"
 #include "desktop/forms/Help_window.h"
 #include "desktop/forms/damaged_file_box.h"
 #include "desktop/forms/help_key.h"
 #include "desktop/program_folder.h"
-#include "input/forms/Ferna3.h"
-#include "plate/forms/Grub_bla.h"
-#include "protocol/renderer_files.h"
-#include "report/forms/FernaWyn.h"
-#include "report/forms/renderer_wait.h"
 #include "runtime/passing_folder.h"
 #include "runtime/qt_remarks.h"
-#include "selection/forms/Dobor_fer.h"
-#include "widgets/hourglass.h"
-#include "widgets/qt_dialogs.h"
 #include "windows/application.h"
 
 #include <QApplication>
@@ -48,75 +40,6 @@ bool wantsFolderOf(const FolderHolder& holder) {
     box.exec();
     return box.clickedButton() == take;
 }
-
-/// The forms of the program and how one leads to another.
-class Program {
-public:
-    Program(Stan& stan, QString folder)
-        : stan_(stan), folder_(std::move(folder)),
-          input_(stan_, folder_, dialogs_, [this] { openResults(); }) {}
-
-    int run() {
-        input_.load();
-        input_.show();
-        return QApplication::exec();
-    }
-
-private:
-    void openResults() {
-        auto session = std::make_unique<ResultsSession>(
-            stan_, dialogs_, folder_, input_.firstNorm(),
-            [] { return QDateTime::currentDateTime(); }, [this] { return render(); });
-        results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
-        input_.hide();
-        results_->open();
-    }
-
-    RendererReport render() {
-        const Hourglass hourglass;
-        RendererWait wait(results_.get());
-        return runRenderer(
-            folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
-            results_->winId());
-    }
-
-    FernaWyn::Links links() {
-        return {
-            .plateForm =
-                [this](QWidget* parent) {
-                    Grub_bla form(stan_, folder_, dialogs_, parent);
-                    if (form.exec() == QDialog::Accepted)
-                        input_.record().plateWorked(notes::plateFacts(stan_, form.worked(), true));
-                },
-            .anchorForm =
-                [this](QWidget* parent) { Dobor_fer(stan_, folder_, dialogs_, parent).exec(); },
-            .help = [this] { openHelp(folder_, help::Start); },
-            .back = [this] { input_.show(); },
-            .endProgram =
-                [this] {
-                    Zapisz_cfg(stan_, folder_ + QStringLiteral("/Ferna.cfg"),
-                               folder_ + u'/' + wyd::replyFile);
-                    QCoreApplication::exit(0);
-                },
-            .notes = [this](const QString& label) { return notesOn(label); },
-        };
-    }
-
-    QStringList notesOn(const QString& label) {
-        notes::Record& record = input_.record();
-        record.labelled(label);
-        QStringList texts;
-        for (const notes::Note& note : notes::notesOf(record))
-            texts += note.text;
-        return texts;
-    }
-
-    Stan& stan_;
-    QString folder_;
-    QtDialogs dialogs_;
-    Ferna3 input_;
-    std::unique_ptr<FernaWyn> results_;
-};
 
 int runProgram(QApplication& application) {
     const QString folder = enterProgramFolder();

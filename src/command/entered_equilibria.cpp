@@ -28,24 +28,28 @@ Double millimetres(Single cm) {
 
 } // namespace
 
+std::optional<std::vector<equilibrium::Anchor>> enteredAnchors(const Plyta_i_kotwy& plate) {
+    std::vector<equilibrium::Anchor> anchors;
+    for (int i = 1; i <= plate.Liczba_srub; ++i) {
+        const std::optional<Double> area = coreArea(plate.Fi_kotwy(i));
+        if (!area)
+            return std::nullopt;
+        anchors.push_back(
+            {millimetres(plate.X_kotwy(i)), millimetres(plate.Y_kotwy(i)), *area * 100});
+    }
+    return anchors;
+}
+
 std::optional<equilibrium::Base> enteredBase(const Stan& stan, const InputFields& fields) {
     const std::optional<Double> length = number(fields.Text3);
     const std::optional<Double> width = number(fields.Text4);
     const std::optional<Double> n = number(fields.Text2);
     if (!length || !width || !n)
         return std::nullopt;
-    const Plyta_i_kotwy& plate = stan.plyta;
-    std::array<equilibrium::Anchor, equilibrium::mostAnchors> anchors;
-    const auto count = static_cast<std::size_t>(plate.Liczba_srub);
-    for (std::size_t i = 0; i < count; ++i) {
-        const int slot = static_cast<int>(i) + 1;
-        const std::optional<Double> area = coreArea(plate.Fi_kotwy(slot));
-        if (!area)
-            return std::nullopt;
-        anchors.at(i) = {millimetres(plate.X_kotwy(slot)), millimetres(plate.Y_kotwy(slot)),
-                         *area * 100};
-    }
-    const equilibrium::Base base(*length, *width, *n, {anchors.data(), count});
+    const auto anchors = enteredAnchors(stan.plyta);
+    if (!anchors)
+        return std::nullopt;
+    const equilibrium::Base base(*length, *width, *n, *anchors);
     return base.usable() ? std::optional(base) : std::nullopt;
 }
 

@@ -3,6 +3,8 @@
 #include "design/input_fields.h"
 #include "equilibrium/equilibrium.h"
 
+#include <vector>
+
 namespace ferna {
 
 // What an engineer has entered, as the exact equilibrium takes it: plate, anchors, ratio n and
@@ -12,6 +14,9 @@ namespace ferna {
 /// A base as entered. Empty where it has no areas: a diameter off the series, a plate or a ratio n
 /// that is no number, a plate without size, a negative n. No anchors at all is concrete alone.
 std::optional<equilibrium::Base> enteredBase(const Stan& stan, const InputFields& fields);
+
+/// The anchors as entered, areas of their cores. Empty where a diameter is off the series.
+std::optional<std::vector<equilibrium::Anchor>> enteredAnchors(const Plyta_i_kotwy& plate);
 
 /// The loads of case `c`, 1..6, as entered; empty where one of them is no number or no load that
 /// anything could carry (above 1e100).

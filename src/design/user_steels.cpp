@@ -39,8 +39,9 @@ void acceptAnchor(Stan& stan, const AnchorSteelFields& fields) {
     m.Stal_Rm = CSng(fields.Text2[2]);
     if (!(m.Fd_kotwy < m.Stal_Re && m.Stal_Re <= m.Stal_Rm))
         throw Refusal{QStringLiteral("Nieprawidłowe parametry materiału"), SteelField::Text2_0};
-    m.Fd2_kotwy = CSng(0.85 * m.Stal_Re);
-    m.Fv_kotwy = CSng(0.45 * m.Stal_Rm);
+    const AnchorSteel strengths = userStrengths(m);
+    m.Fd2_kotwy = strengths.Fd2_kotwy;
+    m.Fv_kotwy = strengths.Fv_kotwy;
     m.Stal_anulowana = False;
     m.Stal_uzytkownika = true;
 }
@@ -99,6 +100,11 @@ std::optional<SteelField> acceptAnchorSteel(Stan& stan, const AnchorSteelFields&
 std::optional<SteelField> acceptPlateSteel(Stan& stan, const PlateSteelFields& fields,
                                            Dialogs& dialogs) {
     return accepted(dialogs, [&] { acceptPlate(stan, fields); });
+}
+
+AnchorSteel userStrengths(const Materialy& remembered) {
+    return {remembered.Stal_fd, CSng(0.85 * remembered.Stal_Re), CSng(0.45 * remembered.Stal_Rm),
+            ""};
 }
 
 void cancelSteel(Stan& stan) {

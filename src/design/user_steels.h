@@ -1,5 +1,6 @@
 #pragma once
 
+#include "design/material_tables.h"
 #include "design/stan.h"
 #include "runtime/dialogs.h"
 
@@ -35,6 +36,10 @@ std::optional<SteelField> acceptAnchorSteel(Stan& stan, const AnchorSteelFields&
 /// OK of the plate steel dialog, likewise.
 std::optional<SteelField> acceptPlateSteel(Stan& stan, const PlateSteelFields& fields,
                                            Dialogs& dialogs);
+
+/// Strengths of the anchor steel last remembered: fd as given, 0.85 Re for the tensile term of the
+/// interaction, 0.45 Rm in shear. It has no class.
+AnchorSteel userStrengths(const Materialy& remembered);
 
 /// Cancel of either dialog.
 void cancelSteel(Stan& stan);

@@ -68,6 +68,9 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     connectCommand(ui_->cmdOblicz, [this] { calculate(); });
     connectCommand(ui_->cmdKoniec, [this] { leaveProgram(); });
     uwagi_ = std::make_unique<InputNotesBand>(this, ui_->uwagi, stan_, [this] { return fields(); });
+    menus_ = addedMenus(ui_->layout18);
+    connect(this, &Ferna3::entered, this, [this] { uwagi_->renew(); });
+    watchEntries();
 }
 
 Ferna3::~Ferna3() = default;
@@ -121,6 +124,16 @@ QLineEdit* Ferna3::fieldOf(const TypedValue& value) const {
     default:
         return nullptr;
     }
+}
+
+void Ferna3::watchEntries() {
+    for (QLineEdit* field : findChildren<QLineEdit*>())
+        connect(field, &QLineEdit::textChanged, this, &Ferna3::entered);
+    for (QComboBox* list : findChildren<QComboBox*>())
+        connect(list, &QComboBox::currentIndexChanged, this, &Ferna3::entered);
+    for (QRadioButton* option : findChildren<QRadioButton*>())
+        connect(option, &QRadioButton::toggled, this, &Ferna3::entered);
+    connect(ui_->Text9, &QPlainTextEdit::textChanged, this, &Ferna3::entered);
 }
 
 void Ferna3::connectOptions() {

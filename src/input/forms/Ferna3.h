@@ -6,6 +6,7 @@
 #include "input/forms/input_notes_band.h"
 #include "statics/load_list.h"
 #include "statics/load_scheme.h"
+#include "widgets/added_menus.h"
 #include "widgets/field_place.h"
 
 #include <QDialog>
@@ -48,10 +49,17 @@ public:
     /// What the notes of the last calculation go by.
     notes::Record& record() { return uwagi_->record(); }
 
+    /// The menus of what stands beside the task; each is seen once it has an entry.
+    const AddedMenus& menus() const { return menus_; }
+
     /// Esc does nothing here: it must not end the program.
     void reject() override {}
 
     QSize sizeHint() const override;
+
+Q_SIGNALS:
+    /// Something of the task was typed, chosen, added or removed.
+    void entered();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -68,6 +76,7 @@ private:
     void showRow(int r) override;
 
     void collectFields();
+    void watchEntries();
     void connectOptions();
     void connectAnchorCommands();
     void connectCommand(QPushButton* button, const std::function<void()>& handler);
@@ -106,6 +115,7 @@ private:
     Stan_przypadku przypadek_;
     Stan_statyki statyka_;
     std::unique_ptr<Ui::Ferna3> ui_;
+    AddedMenus menus_;
     std::unique_ptr<InputNotesBand> uwagi_;
     std::unique_ptr<Nowa_Sruba> nowaSruba_; ///< hidden, not unloaded, between its uses
     std::array<std::array<QLineEdit*, 5>, MaxCases> loads_{}; ///< by row: N, M1, M2, Vx, Vy

@@ -3,10 +3,7 @@
 #include "widgets/field_place.h"
 #include "widgets/note_band.h"
 
-#include <QComboBox>
-#include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 #include <QTextBlock>
 
 namespace ferna {
@@ -40,21 +37,7 @@ void selectLine(QPlainTextEdit* list, int anchor) {
 
 InputNotesBand::InputNotesBand(QWidget* form, NoteBand* band, const Stan& stan,
                                std::function<InputFields()> fields)
-    : form_(form), band_(band), stan_(stan), fields_(std::move(fields)) {
-    watch();
-}
-
-void InputNotesBand::watch() {
-    const auto renews = [this] { renew(); };
-    for (QLineEdit* field : form_->findChildren<QLineEdit*>())
-        QObject::connect(field, &QLineEdit::textChanged, form_, renews);
-    for (QComboBox* list : form_->findChildren<QComboBox*>())
-        QObject::connect(list, &QComboBox::currentIndexChanged, form_, renews);
-    for (QRadioButton* option : form_->findChildren<QRadioButton*>())
-        QObject::connect(option, &QRadioButton::toggled, form_, renews);
-    for (QPlainTextEdit* anchors : form_->findChildren<QPlainTextEdit*>())
-        QObject::connect(anchors, &QPlainTextEdit::textChanged, form_, renews);
-}
+    : form_(form), band_(band), stan_(stan), fields_(std::move(fields)) {}
 
 notes::Notes InputNotesBand::due() const {
     const notes::Entered now = notes::entered(stan_, fields_());

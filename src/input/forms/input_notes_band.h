@@ -14,7 +14,7 @@ class NoteBand;
 /// calculation without results what is exact. Each note leads to its field.
 class InputNotesBand {
 public:
-    /// `band` is a child of `form`, whose fields and options are watched.
+    /// `band` is a child of `form`.
     InputNotesBand(QWidget* form, NoteBand* band, const Stan& stan,
                    std::function<InputFields()> fields);
 
@@ -30,7 +30,6 @@ public:
     notes::Record& record() { return record_; }
 
 private:
-    void watch();
     notes::Notes due() const;
     void lead(const notes::Note& note);
 

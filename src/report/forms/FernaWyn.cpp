@@ -3,6 +3,7 @@
 #include "report/forms/status_panel.h"
 #include "selection/selection_form.h"
 #include "ui_FernaWyn.h"
+#include "widgets/added_menus.h"
 #include "widgets/environment_stop.h"
 #include "widgets/hourglass.h"
 #include "widgets/notes.h"
@@ -31,6 +32,7 @@ FernaWyn::FernaWyn(Stan& stan, std::unique_ptr<ResultsSession> session, Links li
     ui_->setupUi(this);
     buildStatusBar();
     connectMenu();
+    more_ = growingMenu(QStringLiteral("&Więcej"), ui_->menubar);
     showRtfEntry();
     ui_->Picture1->installEventFilter(this);
     ui_->menubar->installEventFilter(this);

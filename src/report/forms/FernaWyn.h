@@ -9,6 +9,7 @@
 
 class QToolButton;
 class QLabel;
+class QMenu;
 
 namespace Ui {
 class FernaWyn;
@@ -35,6 +36,10 @@ public:
 
     FernaWyn(Stan& stan, std::unique_ptr<ResultsSession> session, Links links);
     ~FernaWyn() override;
+
+    /// The menu "&Więcej" of what stands beside the report; seen once it has an entry.
+    QMenu* moreMenu() const { return more_; }
+    ResultsSession& session() { return *session_; }
 
     /// Shows the form, prepares the report and has it rendered.
     void open();
@@ -66,6 +71,7 @@ private:
     std::unique_ptr<ResultsSession> session_;
     Links links_;
     std::unique_ptr<Ui::FernaWyn> ui_;
+    QMenu* more_ = nullptr;
     QLabel* state_ = nullptr;
     QToolButton* page_ = nullptr;
     QToolButton* project_ = nullptr;

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "input/forms/Ferna3.h"
+#include "report/forms/FernaWyn.h"
+#include "widgets/qt_dialogs.h"
+
+#include <memory>
+
+namespace ferna {
+
+/// The forms of the program and how one leads to another.
+class Program {
+public:
+    /// `folder` is the program folder, the state that of the last task.
+    Program(Stan& stan, QString folder);
+
+    /// Shows the main form and works until the end is asked for. The exit code.
+    int run();
+
+private:
+    void addMenus();
+    void openResults();
+    RendererReport render();
+    FernaWyn::Links links();
+    QStringList notesOn(const QString& label);
+
+    Stan& stan_;
+    QString folder_;
+    QtDialogs dialogs_;
+    Ferna3 input_;
+    std::unique_ptr<FernaWyn> results_;
+};
+
+} // namespace ferna
