@@ -1,6 +1,6 @@
 #include "batch/task_run.h"
 
-#include "batch/field_keys.h"
+#include "task/field_keys.h"
 #include "command/calculation.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
