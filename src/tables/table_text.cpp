@@ -13,7 +13,8 @@ constexpr qsizetype looked = 256; // bytes in which UTF-16 without a mark shows 
 std::optional<QString> converted(QByteArrayView bytes, QStringConverter::Encoding encoding) {
     QStringDecoder decode(encoding);
     QString text = decode(bytes);
-    if (decode.hasError() || text.contains(QChar::Null))
+    const bool halfACharacter = encoding != QStringConverter::Utf8 && bytes.size() % 2 != 0;
+    if (halfACharacter || decode.hasError() || text.contains(QChar::Null))
         return std::nullopt;
     return text;
 }
