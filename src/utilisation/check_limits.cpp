@@ -1,6 +1,7 @@
 #include "utilisation/check_limits.h"
 
 #include "design/material_tables.h"
+#include "design/user_steels.h"
 
 #include <algorithm>
 
