@@ -17,6 +17,7 @@ Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
       input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
     addMenus();
+    view_ = addLiveView(input_, stan_, dialogs_);
 }
 
 int Program::run() {
@@ -31,6 +32,7 @@ void Program::addMenus() {
 }
 
 void Program::openResults() {
+    view_->calculated();
     auto session = std::make_unique<ResultsSession>(
         stan_, dialogs_, folder_, input_.firstNorm(), [] { return QDateTime::currentDateTime(); },
         [this] { return render(); });

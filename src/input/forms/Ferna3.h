@@ -52,6 +52,9 @@ public:
     /// The menus of what stands beside the task; each is seen once it has an entry.
     const AddedMenus& menus() const { return menus_; }
 
+    /// Shows the anchors anew after something beside the form has changed them.
+    void renewAnchors() { showAnchors(); }
+
     /// Esc does nothing here: it must not end the program.
     void reject() override {}
 
