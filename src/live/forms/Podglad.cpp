@@ -291,11 +291,11 @@ void Podglad::copyPicture() {
     PictureOptions options;
     options.greyed = !now_.reason.isEmpty();
     options.reason = now_.reason;
-    auto* const data = new QMimeData;
-    data->setImageData(pictureImage(ui_->rysunek->picture(), options));
-    data->setData(QStringLiteral("image/svg+xml"),
-                  pictureBytes(QStringLiteral(".svg"), ui_->rysunek->picture(), options));
-    QApplication::clipboard()->setMimeData(data);
+    auto* const content = new QMimeData;
+    content->setImageData(pictureImage(ui_->rysunek->picture(), options));
+    content->setData(QStringLiteral("image/svg+xml"),
+                     pictureBytes(QStringLiteral(".svg"), ui_->rysunek->picture(), options));
+    QApplication::clipboard()->setMimeData(content);
 }
 
 } // namespace ferna

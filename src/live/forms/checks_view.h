@@ -21,13 +21,13 @@ public:
     void setChecks(const std::vector<live::CheckRow>& rows, bool greyed);
 
     /// Brings a cell under selection, without telling of it.
-    void select(int caseNumber, live::Check check);
+    void select(int caseNumber, Check check);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return {200, sizeHint().height()}; }
 
 Q_SIGNALS:
-    void checkChosen(int caseNumber, ferna::live::Check check, int anchor);
+    void checkChosen(int caseNumber, ferna::Check check, int anchor);
 
 private:
     void fill(int row, int column, const live::CheckCell& cell, bool greyed);
