@@ -15,7 +15,7 @@ QString nameOf(Check check) {
 QString bearingText(Check check, Double factor) {
     if (check != Check::Concrete || factor < 1)
         return {};
-    return QStringLiteral("wsp. docisku min. ") + Format(factor, u"0.00");
+    return QStringLiteral("wsp. docisku ") + Format(factor, u"0.00");
 }
 
 /// Shear of a case without any, or that friction takes.
@@ -74,8 +74,8 @@ std::vector<CheckRow> checksTable(const LiveValues& values, const ToldChecks& to
 }
 
 QStringList checkNames() {
-    return {QStringLiteral("Beton"), QStringLiteral("Rozciąganie kotwy"),
-            QStringLiteral("Ścinanie"), QStringLiteral("Interakcja")};
+    return {QStringLiteral("Beton"), QStringLiteral("Rozciąganie"), QStringLiteral("Ścinanie"),
+            QStringLiteral("Interakcja")};
 }
 
 } // namespace ferna::live

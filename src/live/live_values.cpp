@@ -3,6 +3,7 @@
 #include "command/entered_equilibria.h"
 #include "design/material_tables.h"
 #include "notes/stress_words.h"
+#include "runtime/format.h"
 #include "runtime/run_time_error.h"
 
 #include <algorithm>
@@ -63,9 +64,9 @@ QString wrongOfCase(const LoadRow<QString>& row, int c) {
     return QStringLiteral("przypadek %1: takiego obciążenia nic nie przeniesie").arg(c);
 }
 
-QString loadsText(const LoadRow<QString>& row) {
+QString loadsText(const equilibrium::Load& load) {
     return QStringLiteral("N = %1 kN, M1 = %2 kNm, M2 = %3 kNm")
-        .arg(row.N.trimmed(), row.M1.trimmed(), row.M2.trimmed());
+        .arg(general(load.N), general(load.M1), general(load.M2));
 }
 
 /// Limits are looked up in tables that a number of concrete may miss.
@@ -99,7 +100,7 @@ bool takeCases(LiveValues& values, const Stan& stan, const InputFields& fields,
         if (limits)
             one.used = utilisation(one.found, *load, {*Vx, *Vy}, *limits, anchors);
         values.cases.push_back(one);
-        values.loads += loadsText(row);
+        values.loads += loadsText(*load);
     }
     return true;
 }

@@ -17,14 +17,16 @@ Theme themeOf(const QWidget* widget) {
 
 } // namespace
 
-QIcon verdictIcon(Verdict verdict, const QWidget* of) {
+QIcon verdictIcon(Verdict verdict, const QWidget* of, bool greyed) {
     const int side = of->fontMetrics().height();
     const qreal ratio = of->devicePixelRatioF();
     QPixmap pixmap((QSizeF(side, side) * ratio).toSize());
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    drawVerdict(painter, QRectF(0, 0, side, side), verdict, verdictColour(verdict, themeOf(of)));
+    drawVerdict(painter, QRectF(0, 0, side, side), verdict,
+                greyed ? of->palette().color(QPalette::Disabled, QPalette::Text)
+                       : verdictColour(verdict, themeOf(of)));
     return pixmap;
 }
 
@@ -34,11 +36,12 @@ ChecksView::ChecksView(QWidget* parent) : QTableWidget(parent) {
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setTabKeyNavigation(false);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    horizontalHeader()->setMinimumSectionSize(80);
+    horizontalHeader()->setMinimumSectionSize(72);
+    horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents); // the longest texts
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int column) {
         if (row < 0 || column < 0 || row >= static_cast<int>(rows_.size()))
@@ -63,7 +66,7 @@ void ChecksView::fill(int row, int column, const CheckCell& cell, bool greyed) {
     entry->setText(lines.join(u'\n'));
     entry->setToolTip(cell.words);
     entry->setData(Qt::AccessibleTextRole, cell.words);
-    entry->setIcon(cell.verdict ? verdictIcon(*cell.verdict, this) : QIcon());
+    entry->setIcon(cell.verdict ? verdictIcon(*cell.verdict, this, greyed) : QIcon());
     const QColor quiet = palette().color(QPalette::Disabled, QPalette::Text);
     entry->setForeground(greyed || !cell.verdict ? quiet
                                                  : verdictColour(*cell.verdict, themeOf(this)));

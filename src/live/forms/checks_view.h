@@ -7,8 +7,9 @@
 
 namespace ferna {
 
-/// The sign of a verdict as an icon, sharp at the scale of a widget's screen.
-QIcon verdictIcon(live::Verdict verdict, const QWidget* of);
+/// The sign of a verdict as an icon, sharp at the scale of a widget's screen; without its colour
+/// where it is greyed.
+QIcon verdictIcon(live::Verdict verdict, const QWidget* of, bool greyed = false);
 
 /// The table of the checks: a row a case, a column a check, each with its sign.
 class ChecksView : public QTableWidget {

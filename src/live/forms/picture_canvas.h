@@ -30,7 +30,7 @@ public:
     live::PictureOptions options() const;
 
     QSize sizeHint() const override { return {480, 400}; }
-    QSize minimumSizeHint() const override { return {320, 260}; }
+    QSize minimumSizeHint() const override { return {420, 260}; }
 
 Q_SIGNALS:
     void anchorChosen(int anchor);

@@ -8,10 +8,7 @@
 
 namespace ferna {
 
-// The form's own layout moves as a whole into a widget of its own; its menus stay above both.
-void SidePlace::makeRoom() {
-    if (row_ != nullptr)
-        return;
+SidePlace::SidePlace(QDialog* form) : form_(form) {
     QLayout* const own = form_->layout();
     QWidget* const menus = own->menuBar();
     own->setMenuBar(nullptr);
@@ -25,14 +22,13 @@ void SidePlace::makeRoom() {
 }
 
 void SidePlace::put(QWidget* panel, int width) {
-    makeRoom();
     panel_ = panel;
-    const QSize before = form_->size();
+    widthAlone_ = form_->width();
     row_->addWidget(panel, 2);
     panel->show();
     const int wide = std::max(width, panel->minimumSizeHint().width());
     const QRect screen = form_->screen()->availableGeometry();
-    form_->resize(std::min(before.width() + wide, screen.width()), before.height());
+    form_->resize(std::min(widthAlone_ + wide, screen.width()), form_->height());
     const int over = form_->frameGeometry().right() - screen.right();
     if (over > 0)
         form_->move(std::max(screen.left(), form_->x() - over), form_->y());
@@ -45,7 +41,7 @@ int SidePlace::take() {
     panel_->setParent(nullptr);
     panel_ = nullptr;
     row_->activate();
-    form_->resize(form_->width() - width, form_->height());
+    form_->resize(widthAlone_, form_->height());
     return width;
 }
 

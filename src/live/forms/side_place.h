@@ -8,11 +8,12 @@ class QDialog;
 
 namespace ferna {
 
-/// A place at the right of a form for a panel: the form grows by the panel and shrinks when it is
-/// taken away. What is on the form stays as it is.
+/// A place at the right of a form for a panel: the form grows by the panel and is as wide as before
+/// when it is taken away. What is on the form stays as it is.
 class SidePlace {
 public:
-    explicit SidePlace(QDialog* form) : form_(form) {}
+    /// The form's own layout moves as a whole into a widget of its own, its menus stay above.
+    explicit SidePlace(QDialog* form);
 
     /// Puts the panel there, so wide, and shows it. The form moves to the left where the screen
     /// ends.
@@ -23,11 +24,10 @@ public:
     bool holds(const QWidget* panel) const { return panel_ == panel && panel != nullptr; }
 
 private:
-    void makeRoom();
-
     QDialog* form_;
-    QBoxLayout* row_ = nullptr; ///< the form's own content and the panel; of the first use
+    QBoxLayout* row_; ///< the form's own content and the panel
     QPointer<QWidget> panel_;
+    int widthAlone_ = 0; ///< of the form without the panel
 };
 
 } // namespace ferna
