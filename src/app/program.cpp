@@ -18,7 +18,7 @@ Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
       input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
     addMenus();
-    addEditing(input_);
+    addEditing(input_, stan_);
 }
 
 int Program::run() {
