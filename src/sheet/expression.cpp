@@ -2,6 +2,8 @@
 
 #include "sheet/quantity.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <cmath>
 #include <limits>

@@ -31,7 +31,7 @@ QByteArray pngOf(const Picture& picture) {
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(dotsPerMm, dotsPerMm);
-    picture.paint(painter);
+    (*picture.painting)(painter);
     painter.end();
     QByteArray bytes;
     QBuffer buffer(&bytes);
@@ -83,7 +83,7 @@ private:
     }
 
     void write(const Picture& picture) {
-        if (!picture.paint)
+        if (!picture.painting)
             return;
         html_ += QStringLiteral("<img alt=\"\" style=\"width:%1mm\" src=\"data:image/png;base64,%2\">\n")
                      .arg(picture.width)

@@ -45,11 +45,10 @@ Picture drawn(const live::PictureValues& values, const Texts& text, double width
     options.letter = letter;
     options.words = wordsOf(text);
     return {width, height,
-            [values, options](QPainter& painter) {
+            std::make_shared<const Painting>([values, options](QPainter& painter) {
                 painter.scale(1 / unitsPerMm, 1 / unitsPerMm);
                 live::drawPicture(painter, values, options);
-            },
-            {}};
+            })};
 }
 
 } // namespace

@@ -73,12 +73,12 @@ struct Table {
     double share = 1; ///< of the width of the page
 };
 
-/// A drawing in mm, origin at its left upper corner, y down.
+/// Draws in mm, origin at the left upper corner, y down.
+using Painting = std::function<void(QPainter& painter)>;
 struct Picture {
-    double width = 0;
+    double width = 0; ///< mm
     double height = 0;
-    std::function<void(QPainter& painter)> paint;
-    Rich caption;
+    std::shared_ptr<const Painting> painting; ///< null: there is nothing to draw
 };
 
 /// Lines to be filled in by hand.

@@ -16,10 +16,9 @@ Picture sketchPicture(const QString& name, double width) {
     reader.setScaledSize(QSizeF(width * dotsPerMm, height * dotsPerMm).toSize());
     const QImage image = reader.read();
     return {width, height,
-            [image, width, height](QPainter& painter) {
+            std::make_shared<const Painting>([image, width, height](QPainter& painter) {
                 painter.drawImage(QRectF(0, 0, width, height), image);
-            },
-            {}};
+            })};
 }
 
 } // namespace ferna::sheet
