@@ -108,7 +108,7 @@ void readCases(ObjectReader& task, Task& out) {
 
 } // namespace
 
-Task readTask(const TaskValue& json) {
+Task readTask(const TaskValue& json, TaskCases cases) {
     Task out;
     ObjectReader task(json, "");
     readOptions(task, out);
@@ -123,7 +123,8 @@ Task readTask(const TaskValue& json) {
     if (task.has("Kotwa"))
         out.anchor = readAnchorTask(task.at("Kotwa"));
     readAnchors(task, out);
-    readCases(task, out);
+    if (cases == TaskCases::Required || task.has("Przypadki"))
+        readCases(task, out);
     task.finish();
     return out;
 }

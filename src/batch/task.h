@@ -24,11 +24,17 @@ struct Task {
     std::optional<AnchorTask> anchor; ///< "Kotwa"
 };
 
+/// What a task must say of its load cases.
+enum class TaskCases {
+    Required, ///< 1 to 6, a column's among them
+    Elsewhere ///< they come from somewhere else: none need be given, those given are checked
+};
+
 /// JSON to a task. Throws TaskError for what the companion refuses: unknown keys, wrong types,
 /// missing keys, list numbers outside their lists, more than 20 anchors or 6 cases, whole numbers
 /// beyond 16 bits. Everything else goes to the calculation as if typed. Numbers become field texts
 /// with the decimal sign of the process.
-Task readTask(const TaskValue& json);
+Task readTask(const TaskValue& json, TaskCases cases = TaskCases::Required);
 
 /// The line (from 1) of a task's text on which the value of a key path stands, 1 where it is not
 /// found.
