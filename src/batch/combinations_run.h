@@ -1,7 +1,7 @@
 #pragma once
 
-#include "batch/task.h"
 #include "combinations/combination.h"
+#include "task/task.h"
 
 #include <functional>
 

@@ -1,10 +1,10 @@
-#include "batch/task.h"
+#include "task/task.h"
 
 #include "design/material_tables.h"
 #include "input/anchor_layout.h"
 #include "runtime/format.h"
 
-namespace ferna::batch {
+namespace ferna {
 
 namespace {
 
@@ -129,4 +129,4 @@ Task readTask(const TaskValue& json, TaskCases cases) {
     return out;
 }
 
-} // namespace ferna::batch
+} // namespace ferna
