@@ -311,6 +311,14 @@ void Ferna3::showRow(int r) {
         field->setVisible(true);
 }
 
+void Ferna3::takeLoads(int rows, const std::function<void()>& fill) {
+    if (rows > stan_.obciazenia.Liczba_przyp) {
+        ui_->Text1->setText(general(rows));
+        leaveText1();
+    }
+    fill();
+}
+
 // With room for a few notes, so that the window does not grow when they come.
 QSize Ferna3::sizeHint() const {
     const int free = ui_->uwagi->isHidden() ? ui_->uwagi->usualHeight() : 0;

@@ -52,6 +52,10 @@ public:
     /// The menus of what stands beside the task; each is seen once it has an entry.
     const AddedMenus& menus() const { return menus_; }
 
+    /// Has texts put into the load table, with at least so many of its rows shown: the number of
+    /// cases follows where it is smaller.
+    void takeLoads(int rows, const std::function<void()>& fill);
+
     /// Esc does nothing here: it must not end the program.
     void reject() override {}
 
