@@ -1,3 +1,4 @@
+#include "batch/combinations_run.h"
 #include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
@@ -68,6 +69,12 @@ std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
 
+/// What is wrong with the text of a task, and where.
+std::string wordsOf(const TaskError& failure, const QString& task, std::string_view text) {
+    return task.toStdString() + ", line " + std::to_string(lineOf(text, failure.path)) + ": "
+           + failure.what();
+}
+
 /// To standard output, or an error where it takes no more: a full disk must not look like success.
 void print(const std::string& text) {
     if (!(std::cout << text << std::flush))
@@ -110,8 +117,7 @@ int runOne(const Options& options, const RunOptions& runOptions) {
         tellNotes(done, namesAreTold);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
-        return refuse(options.task.toStdString() + ", line "
-                      + std::to_string(lineOf(text, failure.path)) + ": " + failure.what());
+        return refuse(wordsOf(failure, options.task, text));
     }
 }
 
@@ -154,6 +160,21 @@ int runLines(const Options& options, const RunOptions& runOptions) {
     return all ? Computed : NotSolved;
 }
 
+int runTable(const Options& options) {
+    const QByteArray bytes = readTaskText(options.task);
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    try {
+        const Task task = readTask(parsed(text), TaskCases::Elsewhere);
+        const CombinationsEnd end = runCombinations(options.combinations, task, print);
+        remark(end.remark);
+        if (!end.trouble.isEmpty())
+            return refuse(end.trouble.toStdString());
+        return end.rows > end.refused ? Computed : NotSolved;
+    } catch (const TaskError& failure) {
+        return refuse(wordsOf(failure, options.task, text));
+    }
+}
+
 bool anyNeedsPictures(const Options& options) {
     return std::any_of(options.reports.begin(), options.reports.end(), needsPictures);
 }
@@ -172,6 +193,8 @@ private:
 int runProgram(const Options& options) {
     if (options.decimalSign)
         setDecimalSign(*options.decimalSign);
+    if (!options.combinations.isEmpty())
+        return runTable(options);
     const QString dataFolder = deliveredDataFolder();
     const std::unique_ptr<Pictures> pictures =
         anyNeedsPictures(options) ? std::make_unique<Pictures>(dataFolder) : nullptr;

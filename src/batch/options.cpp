@@ -72,11 +72,18 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     const QCommandLineOption threads(QStringLiteral("watki"),
                                      QStringLiteral("Threads of a stream, 1 to 256."),
                                      QStringLiteral("N"), QStringLiteral("1"));
+    const QCommandLineOption combinations(
+        QStringLiteral("kombinacje"),
+        QStringLiteral("Answer each row of a table of combinations for the base of the task: how "
+                       "far each check is used, a JSON line a row, then a summary. FILE is text "
+                       "(CSV, tabs, semicolons), .xlsx or .ods; - is standard input."),
+        QStringLiteral("FILE"));
     const QCommandLineOption schema(
         QStringLiteral("schemat"),
         QStringLiteral("Print the JSON schema of a task (zadanie) or of a result (wynik)."),
         QStringLiteral("zadanie|wynik"));
-    parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines, threads, schema});
+    parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines,
+                       combinations, threads, schema});
     parser.addPositionalArgument(QStringLiteral("TASK.json"),
                                  QStringLiteral("The task; - is standard input."));
 
@@ -110,6 +117,13 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                                .arg(file, sheetEndings().join(QStringLiteral(", "))));
     options.result = parser.value(result);
     options.lines = parser.isSet(lines);
+    options.combinations = parser.value(combinations);
+    if (parser.isSet(combinations) && options.combinations.isEmpty())
+        return badCall(QStringLiteral("--kombinacje: expected the name of a file"));
+    if (!options.combinations.isEmpty()
+        && (options.lines || !options.reports.isEmpty() || !options.result.isEmpty()))
+        return badCall(QStringLiteral("--kombinacje writes standard output; it takes no --linie, "
+                                      "--raport or --wynik"));
     bool isNumber = false;
     options.threads = parser.value(threads).toInt(&isNumber);
     if (!isNumber || options.threads < 1 || options.threads > 256)
@@ -129,6 +143,8 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         return badCall(QStringLiteral("--watki goes with --linie"));
     if (tasks.size() != 1)
         return badCall(QStringLiteral("expected one task file (see --help)"));
+    if (tasks.front() == u"-" && options.combinations == u"-")
+        return badCall(QStringLiteral("standard input cannot be both the task and the table"));
     options.task = tasks.front() == u"-" ? QStringLiteral("/dev/stdin") : tasks.front();
     return options;
 }
