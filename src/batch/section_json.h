@@ -1,6 +1,6 @@
 #pragma once
 
-#include "batch/object_reader.h"
+#include "task/object_reader.h"
 #include "runtime/run_time_error.h"
 
 namespace ferna::batch {

@@ -1,10 +1,13 @@
 #include "batch/task_run.h"
 
-#include "batch/field_keys.h"
+#include "batch/anchor_section.h"
+#include "batch/column_section.h"
+#include "batch/plate_section.h"
 #include "command/calculation.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
+#include "task/field_keys.h"
 
 #include <cstdio>
 

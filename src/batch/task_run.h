@@ -2,7 +2,7 @@
 
 #include "analysis/stan_przypadku.h"
 #include "batch/json_writer.h"
-#include "batch/task.h"
+#include "task/task.h"
 #include "command/entered_equilibria.h"
 #include "design/language.h"
 #include "notes/notes.h"

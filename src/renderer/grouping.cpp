@@ -51,6 +51,7 @@ void joinHeadings(std::vector<Group>& groups) {
             continue;
         next.lines.insert(next.lines.begin(), heading.lines.front());
         next.startsParagraph = false;
+        next.emptyLinesAbove = heading.emptyLinesAbove;
         groups.erase(groups.begin() + static_cast<std::ptrdiff_t>(i) - 1);
     }
 }
@@ -83,6 +84,8 @@ public:
             const std::optional<std::size_t> owner = blockBeside(i);
             Group& group = owner ? groups[ofBlock[*owner]] : groups.emplace_back();
             group.startsParagraph = !owner && startsParagraph(i);
+            if (group.lines.empty())
+                group.emptyLinesAbove = emptyLinesAbove(i);
             group.lines.push_back(segment_.lines[i]);
         }
         for (std::size_t i = 0; i < ofBlock.size(); ++i)
@@ -116,6 +119,13 @@ private:
     bool startsParagraph(std::size_t index) const {
         return index == 0 || !segment_.lines[index - 1].leavesInk()
                || segment_.lines[index].y - segment_.lines[index - 1].y > widestLineStep;
+    }
+
+    int emptyLinesAbove(std::size_t index) const {
+        int empty = 0;
+        while (index-- > 0 && !segment_.lines[index].leavesInk())
+            ++empty;
+        return empty;
     }
 
     Segment segment_;

@@ -10,6 +10,7 @@ struct Group {
     std::vector<TextLine> lines; ///< those that leave ink
     std::vector<Block> blocks;
     bool startsParagraph = false; ///< a line with room above it
+    int emptyLinesAbove = 0;      ///< lines without ink right above its first line
 
     /// The uppermost baseline or block edge.
     double top() const;

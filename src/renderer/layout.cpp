@@ -2,7 +2,6 @@
 
 #include "pages/text_measure.h"
 #include "renderer/fitting.h"
-#include "renderer/grouping.h"
 #include "renderer/page_flow.h"
 #include "runtime/run_time_error.h"
 
@@ -60,8 +59,8 @@ std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int fi
     PageFlow flow([&frame, firstPage](int index) { return framed(frame, firstPage + index); });
     for (Segment& segment : body) {
         flow.newPage();
-        for (Group& group : groupsOf(std::move(segment)))
-            flow.place(std::move(group));
+        for (Section& section : sectionsOf(groupsOf(std::move(segment))))
+            flow.place(std::move(section));
     }
     return flow.takePages();
 }

@@ -80,6 +80,55 @@ void PageFlow::newPage() {
         solid_.push_back(frame);
 }
 
+void PageFlow::place(Section section) {
+    while (!takes(section.groups, section.groups.size())) {
+        const bool movesWhole = halfFull() && startsPageFor(section.groups);
+        const std::size_t fitting = movesWhole ? 0 : lastBreakThatFits(section);
+        if (fitting == 0 && pageEmpty_)
+            break; // no better place is left
+        for (std::size_t i = 0; i < fitting; ++i)
+            place(std::move(section.groups[i]));
+        section.dropFirst(fitting);
+        newPage();
+        offset_ = bodyTop - section.groups.front().top();
+    }
+    for (Group& group : section.groups)
+        place(std::move(group));
+}
+
+/// True where the first `count` groups find their place on the present page.
+bool PageFlow::takes(const Groups& groups, std::size_t count) const {
+    PageFlow trial = *this;
+    for (std::size_t i = 0; i < count; ++i)
+        trial.place(groups[i]);
+    return trial.pages_.size() == pages_.size();
+}
+
+/// True where the groups fit together on a page of their own.
+bool PageFlow::startsPageFor(const Groups& groups) const {
+    PageFlow trial = *this;
+    trial.newPage();
+    trial.offset_ = bodyTop - groups.front().top();
+    return trial.takes(groups, groups.size());
+}
+
+/// How many groups stand before the last break up to which the section fits on the page; 0 where
+/// there is no such break.
+std::size_t PageFlow::lastBreakThatFits(const Section& section) const {
+    for (std::size_t count = section.groups.size() - 1; count > 0; --count)
+        if (section.mayBreakBefore(count) && takes(section.groups, count))
+            return count;
+    return 0;
+}
+
+/// True where what stands on the page reaches down to the middle of its body at least.
+bool PageFlow::halfFull() const {
+    constexpr double middle = (bodyTop + noLineFrom) / 2;
+    const auto reaches = [](const QRectF& box) { return box.bottom() >= middle; };
+    return std::any_of(textBoxes_.begin(), textBoxes_.end(), reaches)
+           || std::any_of(solid_.begin(), solid_.end(), reaches);
+}
+
 void PageFlow::place(Group group) {
     const double top = group.top();
     Group moved = group;

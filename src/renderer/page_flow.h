@@ -1,6 +1,6 @@
 #pragma once
 
-#include "renderer/grouping.h"
+#include "renderer/sections.h"
 
 #include <functional>
 
@@ -19,11 +19,19 @@ public:
 
     /// An explicit new page; coordinates count anew from its frame.
     void newPage();
-    /// Groups come in the order of their tops, in the coordinates of the file.
-    void place(Group group);
+    /// Sections come in their order, in the coordinates of the file. One that does not fit starts the
+    /// next page; where that would leave a page less than half full, and where it is longer than a
+    /// page, it is divided at the last of its breaks that fits.
+    void place(Section section);
     std::vector<pages::Page> takePages() { return std::exchange(pages_, {}); }
 
 private:
+    using Groups = std::vector<Group>;
+    void place(Group group);
+    bool takes(const Groups& groups, std::size_t count) const;
+    bool startsPageFor(const Groups& groups) const;
+    std::size_t lastBreakThatFits(const Section& section) const;
+    bool halfFull() const;
     double pushNeeded(const Group& group) const;
     void pushClear(Group& group);
     std::vector<TextLine> takeLinesTooLow(Group& group) const;

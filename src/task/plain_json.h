@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace ferna::batch {
+namespace ferna {
 
 /// Reads JSON as programs write it: without escapes in its texts. Tells `Events` what the library's
 /// reader would tell, several times as fast; what it does not know, and every fault, is left to the
@@ -153,4 +153,4 @@ private:
     Events& events_;
 };
 
-} // namespace ferna::batch
+} // namespace ferna

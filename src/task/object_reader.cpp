@@ -1,4 +1,4 @@
-#include "batch/object_reader.h"
+#include "task/object_reader.h"
 
 #include "runtime/format.h"
 
@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-namespace ferna::batch {
+namespace ferna {
 
 namespace {
 
@@ -161,4 +161,4 @@ const TaskValue& arrayOf(const TaskValue& value, const std::string& path) {
     return value;
 }
 
-} // namespace ferna::batch
+} // namespace ferna

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "batch/task_error.h"
-#include "batch/task_value.h"
+#include "task/task_error.h"
+#include "task/task_value.h"
 #include "runtime/numbers.h"
 
 #include <QString>
@@ -14,7 +14,7 @@
 #include <string>
 #include <string_view>
 
-namespace ferna::batch {
+namespace ferna {
 
 using Json = nlohmann::ordered_json;
 
@@ -87,4 +87,4 @@ const TaskValue& objectOf(const TaskValue& value, const std::string& path);
 /// A value as an array.
 const TaskValue& arrayOf(const TaskValue& value, const std::string& path);
 
-} // namespace ferna::batch
+} // namespace ferna

@@ -1,14 +1,14 @@
-#include "batch/task_value.h"
+#include "task/task_value.h"
 
-#include "batch/object_reader.h"
-#include "batch/plain_json.h"
-#include "batch/task_error.h"
+#include "task/object_reader.h"
+#include "task/plain_json.h"
+#include "task/task_error.h"
 
 #include <array>
 #include <map>
 #include <set>
 
-namespace ferna::batch {
+namespace ferna {
 
 namespace {
 
@@ -207,4 +207,4 @@ TaskDocument parsed(std::string_view text) {
     return again;
 }
 
-} // namespace ferna::batch
+} // namespace ferna

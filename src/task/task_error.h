@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace ferna::batch {
+namespace ferna {
 
 /// A task that the companion refuses before anything is computed: where in the task (a key path
 /// such as "Kotwy[3].fi", empty for the whole text) and what is wrong there.
@@ -15,4 +15,4 @@ struct TaskError : std::runtime_error {
     std::string path;
 };
 
-} // namespace ferna::batch
+} // namespace ferna

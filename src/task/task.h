@@ -1,16 +1,16 @@
 #pragma once
 
-#include "batch/anchor_section.h"
-#include "batch/column_section.h"
-#include "batch/object_reader.h"
-#include "batch/plate_section.h"
+#include "task/anchor_task.h"
+#include "task/column_task.h"
+#include "task/object_reader.h"
+#include "task/plate_task.h"
 #include "design/input_fields.h"
 #include "design/user_steels.h"
 
 #include <string>
 #include <string_view>
 
-namespace ferna::batch {
+namespace ferna {
 
 /// One column base as a task describes it: the state as an engineer would have set it before
 /// pressing "Oblicz", and the fields of the main form as typed.
@@ -34,4 +34,4 @@ Task readTask(const TaskValue& json);
 /// found.
 int lineOf(std::string_view text, const std::string& path);
 
-} // namespace ferna::batch
+} // namespace ferna

@@ -1,10 +1,10 @@
-#include "batch/task.h"
+#include "task/task.h"
 
 #include <iterator>
 #include <set>
 #include <vector>
 
-namespace ferna::batch {
+namespace ferna {
 
 namespace {
 
@@ -128,4 +128,4 @@ int lineOf(std::string_view text, const std::string& path) {
     return found;
 }
 
-} // namespace ferna::batch
+} // namespace ferna

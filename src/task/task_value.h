@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace ferna::batch {
+namespace ferna {
 
 /// A value of a task's JSON. Lives in a `TaskDocument`, its parts right behind it.
 class TaskValue {
@@ -74,4 +74,4 @@ public:
 /// twice in an object. Takes a time that grows as the text does.
 TaskDocument parsed(std::string_view text);
 
-} // namespace ferna::batch
+} // namespace ferna

@@ -4,10 +4,10 @@
 
 #include <string>
 
-namespace ferna::batch {
+namespace ferna {
 
 /// The key of the task under which a value of the input stands (N of row 0 is "Przypadki[0].N");
 /// empty for another value.
 std::string keyOfValue(const TypedValue& value);
 
-} // namespace ferna::batch
+} // namespace ferna

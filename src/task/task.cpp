@@ -1,10 +1,10 @@
-#include "batch/task.h"
+#include "task/task.h"
 
 #include "design/material_tables.h"
 #include "input/anchor_layout.h"
 #include "runtime/format.h"
 
-namespace ferna::batch {
+namespace ferna {
 
 namespace {
 
@@ -128,4 +128,4 @@ Task readTask(const TaskValue& json) {
     return out;
 }
 
-} // namespace ferna::batch
+} // namespace ferna

@@ -1,4 +1,4 @@
-#include "batch/field_keys.h"
+#include "task/field_keys.h"
 #include "support/column_base.h"
 #include "support/run_time_errors.h"
 
@@ -16,7 +16,7 @@ TEST(KeyOfAValue, ATextThatCannotBeTakenLeadsToItsKeyOfTheTask) {
         base.fourAnchors(250, 150).loads(300, 10, 0).loads(200, 5, 0);
         field(base.fields) = QString::fromUtf16(text);
         const auto failure = errorOf([&] { base.calculate(); });
-        return failure ? batch::keyOfValue(failure->value()) : std::string("no error");
+        return failure ? keyOfValue(failure->value()) : std::string("no error");
     };
     using Fields = InputFields;
     using Text = QString&;
@@ -34,9 +34,9 @@ TEST(KeyOfAValue, ATextThatCannotBeTakenLeadsToItsKeyOfTheTask) {
 }
 
 TEST(KeyOfAValue, AValueOfAnotherFormHasNone) {
-    EXPECT_EQ(batch::keyOfValue({}), "");
-    EXPECT_EQ(batch::keyOfValue({Value::TotalN}), "");
-    EXPECT_EQ(batch::keyOfValue({Value::AcceptedThickness}), "");
+    EXPECT_EQ(keyOfValue({}), "");
+    EXPECT_EQ(keyOfValue({Value::TotalN}), "");
+    EXPECT_EQ(keyOfValue({Value::AcceptedThickness}), "");
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-#include "batch/field_keys.h"
+#include "task/field_keys.h"
 
-namespace ferna::batch {
+namespace ferna {
 
 namespace {
 
@@ -35,4 +35,4 @@ std::string keyOfValue(const TypedValue& value) {
     }
 }
 
-} // namespace ferna::batch
+} // namespace ferna
