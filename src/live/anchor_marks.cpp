@@ -15,9 +15,9 @@ enum class Saying { All, Pulls, Numbers };
 /// A label and what it says.
 struct Words {
     Label label;
-    QString first;      ///< the anchor; of a corner its pressure
-    QString second;     ///< its pull
-    qreal filled = 0;   ///< of the bar; 0: no bar
+    QString first;    ///< the anchor; of a corner its pressure
+    QString second;   ///< its pull
+    qreal filled = 0; ///< of the bar; 0: no bar
     bool governs = false;
     bool chosen = false;
 };
@@ -71,7 +71,8 @@ void measure(const Strokes& to, Words& words) {
     const qreal h = to.options.letter;
     const QFontMetricsF bold(to.font(1, true));
     const QFontMetricsF plain(to.font());
-    const qreal width = std::max(bold.horizontalAdvance(words.first), plain.horizontalAdvance(words.second));
+    const qreal width =
+        std::max(bold.horizontalAdvance(words.first), plain.horizontalAdvance(words.second));
     const qreal bar = words.filled > 0 ? (barWidth + edge) * h : 0;
     const qreal lines = words.second.isEmpty() ? 1 : 2;
     words.label.size = {width + bar + 2 * edge * h, lines * line * h + edge * h};
@@ -106,7 +107,9 @@ void drawWords(const Strokes& to, const Words& words) {
     to.painter.drawRoundedRect(place, 0.2 * h, 0.2 * h);
     QRectF lines = place.adjusted(edge * h, edge * h / 2, -edge * h, -edge * h / 2);
     if (words.filled > 0) {
-        drawBar(to, QRectF(lines.left(), lines.top() + 0.1 * h, barWidth * h, lines.height() - 0.2 * h), words.filled);
+        drawBar(to,
+                QRectF(lines.left(), lines.top() + 0.1 * h, barWidth * h, lines.height() - 0.2 * h),
+                words.filled);
         lines.setLeft(lines.left() + (barWidth + edge) * h);
     }
     const bool pulled = words.filled > 0;

@@ -56,13 +56,15 @@ Frame::Frame(const PictureValues& values, const PictureOptions& options)
     const qreal besides = (2 * dimensionRow + axisEnd) * h;
     const QRectF free = room_.adjusted(besides, labelRoom * h, -labelRoom * h, -besides);
     const QRectF mm = extentOf(values);
-    scale_ = std::min(std::max(free.width(), h) / mm.width(), std::max(free.height(), h) / mm.height());
+    scale_ =
+        std::min(std::max(free.width(), h) / mm.width(), std::max(free.height(), h) / mm.height());
     const QPointF middle(mm.center().x(), -mm.center().y());
     origin_ = free.center() - scale_ * middle;
     const QPointF half(values.length / 2 * scale_, values.width / 2 * scale_);
     plate_ = {origin_ - half, origin_ + half};
     extent_ = QRectF(at({mm.left(), mm.bottom()}), at({mm.right(), mm.top()})).united(plate_);
-    along_ = {extent_.left(), extent_.bottom() + axisEnd * h, extent_.width(), 2 * dimensionRow * h};
+    along_ = {extent_.left(), extent_.bottom() + axisEnd * h, extent_.width(),
+              2 * dimensionRow * h};
     up_ = {extent_.left() - besides, extent_.top(), 2 * dimensionRow * h, extent_.height()};
 }
 

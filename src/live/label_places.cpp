@@ -26,10 +26,9 @@ constexpr std::array<QPointF, 12> sides{{{1, -0.4},
 
 QRectF candidate(const Label& label, QPointF side, int ring) {
     const qreal away = label.radius + ring * 0.6 * label.size.height();
-    const QPointF centre =
-        label.of
-        + QPointF(side.x() * (away + label.size.width() / 2),
-                  side.y() * (away + label.size.height() / 2));
+    const QPointF centre = label.of
+                           + QPointF(side.x() * (away + label.size.width() / 2),
+                                     side.y() * (away + label.size.height() / 2));
     return {centre - QPointF(label.size.width() / 2, label.size.height() / 2), label.size};
 }
 

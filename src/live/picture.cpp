@@ -30,7 +30,8 @@ void drawPlateAndAxes(const Strokes& to) {
     to.painter.drawRect(plate);
 }
 
-void drawLine(const Strokes& to, const equilibrium::Segment& line, qreal share, Qt::PenStyle style) {
+void drawLine(const Strokes& to, const equilibrium::Segment& line, qreal share,
+              Qt::PenStyle style) {
     to.pen(to.palette.line, share, style);
     to.painter.drawLine(to.frame.at(line[0]), to.frame.at(line[1]));
 }
@@ -124,7 +125,8 @@ QString verdictOf(const PictureValues& values, const PictureWords& words) {
         return {};
     return values.cases.size() == 1
                ? words.noEquilibrium
-               : words.noEquilibrium + QStringLiteral(" (%1)").arg(tipping.join(QStringLiteral(", ")));
+               : words.noEquilibrium
+                     + QStringLiteral(" (%1)").arg(tipping.join(QStringLiteral(", ")));
 }
 
 void drawTexts(const Strokes& to, const PictureValues& values) {
@@ -154,8 +156,9 @@ void drawReason(const Strokes& to) {
     const QRectF& room = to.frame.room();
     to.painter.setFont(to.font(1.1, true));
     const QRectF most(0, 0, room.width() - 4 * h, room.height() - 2 * h);
-    const QRectF text = QFontMetricsF(to.painter.font())
-                            .boundingRect(most, Qt::AlignCenter | Qt::TextWordWrap, to.options.reason);
+    const QRectF text =
+        QFontMetricsF(to.painter.font())
+            .boundingRect(most, Qt::AlignCenter | Qt::TextWordWrap, to.options.reason);
     QRectF band(0, 0, std::min(text.width(), most.width()) + 2 * h,
                 std::min(text.height(), most.height()) + h);
     band.moveCenter(room.center());
@@ -175,8 +178,8 @@ void drawPicture(QPainter& painter, const PictureValues& values, const PictureOp
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const bool drawable = values.drawable();
-    const Frame frame(drawable ? values : PictureValues{.title = values.title, .length = 1, .width = 1},
-                      options);
+    const Frame frame(
+        drawable ? values : PictureValues{.title = values.title, .length = 1, .width = 1}, options);
     const Strokes to(painter, frame, options);
     painter.fillRect(frame.whole(), to.palette.paper);
     if (options.greyed)

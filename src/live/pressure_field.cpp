@@ -85,8 +85,7 @@ QBrush brushOf(const FieldPiece& piece, const QPolygonF& places, Double largest,
     const QPointF slope(piece.plane.sx / steep, -piece.plane.sy / steep);
     const QPointF start = places[static_cast<qsizetype>(low)];
     const QPointF reach = places[static_cast<qsizetype>(high)] - start;
-    const qreal length =
-        QPointF::dotProduct(reach, slope) / QPointF::dotProduct(slope, slope);
+    const qreal length = QPointF::dotProduct(reach, slope) / QPointF::dotProduct(slope, slope);
     QLinearGradient gradient(start, start + length * slope);
     gradient.setStops(pressureStops(from, to, theme, greyed));
     return gradient;
