@@ -178,8 +178,13 @@ void drawPicture(QPainter& painter, const PictureValues& values, const PictureOp
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const bool drawable = values.drawable();
-    const Frame frame(
-        drawable ? values : PictureValues{.title = values.title, .length = 1, .width = 1}, options);
+    const Frame frame(drawable ? values
+                               : PictureValues{.title = values.title,
+                                               .length = 1,
+                                               .width = 1,
+                                               .anchors = {},
+                                               .cases = {}},
+                      options);
     const Strokes to(painter, frame, options);
     painter.fillRect(frame.whole(), to.palette.paper);
     if (options.greyed)

@@ -113,9 +113,8 @@ PlateTask readPlateTask(const TaskValue& value, const std::string& path) {
     PlateTask task;
     task.path = path;
     task.cmbStalb = object.listNumber("Nr_stali_blachy", 1, userPlateSteel).value_or(0) - 1;
-    task.steel = {object.text("Blacha_nazwa"),
-                  {object.fieldText("Blacha_fd").value_or(zero),
-                   object.wholeFieldText("Blacha_t_max").value_or(zero)}};
+    task.steel = {object.text("Blacha_nazwa"), object.fieldText("Blacha_fd").value_or(zero),
+                  object.wholeFieldText("Blacha_t_max").value_or(zero)};
     if (object.has("Grubosc") && !object.at("Grubosc").isNull())
         task.Grubosc = object.fieldText("Grubosc");
     if (!object.has("Sprawdzenia"))
