@@ -146,7 +146,7 @@ void readTyped(const TaskValue& typed, InputFields& fields) {
 
 } // namespace
 
-Task readTask(const TaskValue& json) {
+Task readTask(const TaskValue& json, TaskCases cases) {
     Task out;
     ObjectReader task(json, "");
     readOptions(task, out);
@@ -163,7 +163,8 @@ Task readTask(const TaskValue& json) {
     if (task.has("Kotwa"))
         out.anchor = readAnchorTask(task.at("Kotwa"));
     readAnchors(task, out);
-    readCases(task, out);
+    if (cases == TaskCases::Required || task.has("Przypadki"))
+        readCases(task, out);
     if (out.column && out.column->inCase > out.stan.obciazenia.Liczba_przyp)
         throw TaskError("Slup_przypadek", {"there is no such case", "nie ma takiego przypadku"});
     if (task.has("Wpisane"))

@@ -14,6 +14,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QPushButton;
 class QRadioButton;
@@ -63,6 +64,16 @@ public:
     /// The menus of what stands beside the task; each is seen once it has an entry.
     const AddedMenus& menus() const { return menus_; }
 
+    /// Has texts put into the load table, with at least so many of its rows shown: the number of
+    /// cases follows where it is smaller.
+    void takeLoads(int rows, const std::function<void()>& fill);
+
+    /// Has the anchors changed, and shows list and drawing anew.
+    void editAnchors(const std::function<void(Plyta_i_kotwy&)>& edit);
+
+    /// The plate as it is drawn; empty where it could not be drawn.
+    const std::optional<Plyta_i_kotwy>& drawnPlate() const { return drawn_; }
+
     /// Esc does nothing here: it must not end the program.
     void reject() override {}
 
@@ -77,6 +88,8 @@ Q_SIGNALS:
     void columnSaved(const Stan_statyki& loads, int loadCase);
     /// "Oblicz" was given and nothing of it has run yet.
     void calculating();
+    /// The list of the anchors or their drawing is shown anew.
+    void anchorsShown();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -137,6 +150,7 @@ private:
     std::unique_ptr<Ui::Ferna3> ui_;
     AddedMenus menus_;
     std::unique_ptr<InputNotesBand> uwagi_;
+    std::optional<Plyta_i_kotwy> drawn_;
     std::unique_ptr<Nowa_Sruba> nowaSruba_; ///< hidden, not unloaded, between its uses
     std::array<std::array<QLineEdit*, 5>, MaxCases> loads_{}; ///< by row: N, M1, M2, Vx, Vy
     std::array<QRadioButton*, 5> Jezyk_{};
