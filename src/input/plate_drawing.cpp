@@ -6,9 +6,17 @@ namespace ferna {
 
 namespace {
 
+Integer scaleBarLength(qreal Hw) {
+    return Hw > 1000 ? 1000 : Hw > 100 ? 100 : 50;
+}
+
+QPointF scaleBarStart(qreal Hw, qreal Hh) {
+    return {-0.94 * Hw, -0.92 * Hh};
+}
+
 void drawScaleBar(PictureBox& picture, qreal Hw, qreal Hh) {
-    const Integer D = Hw > 1000 ? 1000 : Hw > 100 ? 100 : 50;
-    const QPointF start(-0.94 * Hw, -0.92 * Hh);
+    const Integer D = scaleBarLength(Hw);
+    const QPointF start = scaleBarStart(Hw, Hh);
     const QPointF end = start + QPointF(D, 0);
     picture.setWidth(1);
     picture.setFilled(true);
@@ -16,7 +24,12 @@ void drawScaleBar(PictureBox& picture, qreal Hw, qreal Hh) {
     picture.circle(end, 0.02 * Hw);
     picture.setFilled(false);
     picture.line(start, end);
-    picture.text({start.x(), 0.8 * start.y()}, general(D) + QStringLiteral(" mm"));
+}
+
+/// Drawn behind the outline, over which its rim may reach.
+void drawScaleText(PictureBox& picture, qreal Hw, qreal Hh) {
+    const QPointF start = scaleBarStart(Hw, Hh);
+    picture.text({start.x(), 0.8 * start.y()}, general(scaleBarLength(Hw)) + QStringLiteral(" mm"));
 }
 
 void drawAxes(PictureBox& picture, qreal Hw, qreal Hh) {
@@ -72,6 +85,7 @@ void drawPlate(PictureBox& picture, const Plyta_i_kotwy& plate) {
     picture.setScale({-Hw, Hh}, {Hw, -Hh});
     picture.setColour(qb::Black);
     picture.setFillColour(qb::Black);
+    picture.setRim(true);
     drawScaleBar(picture, Hw, Hh);
     drawAxes(picture, Hw, Hh);
     picture.setColour(qb::Black);
@@ -79,6 +93,7 @@ void drawPlate(PictureBox& picture, const Plyta_i_kotwy& plate) {
     const QPointF corner(plate.Dlugosc_plyty * 10.0 / 2, plate.Szerokosc_plyty * 10.0 / 2);
     picture.box(corner, -corner);
     picture.setWidth(1);
+    drawScaleText(picture, Hw, Hh);
     drawAnchors(picture, plate);
 }
 
