@@ -1,8 +1,10 @@
 #include "widgets/small_screen.h"
 
+#include <QApplication>
 #include <QLayout>
 #include <QScreen>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QTabWidget>
@@ -12,16 +14,37 @@ namespace ferna {
 
 namespace {
 
-/// An area without a frame in which a widget is as large as it has to be, or as there is room.
-QScrollArea* areaFor(QWidget* contents) {
-    auto* const area = new QScrollArea;
-    area->setObjectName(QStringLiteral("przewijanie"));
-    area->setWidgetResizable(true);
-    area->setFrameShape(QFrame::NoFrame);
-    area->setFocusPolicy(Qt::NoFocus);
-    area->setWidget(contents);
-    return area;
-}
+/// An area without a frame in which a widget is as large as it has to be, or as there is room. It
+/// would like to show all of it: the toolkit's own area keeps to a few lines.
+class ScrolledContents : public QScrollArea {
+public:
+    explicit ScrolledContents(QWidget* contents) {
+        setObjectName(QStringLiteral("przewijanie"));
+        setWidgetResizable(true);
+        setFrameShape(NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidget(contents);
+        connect(qApp, &QApplication::focusChanged, this,
+                [this](QWidget* /*from*/, QWidget* to) { bringIntoSight(to); });
+    }
+
+    QSize sizeHint() const override {
+        const QSize bars(verticalScrollBar()->sizeHint().width(),
+                         horizontalScrollBar()->sizeHint().height());
+        return widget()->sizeHint().expandedTo(widget()->minimumSize()) + bars;
+    }
+
+private:
+    /// All of a control that gets the focus, where the toolkit shows its cursor alone.
+    void bringIntoSight(const QWidget* control) {
+        constexpr int around = 4; // pixels
+        if (control == nullptr || !widget()->isAncestorOf(control))
+            return;
+        const QRect place(control->mapTo(widget(), QPoint()), control->size());
+        ensureVisible(place.center().x(), place.center().y(), place.width() / 2 + around,
+                      place.height() / 2 + around);
+    }
+};
 
 } // namespace
 
@@ -45,12 +68,14 @@ void letPagesScroll(QTabWidget* tabs) {
         const bool enabled = tabs->isTabEnabled(tab);
         QWidget* const page = tabs->widget(tab);
         tabs->removeTab(tab);
-        tabs->insertTab(tab, areaFor(page), title);
+        tabs->insertTab(tab, new ScrolledContents(page), title);
         page->show();
         tabs->setTabToolTip(tab, tip);
         tabs->setTabEnabled(tab, enabled);
     }
     tabs->setCurrentIndex(front);
+    tabs->updateGeometry();
+    tabs->window()->layout()->activate(); // the least size of the form is smaller now
 }
 
 void letContentsScroll(QWidget* form) {
@@ -61,9 +86,10 @@ void letContentsScroll(QWidget* form) {
     contents->setLayout(layout); // takes it off the form with all that it holds
     auto* const outer = new QVBoxLayout(form);
     outer->setContentsMargins(0, 0, 0, 0);
-    outer->addWidget(areaFor(contents));
+    outer->addWidget(new ScrolledContents(contents));
     outer->setMenuBar(menus);
     form->setMinimumSize(0, 0);
+    outer->activate();
 }
 
 } // namespace ferna
