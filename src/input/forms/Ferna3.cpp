@@ -23,6 +23,7 @@
 #include "widgets/form_tools.h"
 #include "widgets/notes.h"
 #include "widgets/number_field.h"
+#include "widgets/small_screen.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -255,6 +256,8 @@ void Ferna3::load() {
     Rysuj_P3();
     ui_->SSTab1->setCurrentIndex(generalTab);
     keepRoomForEveryTab(ui_->SSTab1);
+    if (needsMoreThan(this, roomOnScreen(this)))
+        letPagesScroll(ui_->SSTab1); // the commands below stay in sight
     centreOnScreen(this);
 }
 
