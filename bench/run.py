@@ -125,7 +125,7 @@ def main():
     sample = os.path.join(ROOT, "data/przyklady/szesc-przypadkow.json")
     rows, spread = benchmarks(os.path.join(build, "bench/ferna_bench"))
     spread = spread[spread.index("cases outside the kern") - 6:].strip()
-    for name in ("report_bench", "results_form_bench"):
+    for name in ("combinations_bench", "report_bench", "results_form_bench"):
         program = os.path.join(build, "bench", name)
         if os.path.exists(program):
             rows += benchmarks(program)[0]

@@ -1,7 +1,7 @@
 #include "app/program.h"
 
-#include "app/combination_entries.h"
 #include "app/editing_entries.h"
+#include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "plate/forms/Grub_bla.h"
@@ -19,7 +19,7 @@ Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
       input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
     addMenus();
-    addEditing(input_);
+    addEditing(input_, stan_);
     combinations_ = new CombinationEntries(stan_, input_); // the form owns it
 }
 

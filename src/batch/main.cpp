@@ -5,6 +5,7 @@
 #include "batch/output_files.h"
 #include "batch/remarks.h"
 #include "batch/report_files.h"
+#include "batch/sheet_files.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
 #include "design/language.h"
@@ -90,7 +91,7 @@ QStringList inputsOf(const Options& options, const QString& dataFolder) {
 
 int runOne(const Options& options, const RunOptions& runOptions) {
     OutputFiles outputs(inputsOf(options, runOptions.dataFolder));
-    for (const QString& file : options.reports + QStringList(options.result))
+    for (const QString& file : options.reports + options.sheets + QStringList(options.result))
         if (!file.isEmpty())
             outputs.claim(file);
     const QByteArray bytes = readTaskText(options.task);
@@ -111,6 +112,8 @@ int runOne(const Options& options, const RunOptions& runOptions) {
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures, outputs));
+        for (const QString& file : options.sheets)
+            writeSheet(done, file);
         tellNotes(done, namesAreTold);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
@@ -220,9 +223,9 @@ constexpr const char* outOfMemory = "out of memory";
     std::_Exit(BadCall);
 }
 
-/// Qt without a screen; its fonts are started only where pictures are drawn.
+/// Qt without a screen; its fonts are started only where something is drawn.
 std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options& options) {
-    if (!anyNeedsPictures(options))
+    if (!anyNeedsPictures(options) && options.sheets.isEmpty())
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     hushMissingRuntimeFolder();

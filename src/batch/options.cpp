@@ -2,6 +2,7 @@
 
 #include "batch/report_files.h"
 #include "batch/schemas.h"
+#include "batch/sheet_files.h"
 
 #include <QCommandLineParser>
 
@@ -55,6 +56,13 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                        "call.")
             .arg(reportEndings().join(QStringLiteral(", "))),
         QStringLiteral("FILE"));
+    const QCommandLineOption sheet(
+        QStringLiteral("arkusz"),
+        QStringLiteral("Write the calculation sheet, its format by the file's ending (%1); may be "
+                       "given several times. Also of a task that is refused or not solved: its "
+                       "sheet stands on the exact equilibrium.")
+            .arg(sheetEndings().join(QStringLiteral(", "))),
+        QStringLiteral("FILE"));
     const QCommandLineOption result(
         QStringLiteral("wynik"), QStringLiteral("Write the result here, not to standard output."),
         QStringLiteral("FILE.json"));
@@ -74,8 +82,8 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         QStringLiteral("schemat"),
         QStringLiteral("Print the JSON schema of a task (zadanie) or of a result (wynik)."),
         QStringLiteral("zadanie|wynik"));
-    parser.addOptions({help, version, catalogue, decimal, report, result, lines, combinations, threads,
-                       schema});
+    parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines,
+                       combinations, threads, schema});
     parser.addPositionalArgument(QStringLiteral("TASK.json"),
                                  QStringLiteral("The task; - is standard input."));
 
@@ -102,6 +110,11 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         if (!isReportFile(file))
             return badCall(QStringLiteral("--raport %1: expected a file ending in %2")
                                .arg(file, reportEndings().join(QStringLiteral(", "))));
+    options.sheets = parser.values(sheet);
+    for (const QString& file : options.sheets)
+        if (!isSheetFile(file))
+            return badCall(QStringLiteral("--arkusz %1: expected a file ending in %2")
+                               .arg(file, sheetEndings().join(QStringLiteral(", "))));
     options.result = parser.value(result);
     options.lines = parser.isSet(lines);
     options.combinations = parser.value(combinations);
@@ -119,10 +132,11 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                 .arg(parser.value(threads)));
     const QStringList tasks = parser.positionalArguments();
     if (options.lines) {
-        if (!tasks.isEmpty() || !options.reports.isEmpty() || !options.result.isEmpty())
+        if (!tasks.isEmpty() || !options.reports.isEmpty() || !options.sheets.isEmpty()
+            || !options.result.isEmpty())
             return badCall(
                 QStringLiteral("--linie reads standard input and writes standard output; "
-                               "it takes no task file, --raport or --wynik"));
+                               "it takes no task file, --raport, --arkusz or --wynik"));
         return options;
     }
     if (parser.isSet(threads))

@@ -15,6 +15,7 @@ struct Options {
     QString catalogue;                ///< --katalog
     std::optional<QChar> decimalSign; ///< --dziesietny; the locale's without it
     QStringList reports;              ///< --raport, in order
+    QStringList sheets;               ///< --arkusz, in order
     QString result;                   ///< --wynik; standard output without it
     bool lines = false;               ///< --linie
     QString combinations;             ///< --kombinacje: a file, or "-" for standard input

@@ -71,8 +71,7 @@ void drawChain(const Row& row, const std::vector<Mark>& marks) {
     for (const Mark& mark : marks)
         row.end(mark.place);
     for (std::size_t i = 1; i < marks.size(); ++i)
-        row.text(marks[i - 1].place, marks[i].place,
-                 millimetres(marks[i].mm - marks[i - 1].mm));
+        row.text(marks[i - 1].place, marks[i].place, millimetres(marks[i].mm - marks[i - 1].mm));
 }
 
 bool fits(const Row& row, const std::vector<Mark>& marks) {

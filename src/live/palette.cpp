@@ -28,24 +28,22 @@ QColor between(QRgb a, QRgb b, Double share) {
 } // namespace
 
 Palette paletteOf(Theme theme, bool greyed) {
-    Palette palette =
-        theme == Theme::Light
-            ? Palette{.paper = QColor(0xff, 0xff, 0xff),
-                      .plate = QColor(0xf1, 0xf2, 0xf4),
-                      .ink = QColor(0x1b, 0x1d, 0x20),
-                      .quiet = QColor(0x5c, 0x62, 0x6b),
-                      .tension = QColor(0xc0, 0x39, 0x06),
-                      .line = QColor(0x1b, 0x1d, 0x20),
-                      .chosen = QColor(0x0b, 0x5c, 0xd6),
-                      .label = QColor(0xff, 0xff, 0xff, 0xdc)}
-            : Palette{.paper = QColor(0x1d, 0x1f, 0x22),
-                      .plate = QColor(0x2e, 0x31, 0x36),
-                      .ink = QColor(0xee, 0xef, 0xf1),
-                      .quiet = QColor(0xa3, 0xaa, 0xb4),
-                      .tension = QColor(0xff, 0x9a, 0x57),
-                      .line = QColor(0xff, 0xff, 0xff),
-                      .chosen = QColor(0x6c, 0xb2, 0xff),
-                      .label = QColor(0x1d, 0x1f, 0x22, 0xdc)};
+    Palette palette = theme == Theme::Light ? Palette{.paper = QColor(0xff, 0xff, 0xff),
+                                                      .plate = QColor(0xf1, 0xf2, 0xf4),
+                                                      .ink = QColor(0x1b, 0x1d, 0x20),
+                                                      .quiet = QColor(0x5c, 0x62, 0x6b),
+                                                      .tension = QColor(0xc0, 0x39, 0x06),
+                                                      .line = QColor(0x1b, 0x1d, 0x20),
+                                                      .chosen = QColor(0x0b, 0x5c, 0xd6),
+                                                      .label = QColor(0xff, 0xff, 0xff, 0xdc)}
+                                            : Palette{.paper = QColor(0x1d, 0x1f, 0x22),
+                                                      .plate = QColor(0x2e, 0x31, 0x36),
+                                                      .ink = QColor(0xee, 0xef, 0xf1),
+                                                      .quiet = QColor(0xa3, 0xaa, 0xb4),
+                                                      .tension = QColor(0xff, 0x9a, 0x57),
+                                                      .line = QColor(0xff, 0xff, 0xff),
+                                                      .chosen = QColor(0x6c, 0xb2, 0xff),
+                                                      .label = QColor(0x1d, 0x1f, 0x22, 0xdc)};
     if (greyed)
         for (QColor* colour : {&palette.tension, &palette.chosen})
             *colour = grey(*colour);

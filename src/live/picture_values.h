@@ -12,8 +12,8 @@ namespace ferna::live {
 
 /// An anchor of the picture.
 struct PictureAnchor {
-    Double x = 0; ///< mm from the centre of the plate, to the right
-    Double y = 0; ///< mm, upwards
+    Double x = 0;     ///< mm from the centre of the plate, to the right
+    Double y = 0;     ///< mm, upwards
     int diameter = 0; ///< nominal, mm
     Double area = 0;  ///< of the core, mm2
 
@@ -30,7 +30,8 @@ struct PictureCase {
 /// What a picture shows: a plate, its anchors, and what one case does to them, or the envelope of
 /// several. A plain value: whoever has these numbers can have the picture.
 struct PictureValues {
-    QString title;    ///< the case, or that it is the envelope
+    QString title;     ///< the case, or that it is the envelope
+    QString loads;     ///< of the case, beside the title; may be empty
     Double length = 0; ///< of the plate along x, mm
     Double width = 0;  ///< along y, mm
     std::vector<PictureAnchor> anchors;

@@ -14,10 +14,11 @@ class LoadTableKeysTest : public MainForm {
 protected:
     void SetUp() override {
         MainForm::SetUp();
-        new LoadTableKeys(form.get());
         show(Obciazenia_);
         ASSERT_EQ(focused(), QStringLiteral("Text6_0"));
     }
+
+    void prepare() override { new LoadTableKeys(form.get()); }
 
     static void onClipboard(const QString& text) { QApplication::clipboard()->setText(text); }
 

@@ -125,23 +125,23 @@ QVariant AnswersModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal || section >= columns)
         return {};
     static const QStringList names{
-        QStringLiteral("Wiersz"),      QStringLiteral("Nazwa"),      QStringLiteral("N, kN"),
-        QStringLiteral("M1, kNm"),     QStringLiteral("M2, kNm"),    QStringLiteral("Vx, kN"),
-        QStringLiteral("Vy, kN"),      QStringLiteral("Beton"),      QStringLiteral("Rozciąganie"),
-        QStringLiteral("Ścinanie"),    QStringLiteral("Interakcja"), QStringLiteral("Największe"),
-        QStringLiteral("Kotwa"),       QStringLiteral("Przyp."),     QStringLiteral("Uwagi")};
-    static const QString tips[] = {
+        QStringLiteral("Wiersz"),   QStringLiteral("Nazwa"),       QStringLiteral("Największe"),
+        QStringLiteral("Beton"),    QStringLiteral("Rozciąganie"), QStringLiteral("Ścinanie"),
+        QStringLiteral("Interakcja"), QStringLiteral("Kotwa"),     QStringLiteral("Przyp."),
+        QStringLiteral("N, kN"),    QStringLiteral("M1, kNm"),     QStringLiteral("M2, kNm"),
+        QStringLiteral("Vx, kN"),   QStringLiteral("Vy, kN"),      QStringLiteral("Uwagi")};
+    static const QStringList tips{
+        QStringLiteral("Największe ze sprawdzeń"),
         QStringLiteral("Największy docisk do podwojonego Rb"),
         QStringLiteral("Największe naprężenie rozciągające kotwy do fd"),
         QStringLiteral("Naprężenie ścinające kotew strefy rozciąganej do fv"),
         QStringLiteral("Rozciąganie i ścinanie kotew razem"),
-        QStringLiteral("Największe ze sprawdzeń"),
         QStringLiteral("Kotwa najbardziej rozciągana"),
         QStringLiteral("Miejsce wśród sześciu wierszy dla tabeli obciążeń")};
     if (role == Qt::DisplayRole)
         return names.at(section);
-    if (role == Qt::ToolTipRole && section >= Concrete && section <= Case)
-        return tips[section - Concrete];
+    if (role == Qt::ToolTipRole && section >= Worst && section <= Case)
+        return tips.at(section - Worst);
     return {};
 }
 

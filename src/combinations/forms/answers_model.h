@@ -9,14 +9,30 @@ namespace ferna {
 /// The combinations of a table with their answers, a row each.
 class AnswersModel : public QAbstractTableModel {
 public:
-    enum Column { Row, Name, N, M1, M2, Vx, Vy, Concrete, Tension, Shear, Interaction, Worst,
-                  Anchor, Case, Remark, columns };
+    enum Column {
+        Row,
+        Name,
+        Worst,
+        Concrete,
+        Tension,
+        Shear,
+        Interaction,
+        Anchor,
+        Case,
+        N,
+        M1,
+        M2,
+        Vx,
+        Vy,
+        Remark,
+        columns
+    };
     /// The role of the number by which a column is sorted.
     static constexpr int sortRole = Qt::UserRole + 2;
 
     explicit AnswersModel(QObject* parent = nullptr) : QAbstractTableModel(parent) {}
 
-    /// The table shown from now on; it outlives the model. `six` are the rows for the load table.
+    /// The table shown from now on, which outlives the model.
     void show(const combinations::AnsweredTable& table);
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -28,9 +28,14 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace ferna {
 
@@ -76,6 +81,7 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
                  showTable();
              }},
             this) {
+    setObjectName(QStringLiteral("Kombinacje"));
     setWindowTitle(title);
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
     setAcceptDrops(true);
@@ -95,7 +101,7 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
     constexpr int pause = 200; // ms
     settle_.setInterval(pause);
     connect(&settle_, &QTimer::timeout, this, [this] { answerAnew(); });
-    resize(1180, 720);
+    resize(QSize(1280, 780).boundedTo(screen()->availableSize()));
     showTable();
 }
 
@@ -169,7 +175,7 @@ QWidget* CombinationsWindow::tableSide() {
     table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     table_->horizontalHeader()->setStretchLastSection(true);
     auto* const bars = new UseBar(table_);
-    for (int column = AnswersModel::Concrete; column <= AnswersModel::Worst; ++column)
+    for (int column = AnswersModel::Worst; column <= AnswersModel::Interaction; ++column)
         table_->setItemDelegateForColumn(column, bars);
     connect(filterText_, &QLineEdit::textChanged, this, [this](const QString& text) {
         filter_->setText(text);

@@ -72,7 +72,7 @@ void GoverningView::show(const combinations::AnsweredTable& table) {
     for (const Check check : allChecks) {
         const std::vector<RowNumber> rows = table.governing(check);
         const Double most = table.choice().envelope(check);
-        QString name = nameOf(check);
+        QString name = combinations::nameOf(check);
         name.front() = name.front().toUpper();
         item(r, 0)->setText(name);
         item(r, 1)->setText(rows.empty() ? QString() : combinations::useText(most));

@@ -79,6 +79,9 @@ void Histogram::drawAxis(QPainter& painter, const QRectF& room) const {
     constexpr int labelled = 5; // every half
     for (int bin = 0; bin < bins; bin += labelled)
         label(room.left() + step * bin, Format(bin / tenths, u"0.0"));
+    painter.drawText(QRectF(room.right() - 80, room.bottom() + 5 + fontMetrics().height(), 80,
+                            fontMetrics().height()),
+                     Qt::AlignRight, QStringLiteral("i więcej"));
     const qreal limit = room.left() + step * tenths;
     painter.setPen(QPen(palette().color(QPalette::Text), 1, Qt::DashLine));
     painter.drawLine(QPointF(limit, room.top() - fontMetrics().height()),

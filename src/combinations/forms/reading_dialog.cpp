@@ -58,6 +58,7 @@ QString columnText(const combinations::Layout& layout, int column) {
 ReadingDialog::ReadingDialog(const combinations::Layout& layout, QList<QStringList> first,
                              const QString& source, QWidget* parent)
     : QDialog(parent), layout_(layout), first_(std::move(first)) {
+    setObjectName(QStringLiteral("Wczytanie_kombinacji"));
     setWindowTitle(QStringLiteral("Wczytywanie kombinacji - %1").arg(source));
     auto* const page = new QVBoxLayout(this);
     page->addWidget(new QLabel(QStringLiteral("Pierwsze wiersze tabeli:")));
@@ -176,6 +177,7 @@ void ReadingDialog::showFile() {
 void ReadingDialog::showRead() {
     const Columns chosen = columns();
     read_->clear();
+    read_->clearSpans();
     read_->setColumnCount(static_cast<int>(combinations::loads.size()) + 1);
     read_->setHorizontalHeaderLabels({QStringLiteral("Nazwa"), QStringLiteral("N, kN"),
                                       QStringLiteral("M1, kNm"), QStringLiteral("M2, kNm"),
@@ -184,7 +186,6 @@ void ReadingDialog::showRead() {
     int refused = 0;
     for (int r = 0; r < first_.size(); ++r) {
         const combinations::ReadRow row = combinations::readRow(first_.at(r), chosen);
-        read_->setSpan(r, 0, 1, 1);
         if (const auto* const refusal = std::get_if<combinations::Refusal>(&row)) {
             ++refused;
             read_->setItem(r, 0, new QTableWidgetItem(refusal->name));
@@ -193,7 +194,6 @@ void ReadingDialog::showRead() {
             read_->setSpan(r, 1, 1, static_cast<int>(combinations::loads.size()));
             continue;
         }
-        read_->setSpan(r, 1, 1, 1);
         const auto& one = std::get<combinations::Combination>(row);
         read_->setItem(r, 0, new QTableWidgetItem(one.name));
         int column = 1;
@@ -203,6 +203,12 @@ void ReadingDialog::showRead() {
             read_->setItem(r, column++, cell);
         }
     }
+    read_->resizeColumnToContents(0);
+    tell(refused, chosen.byLoad.front().column >= 0);
+}
+
+/// What an engineer should look at before the table is taken.
+void ReadingDialog::tell(int refused, bool hasN) {
     QStringList told;
     if (!layout_.doubt.isEmpty())
         told += QStringLiteral("Wybierz kolumny: %1.").arg(layout_.doubt);
@@ -210,7 +216,6 @@ void ReadingDialog::showRead() {
         told += QStringLiteral("Uwaga: %1.").arg(layout_.assumed);
     if (refused > 0)
         told += QStringLiteral("Z pokazanych wierszy odrzucono: %1.").arg(refused);
-    const bool hasN = chosen.byLoad.front().column >= 0;
     if (!hasN)
         told += QStringLiteral("Bez kolumny N nie ma czego liczyć.");
     told_->setText(told.join(u'\n'));

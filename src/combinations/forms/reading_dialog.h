@@ -38,6 +38,7 @@ private:
     QComboBox* columnList(const QString& none, int chosen);
     void showFile();
     void showRead();
+    void tell(int refused, bool hasN);
 
     combinations::Layout layout_;
     QList<QStringList> first_;

@@ -312,10 +312,15 @@ void Ferna3::showRow(int r) {
 }
 
 void Ferna3::takeLoads(int rows, const std::function<void()>& fill) {
-    if (rows > stan_.obciazenia.Liczba_przyp) {
-        ui_->Text1->setText(general(rows));
-        leaveText1();
-    }
+    if (rows > stan_.obciazenia.Liczba_przyp)
+        replaceLoads(rows, fill);
+    else
+        fill();
+}
+
+void Ferna3::replaceLoads(int rows, const std::function<void()>& fill) {
+    ui_->Text1->setText(general(rows));
+    leaveText1();
     fill();
 }
 
@@ -331,6 +336,7 @@ void Ferna3::showEvent(QShowEvent* event) {
         return;
     ui_->txtNr_strony->setText(general(stan_.opcje.Nr_strony));
     ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
+    Q_EMIT anchorsShown(); // a calculation may have moved one
     ui_->SSTab1->setCurrentIndex(generalTab);
     focusFirstField();
 }
@@ -452,6 +458,11 @@ void Ferna3::changeDiameterOf(std::optional<Integer> anchor) {
     showAnchorList();
 }
 
+void Ferna3::editAnchors(const std::function<void(Plyta_i_kotwy&)>& edit) {
+    edit(stan_.plyta);
+    showAnchors();
+}
+
 void Ferna3::showAnchors() {
     showAnchorList();
     Rysuj_P3();
@@ -460,6 +471,7 @@ void Ferna3::showAnchors() {
 void Ferna3::showAnchorList() {
     ui_->Text9->setPlainText(Lista_srub(stan_));
     ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
+    Q_EMIT anchorsShown();
 }
 
 void Ferna3::Rysuj_P3() {
@@ -476,6 +488,8 @@ void Ferna3::showPlate(bool drawn) {
             ferna::drawPlate(picture, plate);
         return picture.image();
     });
+    drawn_ = drawn ? std::optional(stan_.plyta) : std::nullopt;
+    Q_EMIT anchorsShown();
 }
 
 void Ferna3::KGM8(Stan& stan) {

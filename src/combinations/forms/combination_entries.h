@@ -21,6 +21,9 @@ public:
     /// A calculation has ended.
     void calculated();
 
+    /// The window; null before its first opening.
+    CombinationsWindow* window() const { return window_.get(); }
+
 private:
     void put(const CombinationsWindow::Rows& rows);
 

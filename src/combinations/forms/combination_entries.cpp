@@ -1,4 +1,4 @@
-#include "app/combination_entries.h"
+#include "combinations/forms/combination_entries.h"
 
 #include "input/forms/Ferna3.h"
 #include "runtime/format.h"
@@ -38,10 +38,13 @@ void CombinationEntries::open() {
                 .putIntoTable = [this](const CombinationsWindow::Rows& rows) { put(rows); },
                 .saveName =
                     [this](const QString& name) {
+                        SaveSurroundings surroundings;
+                        surroundings.parent = window_.get();
                         return askWhereToSave({.title = QStringLiteral("Eksport kombinacji"),
-                                               .filter = QStringLiteral("CSV (*.csv)"),
-                                               .name = name},
-                                              {.parent = window_.get()});
+                                               .preset = name,
+                                               .extension = QStringLiteral(".csv"),
+                                               .filter = QStringLiteral("CSV (*.csv)|*.csv")},
+                                              surroundings);
                     },
                 .openName =
                     [this] {
@@ -69,7 +72,7 @@ void CombinationEntries::calculated() {
 
 /// The load table takes the rows as if they were typed; rows behind them go.
 void CombinationEntries::put(const CombinationsWindow::Rows& rows) {
-    form_.takeLoads(static_cast<int>(rows.size()), [&] {
+    form_.replaceLoads(static_cast<int>(rows.size()), [&] {
         int r = 0;
         for (const auto& [row, one] : rows) {
             const std::array loads{one.load.N, one.load.M1, one.load.M2, one.shear.Vx, one.shear.Vy};
