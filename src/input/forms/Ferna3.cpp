@@ -372,10 +372,15 @@ void Ferna3::showRow(int r) {
 }
 
 void Ferna3::takeLoads(int rows, const std::function<void()>& fill) {
-    if (rows > stan_.obciazenia.Liczba_przyp) {
-        ui_->Text1->setText(general(rows));
-        leaveText1();
-    }
+    if (rows > stan_.obciazenia.Liczba_przyp)
+        replaceLoads(rows, fill);
+    else
+        fill();
+}
+
+void Ferna3::replaceLoads(int rows, const std::function<void()>& fill) {
+    ui_->Text1->setText(general(rows));
+    leaveText1();
     fill();
 }
 
