@@ -17,6 +17,8 @@ struct Options {
     QStringList reports;              ///< --raport, in order
     QString result;                   ///< --wynik; standard output without it
     bool lines = false;               ///< --linie
+    bool capacity = false;            ///< --nosnosc
+    QString range;                    ///< --dobierz: the file of the range
     int threads = 1;                  ///< --watki
     QString task;                     ///< the task file of a single run; of "-" standard input's
 };

@@ -25,8 +25,8 @@ void Choice::add(RowNumber row, const std::optional<Utilisation>& answer) {
 
 void Choice::rank(const Ranked& candidate) {
     const auto end = worst_.begin() + static_cast<std::ptrdiff_t>(ranked_);
-    const auto place = std::find_if(
-        worst_.begin(), end, [&](const Ranked& other) { return candidate.use > other.use; });
+    const auto place = std::find_if(worst_.begin(), end,
+                                    [&](const Ranked& other) { return candidate.use > other.use; });
     if (place == worst_.end())
         return;
     if (ranked_ < worst_.size())

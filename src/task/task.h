@@ -1,11 +1,11 @@
 #pragma once
 
+#include "design/input_fields.h"
+#include "design/user_steels.h"
 #include "task/anchor_task.h"
 #include "task/column_task.h"
 #include "task/object_reader.h"
 #include "task/plate_task.h"
-#include "design/input_fields.h"
-#include "design/user_steels.h"
 
 #include <string>
 #include <string_view>

@@ -19,7 +19,8 @@ int main(int argc, char** argv) {
     const double ratio = argc > 2 ? QByteArray(argv[2]).toDouble() : 1;
     QDir().mkpath(folder);
     for (const ferna::testing::SamplePicture& sample : ferna::testing::samplePictures()) {
-        const QString file = folder + u'/' + QString::fromLatin1(sample.name) + QStringLiteral(".png");
+        const QString file =
+            folder + u'/' + QString::fromLatin1(sample.name) + QStringLiteral(".png");
         if (!ferna::testing::imageOf(sample.values, sample.options, ratio).save(file)) {
             std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
             return 1;

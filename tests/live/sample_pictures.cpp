@@ -65,7 +65,8 @@ PictureValues valuesOf(const SampleBase& base, int which) {
         values.anchors.push_back({double(x), double(y), fi, area});
         anchors.push_back({double(x), double(y), area});
     }
-    values.title = which == 0 ? QStringLiteral("Obwiednia") : QStringLiteral("Przypadek %1").arg(which);
+    values.title =
+        which == 0 ? QStringLiteral("Obwiednia") : QStringLiteral("Przypadek %1").arg(which);
     const equilibrium::Base exact(base.length, base.width, n, anchors);
     for (int c = 1; c <= static_cast<int>(base.loads.size()); ++c)
         if (which == 0 || which == c) {
@@ -86,16 +87,21 @@ QImage imageOf(const PictureValues& values, const PictureOptions& options, qreal
 }
 
 std::vector<SamplePicture> samplePictures() {
-    const SampleBase four{600, 400, grid(2, 2, 250, 150, 24), {{300, 120, 0}, {300, 40, -35}, {500, 0, 60}}};
+    const SampleBase four{
+        600, 400, grid(2, 2, 250, 150, 24), {{300, 120, 0}, {300, 40, -35}, {500, 0, 60}}};
     const SampleBase tiny{100, 100, grid(2, 2, 35, 35, 12), {{20, 1.2, 0.4}}};
     const SampleBase one{100, 100, {{-30, 0, 12}}, {{10, 0.5, 0}}};
     const SampleBase tinyFull{100, 100, ring(20, 42, 42, 12), {{20, 1.5, 0.6}}};
-    const SampleBase longPlate{2000, 300, grid(10, 2, 950, 110, 30), {{400, 500, 20}, {100, -300, 30}}};
+    const SampleBase longPlate{
+        2000, 300, grid(10, 2, 950, 110, 30), {{400, 500, 20}, {100, -300, 30}}};
     const SampleBase longFew{2000, 300, grid(3, 1, 900, 0, 36), {{400, -400, 0}}};
-    const SampleBase square{700, 700, ring(12, 290, 290, 30), {{500, 220, 130}, {200, -150, 60}, {800, 30, 20}}};
+    const SampleBase square{
+        700, 700, ring(12, 290, 290, 30), {{500, 220, 130}, {200, -150, 60}, {800, 30, 20}}};
     const SampleBase full{900, 700, grid(5, 4, 390, 290, 24), {{300, 260, 180}}};
-    const SampleBase mixed{500, 400, {{-200, 150, 36}, {-200, -150, 36}, {200, 0, 24}, {0, 150, 20}}, {{150, 80, 12}}};
-    const SampleBase off{400, 300, {{-350, 0, 24}, {160, 110, 24}, {160, -110, 24}}, {{100, 45, 0}}};
+    const SampleBase mixed{
+        500, 400, {{-200, 150, 36}, {-200, -150, 36}, {200, 0, 24}, {0, 150, 20}}, {{150, 80, 12}}};
+    const SampleBase off{
+        400, 300, {{-350, 0, 24}, {160, 110, 24}, {160, -110, 24}}, {{100, 45, 0}}};
     const SampleBase whole{600, 400, grid(2, 2, 250, 150, 24), {{900, 20, 10}}};
     const SampleBase even{600, 400, grid(2, 2, 250, 150, 24), {{900, 0, 0}}};
     const SampleBase lifted{600, 400, grid(2, 2, 250, 150, 24), {{-200, 10, 5}}};

@@ -15,12 +15,12 @@ struct SamplePicture {
     live::PictureOptions options;
 };
 
-/// Plates from 100 x 100 to 2000 x 300 mm with 1 to 20 anchors, one case and envelopes, whole plates
-/// in compression, columns that tip over, greyed ones.
+/// Plates from 100 x 100 to 2000 x 300 mm with 1 to 20 anchors, one case and envelopes, whole
+/// plates in compression, columns that tip over, greyed ones.
 std::vector<SamplePicture> samplePictures();
 
-/// The values of a plate, its anchors (x, y, diameter in mm) and its cases (kN, kNm), with n = 8 and
-/// limits of usual materials. `which`: the number of the case, from 1; 0 for the envelope.
+/// The values of a plate, its anchors (x, y, diameter in mm) and its cases (kN, kNm), with n = 8
+/// and limits of usual materials. `which`: the number of the case, from 1; 0 for the envelope.
 struct SampleBase {
     double length;
     double width;
