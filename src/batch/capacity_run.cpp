@@ -125,7 +125,7 @@ Answer capacityAnswer(Task task) {
     const std::optional<Strength> strength = enteredStrength(task.stan, task.fields);
     if (!strength)
         return unansweredFor("the base has no areas or its steel no strength: plate, ratio n, "
-                          "diameters or steel");
+                             "diameters or steel");
     JsonWriter json(JsonWriter::Layout::Indented);
     json.beginObject();
     json.key("Przypadki");

@@ -29,11 +29,11 @@ void readList(ObjectReader& range, const char* key, std::vector<Number>& list, I
         throw TaskError(key, "expected at least one");
     list.clear();
     for (const TaskValue& value : values.parts())
-        list.push_back(integerOf(
-            value, {key, std::to_string(list.size())}, least, most));
+        list.push_back(integerOf(value, {key, std::to_string(list.size())}, least, most));
 }
 
-double readBounded(ObjectReader& object, const char* key, double preset, double least, double most) {
+double readBounded(ObjectReader& object, const char* key, double preset, double least,
+                   double most) {
     const double value = object.number(key, preset);
     if (!(value >= least && value <= most))
         throw TaskError(object.pathOf(key), "expected a number from " + std::to_string(least)
@@ -66,8 +66,9 @@ void refuseWhatIsLeft(const DesignRange& range) {
     if (wrong == RangePart::Layouts)
         throw TaskError("Kotwy", "expected numbers of anchors among 4, 6, 8, 12");
     if (wrong == RangePart::Diameters)
-        throw TaskError("Srednice",
-                        "expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80");
+        throw TaskError(
+            "Srednice",
+            "expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80");
     if (wrong == RangePart::TooMany)
         throw TaskError("", "expected at most " + std::to_string(smallest::mostCandidates)
                                 + " candidates, found "

@@ -72,9 +72,8 @@ Answer smallestAnswer(Task task, const RangeTask& asked) {
     const std::optional<smallest::Task> given = smallest::enteredTask(task.stan, task.fields);
     if (!given)
         return unansweredFor("the loads or the ratio n are no numbers to work with");
-    const smallest::Winners winners =
-        smallest::winners(asked.range, *given, task.stan, task.fields,
-                          static_cast<std::size_t>(asked.count));
+    const smallest::Winners winners = smallest::winners(asked.range, *given, task.stan, task.fields,
+                                                        static_cast<std::size_t>(asked.count));
     JsonWriter json(JsonWriter::Layout::Indented);
     json.beginObject();
     const auto count = [&](const char* key, long value) {

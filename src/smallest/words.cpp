@@ -38,8 +38,9 @@ QString wordsOf(RangePart part) {
     case RangePart::PlateSteel:
         return QStringLiteral("Wybierz stal blachy z listy.");
     case RangePart::Thickness:
-        return QStringLiteral("Najmniejsza grubość blachy musi być od 1 do 100 mm, podlewka od 0 do "
-                              "500 mm.");
+        return QStringLiteral(
+            "Najmniejsza grubość blachy musi być od 1 do 100 mm, podlewka od 0 do "
+            "500 mm.");
     case RangePart::TooMany:
         break;
     }
