@@ -134,7 +134,8 @@ bool needsPictures(const QString& file) {
 }
 
 void deliverPictures(const QString& dataFolder, const QString& folder) {
-    for (const QString& picture : QDir(dataFolder).entryList({QStringLiteral("*.bmp")}))
+    for (const QString& picture :
+         QDir(dataFolder).entryList({QStringLiteral("*.bmp"), QStringLiteral("*.svg")}))
         writeFileWhole(folder + u'/' + picture, readFileWhole(dataFolder + u'/' + picture));
 }
 

@@ -20,6 +20,7 @@ struct Words {
     qreal filled = 0; ///< of the bar; 0: no bar
     bool governs = false;
     bool chosen = false;
+    bool quiet = false;
 };
 
 constexpr qreal line = 1.2; // of the height of a letter
@@ -46,6 +47,11 @@ struct Marks {
     }
 };
 
+QString forceText(Double force) {
+    constexpr Double least = 0.01; // kN
+    return force < least ? u'<' + withUnit(least, "kN") : withUnit(force, "kN");
+}
+
 Words wordsOf(const Marks& marks, std::size_t i, Saying saying) {
     const PictureAnchor& anchor = marks.values.anchors[i];
     const AnchorPull& pull = marks.pulls[i];
@@ -54,13 +60,14 @@ Words wordsOf(const Marks& marks, std::size_t i, Saying saying) {
     words.label.radius = marks.to.frame.radius(anchor) + 0.25 * marks.to.options.letter;
     words.governs = static_cast<int>(i) == marks.governing;
     words.chosen = static_cast<int>(i) + 1 == marks.to.options.chosenAnchor;
+    words.quiet = !(pull.force > 0);
     words.first = QString::number(i + 1);
     if (saying == Saying::All)
         words.first += QStringLiteral(" \u00d8%1").arg(anchor.diameter);
     if (pull.force > 0) {
         words.filled = pull.force / marks.largest;
         if (saying != Saying::Numbers || words.governs || words.chosen)
-            words.second = withUnit(pull.force, "kN");
+            words.second = forceText(pull.force);
         if (saying == Saying::All)
             words.second += marks.ofCase(pull.caseNumber);
     }
@@ -112,9 +119,8 @@ void drawWords(const Strokes& to, const Words& words) {
                 words.filled);
         lines.setLeft(lines.left() + (barWidth + edge) * h);
     }
-    const bool pulled = words.filled > 0;
-    to.painter.setFont(to.font(1, pulled || words.governs));
-    to.pen(pulled || words.label.radius == 0 ? to.palette.ink : to.palette.quiet);
+    to.painter.setFont(to.font(1, !words.quiet));
+    to.pen(words.quiet ? to.palette.quiet : to.palette.ink);
     to.text({lines.left(), lines.top(), lines.width(), line * h}, Qt::AlignLeft | Qt::AlignVCenter,
             words.first);
     if (words.second.isEmpty())
@@ -149,6 +155,14 @@ void drawAnchor(const Marks& marks, std::size_t i) {
     }
 }
 
+/// The side of the square over the corner, of the height of a letter.
+constexpr qreal cornerSide = 0.6;
+
+QRectF cornerMark(const Strokes& to, QPointF corner) {
+    const qreal side = cornerSide * to.options.letter;
+    return {corner - QPointF(side / 2, side / 2), QSizeF(side, side)};
+}
+
 /// A small square over the corner and the pressure there.
 std::optional<Words> drawCorner(const Marks& marks) {
     const std::optional<PressedCorner> most = governingCorner(marks.values);
@@ -159,7 +173,7 @@ std::optional<Words> drawCorner(const Marks& marks) {
     const QPointF corner = to.frame.at(most->corner);
     to.pen(to.palette.ink, 0.12);
     to.painter.setBrush(to.palette.paper);
-    to.painter.drawRect(QRectF(corner.x() - 0.3 * h, corner.y() - 0.3 * h, 0.6 * h, 0.6 * h));
+    to.painter.drawRect(cornerMark(to, corner));
     Words words;
     words.label.of = corner;
     words.label.radius = 0.35 * h;
@@ -182,18 +196,38 @@ std::vector<Words> allWords(const Marks& marks, const std::optional<Words>& corn
     return all;
 }
 
-/// Places the labels; what they cover.
-qreal placed(const Marks& marks, std::vector<Words>& all) {
-    std::vector<Label> labels;
-    for (const Words& words : all)
-        labels.push_back(words.label);
+/// What no label may cover.
+std::vector<QRectF> takenPlaces(const Marks& marks) {
     std::vector<QRectF> taken{marks.to.frame.along(), marks.to.frame.up()};
+    if (const std::optional<PressedCorner> most = governingCorner(marks.values))
+        taken.push_back(cornerMark(marks.to, marks.to.frame.at(most->corner)));
     for (const PictureAnchor& anchor : marks.values.anchors) {
         const qreal r = marks.to.frame.radius(anchor);
         const QPointF centre = marks.to.frame.at({anchor.x, anchor.y});
         taken.emplace_back(centre - QPointF(r, r), QSizeF(2 * r, 2 * r));
     }
-    const qreal covered = placeLabels(labels, marks.to.frame.room(), std::move(taken));
+    return taken;
+}
+
+/// The edges of the plate, which labels rather leave free.
+std::vector<QRectF> edgesOf(const Marks& marks) {
+    const QRectF& plate = marks.to.frame.plate();
+    const qreal pen = 0.3 * marks.to.options.letter;
+    const qreal x = plate.left() - pen / 2;
+    const qreal y = plate.top() - pen / 2;
+    return {{x, y, plate.width() + pen, pen},
+            {x, plate.bottom() - pen / 2, plate.width() + pen, pen},
+            {x, y, pen, plate.height() + pen},
+            {plate.right() - pen / 2, y, pen, plate.height() + pen}};
+}
+
+/// Places the labels; what they cover.
+qreal placed(const Marks& marks, std::vector<Words>& all) {
+    std::vector<Label> labels;
+    for (const Words& words : all)
+        labels.push_back(words.label);
+    const qreal covered =
+        placeLabels(labels, marks.to.frame.room(), takenPlaces(marks), edgesOf(marks));
     for (std::size_t i = 0; i < all.size(); ++i)
         all[i].label.place = labels[i].place;
     return covered;

@@ -12,9 +12,10 @@ constexpr qreal margin = 0.8;
 constexpr qreal titleRow = 2.0;
 constexpr qreal textRow = 1.6;
 constexpr qreal dimensionRow = 1.8;
+constexpr qreal gap = 0.5; // above the legend
 constexpr qreal scaleWidth = 6.0;
-constexpr qreal axisEnd = 1.6;   // beyond the plate, with the axis' letter
-constexpr qreal labelRoom = 2.2; // above the plate and at its right
+constexpr qreal axisEnd = 1.5;   // beyond the plate, with the axis' letter
+constexpr qreal labelRoom = 2.4; // above the plate and at its right
 constexpr qreal leastRadius = 0.25;
 constexpr qreal reach = 0.5; // around what is to be hit
 
@@ -50,6 +51,7 @@ Frame::Frame(const PictureValues& values, const PictureOptions& options)
     foot_ = rowAtTheFoot(!options.words.view.isEmpty());
     legend_ = rowAtTheFoot(true);
     const qreal top = title_.bottom();
+    bottom -= gap * h;
     pressures_ = {inner.right() - scaleWidth * h, top, scaleWidth * h, bottom - top};
     room_ = {inner.left(), top, pressures_.left() - inner.left() - margin * h, bottom - top};
 

@@ -52,32 +52,38 @@ qreal covered(const QRectF& place, const std::vector<QRectF>& taken) {
     return area;
 }
 
-/// Puts one label where it covers least, the nearest of equal places. What it covers.
-qreal placeOne(Label& label, const QRectF& room, const std::vector<QRectF>& taken) {
-    qreal least = -1;
-    for (int ring = 0; ring < rings; ++ring)
+/// Puts one label where it covers least and lies near. What it covers.
+qreal placeOne(Label& label, const QRectF& room, const std::vector<QRectF>& taken,
+               const std::vector<QRectF>& lines) {
+    constexpr qreal coverCost = 100;
+    constexpr qreal distanceCost = 0.15; // a ring, of the square of the label's height
+    const qreal ringCost = distanceCost * label.size.height() * label.size.height();
+    qreal best = -1;
+    qreal hidden = 0;
+    for (int ring = 0; ring < rings && (best < 0 || ring * ringCost < best); ++ring)
         for (const QPointF& side : sides) {
-            const QRectF place = candidate(label, side, ring);
-            if (!room.contains(place) && (ring > 0 || least >= 0))
+            const QRectF wished = candidate(label, side, ring);
+            if (best >= 0 && !room.contains(wished))
                 continue;
-            const QRectF kept = inside(place, room);
-            const qreal area = covered(kept, taken);
-            if (least < 0 || area < least) {
-                least = area;
-                label.place = kept;
+            const QRectF place = inside(wished, room);
+            const qreal hides = covered(place, taken);
+            const qreal cost = coverCost * hides + covered(place, lines) + ring * ringCost;
+            if (best < 0 || cost < best) {
+                best = cost;
+                hidden = hides;
+                label.place = place;
             }
-            if (least == 0)
-                return 0;
         }
-    return least;
+    return hidden;
 }
 
 } // namespace
 
-qreal placeLabels(std::vector<Label>& labels, const QRectF& room, std::vector<QRectF> taken) {
+qreal placeLabels(std::vector<Label>& labels, const QRectF& room, std::vector<QRectF> taken,
+                  const std::vector<QRectF>& lines) {
     qreal all = 0;
     for (Label& label : labels) {
-        all += placeOne(label, room, taken);
+        all += placeOne(label, room, taken, lines);
         taken.push_back(label.place);
     }
     return all;

@@ -17,8 +17,10 @@ struct Label {
 };
 
 /// Gives every label a place inside `room`, as near to what it names as it can lie without covering
-/// another label or anything of `taken`. Labels that no free place is left for cover as little as
-/// they can. Returns what is covered in all, square units: 0 where all are free.
-qreal placeLabels(std::vector<Label>& labels, const QRectF& room, std::vector<QRectF> taken);
+/// another label or anything of `taken`, and rather not over `lines`. Labels that no free place is
+/// left for cover as little as they can. Returns what is covered of `taken` and labels in all,
+/// square units: 0 where all are free.
+qreal placeLabels(std::vector<Label>& labels, const QRectF& room, std::vector<QRectF> taken,
+                  const std::vector<QRectF>& lines);
 
 } // namespace ferna::live

@@ -3,6 +3,7 @@
 #include "live/figures.h"
 #include "live/parts.h"
 #include "live/pressure_field.h"
+#include "live/verdict.h"
 
 #include <algorithm>
 #include <cmath>
@@ -115,36 +116,76 @@ void drawLegend(const Strokes& to, const PictureValues& values) {
     }
 }
 
-/// What stands at the right of the title: that nothing holds the column, where it is so.
-QString verdictOf(const PictureValues& values, const PictureWords& words) {
+/// The check that is used most, and in which case.
+struct Governing {
+    Check check = Check::Concrete;
+    Double utilisation = 0;
+    int caseNumber = 0; ///< 0: nothing was checked
+};
+
+Governing governingCheck(const PictureValues& values) {
+    Governing most;
+    for (const PictureCase& one : values.cases)
+        if (one.used && (most.caseNumber == 0 || one.used->worst() > most.utilisation))
+            most = {one.used->governing(), one.used->worst(), one.number};
+    return most;
+}
+
+/// That nothing holds the column, where it is so.
+QString tippingText(const PictureValues& values, const PictureWords& words) {
     QStringList tipping;
     for (const PictureCase& one : values.cases)
         if (!one.found.exists)
             tipping += words.inCase.arg(one.number);
-    if (tipping.isEmpty())
-        return {};
-    return values.cases.size() == 1
-               ? words.noEquilibrium
-               : words.noEquilibrium
-                     + QStringLiteral(" (%1)").arg(tipping.join(QStringLiteral(", ")));
+    if (tipping.isEmpty() || values.cases.size() == 1)
+        return tipping.isEmpty() ? QString() : words.noEquilibrium;
+    return words.noEquilibrium + QStringLiteral(" (%1)").arg(tipping.join(QStringLiteral(", ")));
+}
+
+/// At the right of the title: how the case stands, with a sign. Returns the width it takes.
+qreal drawVerdictAtTheRight(const Strokes& to, const PictureValues& values) {
+    const qreal h = to.options.letter;
+    const QRectF& title = to.frame.title();
+    QString words = tippingText(values, to.options.words);
+    Verdict verdict = Verdict::Exceeded;
+    if (words.isEmpty()) {
+        const Governing most = governingCheck(values);
+        if (most.caseNumber == 0)
+            return 0;
+        verdict = verdictOf(most.utilisation);
+        words = to.options.words.checks.at(static_cast<std::size_t>(most.check))
+                + QStringLiteral(": ") + utilisationText(most.utilisation);
+        if (values.cases.size() > 1)
+            words += QStringLiteral(" (%1)").arg(to.options.words.inCase.arg(most.caseNumber));
+    }
+    const QColor colour =
+        to.options.greyed ? to.palette.ink : verdictColour(verdict, to.options.theme);
+    to.painter.setFont(to.font(1, true));
+    const qreal width = std::min(QFontMetricsF(to.painter.font()).horizontalAdvance(words) + 1,
+                                 0.75 * title.width());
+    const QRectF text(title.right() - width, title.top(), width, title.height());
+    to.pen(colour);
+    to.fittingText(text, Qt::AlignRight | Qt::AlignVCenter, words);
+    drawVerdict(to.painter,
+                {text.left() - 1.8 * h, title.center().y() - 0.75 * h, 1.5 * h, 1.5 * h}, verdict,
+                colour);
+    return width + 2.5 * h;
 }
 
 void drawTexts(const Strokes& to, const PictureValues& values) {
     const qreal h = to.options.letter;
     const QRectF& title = to.frame.title();
+    const qreal free = title.width() - drawVerdictAtTheRight(to, values);
     to.painter.setFont(to.font(1.2, true));
+    const qreal width = QFontMetricsF(to.painter.font()).horizontalAdvance(values.title) + 1;
     to.pen(to.palette.ink);
-    const QString verdict = verdictOf(values, to.options.words);
-    const qreal share = verdict.isEmpty() ? 1 : 0.4;
-    to.fittingText({title.left(), title.top(), share * title.width() - h, title.height()},
+    to.fittingText({title.left(), title.top(), std::min(width, free), title.height()},
                    Qt::AlignLeft | Qt::AlignVCenter, values.title);
-    to.painter.setFont(to.font(1.1, true));
-    to.pen(to.palette.tension);
-    to.fittingText({title.left() + share * title.width(), title.top(), (1 - share) * title.width(),
-                    title.height()},
-                   Qt::AlignRight | Qt::AlignVCenter, verdict);
     to.painter.setFont(to.font(0.92));
     to.pen(to.palette.quiet);
+    if (const qreal rest = free - width - h; rest > 5 * h)
+        to.fittingText({title.left() + width + h, title.top(), rest, title.height()},
+                       Qt::AlignLeft | Qt::AlignVCenter, values.loads);
     to.fittingText(to.frame.foot(), Qt::AlignLeft | Qt::AlignVCenter, to.options.words.view);
 }
 
@@ -178,13 +219,7 @@ void drawPicture(QPainter& painter, const PictureValues& values, const PictureOp
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     const bool drawable = values.drawable();
-    const Frame frame(drawable ? values
-                               : PictureValues{.title = values.title,
-                                               .length = 1,
-                                               .width = 1,
-                                               .anchors = {},
-                                               .cases = {}},
-                      options);
+    const Frame frame(drawable ? values : PictureValues{{}, {}, 1, 1, {}, {}}, options);
     const Strokes to(painter, frame, options);
     painter.fillRect(frame.whole(), to.palette.paper);
     if (options.greyed)

@@ -5,6 +5,8 @@
 
 #include <QSizeF>
 
+#include <array>
+
 class QPainter;
 
 namespace ferna::live {
@@ -18,6 +20,9 @@ struct PictureWords {
     QString governingCorner = QStringLiteral("największy docisk");
     QString noPressure = QStringLiteral("bez docisku");
     QString noEquilibrium = QStringLiteral("Brak równowagi: słup się przewraca");
+    /// In the order of `Check`.
+    std::array<QString, 4> checks{QStringLiteral("beton"), QStringLiteral("rozciąganie"),
+                                  QStringLiteral("ścinanie"), QStringLiteral("interakcja")};
     QString inCase = QStringLiteral("przyp. %1"); ///< where a value of an envelope comes from
     /// At the foot; empty: no line there.
     QString view = QStringLiteral("Podgląd według dokładnej równowagi. Raport tworzy Oblicz.");

@@ -31,6 +31,7 @@ struct PictureCase {
 /// several. A plain value: whoever has these numbers can have the picture.
 struct PictureValues {
     QString title;     ///< the case, or that it is the envelope
+    QString loads;     ///< of the case, beside the title; may be empty
     Double length = 0; ///< of the plate along x, mm
     Double width = 0;  ///< along y, mm
     std::vector<PictureAnchor> anchors;

@@ -1,6 +1,8 @@
 #include "live/pressure_field.h"
 
+#include <QImage>
 #include <QLinearGradient>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPolygonF>
 
@@ -91,6 +93,77 @@ QBrush brushOf(const FieldPiece& piece, const QPolygonF& places, Double largest,
     return gradient;
 }
 
+/// Draws the field as shapes filled with gradients, for what is scaled later.
+void drawShapes(QPainter& painter, const PictureValues& values, const Frame& frame, Double largest,
+                Theme theme, bool greyed) {
+    constexpr qreal seam = 0.7; // so that the paper does not shine through between two pieces
+    const std::vector<FieldPiece> pieces = fieldPieces(values);
+    painter.setClipRect(frame.plate());
+    for (const FieldPiece& piece : pieces) {
+        QPolygonF places;
+        for (const Point& point : piece.outline)
+            places += frame.at(point);
+        const QBrush brush = brushOf(piece, places, largest, theme, greyed);
+        painter.setPen(pieces.size() > 1 ? QPen(brush, seam) : QPen(Qt::NoPen));
+        painter.setBrush(brush);
+        painter.drawPolygon(places);
+    }
+}
+
+/// The colours of so many shares from 0 to 1.
+std::vector<QRgb> colourTable(Theme theme, bool greyed) {
+    constexpr int last = 2047;
+    std::vector<QRgb> table;
+    for (int i = 0; i <= last; ++i)
+        table.push_back(pressureColour(Double{1} * i / last, theme, greyed).rgb());
+    return table;
+}
+
+/// How much of the pixel from `from` on lies between `low` and `high`.
+qreal coverage(qreal from, qreal low, qreal high) {
+    return std::clamp(std::min(from + 1, high) - std::max(from, low), 0.0, 1.0);
+}
+
+/// Draws the field pixel by pixel: a gradient of the painter is stepped along a line of pixels and
+/// is half a per cent off at the end of a long one.
+void drawPixels(QPainter& painter, const PictureValues& values, const Frame& frame, Double largest,
+                Theme theme, bool greyed) {
+    const QTransform toPixels = painter.deviceTransform();
+    const QTransform fromPixels = toPixels.inverted();
+    const QRectF plate = toPixels.mapRect(frame.plate());
+    const QRect pixels = plate.toAlignedRect();
+    QImage image(pixels.size(), QImage::Format_ARGB32);
+    if (image.isNull())
+        return;
+    image.fill(Qt::transparent);
+    const std::vector<QRgb> table = colourTable(theme, greyed);
+    const auto last = static_cast<Double>(table.size() - 1);
+    // The planes at the middle of the first pixel, and their steps to the next one, in shares.
+    const auto place = [&](qreal x, qreal y) {
+        return frame.mmAt(fromPixels.map(QPointF(pixels.x() + x + 0.5, pixels.y() + y + 0.5)));
+    };
+    const Double stepX = place(1, 0).x - place(0, 0).x;
+    for (int y = 0; y < pixels.height(); ++y) {
+        const Point start = place(0, y);
+        const qreal rows = coverage(pixels.y() + y, plate.top(), plate.bottom());
+        auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < pixels.width(); ++x) {
+            Double pressure = 0;
+            for (const PictureCase& one : values.cases)
+                if (one.found.exists)
+                    pressure =
+                        std::max(pressure, one.found.plane.at({start.x + x * stepX, start.y}));
+            if (!(pressure > 0))
+                continue;
+            const qreal part = rows * coverage(pixels.x() + x, plate.left(), plate.right());
+            const QRgb colour =
+                table[static_cast<std::size_t>(std::min(pressure / largest, 1.0) * last + 0.5)];
+            line[x] = (colour & 0xffffffU) | static_cast<QRgb>(std::lround(255 * part)) << 24U;
+        }
+    }
+    painter.drawImage(fromPixels.mapRect(QRectF(pixels)), image);
+}
+
 } // namespace
 
 std::vector<FieldPiece> fieldPieces(const PictureValues& values) {
@@ -107,17 +180,10 @@ void drawField(QPainter& painter, const PictureValues& values, const Frame& fram
     const std::optional<PressedCorner> most = governingCorner(values);
     if (!most)
         return;
+    const bool onPixels = painter.paintEngine()->type() == QPaintEngine::Raster
+                          && painter.deviceTransform().type() <= QTransform::TxScale;
     painter.save();
-    // Whole pixels, so that no seam shows between two pieces. The lines over the edges are smooth.
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(Qt::NoPen);
-    for (const FieldPiece& piece : fieldPieces(values)) {
-        QPolygonF places;
-        for (const Point& point : piece.outline)
-            places += frame.at(point);
-        painter.setBrush(brushOf(piece, places, most->pressure, theme, greyed));
-        painter.drawPolygon(places);
-    }
+    (onPixels ? drawPixels : drawShapes)(painter, values, frame, most->pressure, theme, greyed);
     painter.restore();
 }
 

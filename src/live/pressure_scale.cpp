@@ -3,6 +3,7 @@
 
 #include <QLinearGradient>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ferna::live {
@@ -18,20 +19,31 @@ Double stepUpTo(Double top, int most) {
     return top;
 }
 
+/// A number with the decimals that the step needs; a very large or small one with an exponent.
+QString withDecimalsOf(Double value, Double step) {
+    constexpr Double written = 1e6;
+    constexpr int most = 6;
+    const int decimals = std::max(0, static_cast<int>(-std::floor(std::log10(step))));
+    if (value >= written || decimals > most)
+        return QString::number(value, 'g', 3).replace(u'.', decimalSign());
+    return Format(value, decimals > 0 ? QStringLiteral("0.").append(QString(decimals, u'0'))
+                                      : QStringLiteral("0"));
+}
+
 void drawNumbers(const Strokes& to, const QRectF& bar, Double top) {
     const qreal h = to.options.letter;
-    const auto number = [&](Double value) {
-        const qreal y = bar.bottom() - bar.height() * value / top;
+    const auto number = [&](Double value, const QString& words) {
+        const qreal y = bar.bottom() - bar.height() * (value / top);
         to.painter.drawLine(QPointF(bar.right(), y), QPointF(bar.right() + 0.3 * h, y));
         to.text({bar.right() + 0.5 * h, y - h, 4 * h, 2 * h}, Qt::AlignLeft | Qt::AlignVCenter,
-                notes::number(value));
+                words);
     };
     const int most = std::max(1, static_cast<int>(bar.height() / (2.2 * h)));
     const Double step = stepUpTo(top, most);
-    number(top);
+    number(top, notes::number(top));
     for (int i = 0; i * step < top && i <= most; ++i)
-        if ((top - i * step) / top * bar.height() > 1.3 * h)
-            number(i * step);
+        if ((1 - i * step / top) * bar.height() > 1.3 * h)
+            number(i * step, withDecimalsOf(i * step, step));
 }
 
 } // namespace
@@ -43,7 +55,8 @@ void drawPressureScale(const Strokes& to, const PictureValues& values) {
     to.painter.setFont(to.font());
     to.pen(to.palette.ink);
     if (!most) {
-        if (!values.cases.empty())
+        if (std::any_of(values.cases.begin(), values.cases.end(),
+                        [](const PictureCase& one) { return one.found.exists; }))
             to.fittingText({room.left(), room.top(), room.width(), 1.6 * h},
                            Qt::AlignRight | Qt::AlignVCenter, to.options.words.noPressure);
         return;

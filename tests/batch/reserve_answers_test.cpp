@@ -127,7 +127,7 @@ TEST_F(ReserveAnswers, AreRefusedWithOneLineThatSaysWhatIsWrong) {
     refused({QStringLiteral("--nosnosc"), QStringLiteral("--dobierz"), good, own}, "do not go together");
     refused({QStringLiteral("--nosnosc"), QStringLiteral("--linie")}, "takes no --linie");
     refused({QStringLiteral("--nosnosc"), QStringLiteral("--raport"), QStringLiteral("x.txt"), own},
-            "takes no --linie or --raport");
+            "takes no --linie, --raport");
     refused({QStringLiteral("--dobierz"), QString(), own}, "--dobierz: expected the name of a file");
     refused({QStringLiteral("--dobierz"), folder.path(QStringLiteral("none.json")), own}, "none.json");
     QByteArray wrong = smallRange;

@@ -67,6 +67,13 @@ PictureValues valuesOf(const SampleBase& base, int which) {
     }
     values.title =
         which == 0 ? QStringLiteral("Obwiednia") : QStringLiteral("Przypadek %1").arg(which);
+    if (which > 0) {
+        const equilibrium::Load& load = base.loads.at(static_cast<std::size_t>(which - 1));
+        values.loads = QStringLiteral("N = %1 kN, M1 = %2 kNm, M2 = %3 kNm")
+                           .arg(load.N)
+                           .arg(load.M1)
+                           .arg(load.M2);
+    }
     const equilibrium::Base exact(base.length, base.width, n, anchors);
     for (int c = 1; c <= static_cast<int>(base.loads.size()); ++c)
         if (which == 0 || which == c) {
@@ -105,7 +112,7 @@ std::vector<SamplePicture> samplePictures() {
     const SampleBase whole{600, 400, grid(2, 2, 250, 150, 24), {{900, 20, 10}}};
     const SampleBase even{600, 400, grid(2, 2, 250, 150, 24), {{900, 0, 0}}};
     const SampleBase lifted{600, 400, grid(2, 2, 250, 150, 24), {{-200, 10, 5}}};
-    const SampleBase falls{600, 400, {{250, 0, 24}}, {{-50, 40, 0}}};
+    const SampleBase falls{600, 400, {}, {{100, 40, 10}}};
     const SampleBase tall{300, 1500, grid(2, 6, 110, 690, 24), {{200, 10, 160}}};
     return {{"four", valuesOf(four, 1), {}},
             {"four-dark", valuesOf(four, 1), dark()},
