@@ -30,7 +30,7 @@ changed_sources() {
         exit 2
     }
     base=$(git merge-base HEAD main 2>/dev/null || git rev-parse HEAD)
-    [[ $base != "$(git rev-parse HEAD)" ]] || base=$(git rev-parse HEAD~1)
+    [[ $base != "$(git rev-parse HEAD)" ]] || base=$(git rev-parse -q --verify HEAD~1 || git rev-parse HEAD)
     { git diff --name-only "$base" -- src; git ls-files --others --exclude-standard -- src; } \
         | sed 's/\.h$/.cpp/' | sort -u
 }

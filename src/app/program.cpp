@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include "app/editing_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "plate/forms/Grub_bla.h"
@@ -17,6 +18,7 @@ Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
       input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
     addMenus();
+    addEditing(input_, stan_);
 }
 
 int Program::run() {

@@ -1,90 +1,8 @@
 #include "batch/column_section.h"
 
-#include "statics/load_scheme.h"
-
 namespace ferna::batch {
 
 namespace {
-
-using Load = ColumnTask::Load;
-
-/// A value of a load and the field of the dialog that it fills.
-struct ValueKey {
-    const char* key;
-    std::optional<QString> Load::*typed;
-};
-
-using ValueKeys = std::vector<ValueKey>;
-
-const ValueKeys verticalValues{{"P", &Load::load}, {"ex", &Load::arm}, {"ey", &Load::secondArm}};
-const ValueKeys forceValues{{"H", &Load::load}, {"h", &Load::arm}};
-const ValueKeys distributedValues{
-    {"p1", &Load::load}, {"p2", &Load::secondLoad}, {"h1", &Load::arm}, {"h2", &Load::secondArm}};
-const ValueKeys momentValues{{"M", &Load::load}};
-
-/// A load with exactly the values of its direction and kind.
-ObjectReader loadObject(const TaskValue& value, const std::string& path, int direction, int kind) {
-    if (direction == 0)
-        return {value, path, {"kierunek", "rodzaj", "P", "ex", "ey"}};
-    if (kind == 0)
-        return {value, path, {"kierunek", "rodzaj", "H", "h"}};
-    if (kind == 1)
-        return {value, path, {"kierunek", "rodzaj", "p1", "p2", "h1", "h2"}};
-    return {value, path, {"kierunek", "rodzaj", "M"}};
-}
-
-const ValueKeys& valuesOf(int direction, int kind) {
-    if (direction == 0)
-        return verticalValues;
-    return kind == 0 ? forceValues : kind == 1 ? distributedValues : momentValues;
-}
-
-Load readLoad(const TaskValue& value, const std::string& path) {
-    ObjectReader any(
-        value, path,
-        {"kierunek", "rodzaj", "P", "ex", "ey", "H", "h", "p1", "p2", "h1", "h2", "M"});
-    const std::string direction = any.oneOf("kierunek", {"pionowe", "ZX", "ZY"});
-    Load load{};
-    load.optTypObciaz = direction == "pionowe" ? 0 : direction == "ZX" ? 1 : 2;
-    // A vertical load is always a force: the form hides the other kinds.
-    const std::string kind = load.optTypObciaz == 0
-                                 ? any.oneOf("rodzaj", {"sila"})
-                                 : any.oneOf("rodzaj", {"sila", "ciagle", "moment"});
-    load.optTypsily = kind == "sila" ? 0 : kind == "ciagle" ? 1 : 2;
-    ObjectReader object = loadObject(value, path, load.optTypObciaz, load.optTypsily);
-    for (const ValueKey& key : valuesOf(load.optTypObciaz, load.optTypsily))
-        load.*key.typed = object.fieldText(key.key);
-    return load;
-}
-
-void declare(const Load& load, Stan_statyki& loads, StaticsForm& form) {
-    chooseDirection(form, load.optTypObciaz);
-    chooseKind(form, load.optTypsily);
-    LoadDialog dialog = openLoadDialog(form);
-    const auto type = [](LoadDialog::Field& field, const std::optional<QString>& typed) {
-        field.text = typed.value_or(field.text);
-    };
-    type(dialog.load, load.load);
-    type(dialog.secondLoad, load.secondLoad);
-    type(dialog.arm, load.arm);
-    type(dialog.secondArm, load.secondArm);
-    acceptLoad(loads, form, dialog);
-}
-
-/// The load table as the fields of a task.
-class FieldTable : public LoadTable {
-public:
-    explicit FieldTable(InputFields& fields) : fields_(fields) {}
-
-    void setCount(const QString& /*text*/) override {}
-    void setRow(int r, const LoadRow<QString>& texts) override {
-        fields_.loads.at(static_cast<std::size_t>(r)) = texts;
-    }
-    void showRow(int /*r*/) override {}
-
-private:
-    InputFields& fields_;
-};
 
 Json resultJson(const StaticsForm& form) {
     Json list = Json::array();
@@ -102,34 +20,9 @@ Json resultJson(const StaticsForm& form) {
 
 } // namespace
 
-ColumnTask readColumnTask(const TaskValue& value, const std::string& path) {
-    if (!value.isArray())
-        throw TaskError(path, "expected an array of loads");
-    ColumnTask task;
-    task.path = path;
-    for (const TaskValue& part : value.parts())
-        task.loads.push_back(readLoad(part, path + '[' + std::to_string(task.loads.size()) + ']'));
-    return task;
-}
-
 SectionResult runColumnTask(const ColumnTask& task, Stan& stan, InputFields& fields) {
-    Stan_statyki loads;
-    StaticsForm form = openStatics(loads);
-    FieldTable table(fields);
-    SectionResult result;
-    std::string at; // what is being done
-    try {
-        for (std::size_t i = 0; i < task.loads.size(); ++i) {
-            at = task.path + '[' + std::to_string(i) + ']';
-            declare(task.loads[i], loads, form);
-        }
-        at = task.path;
-        saveTotals(stan, form.totals, table);
-    } catch (const RunTimeError& failure) {
-        result.Blad = errorJson(failure.of(at));
-    }
-    result.value = resultJson(form);
-    return result;
+    const DeclaredLoads done = declareLoads(task, stan, fields);
+    return {resultJson(done.form), done.failure ? errorJson(*done.failure) : Json()};
 }
 
 } // namespace ferna::batch

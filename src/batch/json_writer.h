@@ -1,10 +1,11 @@
 #pragma once
 
-#include "batch/object_reader.h"
+#include "task/object_reader.h"
 
 #include <QString>
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -68,7 +69,7 @@ public:
 
     void null() { word("null"); }
     void boolean(bool value) { word(value ? "true" : "false"); }
-    void whole(int value);
+    void whole(std::int64_t value);
     void number(Double value);
     /// The shortest decimal that reads back to the same Single.
     void single(Single value);

@@ -1,9 +1,11 @@
+#include "batch/combinations_run.h"
 #include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/output_files.h"
 #include "batch/remarks.h"
 #include "batch/report_files.h"
+#include "batch/sheet_files.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
 #include "design/language.h"
@@ -67,6 +69,12 @@ std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
 
+/// What is wrong with the text of a task, and where.
+std::string wordsOf(const TaskError& failure, const QString& task, std::string_view text) {
+    return task.toStdString() + ", line " + std::to_string(lineOf(text, failure.path)) + ": "
+           + failure.what();
+}
+
 /// To standard output, or an error where it takes no more: a full disk must not look like success.
 void print(const std::string& text) {
     if (!(std::cout << text << std::flush))
@@ -83,7 +91,7 @@ QStringList inputsOf(const Options& options, const QString& dataFolder) {
 
 int runOne(const Options& options, const RunOptions& runOptions) {
     OutputFiles outputs(inputsOf(options, runOptions.dataFolder));
-    for (const QString& file : options.reports + QStringList(options.result))
+    for (const QString& file : options.reports + options.sheets + QStringList(options.result))
         if (!file.isEmpty())
             outputs.claim(file);
     const QByteArray bytes = readTaskText(options.task);
@@ -104,11 +112,12 @@ int runOne(const Options& options, const RunOptions& runOptions) {
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures, outputs));
+        for (const QString& file : options.sheets)
+            writeSheet(done, file);
         tellNotes(done, namesAreTold);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
-        return refuse(options.task.toStdString() + ", line "
-                      + std::to_string(lineOf(text, failure.path)) + ": " + failure.what());
+        return refuse(wordsOf(failure, options.task, text));
     }
 }
 
@@ -151,6 +160,21 @@ int runLines(const Options& options, const RunOptions& runOptions) {
     return all ? Computed : NotSolved;
 }
 
+int runTable(const Options& options) {
+    const QByteArray bytes = readTaskText(options.task);
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    try {
+        const Task task = readTask(parsed(text), TaskCases::Elsewhere);
+        const CombinationsEnd end = runCombinations(options.combinations, task, print);
+        remark(end.remark);
+        if (!end.trouble.isEmpty())
+            return refuse(end.trouble.toStdString());
+        return end.rows > end.refused ? Computed : NotSolved;
+    } catch (const TaskError& failure) {
+        return refuse(wordsOf(failure, options.task, text));
+    }
+}
+
 bool anyNeedsPictures(const Options& options) {
     return std::any_of(options.reports.begin(), options.reports.end(), needsPictures);
 }
@@ -169,6 +193,8 @@ private:
 int runProgram(const Options& options) {
     if (options.decimalSign)
         setDecimalSign(*options.decimalSign);
+    if (!options.combinations.isEmpty())
+        return runTable(options);
     const QString dataFolder = deliveredDataFolder();
     const std::unique_ptr<Pictures> pictures =
         anyNeedsPictures(options) ? std::make_unique<Pictures>(dataFolder) : nullptr;
@@ -197,9 +223,9 @@ constexpr const char* outOfMemory = "out of memory";
     std::_Exit(BadCall);
 }
 
-/// Qt without a screen; its fonts are started only where pictures are drawn.
+/// Qt without a screen; its fonts are started only where something is drawn.
 std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options& options) {
-    if (!anyNeedsPictures(options))
+    if (!anyNeedsPictures(options) && options.sheets.isEmpty())
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     hushMissingRuntimeFolder();

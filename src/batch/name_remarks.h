@@ -1,6 +1,6 @@
 #pragma once
 
-#include "batch/task.h"
+#include "task/task.h"
 
 #include <QStringList>
 

@@ -2,6 +2,7 @@
 
 #include "batch/report_files.h"
 #include "batch/schemas.h"
+#include "batch/sheet_files.h"
 
 #include <QCommandLineParser>
 
@@ -55,6 +56,13 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                        "call.")
             .arg(reportEndings().join(QStringLiteral(", "))),
         QStringLiteral("FILE"));
+    const QCommandLineOption sheet(
+        QStringLiteral("arkusz"),
+        QStringLiteral("Write the calculation sheet, its format by the file's ending (%1); may be "
+                       "given several times. Also of a task that is refused or not solved: its "
+                       "sheet stands on the exact equilibrium.")
+            .arg(sheetEndings().join(QStringLiteral(", "))),
+        QStringLiteral("FILE"));
     const QCommandLineOption result(
         QStringLiteral("wynik"), QStringLiteral("Write the result here, not to standard output."),
         QStringLiteral("FILE.json"));
@@ -64,11 +72,18 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     const QCommandLineOption threads(QStringLiteral("watki"),
                                      QStringLiteral("Threads of a stream, 1 to 256."),
                                      QStringLiteral("N"), QStringLiteral("1"));
+    const QCommandLineOption combinations(
+        QStringLiteral("kombinacje"),
+        QStringLiteral("Answer each row of a table of combinations for the base of the task: how "
+                       "far each check is used, a JSON line a row, then a summary. FILE is text "
+                       "(CSV, tabs, semicolons), .xlsx or .ods; - is standard input."),
+        QStringLiteral("FILE"));
     const QCommandLineOption schema(
         QStringLiteral("schemat"),
         QStringLiteral("Print the JSON schema of a task (zadanie) or of a result (wynik)."),
         QStringLiteral("zadanie|wynik"));
-    parser.addOptions({help, version, catalogue, decimal, report, result, lines, threads, schema});
+    parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines,
+                       combinations, threads, schema});
     parser.addPositionalArgument(QStringLiteral("TASK.json"),
                                  QStringLiteral("The task; - is standard input."));
 
@@ -95,8 +110,20 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         if (!isReportFile(file))
             return badCall(QStringLiteral("--raport %1: expected a file ending in %2")
                                .arg(file, reportEndings().join(QStringLiteral(", "))));
+    options.sheets = parser.values(sheet);
+    for (const QString& file : options.sheets)
+        if (!isSheetFile(file))
+            return badCall(QStringLiteral("--arkusz %1: expected a file ending in %2")
+                               .arg(file, sheetEndings().join(QStringLiteral(", "))));
     options.result = parser.value(result);
     options.lines = parser.isSet(lines);
+    options.combinations = parser.value(combinations);
+    if (parser.isSet(combinations) && options.combinations.isEmpty())
+        return badCall(QStringLiteral("--kombinacje: expected the name of a file"));
+    if (!options.combinations.isEmpty()
+        && (options.lines || !options.reports.isEmpty() || !options.result.isEmpty()))
+        return badCall(QStringLiteral("--kombinacje writes standard output; it takes no --linie, "
+                                      "--raport or --wynik"));
     bool isNumber = false;
     options.threads = parser.value(threads).toInt(&isNumber);
     if (!isNumber || options.threads < 1 || options.threads > 256)
@@ -105,16 +132,19 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                 .arg(parser.value(threads)));
     const QStringList tasks = parser.positionalArguments();
     if (options.lines) {
-        if (!tasks.isEmpty() || !options.reports.isEmpty() || !options.result.isEmpty())
+        if (!tasks.isEmpty() || !options.reports.isEmpty() || !options.sheets.isEmpty()
+            || !options.result.isEmpty())
             return badCall(
                 QStringLiteral("--linie reads standard input and writes standard output; "
-                               "it takes no task file, --raport or --wynik"));
+                               "it takes no task file, --raport, --arkusz or --wynik"));
         return options;
     }
     if (parser.isSet(threads))
         return badCall(QStringLiteral("--watki goes with --linie"));
     if (tasks.size() != 1)
         return badCall(QStringLiteral("expected one task file (see --help)"));
+    if (tasks.front() == u"-" && options.combinations == u"-")
+        return badCall(QStringLiteral("standard input cannot be both the task and the table"));
     options.task = tasks.front() == u"-" ? QStringLiteral("/dev/stdin") : tasks.front();
     return options;
 }

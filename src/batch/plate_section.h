@@ -1,48 +1,17 @@
 #pragma once
 
 #include "batch/section_json.h"
-#include "design/user_steels.h"
-#include "notes/record.h"
-#include "plate/plate_form.h"
-#include "plate/plate_report_lines.h"
-
-#include <optional>
-#include <vector>
+#include "task/plate_task.h"
 
 namespace ferna::batch {
-
-/// The key "Blacha" of a task: what the engineer types and presses in the plate form, in order.
-struct PlateTask {
-    /// What is typed for a check before its command.
-    struct Check {
-        struct Typed {
-            QString& (*field)(PlateFields&);
-            QString text;
-        };
-        void type(PlateFields& fields) const;
-
-        int check; ///< 1..8
-        std::vector<Typed> typed;
-        std::optional<int> profile; ///< of check 4, from 1
-    };
-    std::string path; ///< key of the section
-    int cmbStalb = -1;
-    PlateSteelFields steel; ///< typed into the dialog of the user's plate steel
-    std::vector<Check> checks;
-    std::optional<QString> Grubosc; ///< typed over the accepted thickness
-};
 
 struct PlateSectionResult : SectionResult {
     std::optional<PlateSection> section; ///< empty where nothing entered the report
     notes::PlateFacts facts;             ///< what the notes go by
 };
 
-/// Throws TaskError.
-PlateTask readPlateTask(const TaskValue& value, const std::string& path = "Blacha");
-
-/// Opens the form on the results in the state, chooses the grade and leaves its list, runs the
-/// checks in their order, types the thickness and confirms. A run-time error ends the run where it
-/// stands. The result has "Spr_blachy", "Fd_blachy", "Grubosc" and "Wiersze_blachy".
+/// The key "Blacha" of a task, worked (`workPlate`). The result has "Spr_blachy", "Fd_blachy",
+/// "Grubosc" and "Wiersze_blachy".
 PlateSectionResult runPlateTask(const PlateTask& task, Stan& stan, Dialogs& dialogs);
 
 } // namespace ferna::batch

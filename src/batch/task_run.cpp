@@ -1,10 +1,13 @@
 #include "batch/task_run.h"
 
-#include "batch/field_keys.h"
+#include "batch/anchor_section.h"
+#include "batch/column_section.h"
+#include "batch/plate_section.h"
 #include "command/calculation.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
 #include "report/zone_sketch.h"
+#include "task/field_keys.h"
 
 #include <cstdio>
 
@@ -127,7 +130,8 @@ ComputedTask run(Task task, const RunOptions& options) {
         const RunTimeError failure = raised.of(keyOfValue(raised.value()));
         const std::optional<int> stopped = caseOf(failure, host.casesEnded(), stan);
         done.failure = errorJson(failure, stopped);
-        if (done.task.column && !failure.key().empty() && stopped == stan.obciazenia.Liczba_przyp)
+        if (addsCase(done.task) && !failure.key().empty()
+            && stopped == stan.obciazenia.Liczba_przyp)
             done.failure["klucz"] = done.task.column->path; // its totals are the last case
         done.computed = false;
         done.record.stopped();

@@ -6,23 +6,6 @@ namespace ferna {
 
 namespace {
 
-/// Half width and half height of the picture in mm; the larger relative extent of the plate and its
-/// anchors takes 1/1.3 of the picture. Only the positive side of an anchor counts.
-QSizeF halfExtent(QSize size, const Plyta_i_kotwy& plate) {
-    Single LX = plate.Dlugosc_plyty;
-    Single LY = plate.Szerokosc_plyty;
-    for (int i = 1; i <= plate.Liczba_srub; ++i) {
-        LX = qMax(LX, CSng(2.0 * plate.X_kotwy(i)));
-        LY = qMax(LY, CSng(2.0 * plate.Y_kotwy(i)));
-    }
-    const Integer W = CInt(size.width());
-    const Integer H = CInt(size.height());
-    const Single sx = CSng(divided(W, LX * 1.3 * 10));
-    const Single sy = CSng(divided(H, LY * 1.3 * 10));
-    const Single s = sx <= sy ? sx : sy;
-    return {CSng(W * 0.5 / s), CSng(H * 0.5 / s)};
-}
-
 Integer scaleBarLength(qreal Hw) {
     return Hw > 1000 ? 1000 : Hw > 100 ? 100 : 50;
 }
@@ -80,8 +63,23 @@ void drawAnchors(PictureBox& picture, const Plyta_i_kotwy& plate) {
 
 } // namespace
 
+QSizeF plateHalfExtent(QSize size, const Plyta_i_kotwy& plate) {
+    Single LX = plate.Dlugosc_plyty;
+    Single LY = plate.Szerokosc_plyty;
+    for (int i = 1; i <= plate.Liczba_srub; ++i) {
+        LX = qMax(LX, CSng(2.0 * plate.X_kotwy(i)));
+        LY = qMax(LY, CSng(2.0 * plate.Y_kotwy(i)));
+    }
+    const Integer W = CInt(size.width());
+    const Integer H = CInt(size.height());
+    const Single sx = CSng(divided(W, LX * 1.3 * 10));
+    const Single sy = CSng(divided(H, LY * 1.3 * 10));
+    const Single s = sx <= sy ? sx : sy;
+    return {CSng(W * 0.5 / s), CSng(H * 0.5 / s)};
+}
+
 void drawPlate(PictureBox& picture, const Plyta_i_kotwy& plate) {
-    const QSizeF half = halfExtent(picture.size(), plate);
+    const QSizeF half = plateHalfExtent(picture.size(), plate);
     const qreal Hw = half.width();
     const qreal Hh = half.height();
     picture.setScale({-Hw, Hh}, {Hw, -Hh});

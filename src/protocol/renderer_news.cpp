@@ -39,7 +39,7 @@ void RendererNews::readLine(const QByteArray& line) {
     else if (line == closes)
         windows_ = qMax(0, windows_ - 1);
     else if (line.startsWith(wrote))
-        written_ += QUrl::fromPercentEncoding(line.mid(qstrlen(wrote)));
+        written_ += QUrl::fromPercentEncoding(line.mid(static_cast<qsizetype>(qstrlen(wrote))));
 }
 
 } // namespace ferna

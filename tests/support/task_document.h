@@ -1,12 +1,12 @@
 #pragma once
 
-#include "batch/object_reader.h"
+#include "task/object_reader.h"
 
 namespace ferna::testing {
 
 /// A value that a test has put together, as the program reads it.
-inline batch::TaskDocument documentOf(const batch::Json& json) {
-    return batch::parsed(json.dump());
+inline TaskDocument documentOf(const Json& json) {
+    return parsed(json.dump());
 }
 
 } // namespace ferna::testing

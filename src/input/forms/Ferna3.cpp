@@ -311,6 +311,14 @@ void Ferna3::showRow(int r) {
         field->setVisible(true);
 }
 
+void Ferna3::takeLoads(int rows, const std::function<void()>& fill) {
+    if (rows > stan_.obciazenia.Liczba_przyp) {
+        ui_->Text1->setText(general(rows));
+        leaveText1();
+    }
+    fill();
+}
+
 // With room for a few notes, so that the window does not grow when they come.
 QSize Ferna3::sizeHint() const {
     const int free = ui_->uwagi->isHidden() ? ui_->uwagi->usualHeight() : 0;
@@ -323,6 +331,7 @@ void Ferna3::showEvent(QShowEvent* event) {
         return;
     ui_->txtNr_strony->setText(general(stan_.opcje.Nr_strony));
     ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
+    Q_EMIT anchorsShown(); // a calculation may have moved one
     ui_->SSTab1->setCurrentIndex(generalTab);
     focusFirstField();
 }
@@ -444,6 +453,11 @@ void Ferna3::changeDiameterOf(std::optional<Integer> anchor) {
     showAnchorList();
 }
 
+void Ferna3::editAnchors(const std::function<void(Plyta_i_kotwy&)>& edit) {
+    edit(stan_.plyta);
+    showAnchors();
+}
+
 void Ferna3::showAnchors() {
     showAnchorList();
     Rysuj_P3();
@@ -452,6 +466,7 @@ void Ferna3::showAnchors() {
 void Ferna3::showAnchorList() {
     ui_->Text9->setPlainText(Lista_srub(stan_));
     ui_->lblLista_nieaktualna->setVisible(!listIsTrue(stan_.plyta));
+    Q_EMIT anchorsShown();
 }
 
 void Ferna3::Rysuj_P3() {
@@ -468,6 +483,8 @@ void Ferna3::showPlate(bool drawn) {
             ferna::drawPlate(picture, plate);
         return picture.image();
     });
+    drawn_ = drawn ? std::optional(stan_.plyta) : std::nullopt;
+    Q_EMIT anchorsShown();
 }
 
 void Ferna3::KGM8(Stan& stan) {

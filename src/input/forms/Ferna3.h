@@ -14,6 +14,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QPushButton;
 class QRadioButton;
@@ -52,6 +53,16 @@ public:
     /// The menus of what stands beside the task; each is seen once it has an entry.
     const AddedMenus& menus() const { return menus_; }
 
+    /// Has texts put into the load table, with at least so many of its rows shown: the number of
+    /// cases follows where it is smaller.
+    void takeLoads(int rows, const std::function<void()>& fill);
+
+    /// Has the anchors changed, and shows list and drawing anew.
+    void editAnchors(const std::function<void(Plyta_i_kotwy&)>& edit);
+
+    /// The plate as it is drawn; empty where it could not be drawn.
+    const std::optional<Plyta_i_kotwy>& drawnPlate() const { return drawn_; }
+
     /// Esc does nothing here: it must not end the program.
     void reject() override {}
 
@@ -60,6 +71,8 @@ public:
 Q_SIGNALS:
     /// Something of the task was typed, chosen, added or removed.
     void entered();
+    /// The list of the anchors or their drawing is shown anew.
+    void anchorsShown();
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -117,6 +130,7 @@ private:
     std::unique_ptr<Ui::Ferna3> ui_;
     AddedMenus menus_;
     std::unique_ptr<InputNotesBand> uwagi_;
+    std::optional<Plyta_i_kotwy> drawn_;
     std::unique_ptr<Nowa_Sruba> nowaSruba_; ///< hidden, not unloaded, between its uses
     std::array<std::array<QLineEdit*, 5>, MaxCases> loads_{}; ///< by row: N, M1, M2, Vx, Vy
     std::array<QRadioButton*, 5> Jezyk_{};
