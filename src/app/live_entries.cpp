@@ -12,9 +12,9 @@ void resizePlate(const Ferna3& form, int length, int width) {
     form.fieldOf({Value::PlateWidth})->setText(QString::number(width));
 }
 
-void moveAnchor(Ferna3& form, Stan& stan, int anchor, int x, int y) {
-    storeAnchorAt(stan.plyta, anchor, x, y, stan.plyta.Fi_kotwy(anchor));
-    form.renewAnchors();
+void moveAnchor(Ferna3& form, int anchor, int x, int y) {
+    form.editAnchors(
+        [&](Plyta_i_kotwy& plate) { storeAnchorAt(plate, anchor, x, y, plate.Fi_kotwy(anchor)); });
 }
 
 } // namespace
@@ -26,8 +26,7 @@ std::unique_ptr<Podglad> addLiveView(Ferna3& form, Stan& stan, Dialogs& dialogs)
             .stan = stan,
             .fields = [&form] { return form.fields(); },
             .record = [&form]() -> const notes::Record& { return form.record(); },
-            .moveAnchor = [&form, &stan](int anchor, int x,
-                                         int y) { moveAnchor(form, stan, anchor, x, y); },
+            .moveAnchor = [&form](int anchor, int x, int y) { moveAnchor(form, anchor, x, y); },
             .resizePlate = [&form](int length, int width) { resizePlate(form, length, width); }},
         dialogs);
     QAction* const entry = form.menus().view->addAction(QStringLiteral("&Podgląd"));

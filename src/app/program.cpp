@@ -1,5 +1,7 @@
 #include "app/program.h"
 
+#include "app/editing_entries.h"
+#include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "plate/forms/Grub_bla.h"
@@ -17,6 +19,8 @@ Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
       input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
     addMenus();
+    addEditing(input_, stan_);
+    combinations_ = new CombinationEntries(stan_, input_); // the form owns it
     view_ = addLiveView(input_, stan_, dialogs_);
 }
 
@@ -36,6 +40,7 @@ void Program::openResults() {
     auto session = std::make_unique<ResultsSession>(
         stan_, dialogs_, folder_, input_.firstNorm(), [] { return QDateTime::currentDateTime(); },
         [this] { return render(); });
+    combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
     input_.hide();
     results_->open();

@@ -9,6 +9,8 @@
 
 namespace ferna {
 
+class CombinationEntries;
+
 /// The forms of the program and how one leads to another.
 class Program {
 public:
@@ -29,6 +31,7 @@ private:
     QString folder_;
     QtDialogs dialogs_;
     Ferna3 input_;
+    CombinationEntries* combinations_ = nullptr;
     std::unique_ptr<Podglad> view_;
     std::unique_ptr<FernaWyn> results_;
 };

@@ -1,11 +1,15 @@
+#include "batch/combinations_run.h"
 #include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
 #include "batch/output_files.h"
 #include "batch/remarks.h"
 #include "batch/report_files.h"
+#include "batch/sheet_files.h"
+#include "batch/smallest_run.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
+#include "batch/view_files.h"
 #include "design/language.h"
 #include "desktop/program_folder.h"
 #include "runtime/format.h"
@@ -26,6 +30,7 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <stdexcept>
 #include <system_error>
 
 namespace {
@@ -67,6 +72,12 @@ std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
 }
 
+/// What is wrong with the text of a task, and where.
+std::string wordsOf(const TaskError& failure, const QString& task, std::string_view text) {
+    return task.toStdString() + ", line " + std::to_string(lineOf(text, failure.path)) + ": "
+           + failure.what();
+}
+
 /// To standard output, or an error where it takes no more: a full disk must not look like success.
 void print(const std::string& text) {
     if (!(std::cout << text << std::flush))
@@ -83,9 +94,11 @@ QStringList inputsOf(const Options& options, const QString& dataFolder) {
 
 int runOne(const Options& options, const RunOptions& runOptions) {
     OutputFiles outputs(inputsOf(options, runOptions.dataFolder));
-    for (const QString& file : options.reports + QStringList(options.result))
+    for (const QString& file : options.reports + options.sheets + QStringList(options.result))
         if (!file.isEmpty())
             outputs.claim(file);
+    for (const QString& file : options.views)
+        outputs.claim(file);
     const QByteArray bytes = readTaskText(options.task);
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     try {
@@ -104,11 +117,14 @@ int runOne(const Options& options, const RunOptions& runOptions) {
         if (done.reportReady)
             for (const QString& file : options.reports)
                 remark(writeReport(done, file, runOptions.pictures, outputs));
+        for (const QString& file : options.sheets)
+            writeSheet(done, file);
+        for (const QString& file : options.views)
+            remark(writeView(done, file, outputs));
         tellNotes(done, namesAreTold);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
-        return refuse(options.task.toStdString() + ", line "
-                      + std::to_string(lineOf(text, failure.path)) + ": " + failure.what());
+        return refuse(wordsOf(failure, options.task, text));
     }
 }
 
@@ -151,6 +167,54 @@ int runLines(const Options& options, const RunOptions& runOptions) {
     return all ? Computed : NotSolved;
 }
 
+/// The value that `read` makes of a file; a TaskError becomes a line that names file and place.
+template <typename Read>
+auto valueOf(const QString& file, const Read& read) {
+    const QByteArray bytes = readTaskText(file);
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    try {
+        return read(parsed(text));
+    } catch (const TaskError& failure) {
+        throw std::invalid_argument(wordsOf(failure, file, text));
+    }
+}
+
+/// What --nosnosc or --dobierz answers in place of a result.
+int runAnswer(const Options& options) {
+    OutputFiles outputs({options.task, options.range});
+    if (!options.result.isEmpty())
+        outputs.claim(options.result);
+    try {
+        const Task task =
+            valueOf(options.task, [](const TaskValue& json) { return readTask(json); });
+        const Answer answer = options.capacity
+                                  ? capacityAnswer(task)
+                                  : smallestAnswer(task, valueOf(options.range, readRange));
+        if (options.result.isEmpty())
+            print(answer.text);
+        else
+            writeFileWhole(options.result, QByteArray::fromStdString(answer.text));
+        return answer.solved ? Computed : NotSolved;
+    } catch (const std::invalid_argument& failure) {
+        return refuse(failure.what());
+    }
+}
+
+int runTable(const Options& options) {
+    const QByteArray bytes = readTaskText(options.task);
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    try {
+        const Task task = readTask(parsed(text), TaskCases::Elsewhere);
+        const CombinationsEnd end = runCombinations(options.combinations, task, print);
+        remark(end.remark);
+        if (!end.trouble.isEmpty())
+            return refuse(end.trouble.toStdString());
+        return end.rows > end.refused ? Computed : NotSolved;
+    } catch (const TaskError& failure) {
+        return refuse(wordsOf(failure, options.task, text));
+    }
+}
+
 bool anyNeedsPictures(const Options& options) {
     return std::any_of(options.reports.begin(), options.reports.end(), needsPictures);
 }
@@ -169,6 +233,10 @@ private:
 int runProgram(const Options& options) {
     if (options.decimalSign)
         setDecimalSign(*options.decimalSign);
+    if (options.capacity || !options.range.isEmpty())
+        return runAnswer(options);
+    if (!options.combinations.isEmpty())
+        return runTable(options);
     const QString dataFolder = deliveredDataFolder();
     const std::unique_ptr<Pictures> pictures =
         anyNeedsPictures(options) ? std::make_unique<Pictures>(dataFolder) : nullptr;
@@ -197,9 +265,9 @@ constexpr const char* outOfMemory = "out of memory";
     std::_Exit(BadCall);
 }
 
-/// Qt without a screen; its fonts are started only where pictures are drawn.
+/// Qt without a screen; its fonts are started only where something is drawn.
 std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options& options) {
-    if (!anyNeedsPictures(options))
+    if (!anyNeedsPictures(options) && options.sheets.isEmpty() && options.views.isEmpty())
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     hushMissingRuntimeFolder();

@@ -52,6 +52,7 @@ PlateFacts plateFacts(const Stan& stan, const PlateForm& form, bool written) {
     for (int n = 1; n <= PlateChecks; ++n)
         facts.required.at(static_cast<std::size_t>(n - 1)) = stan.raport.Spr_blachy(n);
     facts.inputs = form.inputs;
+    facts.grade = form.Nr_stali_blachy;
     if (written) {
         facts.accepted = CSng(form.fields.Text4);
         if (stan.materialy.Blacha_uzytkownika != False)

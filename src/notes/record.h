@@ -51,6 +51,7 @@ struct PlateFacts {
     PlateInputs inputs;             ///< of the checks that stand
     std::optional<Single> accepted; ///< thickness in the report, mm
     QString steelName;              ///< of the user's steel in the report, else empty
+    Integer grade = 0;              ///< of the plate in the list of steels, from 1
     Double force = 0;               ///< the greatest of an anchor as computed, kN
     Double pressure = 0;            ///< the greatest as computed, MPa
 };

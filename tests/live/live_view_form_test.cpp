@@ -36,11 +36,12 @@ protected:
         stan.obciazenia.Liczba_przyp = 2;
         loads(0, {"300", "120", "0", "10", "0"});
         loads(1, {"300", "0", "-60", "150", "0"});
-        int slot = 0;
-        for (const auto& [x, y] : {std::pair{250, 150}, {-250, 150}, {250, -150}, {-250, -150}})
-            storeAnchorAt(stan.plyta, ++slot, x, y, 24);
-        stan.plyta.Liczba_srub = 4;
-        form->renewAnchors();
+        form->editAnchors([](Plyta_i_kotwy& plate) {
+            int slot = 0;
+            for (const auto& [x, y] : {std::pair{250, 150}, {-250, 150}, {250, -150}, {-250, -150}})
+                storeAnchorAt(plate, ++slot, x, y, 24);
+            plate.Liczba_srub = 4;
+        });
     }
 
     void TearDown() override {

@@ -237,9 +237,8 @@ protected:
 };
 
 TEST_F(WholeReports, FiveHundredReportsKeepTogetherWhatBelongsTogether) {
-    batch::RunOptions options;
-    options.dataFolder = places::data();
-    options.now = QDateTime(QDate(2026, 5, 17), QTime(9, 41));
+    const batch::RunOptions options{
+        {}, places::data(), QDateTime(QDate(2026, 5, 17), QTime(9, 41))};
     std::size_t several = 0;
     int made = 0;
     for (std::uint64_t number = 1; made < reports; ++number) {

@@ -1,0 +1,81 @@
+#include "sheet/numbers.h"
+#include "sheet/plate_picture.h"
+#include "sheet/sections.h"
+
+namespace ferna::sheet {
+
+namespace {
+
+/// How the search ended, as the text's key; empty for a plain end.
+QString outcomeKey(const Maker& maker, const CaseSheet& one) {
+    switch (maker.input().record.told(one.number).outcome) {
+    case CaseOutcome::WholePlate:
+        return QStringLiteral("outcome.wholePlate");
+    case CaseOutcome::Found:
+        return QStringLiteral("outcome.found");
+    case CaseOutcome::FoundWithRaisedMoment:
+        return QStringLiteral("outcome.raised");
+    case CaseOutcome::FoundWithMovedAnchor:
+        return QStringLiteral("outcome.moved");
+    case CaseOutcome::GaveUp:
+    case CaseOutcome::PassedOver:
+    case CaseOutcome::NoStart:
+        return QStringLiteral("outcome.gaveUp");
+    default:
+        return QStringLiteral("outcome.none");
+    }
+}
+
+void tellOutcome(Maker& maker, const CaseSheet& one) {
+    maker.say(outcomeKey(maker, one), {}, one.told != nullptr ? Tone::Plain : Tone::Warning);
+    if (!one.readable)
+        maker.say(QStringLiteral("case.unreadable"), {}, Tone::Warning);
+    else if (!maker.hasBase)
+        maker.say(QStringLiteral("case.noBase"), {}, Tone::Warning);
+    else if (one.exact == nullptr)
+        maker.say(QStringLiteral("case.tips"), {}, Tone::Warning);
+}
+
+void addPressure(Maker& maker, const CaseSheet& one) {
+    auto beside = std::make_shared<Beside>();
+    beside->leftShare = 0.47;
+    Equations kern = kernEquations(maker, one);
+    Table plane = planeTable(maker, one);
+    beside->left.push_back(pressurePicture(maker, one));
+    if (!kern.rows.empty())
+        beside->right.push_back(std::move(kern));
+    maker.add(std::shared_ptr<const Beside>(beside));
+    if (!plane.rows.empty())
+        maker.add(std::move(plane));
+}
+
+void addAnchorsAndBalance(Maker& maker, const CaseSheet& one) {
+    if (!hasPlane(one, Side::Search) && !hasPlane(one, Side::Exact))
+        return;
+    Table anchors = anchorTable(maker, one);
+    Blocks balance = balanceTables(maker, one);
+    auto beside = std::make_shared<Beside>();
+    beside->leftShare = 0.5;
+    beside->left.push_back(std::move(anchors));
+    beside->left.push_back(Paragraph{maker.text()(QStringLiteral("balance.how")), Tone::Small});
+    beside->right = std::move(balance);
+    maker.add(std::shared_ptr<const Beside>(beside));
+}
+
+} // namespace
+
+void addCase(Maker& maker, const CaseSheet& one) {
+    const Texts& text = maker.text();
+    maker.heading(2, text(QStringLiteral("case.heading"), {QString::number(one.number)}));
+    tellOutcome(maker, one);
+    if (!one.readable || !maker.hasBase)
+        return;
+    addPressure(maker, one);
+    addAnchorsAndBalance(maker, one);
+    if (maker.limits && (one.told != nullptr || one.exact != nullptr)) {
+        maker.heading(3, text(QStringLiteral("check.heading")));
+        maker.add(checkEquations(maker, one));
+    }
+}
+
+} // namespace ferna::sheet

@@ -1,0 +1,259 @@
+#include "plate/clauses.h"
+#include "plate/load_charts.h"
+#include "plate/plate_tables.h"
+#include "sheet/numbers.h"
+#include "sheet/sections.h"
+#include "sheet/sketch_picture.h"
+
+namespace ferna::sheet {
+
+namespace {
+
+/// A check as its command calls it, and the file of its sketch.
+struct CheckName {
+    const char* name;
+    const char* sketch;
+};
+constexpr std::array<CheckName, PlateChecks> checkNames{{{"1", "szkic1"},
+                                                         {"2", "szkic2"},
+                                                         {"3.1", "szkic31"},
+                                                         {"4", ""},
+                                                         {"3.2", "szkic32"},
+                                                         {"3.3", "szkic33"},
+                                                         {"5.1", "szkic51"},
+                                                         {"5.2", "szkic52"}}};
+
+const CheckName& nameOf(int check) {
+    return checkNames.at(static_cast<std::size_t>(check - 1));
+}
+
+/// One check of the plate: its numbers are told apart by its number in front.
+class PlateCheck {
+public:
+    PlateCheck(Maker& maker, const notes::PlateFacts& facts, int check)
+        : maker_(maker), facts_(facts), check_(check) {}
+
+    Equations all() {
+        const Quantity* const t = thickness();
+        whole(corrected(t));
+        return std::move(rows_);
+    }
+
+private:
+    QString id(const char* name) const {
+        return QStringLiteral("p%1_").arg(check_) + QString::fromLatin1(name);
+    }
+    const Quantity* given(const char* name, const char* symbol, double value, const char* unit,
+                          const Rich& remark = {}) {
+        const Quantity* const made =
+            maker_.given(0, id(name), QString::fromUtf8(symbol), value, QString::fromLatin1(unit));
+        rows_.rows.push_back({made, nullptr, remark});
+        return made;
+    }
+    const Quantity* computed(const char* name, const char* symbol, const Clause& clause,
+                             const Numbers& inputs, const Shown& shown = digits(5),
+                             const Rich& remark = {}) {
+        const Quantity* const made =
+            maker_.computed(0, id(name), QString::fromUtf8(symbol), clause, inputs, shown);
+        rows_.rows.push_back({made, nullptr, remark});
+        return made;
+    }
+    const Quantity* fd() const { return maker_.at(0, QStringLiteral("fd_plate")); }
+
+    /// A typed force beside the largest one that was computed.
+    const Quantity* force(double typed) {
+        return given("S", "S", typed, "kN", compared(typed, facts_.force, "kN"));
+    }
+    const Quantity* pressure(const char* name, const char* symbol, double typed) {
+        return given(name, symbol, typed, "MPa", compared(typed, facts_.pressure, "MPa"));
+    }
+    Rich compared(double typed, double found, const char* unit) const {
+        constexpr double slack = 0.02;
+        const bool less = typed < (1 - slack) * found;
+        return maker_.text()(less ? QStringLiteral("plate.less") : QStringLiteral("plate.enough"),
+                             {fixed(found, 2), QString::fromLatin1(unit)});
+    }
+
+    const Quantity* thickness() {
+        const PlateInputs& in = facts_.inputs;
+        switch (check_) {
+        case 1:
+            return tensionStrip();
+        case 2:
+            return compressionStrip();
+        case 3:
+            return fragment(in.check3);
+        case 4:
+            return columnBase();
+        case 5:
+            return fragment(in.check5);
+        case 6:
+            return fragment(in.check6);
+        case 7:
+            return anchorFragment(in.check7, threeEdgesCoefficientClause);
+        default:
+            return anchorFragment(in.check8, twoEdgesCoefficientClause);
+        }
+    }
+
+    const Quantity* tensionStrip() {
+        const auto& in = facts_.inputs.check1;
+        const Quantity* const S = force(in.S);
+        const Quantity* const ca = given("ca", "c_a", in.ca, "mm");
+        const Quantity* const bs = given("bs", "b_s", in.bs, "mm");
+        return computed("t", "t", tensionStripThicknessClause, {S, ca, bs, fd()});
+    }
+
+    const Quantity* compressionStrip() {
+        const auto& in = facts_.inputs.check2;
+        const Quantity* const ca = given("ca", "c_a", in.ca, "mm");
+        const Quantity* const k = pressure("sk", "σ_k", in.sigma_k);
+        const Quantity* const p = pressure("sp", "σ_p", in.sigma_p);
+        const Quantity* const M = computed("M", "M",
+                                           in.sigma_k < in.sigma_p ? momentOfFallingStressClause
+                                                                   : momentOfRisingStressClause,
+                                           {ca, k, p}, digits(6));
+        return computed("t", "t", compressionStripThicknessClause, {M, fd()});
+    }
+
+    const Quantity* fragment(const PlateInputs::Fragment& in) {
+        const Quantity* const sigma = pressure("sigma", "σ", in.sigma);
+        const Quantity* const l = given("l", "l", in.l, "mm");
+        const Quantity* const b = given("b", "b", in.b, "mm");
+        const Quantity* const r = computed("r", "r", sideRatioClause, {b, l});
+        const FragmentInterval table = fragmentInterval(check_, sideRatio(in.b, in.l));
+        const Rich read =
+            maker_.text()(QStringLiteral("plate.interval"),
+                          {significant(table.r0, 4), significant(table.r0 + table.d, 4)});
+        const Quantity* const r0 = given("r0", "r_0", table.r0, "", read);
+        const Quantity* const w0 = given("w0", "ω_0", table.y0, "");
+        const Quantity* const w1 = given("w1", "ω_1", table.y1, "");
+        const Quantity* const d = given("d", "d", table.d, "");
+        const Quantity* const share =
+            computed("wl", "ω·l", coefficientTimesLengthClause, {w0, w1, r, r0, d, l});
+        return computed("t", "t", edgeFragmentThicknessClause, {share, sigma, fd()});
+    }
+
+    const Quantity* columnBase() {
+        const auto& in = facts_.inputs.check4;
+        const ColumnProfile& profile = columnProfile(in.Nr_profilu);
+        const Quantity* const sigma = pressure("sigma", "σ", in.sigma);
+        const Rich name = rich(QString::fromLatin1(profile.name));
+        const Quantity* const h = given("h", "h", profile.h, "mm", name);
+        const Quantity* const s = given("s", "s", profile.s, "mm");
+        const Quantity* const k = given("k", "k", profile.k, "");
+        return computed("t", "t", columnBaseThicknessClause, {sigma, h, s, k, fd()});
+    }
+
+    const Quantity* anchorFragment(const PlateInputs::AnchorFragment& in, const Clause& chart) {
+        const Quantity* const S = force(in.S);
+        const Quantity* const b = given("b", "b", in.b, "mm");
+        const Quantity* const a = given("a", "a", in.a, "mm");
+        const Quantity* const c = given("c", "c", in.c, "mm");
+        const Quantity* const p = computed("p", "p", chartWidthClause, {b, c});
+        computed("q", "q", chartPlaceClause, {a, c});
+        const ChartReading read = Interpoluj_wykres(check_, in.b, in.a, in.c);
+        const double step = check_ == 8 && read.row.k2 >= 30 ? 0.5 : 0.2;
+        const Quantity* const L = given(
+            "L", "L", read.row.L, "",
+            maker_.text()(QStringLiteral("plate.curves"), {significant(read.row.k1 / 10.0, 3),
+                                                           significant(read.row.k2 / 10.0, 3)}));
+        const Quantity* const y1 = given("y1", "y_1", read.y1, "");
+        const Quantity* const y2 = given("y2", "y_2", read.y2, "");
+        const Quantity* const d = given("d", "d", step, "");
+        const Quantity* const y = computed("y", "y", chart, {y1, y2, p, L, d});
+        return computed("t", "t", anchorFragmentThicknessClause, {S, y, fd()});
+    }
+
+    /// For a plate thicker than its strength holds: the linear correction of the grade.
+    const Quantity* corrected(const Quantity* t) {
+        const Materialy& m = maker_.input().stan.materialy;
+        if (!(Int(t->value + 0.5) > m.Max_grubosc))
+            return t;
+        constexpr double lower = 10; // MPa, of the grades 18G2 and 18G2AV; the others stay
+        const bool falls = facts_.grade == 4 || facts_.grade == 5;
+        const Quantity* const fd1 =
+            given("fd1", "f_d,1", m.Fd_blachy - (falls ? lower : 0), "MPa",
+                  maker_.text()(QStringLiteral("plate.thick"), {QString::number(m.Max_grubosc)}));
+        return computed("t1", "t_1", thicknessAtStrengthClause, {t, fd(), fd1});
+    }
+
+    /// Whole millimetres as the report gives them. A thickness so near to a half that the report's
+    /// numbers of seven digits fall on its other side is told as it is.
+    void whole(const Quantity* t) {
+        const double told = facts_.required.at(static_cast<std::size_t>(check_ - 1));
+        const Expression formula = formulaOf(wholeThicknessClause, std::vector{t});
+        const Rich remark = maker_.text()(QStringLiteral("plate.needed"));
+        if (valueOf(formula) == told)
+            computed("g", "g", wholeThicknessClause, {t}, places(0), remark);
+        else
+            given("g", "g", told, "mm", remark);
+    }
+
+    Maker& maker_;
+    const notes::PlateFacts& facts_;
+    int check_;
+    Equations rows_;
+};
+
+void addCheck(Maker& maker, const notes::PlateFacts& facts, int check) {
+    const Texts& text = maker.text();
+    const CheckName& name = nameOf(check);
+    maker.heading(3, text(QStringLiteral("plate.check"),
+                          {QString::fromLatin1(name.name),
+                           text(QStringLiteral("plate.fragment%1").arg(check))}));
+    Equations rows = PlateCheck(maker, facts, check).all();
+    if (*name.sketch == '\0') {
+        maker.add(std::move(rows));
+        return;
+    }
+    auto beside = std::make_shared<Beside>();
+    beside->leftShare = 0.26;
+    beside->left.push_back(sketchPicture(QString::fromLatin1(name.sketch), 42));
+    beside->right.push_back(std::move(rows));
+    maker.add(std::shared_ptr<const Beside>(beside));
+}
+
+QString gradeName(const notes::PlateFacts& facts) {
+    return facts.steelName.isEmpty() ? plateSteelNames().value(facts.grade - 1) : facts.steelName;
+}
+
+void tellRefused(Maker& maker, const notes::PlateFacts& facts) {
+    QStringList refused;
+    for (int check = 1; check <= PlateChecks; ++check)
+        if (facts.refused.at(static_cast<std::size_t>(check - 1)))
+            refused += QString::fromLatin1(nameOf(check).name);
+    if (!refused.isEmpty())
+        maker.say(QStringLiteral("plate.refused"), {refused.join(QStringLiteral(", "))},
+                  Tone::Warning);
+}
+
+} // namespace
+
+void addPlate(Maker& maker) {
+    const std::optional<notes::PlateFacts>& facts = maker.input().record.plate();
+    maker.heading(1, maker.text()(QStringLiteral("plate.heading")));
+    if (!maker.input().hasResults || !facts || !facts->accepted) {
+        maker.say(QStringLiteral("plate.none"));
+        if (facts)
+            tellRefused(maker, *facts);
+        return;
+    }
+    Equations rows;
+    rows.rows.push_back({maker.given(0, QStringLiteral("fd_plate"), QStringLiteral("f_d"),
+                                     maker.input().stan.materialy.Fd_blachy, QStringLiteral("MPa")),
+                         nullptr,
+                         maker.text()(QStringLiteral("plate.steel"), {rich(gradeName(*facts))})});
+    maker.add(std::move(rows));
+    for (int check = 1; check <= PlateChecks; ++check)
+        if (facts->required.at(static_cast<std::size_t>(check - 1)) > 0)
+            addCheck(maker, *facts, check);
+    tellRefused(maker, *facts);
+    Equations accepted;
+    accepted.rows.push_back({maker.given(0, QStringLiteral("g_accepted"), QStringLiteral("g"),
+                                         *facts->accepted, QStringLiteral("mm")),
+                             nullptr, maker.text()(QStringLiteral("plate.accepted"))});
+    maker.add(std::move(accepted));
+}
+
+} // namespace ferna::sheet

@@ -1,0 +1,48 @@
+#include "sheet/sheet_file.h"
+
+#include "runtime/text_file.h"
+#include "sheet/html_writer.h"
+
+#include <array>
+
+namespace ferna::sheet {
+
+namespace {
+
+void saveHtml(const Sheet& sheet, const QString& file) {
+    writeFileWhole(file, htmlOf(sheet));
+}
+
+struct Format {
+    const char* ending;
+    void (*save)(const Sheet& sheet, const QString& file);
+};
+
+// One row a format.
+constexpr std::array formats{Format{".html", saveHtml}};
+
+const Format* formatOf(const QString& file) {
+    for (const Format& format : formats)
+        if (file.endsWith(QLatin1String(format.ending), Qt::CaseInsensitive))
+            return &format;
+    return nullptr;
+}
+
+} // namespace
+
+QStringList sheetEndings() {
+    QStringList endings;
+    for (const Format& format : formats)
+        endings += QString::fromLatin1(format.ending);
+    return endings;
+}
+
+bool isSheetFile(const QString& file) {
+    return formatOf(file) != nullptr;
+}
+
+void saveSheet(const Sheet& sheet, const QString& file) {
+    formatOf(file)->save(sheet, file);
+}
+
+} // namespace ferna::sheet
