@@ -50,7 +50,11 @@ TaskDesk::TaskDesk(Ferna3& form, Dialogs& dialogs, const QString& keptFolder)
 
 void TaskDesk::watchForm() {
     for (QLineEdit* field : form_.findChildren<QLineEdit*>())
-        connect(field, &QLineEdit::textEdited, this, [this] { typing_ = true; });
+        connect(field, &QLineEdit::textEdited, this, [this] {
+            typing_ = true;
+            if (!std::exchange(isTyped_, true))
+                Q_EMIT changed();
+        });
     connect(&form_, &Ferna3::entered, this, [this] {
         if (!waiting_)
             QTimer::singleShot(0, this, &TaskDesk::recordUnlessTyping);
@@ -92,10 +96,14 @@ void TaskDesk::recordUnlessTyping() {
 }
 
 void TaskDesk::record(const QString& name) {
-    if (!begun_ || !history_.record(task(), name))
+    if (!begun_)
         return;
-    keep();
-    Q_EMIT changed();
+    const bool wasTyped = std::exchange(isTyped_, false);
+    const bool isStep = history_.record(task(), name);
+    if (isStep)
+        keep();
+    if (isStep || wasTyped)
+        Q_EMIT changed();
 }
 
 void TaskDesk::keep() {
@@ -118,13 +126,12 @@ void TaskDesk::lay(const Task& task, const QString& step, const QString& file, b
     sections_ = task;
     history_.recordAnother(this->task(), step);
     saved_[history_.number()] = {file, isSaved ? history_.text() : std::string()};
-    keep();
     Q_EMIT opened();
     Q_EMIT changed();
 }
 
 void TaskDesk::beginNew() {
-    lay(newTask(task()), QStringLiteral("nowe zadanie"), {}, true);
+    lay(newTask(task()), QStringLiteral("nowe zadanie"), {}, true); // kept once it is worked on
 }
 
 void TaskDesk::openByQuestion() {
@@ -146,6 +153,7 @@ bool TaskDesk::open(const QString& file) {
         const Task task = withColumnInCase(readTask(parsed(text)));
         const QString path = QFileInfo(file).absoluteFilePath();
         lay(task, QStringLiteral("otwarcie ") + shortName(file), path, true);
+        keep();
         remember(path);
         return true;
     } catch (const TaskError& failure) {
@@ -161,6 +169,7 @@ bool TaskDesk::open(const QString& file) {
 
 void TaskDesk::restore(const KeptTask& kept) {
     lay(kept.task, QStringLiteral("przywrócenie zadania"), {}, false);
+    keep();
 }
 
 bool TaskDesk::save() {
@@ -228,7 +237,7 @@ QString TaskDesk::file() const {
 
 bool TaskDesk::isChanged() const {
     const auto found = saved_.find(history_.number());
-    return found == saved_.end() || found->second.text != history_.text();
+    return isTyped_ || found == saved_.end() || found->second.text != history_.text();
 }
 
 QStringList TaskDesk::recentFiles() {
