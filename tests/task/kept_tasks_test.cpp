@@ -7,13 +7,15 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
 #include <random>
-#include <unistd.h>
 
 using namespace ferna;
 using ferna::testing::WithDecimalSign;
@@ -108,8 +110,8 @@ TEST_F(Kept, TakesLessThanFiveMilliseconds) {
     }
 }
 
-TEST_F(Kept, FiveHundredKillsLoseNothingThatWasKept) {
-    constexpr int kills = 500;
+TEST_F(Kept, KillsAtAnyMomentLoseNothingThatWasKept) {
+    const int kills = std::getenv("FERNA_LONG") != nullptr ? 500 : 60;
     std::mt19937 random(7);
     std::uniform_int_distribution<int> moment(500, 6000); // us
     int last = 0;

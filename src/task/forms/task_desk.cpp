@@ -66,9 +66,10 @@ void TaskDesk::watchForm() {
         sections_.column = columnTaskOf(loads, loadCase);
         record();
     });
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* left) {
-        if (left != nullptr && form_.isAncestorOf(left))
-            QTimer::singleShot(0, this, [this] { record(); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* left, QWidget* come) {
+        if ((left != nullptr && form_.isAncestorOf(left))
+            || (come != nullptr && form_.isAncestorOf(come)))
+            QTimer::singleShot(0, this, &TaskDesk::recordWhenFree);
     });
     qApp->installEventFilter(this);
     form_.setAcceptDrops(true);
@@ -92,6 +93,13 @@ Task TaskDesk::task() const {
 void TaskDesk::recordUnlessTyping() {
     waiting_ = false;
     if (!std::exchange(typing_, false))
+        recordWhenFree();
+}
+
+// While a dialog stands its command is half done, as where anchors are counted and not placed yet.
+// Once it goes the focus comes back.
+void TaskDesk::recordWhenFree() {
+    if (QApplication::activeModalWidget() == nullptr)
         record();
 }
 

@@ -80,6 +80,7 @@ private:
 
     void watchForm();
     void recordUnlessTyping();
+    void recordWhenFree();
     void keep();
     /// Puts another task on the desk, as a step.
     void lay(const Task& task, const QString& step, const QString& file, bool isSaved);
