@@ -164,12 +164,12 @@ Json plateTaskJson(const PlateTask& task) {
     };
     if (task.cmbStalb >= 0)
         out["Nr_stali_blachy"] = task.cmbStalb + 1;
-    if (!task.steel.Text1.isEmpty())
-        out["Blacha_nazwa"] = task.steel.Text1.toStdString();
-    if (numberIn(task.steel.Text2[0]).value_or(0) != 0)
-        number(out, "Blacha_fd", task.steel.Text2[0]);
-    if (numberIn(task.steel.Text2[1]).value_or(0) != 0)
-        number(out, "Blacha_t_max", task.steel.Text2[1]);
+    if (!task.steel.name.isEmpty())
+        out["Blacha_nazwa"] = task.steel.name.toStdString();
+    if (numberIn(task.steel.fd).value_or(0) != 0)
+        number(out, "Blacha_fd", task.steel.fd);
+    if (numberIn(task.steel.t_max).value_or(0) != 0)
+        number(out, "Blacha_t_max", task.steel.t_max);
     if (task.Grubosc)
         number(out, "Grubosc", *task.Grubosc);
     if (task.checks.empty())
