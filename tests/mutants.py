@@ -132,7 +132,8 @@ def candidates(room, arguments, places):
 
 
 def refused(source, arguments, texts, spots, places):
-    """The mutants of a source that do not compile: by the place of the error or of its note."""
+    """The mutants of a source that do not compile: by the place of the error or of its note, or else
+    all of its line."""
     found, unknown = set(), []
 
     def mutants_at(location):
@@ -141,12 +142,21 @@ def refused(source, arguments, texts, spots, places):
                   if start <= location.offset <= end]
         return {number for size, number in inside if size == min(inside)[0]}
 
+    def mutants_of_line(location):
+        name = location.file.name if location.file else ""
+        text = texts.get(name, b"")
+        begin = text.rfind(b"\n", 0, location.offset) + 1
+        end = text.find(b"\n", location.offset)
+        return {number for number, (start, stop) in spots.get(name, {}).items()
+                if start <= end and stop >= begin}
+
     for error in places.parse(source, arguments, texts).diagnostics:
         if error.severity < error.Error:
             continue
         at = mutants_at(error.location)
         for note in error.children:
             at = at or mutants_at(note.location)
+        at = at or mutants_of_line(error.location)
         if at:
             found |= at
         else:
