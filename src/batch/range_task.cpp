@@ -4,6 +4,11 @@ namespace ferna::batch {
 
 namespace {
 
+/// A range is read by the companion alone.
+TaskError wrong(std::string path, const std::string& what) {
+    return {std::move(path), {what, what}};
+}
+
 using smallest::DesignRange;
 using smallest::Sizes;
 
@@ -15,7 +20,7 @@ Sizes readSizes(ObjectReader& range, const char* key) {
     };
     const Sizes found{size("od"), size("do"), size("co")};
     if (found.to < found.from)
-        throw TaskError(sizes.pathOf("do"), "expected at least \"od\"");
+        throw wrong(sizes.pathOf("do"), "expected at least \"od\"");
     return found;
 }
 
@@ -26,7 +31,7 @@ void readList(ObjectReader& range, const char* key, std::vector<Number>& list, I
         return;
     const TaskValue& values = arrayOf(range.at(key), key);
     if (values.count == 0)
-        throw TaskError(key, "expected at least one");
+        throw wrong(key, "expected at least one");
     list.clear();
     for (const TaskValue& value : values.parts())
         list.push_back(integerOf(value, {key, std::to_string(list.size())}, least, most));
@@ -36,8 +41,8 @@ double readBounded(ObjectReader& object, const char* key, double preset, double 
                    double most) {
     const double value = object.number(key, preset);
     if (!(value >= least && value <= most))
-        throw TaskError(object.pathOf(key), "expected a number from " + std::to_string(least)
-                                                + " to " + std::to_string(most));
+        throw wrong(object.pathOf(key), "expected a number from " + std::to_string(least) + " to "
+                                            + std::to_string(most));
     return value;
 }
 
@@ -64,17 +69,15 @@ void refuseWhatIsLeft(const DesignRange& range) {
     using smallest::RangePart;
     const std::optional<RangePart> wrong = wrongPart(range);
     if (wrong == RangePart::Layouts)
-        throw TaskError("Kotwy", "expected numbers of anchors among 4, 6, 8, 12");
+        throw wrong("Kotwy", "expected numbers of anchors among 4, 6, 8, 12");
     if (wrong == RangePart::Diameters)
-        throw TaskError(
-            "Srednice",
-            "expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80");
+        throw wrong("Srednice",
+                    "expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80");
     if (wrong == RangePart::TooMany)
-        throw TaskError("", "expected at most " + std::to_string(smallest::mostCandidates)
-                                + " candidates, found "
-                                + std::to_string(smallest::candidates(range)));
+        throw wrong("", "expected at most " + std::to_string(smallest::mostCandidates)
+                            + " candidates, found " + std::to_string(smallest::candidates(range)));
     if (wrong)
-        throw TaskError("", "expected a range that can be worked with");
+        throw wrong("", "expected a range that can be worked with");
 }
 
 } // namespace
@@ -86,7 +89,7 @@ RangeTask readRange(const TaskValue& json) {
     readColumn(task, range);
     range.length = readSizes(task, "Dlugosc");
     if (task.has("Szerokosc") == task.has("Proporcja"))
-        throw TaskError("", "expected either \"Szerokosc\" or \"Proporcja\"");
+        throw wrong("", "expected either \"Szerokosc\" or \"Proporcja\"");
     if (task.has("Szerokosc"))
         range.width = readSizes(task, "Szerokosc");
     else
