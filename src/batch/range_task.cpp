@@ -5,7 +5,7 @@ namespace ferna::batch {
 namespace {
 
 /// A range is read by the companion alone.
-TaskError wrong(std::string path, const std::string& what) {
+TaskError refused(std::string path, const std::string& what) {
     return {std::move(path), {what, what}};
 }
 
@@ -20,7 +20,7 @@ Sizes readSizes(ObjectReader& range, const char* key) {
     };
     const Sizes found{size("od"), size("do"), size("co")};
     if (found.to < found.from)
-        throw wrong(sizes.pathOf("do"), "expected at least \"od\"");
+        throw refused(sizes.pathOf("do"), "expected at least \"od\"");
     return found;
 }
 
@@ -31,7 +31,7 @@ void readList(ObjectReader& range, const char* key, std::vector<Number>& list, I
         return;
     const TaskValue& values = arrayOf(range.at(key), key);
     if (values.count == 0)
-        throw wrong(key, "expected at least one");
+        throw refused(key, "expected at least one");
     list.clear();
     for (const TaskValue& value : values.parts())
         list.push_back(integerOf(value, {key, std::to_string(list.size())}, least, most));
@@ -41,8 +41,8 @@ double readBounded(ObjectReader& object, const char* key, double preset, double 
                    double most) {
     const double value = object.number(key, preset);
     if (!(value >= least && value <= most))
-        throw wrong(object.pathOf(key), "expected a number from " + std::to_string(least) + " to "
-                                            + std::to_string(most));
+        throw refused(object.pathOf(key), "expected a number from " + std::to_string(least) + " to "
+                                              + std::to_string(most));
     return value;
 }
 
@@ -69,15 +69,17 @@ void refuseWhatIsLeft(const DesignRange& range) {
     using smallest::RangePart;
     const std::optional<RangePart> wrong = wrongPart(range);
     if (wrong == RangePart::Layouts)
-        throw wrong("Kotwy", "expected numbers of anchors among 4, 6, 8, 12");
+        throw refused("Kotwy", "expected numbers of anchors among 4, 6, 8, 12");
     if (wrong == RangePart::Diameters)
-        throw wrong("Srednice",
-                    "expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80");
+        throw refused(
+            "Srednice",
+            "expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80");
     if (wrong == RangePart::TooMany)
-        throw wrong("", "expected at most " + std::to_string(smallest::mostCandidates)
-                            + " candidates, found " + std::to_string(smallest::candidates(range)));
+        throw refused("", "expected at most " + std::to_string(smallest::mostCandidates)
+                              + " candidates, found "
+                              + std::to_string(smallest::candidates(range)));
     if (wrong)
-        throw wrong("", "expected a range that can be worked with");
+        throw refused("", "expected a range that can be worked with");
 }
 
 } // namespace
@@ -89,7 +91,7 @@ RangeTask readRange(const TaskValue& json) {
     readColumn(task, range);
     range.length = readSizes(task, "Dlugosc");
     if (task.has("Szerokosc") == task.has("Proporcja"))
-        throw wrong("", "expected either \"Szerokosc\" or \"Proporcja\"");
+        throw refused("", "expected either \"Szerokosc\" or \"Proporcja\"");
     if (task.has("Szerokosc"))
         range.width = readSizes(task, "Szerokosc");
     else
