@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include "app/editing_entries.h"
+#include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "plate/forms/Grub_bla.h"
@@ -20,6 +21,7 @@ Program::Program(Stan& stan, QString folder)
       task_(input_, stan_, dialogs_, folder_, keptTasksFolder()) {
     addMenus();
     addEditing(input_, stan_);
+    combinations_ = new CombinationEntries(stan_, input_); // the form owns it
 }
 
 int Program::run(const QString& taskFile) {
@@ -39,6 +41,7 @@ void Program::openResults() {
     auto session = std::make_unique<ResultsSession>(
         stan_, dialogs_, folder_, input_.firstNorm(), [] { return QDateTime::currentDateTime(); },
         [this] { return render(); });
+    combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
     task_.resultsMade(*results_);
     input_.hide();

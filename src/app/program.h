@@ -9,6 +9,8 @@
 
 namespace ferna {
 
+class CombinationEntries;
+
 /// The forms of the program and how one leads to another.
 class Program {
 public:
@@ -31,6 +33,7 @@ private:
     QtDialogs dialogs_;
     Ferna3 input_;
     TaskEntries task_;
+    CombinationEntries* combinations_ = nullptr;
     std::unique_ptr<FernaWyn> results_;
 };
 

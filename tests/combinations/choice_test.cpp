@@ -116,14 +116,6 @@ TEST(Choice, OfAStreamIsThatOfTheSortedTable) {
     }
 }
 
-TEST(Ties, AreAllRowsThatUseACheckAsTheGoverningOne) {
-    const std::vector<Answer> answers{use(0.2, 0.7), use(0.9, 0.1), use(std::nextafter(0.9, 1.0), 0),
-                                      use(0.9 * (1 - 2e-9), 0.7)};
-    const Rows rows{1, 2, 5, 6};
-    EXPECT_EQ(ties(Check::Concrete, rows, answers), (Rows{2, 5}));
-    EXPECT_EQ(ties(Check::Tension, rows, answers), (Rows{1, 6}));
-}
-
 } // namespace
 
 } // namespace ferna::combinations

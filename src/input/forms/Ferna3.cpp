@@ -23,6 +23,7 @@
 #include "widgets/form_tools.h"
 #include "widgets/notes.h"
 #include "widgets/number_field.h"
+#include "widgets/small_screen.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -255,6 +256,8 @@ void Ferna3::load() {
     Rysuj_P3();
     ui_->SSTab1->setCurrentIndex(generalTab);
     keepRoomForEveryTab(ui_->SSTab1);
+    if (needsMoreThan(this, roomOnScreen(this)))
+        letPagesScroll(ui_->SSTab1); // the commands below stay in sight
     centreOnScreen(this);
 }
 
@@ -369,10 +372,15 @@ void Ferna3::showRow(int r) {
 }
 
 void Ferna3::takeLoads(int rows, const std::function<void()>& fill) {
-    if (rows > stan_.obciazenia.Liczba_przyp) {
-        ui_->Text1->setText(general(rows));
-        leaveText1();
-    }
+    if (rows > stan_.obciazenia.Liczba_przyp)
+        replaceLoads(rows, fill);
+    else
+        fill();
+}
+
+void Ferna3::replaceLoads(int rows, const std::function<void()>& fill) {
+    ui_->Text1->setText(general(rows));
+    leaveText1();
     fill();
 }
 

@@ -67,6 +67,8 @@ public:
     /// Has texts put into the load table, with at least so many of its rows shown: the number of
     /// cases follows where it is smaller.
     void takeLoads(int rows, const std::function<void()>& fill);
+    /// The same with exactly so many rows: cases behind them go.
+    void replaceLoads(int rows, const std::function<void()>& fill);
 
     /// Has the anchors changed, and shows list and drawing anew.
     void editAnchors(const std::function<void(Plyta_i_kotwy&)>& edit);
