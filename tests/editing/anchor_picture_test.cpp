@@ -122,10 +122,10 @@ TEST_F(AnchorDrawing, EveryEditIsANamedStep) {
     rubberBand(at(-290, 190), at(290, 0));
     key(Qt::Key_Up, Qt::ShiftModifier);
     key(Qt::Key_Delete);
-    EXPECT_EQ(steps, QStringList({QStringLiteral("przesunięcie kotwy 2"),
-                                  QStringLiteral("zmiana kotwy 2"),
-                                  QStringLiteral("przesunięcie 2 kotew"),
-                                  QStringLiteral("usunięcie 2 kotew")}));
+    EXPECT_EQ(
+        steps,
+        QStringList({QStringLiteral("przesunięcie kotwy 2"), QStringLiteral("zmiana kotwy 2"),
+                     QStringLiteral("przesunięcie 2 kotew"), QStringLiteral("usunięcie 2 kotew")}));
 }
 
 TEST_F(AnchorDrawing, DeleteRemovesWhatIsChosenAndTheListIsTrue) {

@@ -12,9 +12,8 @@ namespace {
 
 /// A step of the work in its name: "usunięcie kotwy 2", "usunięcie 3 kotew".
 QString stepName(const QString& what, const editing::Anchors& anchors) {
-    return anchors.size() == 1
-               ? QStringLiteral("%1 kotwy %2").arg(what).arg(anchors.front())
-               : QStringLiteral("%1 %2 kotew").arg(what).arg(anchors.size());
+    return anchors.size() == 1 ? QStringLiteral("%1 kotwy %2").arg(what).arg(anchors.front())
+                               : QStringLiteral("%1 %2 kotew").arg(what).arg(anchors.size());
 }
 
 } // namespace
@@ -51,8 +50,7 @@ QString AnchorModel::doubt(int anchor) const {
 }
 
 void AnchorModel::move(const editing::Anchors& anchors, int dx, int dy) {
-    form_.editAnchors(
-        [&](Plyta_i_kotwy& plate) { editing::moveAnchors(plate, anchors, dx, dy); });
+    form_.editAnchors([&](Plyta_i_kotwy& plate) { editing::moveAnchors(plate, anchors, dx, dy); });
     Q_EMIT form_.stepped(stepName(QStringLiteral("przesunięcie"), anchors));
 }
 
@@ -62,8 +60,7 @@ void AnchorModel::remove(const editing::Anchors& anchors) {
 }
 
 void AnchorModel::set(int anchor, editing::AnchorPlace place, Integer fi) {
-    form_.editAnchors(
-        [&](Plyta_i_kotwy& plate) { editing::setAnchor(plate, anchor, place, fi); });
+    form_.editAnchors([&](Plyta_i_kotwy& plate) { editing::setAnchor(plate, anchor, place, fi); });
     Q_EMIT form_.stepped(stepName(QStringLiteral("zmiana"), {anchor}));
 }
 
