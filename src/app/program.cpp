@@ -16,7 +16,7 @@ namespace ferna {
 
 Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
-      input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
+      input_(stan_, folder_, dialogs_, [this] { openResults(); }), reserve_(input_, stan_) {
     addMenus();
     addEditing(input_, stan_);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/reserve_entries.h"
 #include "input/forms/Ferna3.h"
 #include "report/forms/FernaWyn.h"
 #include "widgets/qt_dialogs.h"
@@ -28,6 +29,7 @@ private:
     QString folder_;
     QtDialogs dialogs_;
     Ferna3 input_;
+    ReserveEntries reserve_;
     std::unique_ptr<FernaWyn> results_;
 };
 
