@@ -18,7 +18,7 @@ namespace ferna {
 Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
       input_(stan_, folder_, dialogs_, [this] { openResults(); }),
-      task_(input_, stan_, dialogs_, folder_, keptTasksFolder()) {
+      task_(input_, stan_, dialogs_, folder_, keptTasksFolder()), reserve_(input_, stan_) {
     addMenus();
     addEditing(input_, stan_);
     combinations_ = new CombinationEntries(stan_, input_); // the form owns it
