@@ -7,7 +7,6 @@ namespace ferna::batch {
 
 namespace {
 
-
 using smallest::DesignRange;
 using smallest::Sizes;
 
@@ -78,7 +77,7 @@ void refuseWhatIsLeft(const DesignRange& range) {
     if (wrong == RangePart::Layouts)
         throw TaskError("Kotwy", {"expected numbers of anchors among 4, 6, 8, 12", polish});
     if (wrong == RangePart::Diameters)
-        throw refused(
+        throw TaskError(
             "Srednice",
             {"expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80",
              polish});
