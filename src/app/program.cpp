@@ -20,7 +20,7 @@ Program::Program(Stan& stan, QString folder)
       input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
     addMenus();
     addEditing(input_, stan_);
-    combinations_ = new CombinationEntries(stan_, input_); // the form owns it
+    combinations_ = new CombinationEntries(stan_, input_, dialogs_); // the form owns it
 }
 
 int Program::run() {
