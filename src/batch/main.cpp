@@ -6,6 +6,7 @@
 #include "batch/remarks.h"
 #include "batch/report_files.h"
 #include "batch/sheet_files.h"
+#include "batch/smallest_run.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
 #include "design/language.h"
@@ -28,6 +29,7 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <stdexcept>
 #include <system_error>
 
 namespace {
@@ -160,6 +162,39 @@ int runLines(const Options& options, const RunOptions& runOptions) {
     return all ? Computed : NotSolved;
 }
 
+/// The value that `read` makes of a file; a TaskError becomes a line that names file and place.
+template <typename Read>
+auto valueOf(const QString& file, const Read& read) {
+    const QByteArray bytes = readTaskText(file);
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    try {
+        return read(parsed(text));
+    } catch (const TaskError& failure) {
+        throw std::invalid_argument(wordsOf(failure, file, text));
+    }
+}
+
+/// What --nosnosc or --dobierz answers in place of a result.
+int runAnswer(const Options& options) {
+    OutputFiles outputs({options.task, options.range});
+    if (!options.result.isEmpty())
+        outputs.claim(options.result);
+    try {
+        const Task task =
+            valueOf(options.task, [](const TaskValue& json) { return readTask(json); });
+        const Answer answer = options.capacity
+                                  ? capacityAnswer(task)
+                                  : smallestAnswer(task, valueOf(options.range, readRange));
+        if (options.result.isEmpty())
+            print(answer.text);
+        else
+            writeFileWhole(options.result, QByteArray::fromStdString(answer.text));
+        return answer.solved ? Computed : NotSolved;
+    } catch (const std::invalid_argument& failure) {
+        return refuse(failure.what());
+    }
+}
+
 int runTable(const Options& options) {
     const QByteArray bytes = readTaskText(options.task);
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
@@ -193,6 +228,8 @@ private:
 int runProgram(const Options& options) {
     if (options.decimalSign)
         setDecimalSign(*options.decimalSign);
+    if (options.capacity || !options.range.isEmpty())
+        return runAnswer(options);
     if (!options.combinations.isEmpty())
         return runTable(options);
     const QString dataFolder = deliveredDataFolder();

@@ -19,6 +19,8 @@ struct Options {
     QString result;                   ///< --wynik; standard output without it
     bool lines = false;               ///< --linie
     QString combinations;             ///< --kombinacje: a file, or "-" for standard input
+    bool capacity = false;            ///< --nosnosc
+    QString range;                    ///< --dobierz: the file of the range
     int threads = 1;                  ///< --watki
     QString task;                     ///< the task file of a single run; of "-" standard input's
 };

@@ -44,6 +44,17 @@ public:
     /// The fields and options as they stand.
     InputFields fields() const;
 
+    /// The state as it would stand if the focus left its field now: the lists and the number of
+    /// cases as shown.
+    Stan enteredState() const;
+
+    /// Takes a state and its fields in place of what is entered, as undo does, and tells `entered`
+    /// once. The results of calculations stay those of `task`. Errors of `Czytaj_teksty`; nothing
+    /// is taken then.
+    void takeTask(const Stan& task, const InputFields& fields);
+    /// The same for another task: nothing of earlier calculations is carried into its own.
+    void openTask(const Stan& task, const InputFields& fields);
+
     /// True where the first option of the norm is set.
     bool firstNorm() const;
 
@@ -77,6 +88,12 @@ public:
 Q_SIGNALS:
     /// Something of the task was typed, chosen, added or removed.
     void entered();
+    /// A command has changed the task: one step to undo, under this name ("przesunięcie kotwy").
+    void stepped(const QString& name);
+    /// The totals of these loads have gone into a load case, numbered from 1.
+    void columnSaved(const Stan_statyki& loads, int loadCase);
+    /// "Oblicz" was given and nothing of it has run yet.
+    void calculating();
     /// The list of the anchors or their drawing is shown anew.
     void anchorsShown();
 
@@ -95,6 +112,9 @@ private:
     void showRow(int r) override;
 
     void collectFields();
+    void showOptions();
+    void showFields(const InputFields& fields);
+    void declareColumn();
     void watchEntries();
     void connectOptions();
     void connectAnchorCommands();
