@@ -77,6 +77,7 @@ void LoadTableKeys::paste(QLineEdit* field, const QString& table) {
         for (const editing::LoadPaste::Entry& entry : paste.entries)
             fieldOf(entry.cell)->setText(entry.text);
     });
+    Q_EMIT form_->stepped(QStringLiteral("wklejenie tabeli obciążeń"));
     field->selectAll();
     if (!paste.remark.isEmpty())
         showFieldNote(field, paste.remark);
