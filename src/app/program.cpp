@@ -21,7 +21,7 @@ Program::Program(Stan& stan, QString folder)
       task_(input_, stan_, dialogs_, folder_, keptTasksFolder()), reserve_(input_, stan_) {
     addMenus();
     addEditing(input_, stan_);
-    combinations_ = new CombinationEntries(stan_, input_); // the form owns it
+    combinations_ = new CombinationEntries(stan_, input_, dialogs_); // the form owns it
 }
 
 int Program::run(const QString& taskFile) {
