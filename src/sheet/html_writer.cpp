@@ -41,7 +41,7 @@ QByteArray pngOf(const Picture& picture) {
 
 class HtmlWriter {
 public:
-    explicit HtmlWriter(const Sheet& sheet) : sheet_(sheet) {}
+    HtmlWriter(const Sheet& sheet, HtmlPictures pictures) : sheet_(sheet), pictures_(pictures) {}
 
     QByteArray all() {
         QFile style(QStringLiteral(":/arkusz/styl.css"));
@@ -83,7 +83,7 @@ private:
     }
 
     void write(const Picture& picture) {
-        if (!picture.painting)
+        if (!picture.painting || pictures_ == HtmlPictures::LeftOut)
             return;
         html_ += QStringLiteral("<img alt=\"\" style=\"width:%1mm\" src=\"data:image/png;base64,%2\">\n")
                      .arg(picture.width)
@@ -200,14 +200,15 @@ private:
     }
 
     const Sheet& sheet_;
+    HtmlPictures pictures_;
     QString html_;
     std::set<const Quantity*> written_;
 };
 
 } // namespace
 
-QByteArray htmlOf(const Sheet& sheet) {
-    return HtmlWriter(sheet).all();
+QByteArray htmlOf(const Sheet& sheet, HtmlPictures pictures) {
+    return HtmlWriter(sheet, pictures).all();
 }
 
 } // namespace ferna::sheet
