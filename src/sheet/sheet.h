@@ -108,6 +108,7 @@ struct Sheet {
     Rich title;         ///< "Arkusz obliczeniowy"
     Rich subject;       ///< project and footing, for the foot of the pages
     Rich made;          ///< program, version, date
+    QString program;    ///< its name and version
     QString pageOf;     ///< "Strona %1 z %2"
     QString search;     ///< heads of the two columns of results
     QString exact;

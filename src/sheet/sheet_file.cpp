@@ -2,6 +2,7 @@
 
 #include "runtime/text_file.h"
 #include "sheet/html_writer.h"
+#include "sheet/pages.h"
 
 #include <array>
 
@@ -13,13 +14,17 @@ void saveHtml(const Sheet& sheet, const QString& file) {
     writeFileWhole(file, htmlOf(sheet));
 }
 
+void savePdf(const Sheet& sheet, const QString& file) {
+    writeFileWhole(file, Pages(sheet).pdf());
+}
+
 struct Format {
     const char* ending;
     void (*save)(const Sheet& sheet, const QString& file);
 };
 
 // One row a format.
-constexpr std::array formats{Format{".html", saveHtml}};
+constexpr std::array formats{Format{".pdf", savePdf}, Format{".html", saveHtml}};
 
 const Format* formatOf(const QString& file) {
     for (const Format& format : formats)
