@@ -129,10 +129,15 @@ public:
                 drawResult(painter, row.exact, second_, x, at.y() + down);
                 x += second_.width() + columnGap;
             }
-            if (below_)
+            if (below_) {
                 remark.draw(painter, at + QPointF(5 * perMm, line));
-            else
-                remark.draw(painter, QPointF(x, at.y() + std::max(0.0, (line - remark.height()) / 2)));
+                return;
+            }
+            // On the base line, or around it where it has several lines.
+            const double oneLine = 1.2 * remarkStyle.size;
+            const double up = remark.ascent() + std::max(0.0, remark.height() - oneLine) / 2;
+            const double lowest = std::max(0.0, line - remark.height());
+            remark.draw(painter, {x, at.y() + std::clamp(down - up, 0.0, lowest)});
         };
         return made;
     }
@@ -175,7 +180,7 @@ private:
 } // namespace
 
 Slices equationSlices(const Equations& equations, double width, const ColumnNames& names) {
-    constexpr double waysShare = 0.56;
+    constexpr double waysShare = 0.62;
     std::vector<SetRow> rows;
     for (const Equation& equation : equations.rows)
         if (const Quantity* const told =
@@ -187,6 +192,12 @@ Slices equationSlices(const Equations& equations, double width, const ColumnName
         slices.push_back(layout.head(names));
     for (const SetRow& row : rows)
         slices.push_back(layout.slice(row));
+    constexpr double blank = 1.5 * perMm;
+    constexpr std::size_t few = 5; // rows that stay together
+    if (!slices.empty())
+        slices.front().before = blank;
+    for (std::size_t i = 0; i + 1 < slices.size(); ++i)
+        slices[i].withNext = slices[i].withNext || i == 0 || slices.size() <= few;
     return slices;
 }
 

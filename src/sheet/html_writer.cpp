@@ -75,6 +75,14 @@ private:
                           paragraph.text);
     }
 
+    void write(const Values& values) {
+        QStringList parts;
+        for (const Quantity* const number : values.numbers)
+            parts += richSymbol(number->symbol) + QStringLiteral(" = ") + withUnit(*number);
+        if (!parts.isEmpty())
+            html_ += QStringLiteral("<p>%1</p>\n").arg(parts.join(QStringLiteral(",&emsp;")));
+    }
+
     void write(const SignatureFields& fields) {
         html_ += QStringLiteral("<div class=\"sign\">");
         for (const QString& name : fields.names)

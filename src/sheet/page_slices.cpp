@@ -49,6 +49,7 @@ Slices paragraphSlices(const Paragraph& paragraph, double width) {
                           .grey = paragraph.tone == Tone::Small};
     Slice made =
         textSlice(TextBlock(paragraph.text, style, width - indent), 1.3 * perMm, indent);
+    made.withNext = paragraph.withNext;
     if (barred) {
         const QColor colour = paragraph.tone == Tone::Warning ? QColor(0xA0, 0, 0)
                                                               : QColor(0x99, 0x99, 0x99);
@@ -60,6 +61,16 @@ Slices paragraphSlices(const Paragraph& paragraph, double width) {
         };
     }
     return {made};
+}
+
+Slices valuesSlices(const Values& values, double width) {
+    QStringList parts;
+    for (const Quantity* const number : values.numbers)
+        parts += richSymbol(number->symbol) + QStringLiteral(" = ") + htmlNumber(number->text)
+                 + (number->unit.isEmpty() ? QString() : QChar(0x00A0) + rich(number->unit));
+    if (parts.isEmpty())
+        return {};
+    return {textSlice(TextBlock(parts.join(QStringLiteral(",   ")), {}, width), 1.3 * perMm)};
 }
 
 Slices pictureSlices(const Picture& picture, double width) {
@@ -162,6 +173,7 @@ Slices slicesOf(const Block& block, double width, const ColumnNames& names) {
         const ColumnNames& names;
         Slices operator()(const Heading& one) const { return headingSlices(one, width); }
         Slices operator()(const Paragraph& one) const { return paragraphSlices(one, width); }
+        Slices operator()(const Values& one) const { return valuesSlices(one, width); }
         Slices operator()(const Equations& one) const { return equationSlices(one, width, names); }
         Slices operator()(const Table& one) const { return tableSlices(one, width); }
         Slices operator()(const Picture& one) const { return pictureSlices(one, width); }
