@@ -37,6 +37,11 @@ ROADS = {  # names of the benchmarks in a reader's words
     "ExactCase/5": "its exact equilibrium, whole plate compressed",
     "ExactBase": "a base made ready for exact equilibria",
     "TaskOfSixCases": "six median cases, 20 anchors, from the fields to the text report",
+    "Answers/300": "combinations, six anchors: 300 answered, the governing ones chosen",
+    "Answers/10000": "combinations, six anchors: 10 000 answered (aim 0.1 s)",
+    "ReadAndAnswered/300": "combinations, six anchors: 300 read from text and answered",
+    "ReadAndAnswered/10000": "combinations, six anchors: 10 000 read from text and answered",
+    "ReadAndAnswered/100000": "combinations, six anchors: 100 000 read from text and answered",
     "ReportLines": "lines of the report, six cases",
     "TextReport": "text report",
     "RtfReport/1": "RTF report, pattern A",
@@ -125,7 +130,7 @@ def main():
     sample = os.path.join(ROOT, "data/przyklady/szesc-przypadkow.json")
     rows, spread = benchmarks(os.path.join(build, "bench/ferna_bench"))
     spread = spread[spread.index("cases outside the kern") - 6:].strip()
-    for name in ("report_bench", "results_form_bench"):
+    for name in ("combinations_bench", "report_bench", "results_form_bench"):
         program = os.path.join(build, "bench", name)
         if os.path.exists(program):
             rows += benchmarks(program)[0]

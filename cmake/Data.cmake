@@ -3,14 +3,14 @@
 set(FERNA_DATA_FILES
     Ferpl.txt Ferp2.txt Fergb.txt Ferfr.txt Ferge.txt Ferna.cfg W_X.txt)
 
-# Bitmap, its SVG source, the scale that gives at least 300 dots per inch at its printed size, and its
-# printed width in mm.
+# Bitmap, its SVG source and its printed width in mm, at which it has at least 600 dots per inch. Its
+# vector twin stands beside it.
 set(FERNA_BITMAPS
-    "Ferogo2 Ferogo2 4 52.9" "gkrys0 gkrys0 5 41.1"
-    "rys3f rys3f 4 91.5" "rys2pm rys2pm 4 91.5" "rys2pd rys2pd 4 91.5"
-    "rysgb1 szkic1 4 32.3" "rysgb2 szkic2 4 32.3" "rysgb31 szkic31 4 33.7"
-    "rysgb32 szkic32 4 33.7" "rysgb33 szkic33 4 33.7" "rysgb51 szkic51 4 33.7"
-    "rysgb52 szkic52 4 33.7")
+    "Ferogo2 Ferogo2 52.9" "gkrys0 gkrys0 41.1"
+    "rys3f rys3f 91.5" "rys2pm rys2pm 91.5" "rys2pd rys2pd 91.5"
+    "rysgb1 szkic1 32.3" "rysgb2 szkic2 32.3" "rysgb31 szkic31 33.7"
+    "rysgb32 szkic32 33.7" "rysgb33 szkic33 33.7" "rysgb51 szkic51 33.7"
+    "rysgb52 szkic52 33.7")
 
 set(ferna_data_outputs "")
 foreach(file IN LISTS FERNA_DATA_FILES)
@@ -30,20 +30,20 @@ set(FERNA_WITHOUT_SCREEN ${CMAKE_COMMAND} -E env
     QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=${CMAKE_BINARY_DIR}/runtime)
 
 add_executable(sketch_bitmap ${CMAKE_SOURCE_DIR}/tools/sketch_bitmap.cpp)
-target_link_libraries(sketch_bitmap PRIVATE Qt6::Svg)
+target_link_libraries(sketch_bitmap PRIVATE ferna_runtime Qt6::Svg)
 set_target_properties(sketch_bitmap PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tools)
 foreach(row IN LISTS FERNA_BITMAPS)
     separate_arguments(row)
     list(GET row 0 bitmap)
     list(GET row 1 sketch)
-    list(GET row 2 scale)
-    list(GET row 3 width)
+    list(GET row 2 width)
     set(source ${CMAKE_SOURCE_DIR}/data/szkice/${sketch}.svg)
     set(output ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${bitmap}.bmp)
+    set(twin ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${bitmap}.svg)
     add_custom_command(
-        OUTPUT ${output}
-        COMMAND ${FERNA_WITHOUT_SCREEN} $<TARGET_FILE:sketch_bitmap> ${source} ${scale} ${width} ${output}
+        OUTPUT ${output} ${twin}
+        COMMAND ${FERNA_WITHOUT_SCREEN} $<TARGET_FILE:sketch_bitmap> ${source} ${width} ${output}
         DEPENDS ${source} sketch_bitmap)
-    list(APPEND ferna_data_outputs ${output})
+    list(APPEND ferna_data_outputs ${output} ${twin})
 endforeach()
 add_custom_target(ferna_data ALL DEPENDS ${ferna_data_outputs})

@@ -15,7 +15,7 @@ endif()
 # beside itself.
 list(TRANSFORM FERNA_DATA_FILES PREPEND ${CMAKE_SOURCE_DIR}/data/ OUTPUT_VARIABLE delivered_texts)
 set(delivered_bitmaps ${ferna_data_outputs})
-list(FILTER delivered_bitmaps INCLUDE REGEX "\\.bmp$")
+list(FILTER delivered_bitmaps INCLUDE REGEX "\\.(bmp|svg)$")
 install(FILES ${delivered_texts} ${delivered_bitmaps} ${help_output}
     DESTINATION ${CMAKE_INSTALL_DATADIR}/ferna)
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/przyklady DESTINATION ${CMAKE_INSTALL_DATADIR}/ferna

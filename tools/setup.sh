@@ -6,6 +6,7 @@ build_packages=(
     g++ cmake ninja-build ccache
     python3 cmark-gfm
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools libcups2-dev nlohmann-json3-dev
+    libqpdf-dev libzip-dev pkg-config liborcus-dev
 )
 run_packages=(
     fonts-liberation fonts-dejavu-core libqt6svg6 libqt6help6 libqt6sql6-sqlite
@@ -22,9 +23,11 @@ test_packages=(
     lintian desktop-file-utils appstream man-db
     "${package_packages[@]}"
 )
+# For tests/mutants.py and tests/coverage.sh.
+proof_packages=(clang llvm-14 libclang1-14 libclang-common-14-dev python3-clang-14)
 # For the fuzzers, and for the tests of ./test.sh --long.
 fuzz_packages=(clang libclang-rt-14-dev)
-long_test_packages=("${fuzz_packages[@]}" debootstrap gcovr)
+long_test_packages=("${fuzz_packages[@]}" "${proof_packages[@]}" debootstrap gcovr)
 
 # Says what begins now, and when.
 step() {

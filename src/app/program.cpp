@@ -1,5 +1,8 @@
 #include "app/program.h"
 
+#include "app/editing_entries.h"
+#include "app/sheet_entry.h"
+#include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "plate/forms/Grub_bla.h"
@@ -17,6 +20,8 @@ Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
       input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
     addMenus();
+    addEditing(input_, stan_);
+    combinations_ = new CombinationEntries(stan_, input_); // the form owns it
 }
 
 int Program::run() {
@@ -34,7 +39,9 @@ void Program::openResults() {
     auto session = std::make_unique<ResultsSession>(
         stan_, dialogs_, folder_, input_.firstNorm(), [] { return QDateTime::currentDateTime(); },
         [this] { return render(); });
+    combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
+    addSheetEntry(*results_, stan_, input_.record(), dialogs_);
     input_.hide();
     results_->open();
 }

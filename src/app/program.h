@@ -8,6 +8,8 @@
 
 namespace ferna {
 
+class CombinationEntries;
+
 /// The forms of the program and how one leads to another.
 class Program {
 public:
@@ -28,6 +30,7 @@ private:
     QString folder_;
     QtDialogs dialogs_;
     Ferna3 input_;
+    CombinationEntries* combinations_ = nullptr;
     std::unique_ptr<FernaWyn> results_;
 };
 

@@ -88,7 +88,7 @@ void JsonWriter::key(std::string_view name) {
     hasKey_ = true;
 }
 
-void JsonWriter::whole(int value) {
+void JsonWriter::whole(std::int64_t value) {
     std::array<char, numberLength> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
     word({digits.data(), end});

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -68,7 +69,7 @@ public:
 
     void null() { word("null"); }
     void boolean(bool value) { word(value ? "true" : "false"); }
-    void whole(int value);
+    void whole(std::int64_t value);
     void number(Double value);
     /// The shortest decimal that reads back to the same Single.
     void single(Single value);

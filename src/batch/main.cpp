@@ -1,3 +1,4 @@
+#include "batch/combinations_run.h"
 #include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
@@ -5,6 +6,7 @@
 #include "batch/remarks.h"
 #include "batch/report_files.h"
 #include "batch/sheet_files.h"
+#include "batch/smallest_run.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
 #include "design/language.h"
@@ -27,6 +29,7 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <stdexcept>
 #include <system_error>
 
 namespace {
@@ -66,6 +69,12 @@ void tellNotes(const ComputedTask& done, bool namesAreTold) {
 
 std::string textOf(const RunTimeError& failure) {
     return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
+}
+
+/// What is wrong with the text of a task, and where.
+std::string wordsOf(const TaskError& failure, const QString& task, std::string_view text) {
+    return task.toStdString() + ", line " + std::to_string(lineOf(text, failure.path)) + ": "
+           + failure.what();
 }
 
 /// To standard output, or an error where it takes no more: a full disk must not look like success.
@@ -110,8 +119,7 @@ int runOne(const Options& options, const RunOptions& runOptions) {
         tellNotes(done, namesAreTold);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
-        return refuse(options.task.toStdString() + ", line "
-                      + std::to_string(lineOf(text, failure.path)) + ": " + failure.what());
+        return refuse(wordsOf(failure, options.task, text));
     }
 }
 
@@ -154,6 +162,54 @@ int runLines(const Options& options, const RunOptions& runOptions) {
     return all ? Computed : NotSolved;
 }
 
+/// The value that `read` makes of a file; a TaskError becomes a line that names file and place.
+template <typename Read>
+auto valueOf(const QString& file, const Read& read) {
+    const QByteArray bytes = readTaskText(file);
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    try {
+        return read(parsed(text));
+    } catch (const TaskError& failure) {
+        throw std::invalid_argument(wordsOf(failure, file, text));
+    }
+}
+
+/// What --nosnosc or --dobierz answers in place of a result.
+int runAnswer(const Options& options) {
+    OutputFiles outputs({options.task, options.range});
+    if (!options.result.isEmpty())
+        outputs.claim(options.result);
+    try {
+        const Task task =
+            valueOf(options.task, [](const TaskValue& json) { return readTask(json); });
+        const Answer answer = options.capacity
+                                  ? capacityAnswer(task)
+                                  : smallestAnswer(task, valueOf(options.range, readRange));
+        if (options.result.isEmpty())
+            print(answer.text);
+        else
+            writeFileWhole(options.result, QByteArray::fromStdString(answer.text));
+        return answer.solved ? Computed : NotSolved;
+    } catch (const std::invalid_argument& failure) {
+        return refuse(failure.what());
+    }
+}
+
+int runTable(const Options& options) {
+    const QByteArray bytes = readTaskText(options.task);
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    try {
+        const Task task = readTask(parsed(text), TaskCases::Elsewhere);
+        const CombinationsEnd end = runCombinations(options.combinations, task, print);
+        remark(end.remark);
+        if (!end.trouble.isEmpty())
+            return refuse(end.trouble.toStdString());
+        return end.rows > end.refused ? Computed : NotSolved;
+    } catch (const TaskError& failure) {
+        return refuse(wordsOf(failure, options.task, text));
+    }
+}
+
 bool anyNeedsPictures(const Options& options) {
     return std::any_of(options.reports.begin(), options.reports.end(), needsPictures);
 }
@@ -172,6 +228,10 @@ private:
 int runProgram(const Options& options) {
     if (options.decimalSign)
         setDecimalSign(*options.decimalSign);
+    if (options.capacity || !options.range.isEmpty())
+        return runAnswer(options);
+    if (!options.combinations.isEmpty())
+        return runTable(options);
     const QString dataFolder = deliveredDataFolder();
     const std::unique_ptr<Pictures> pictures =
         anyNeedsPictures(options) ? std::make_unique<Pictures>(dataFolder) : nullptr;

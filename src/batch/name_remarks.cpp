@@ -32,9 +32,9 @@ QStringList nameRemarks(const Task& task) {
         remarks += QStringLiteral("Nazwa_stopy: cut to %1 characters, \"%2\" is left out")
                        .arg(longestLabel)
                        .arg(cut);
-    remarkLetters(remarks, "Stal.Stal_nazwa", task.steel.Text1);
+    remarkLetters(remarks, "Stal.Stal_nazwa", task.steel.name);
     if (task.plate)
-        remarkLetters(remarks, "Blacha.Blacha_nazwa", task.plate->steel.Text1);
+        remarkLetters(remarks, "Blacha.Blacha_nazwa", task.plate->steel.name);
     return remarks;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "task/object_reader.h"
 #include "notes/note.h"
+#include "task/object_reader.h"
 
 namespace ferna::batch {
 

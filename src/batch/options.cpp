@@ -24,7 +24,21 @@ QString helpOf(const QCommandLineParser& parser) {
 Leave schemaLeave(const QString& name) {
     if (const std::optional<std::string> schema = schemaOf(name))
         return {*schema, 0};
-    return badCall(QStringLiteral("--schemat: expected zadanie or wynik and not \"%1\"").arg(name));
+    return badCall(QStringLiteral("--schemat: expected %1 and not \"%2\"")
+                       .arg(schemaNames().join(QStringLiteral(" or ")), name));
+}
+
+/// Why an answer in place of the result cannot be had with what else is asked for.
+std::optional<QString> clashOf(const Options& options) {
+    if (options.capacity && !options.range.isEmpty())
+        return QStringLiteral("--nosnosc and --dobierz do not go together");
+    const bool more = options.lines || !options.reports.isEmpty() || !options.sheets.isEmpty()
+                      || !options.combinations.isEmpty();
+    if (more && (options.capacity || !options.range.isEmpty()))
+        return QStringLiteral("%1 answers one task; it takes no --linie, --raport, --arkusz or "
+                              "--kombinacje")
+            .arg(options.capacity ? QStringLiteral("--nosnosc") : QStringLiteral("--dobierz"));
+    return std::nullopt;
 }
 
 } // namespace
@@ -72,11 +86,30 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     const QCommandLineOption threads(QStringLiteral("watki"),
                                      QStringLiteral("Threads of a stream, 1 to 256."),
                                      QStringLiteral("N"), QStringLiteral("1"));
+    const QCommandLineOption combinations(
+        QStringLiteral("kombinacje"),
+        QStringLiteral("Answer each row of a table of combinations for the base of the task: how "
+                       "far each check is used, a JSON line a row, then a summary. FILE is text "
+                       "(CSV, tabs, semicolons), .xlsx or .ods; - is standard input."),
+        QStringLiteral("FILE"));
     const QCommandLineOption schema(
         QStringLiteral("schemat"),
-        QStringLiteral("Print the JSON schema of a task (zadanie) or of a result (wynik)."),
-        QStringLiteral("zadanie|wynik"));
-    parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines, threads, schema});
+        QStringLiteral("Print the JSON schema of a task (zadanie), of its result (wynik), of the "
+                       "range (zakres) and the answer (dobor) of --dobierz, or of the answer of "
+                       "--nosnosc (nosnosc)."),
+        schemaNames().join(u'|'));
+    const QCommandLineOption capacity(
+        QStringLiteral("nosnosc"),
+        QStringLiteral("In place of the result, up to which loads the base is borne: for each case "
+                       "the line of M1 and M2 at its N, and lines of N and M, as JSON."));
+    const QCommandLineOption range(
+        QStringLiteral("dobierz"),
+        QStringLiteral("In place of the result, the lightest bases of the range in this file for "
+                       "the task's loads, as JSON; the task's own plate and anchors are not looked "
+                       "at. Exit code 1 where the calculation confirms none."),
+        QStringLiteral("RANGE.json"));
+    parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines,
+                        combinations, threads, schema, capacity, range});
     parser.addPositionalArgument(QStringLiteral("TASK.json"),
                                  QStringLiteral("The task; - is standard input."));
 
@@ -109,7 +142,20 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
             return badCall(QStringLiteral("--arkusz %1: expected a file ending in %2")
                                .arg(file, sheetEndings().join(QStringLiteral(", "))));
     options.result = parser.value(result);
+    options.capacity = parser.isSet(capacity);
+    options.range = parser.value(range);
+    if (parser.isSet(range) && options.range.isEmpty())
+        return badCall(QStringLiteral("--dobierz: expected the name of a file"));
     options.lines = parser.isSet(lines);
+    options.combinations = parser.value(combinations);
+    if (parser.isSet(combinations) && options.combinations.isEmpty())
+        return badCall(QStringLiteral("--kombinacje: expected the name of a file"));
+    if (!options.combinations.isEmpty()
+        && (options.lines || !options.reports.isEmpty() || !options.result.isEmpty()))
+        return badCall(QStringLiteral("--kombinacje writes standard output; it takes no --linie, "
+                                      "--raport or --wynik"));
+    if (const std::optional<QString> clash = clashOf(options))
+        return badCall(*clash);
     bool isNumber = false;
     options.threads = parser.value(threads).toInt(&isNumber);
     if (!isNumber || options.threads < 1 || options.threads > 256)
@@ -129,6 +175,8 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         return badCall(QStringLiteral("--watki goes with --linie"));
     if (tasks.size() != 1)
         return badCall(QStringLiteral("expected one task file (see --help)"));
+    if (tasks.front() == u"-" && options.combinations == u"-")
+        return badCall(QStringLiteral("standard input cannot be both the task and the table"));
     options.task = tasks.front() == u"-" ? QStringLiteral("/dev/stdin") : tasks.front();
     return options;
 }

@@ -1,6 +1,7 @@
 #include "batch/report_files.h"
 
 #include "batch/report_pictures.h"
+#include "editable/editable_report.h"
 #include "pages/sketch_files.h"
 #include "protocol/renderer_start.h"
 #include "report/document_writer.h"
@@ -90,6 +91,13 @@ QString writeWordDocument(const ComputedTask& done, const Destination& to) {
     return {};
 }
 
+/// The report as an editable document, made here.
+QString writeEditable(const ComputedTask& done, const Destination& to) {
+    const editable::Document document = editable::editableReport(modelOf(done), to.pictures);
+    writeFileWhole(to.file, editable::writerFor(to.file)(document));
+    return {};
+}
+
 constexpr char pdf[] = "--pdf";
 constexpr char emf[] = "--emf";
 constexpr char svg[] = "--svg";
@@ -105,7 +113,8 @@ constexpr std::array formats{
     ReportFormat{".txt", false, writeText},        ReportFormat{".rtf", true, writeRtf},
     ReportFormat{".wyd", true, writeCommands},     ReportFormat{".pdf", true, writePages<pdf>},
     ReportFormat{".emf", true, writePages<emf>},   ReportFormat{".svg", true, writePages<svg>},
-    ReportFormat{".doc", true, writeWordDocument}, ReportFormat{".odt", true, writeWordDocument},
+    ReportFormat{".doc", true, writeWordDocument}, ReportFormat{".odt", true, writeEditable},
+    ReportFormat{".docx", true, writeEditable},
 };
 
 const ReportFormat* formatOf(const QString& file) {
@@ -134,7 +143,8 @@ bool needsPictures(const QString& file) {
 }
 
 void deliverPictures(const QString& dataFolder, const QString& folder) {
-    for (const QString& picture : QDir(dataFolder).entryList({QStringLiteral("*.bmp")}))
+    for (const QString& picture :
+         QDir(dataFolder).entryList({QStringLiteral("*.bmp"), QStringLiteral("*.svg")}))
         writeFileWhole(folder + u'/' + picture, readFileWhole(dataFolder + u'/' + picture));
 }
 

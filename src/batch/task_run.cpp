@@ -130,7 +130,8 @@ ComputedTask run(Task task, const RunOptions& options) {
         const RunTimeError failure = raised.of(keyOfValue(raised.value()));
         const std::optional<int> stopped = caseOf(failure, host.casesEnded(), stan);
         done.failure = errorJson(failure, stopped);
-        if (done.task.column && !failure.key().empty() && stopped == stan.obciazenia.Liczba_przyp)
+        if (addsCase(done.task) && !failure.key().empty()
+            && stopped == stan.obciazenia.Liczba_przyp)
             done.failure["klucz"] = done.task.column->path; // its totals are the last case
         done.computed = false;
         done.record.stopped();

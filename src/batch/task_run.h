@@ -2,11 +2,11 @@
 
 #include "analysis/stan_przypadku.h"
 #include "batch/json_writer.h"
-#include "task/task.h"
 #include "command/entered_equilibria.h"
 #include "design/language.h"
 #include "notes/notes.h"
 #include "report/report_lines.h"
+#include "task/task.h"
 
 #include <QDateTime>
 

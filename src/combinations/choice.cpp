@@ -13,20 +13,28 @@ Double worstOf(const std::optional<Utilisation>& answer) {
     return answer ? answer->worst() : std::numeric_limits<Double>::infinity();
 }
 
+bool isLarger(Double use, Double thanUse) {
+    constexpr Double equal = 1 + 1e-9;
+    return use > thanUse * equal;
+}
+
 void Choice::add(RowNumber row, const std::optional<Utilisation>& answer) {
     for (const Check check : allChecks) {
         Ranked& best = governing_.at(static_cast<std::size_t>(check));
         const Double use = useOf(answer, check);
-        if (best.row == 0 || use > best.use)
+        if (best.row == 0 || isLarger(use, best.use))
             best = {row, use};
+        Double& most = envelope_.at(static_cast<std::size_t>(check));
+        most = std::max(most, use);
     }
     rank({row, worstOf(answer)});
 }
 
 void Choice::rank(const Ranked& candidate) {
     const auto end = worst_.begin() + static_cast<std::ptrdiff_t>(ranked_);
-    const auto place = std::find_if(
-        worst_.begin(), end, [&](const Ranked& other) { return candidate.use > other.use; });
+    const auto place = std::find_if(worst_.begin(), end, [&](const Ranked& other) {
+        return isLarger(candidate.use, other.use);
+    });
     if (place == worst_.end())
         return;
     if (ranked_ < worst_.size())
@@ -47,19 +55,6 @@ std::vector<RowNumber> Choice::six() const {
     std::for_each(governing_.begin(), governing_.end(), take);
     std::for_each_n(worst_.begin(), ranked_, take);
     return rows;
-}
-
-std::vector<RowNumber> ties(Check check, std::span<const RowNumber> rows,
-                            std::span<const std::optional<Utilisation>> answers) {
-    constexpr Double near = 1 - 1e-9;
-    Double most = 0;
-    for (const auto& answer : answers)
-        most = std::max(most, useOf(answer, check));
-    std::vector<RowNumber> tied;
-    for (std::size_t i = 0; i < answers.size(); ++i)
-        if (useOf(answers[i], check) >= most * near)
-            tied.push_back(rows[i]);
-    return tied;
 }
 
 } // namespace ferna::combinations

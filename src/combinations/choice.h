@@ -4,7 +4,6 @@
 
 #include <array>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace ferna::combinations {
@@ -16,6 +15,10 @@ inline constexpr int chosenRows = MaxCases; ///< as many as the load table takes
 Double useOf(const std::optional<Utilisation>& answer, Check check);
 /// The largest of its checks.
 Double worstOf(const std::optional<Utilisation>& answer);
+
+/// True where a use is larger than another beyond what rounding does: by a billionth of it.
+/// The two of a mirrored pair are equal.
+bool isLarger(Double use, Double thanUse);
 
 /// Picks out of a stream of combinations, in the room of a few rows, those that govern. A
 /// combination is taken as a whole: no loads of several are ever mixed into one.
@@ -29,7 +32,7 @@ public:
     RowNumber governing(Check check) const { return at(check).row; }
 
     /// The largest use of a check, 0 before the first row.
-    Double envelope(Check check) const { return at(check).use; }
+    Double envelope(Check check) const { return envelope_.at(static_cast<std::size_t>(check)); }
 
     /// The rows for the load table, each once: those that govern, in the order of the checks, then
     /// the next worst by the largest of their checks, the first of equal ones, up to six.
@@ -44,14 +47,9 @@ private:
     void rank(const Ranked& candidate);
 
     std::array<Ranked, allChecks.size()> governing_{};
+    std::array<Double, allChecks.size()> envelope_{};
     std::array<Ranked, chosenRows> worst_{}; ///< descending, the first of equal ones before others
     std::size_t ranked_ = 0;
 };
-
-/// Rows whose use of a check is that of the largest one to within a billionth, so that the two of a
-/// mirrored pair stand together; in order, the governing one among them. `answers[i]` is that of
-/// row `rows[i]`.
-std::vector<RowNumber> ties(Check check, std::span<const RowNumber> rows,
-                            std::span<const std::optional<Utilisation>> answers);
 
 } // namespace ferna::combinations

@@ -113,7 +113,8 @@ private:
             }
         } else if (heading.is == Heading::Is::Load) {
             const auto* const at = std::find(loads.begin(), loads.end(), heading.load);
-            LoadColumn& load = layout_.columns.byLoad.at(static_cast<std::size_t>(at - loads.begin()));
+            LoadColumn& load =
+                layout_.columns.byLoad.at(static_cast<std::size_t>(at - loads.begin()));
             const QString& name = layout_.headings.at(column);
             load = {column, isTurned(name) ? -heading.factor : heading.factor, withoutUnit(name)};
         } else if (!layout_.headings.at(column).isEmpty()) {
@@ -122,7 +123,8 @@ private:
     }
 
     static QString withoutUnit(const QString& name) {
-        static const QRegularExpression unit(QStringLiteral("[\\s,/]*[\\[({].*$|[\\s,/]+[kKM]?N\\S*$"));
+        static const QRegularExpression unit(
+            QStringLiteral("[\\s,/]*[\\[({].*$|[\\s,/]+[kKM]?N\\S*$"));
         return QString(name).remove(unit).trimmed();
     }
 
@@ -169,9 +171,10 @@ void takePlaces(Layout& layout, const QList<Row>& rows) {
     for (LoadColumn& load : layout.columns.byLoad)
         load.column = column++;
     if (layout.width > column)
-        layout.doubt = QStringLiteral("kolumn jest %1, a bez nagłówka może ich być pięć (N, M1, M2, "
-                                      "Vx, Vy) albo sześć, z nazwą na początku")
-                           .arg(layout.width);
+        layout.doubt =
+            QStringLiteral("kolumn jest %1, a bez nagłówka może ich być pięć (N, M1, M2, "
+                           "Vx, Vy) albo sześć, z nazwą na początku")
+                .arg(layout.width);
 }
 
 } // namespace

@@ -15,7 +15,7 @@ QString columnName(const LoadColumn& column, Value load) {
     return QStringLiteral("kolumna %1 (%2)").arg(symbol, column.heading);
 }
 
-QString troubleText(tables::CellTrouble trouble, const QString& cell) {
+QString reason(tables::CellTrouble trouble, const QString& cell) {
     return trouble == tables::CellTrouble::Empty ? QStringLiteral("brak wartości")
                                                  : tables::troubleText(trouble, cell);
 }
@@ -34,7 +34,7 @@ ReadRow readRow(const QStringList& cells, const Columns& columns) {
         const QString cell = cells.value(column.column);
         const auto refused = [&](tables::CellTrouble trouble) {
             return Refusal{combination.name, columnName(column, loads.at(i)) + QStringLiteral(": ")
-                                                 + troubleText(trouble, cell)};
+                                                 + reason(trouble, cell)};
         };
         const tables::CellNumber number = tables::cellNumber(cell, columns.sign);
         if (const auto* const trouble = std::get_if<tables::CellTrouble>(&number))

@@ -21,24 +21,24 @@ bool outOfRange(Integer mm) {
 
 void acceptAnchor(Stan& stan, const AnchorSteelFields& fields) {
     Materialy& m = stan.materialy;
-    m.Stal_nazwa = oneLine(fields.Text1);
-    m.Stal_fd = CSng(fields.Text2[0]);
+    m.Stal_nazwa = oneLine(fields.name);
+    m.Stal_fd = CSng(fields.fd);
     m.Fd_kotwy = m.Stal_fd;
     m.Stal_anulowana = True;
     if (m.Stal_nazwa.isEmpty())
-        throw Refusal{QStringLiteral("Podaj nazwę materiału"), SteelField::Text1};
-    m.Stal_fi_max = CInt(fields.Text2[1]);
+        throw Refusal{QStringLiteral("Podaj nazwę materiału"), SteelField::Name};
+    m.Stal_fi_max = CInt(fields.fi_max);
     if (outOfRange(m.Stal_fi_max))
-        throw Refusal{QStringLiteral("Nieoczekiwana max. średnica"), SteelField::Text2_1};
+        throw Refusal{QStringLiteral("Nieoczekiwana max. średnica"), SteelField::Largest};
     if (m.Stal_fi_max < stan.plyta.Fi_max)
-        throw Refusal{QStringLiteral("Conajmniej jedna śruba jest grubsza!"), SteelField::Text2_1};
+        throw Refusal{QStringLiteral("Conajmniej jedna śruba jest grubsza!"), SteelField::Largest};
     // Re and Rm are still those of the last acceptance here: the fields are read below.
     if (m.Stal_Re == 0 || m.Stal_Rm == 0 || m.Fd_kotwy == 0 || m.Stal_fi_max == 0)
-        throw Refusal{QStringLiteral("Musisz wypełnic wszystkie pola"), SteelField::Text1};
-    m.Stal_Re = CSng(fields.Text2[3]);
-    m.Stal_Rm = CSng(fields.Text2[2]);
+        throw Refusal{QStringLiteral("Musisz wypełnic wszystkie pola"), SteelField::Name};
+    m.Stal_Re = CSng(fields.Re);
+    m.Stal_Rm = CSng(fields.Rm);
     if (!(m.Fd_kotwy < m.Stal_Re && m.Stal_Re <= m.Stal_Rm))
-        throw Refusal{QStringLiteral("Nieprawidłowe parametry materiału"), SteelField::Text2_0};
+        throw Refusal{QStringLiteral("Nieprawidłowe parametry materiału"), SteelField::Strength};
     const AnchorSteel strengths = userStrengths(m);
     m.Fd2_kotwy = strengths.Fd2_kotwy;
     m.Fv_kotwy = strengths.Fv_kotwy;
@@ -48,18 +48,18 @@ void acceptAnchor(Stan& stan, const AnchorSteelFields& fields) {
 
 void acceptPlate(Stan& stan, const PlateSteelFields& fields) {
     Materialy& m = stan.materialy;
-    m.Blacha_nazwa = oneLine(fields.Text1);
-    m.Blacha_fd = CSng(fields.Text2[0]);
+    m.Blacha_nazwa = oneLine(fields.name);
+    m.Blacha_fd = CSng(fields.fd);
     m.Fd_blachy = m.Blacha_fd;
     m.Stal_anulowana = True;
     if (m.Blacha_nazwa.isEmpty())
-        throw Refusal{QStringLiteral("Podaj nazwę materiału"), SteelField::Text1};
-    m.Blacha_t_max = CInt(fields.Text2[1]);
+        throw Refusal{QStringLiteral("Podaj nazwę materiału"), SteelField::Name};
+    m.Blacha_t_max = CInt(fields.t_max);
     if (outOfRange(m.Blacha_t_max))
-        throw Refusal{QStringLiteral("Nieoczekiwana max. grubość"), SteelField::Text2_1};
+        throw Refusal{QStringLiteral("Nieoczekiwana max. grubość"), SteelField::Largest};
     m.Max_grubosc = m.Blacha_t_max;
     if (m.Fd_blachy <= 0)
-        throw Refusal{QStringLiteral("Musisz określić fd"), SteelField::Text2_0};
+        throw Refusal{QStringLiteral("Musisz określić fd"), SteelField::Strength};
     m.Stal_anulowana = False;
     m.Blacha_uzytkownika = True;
 }
@@ -75,21 +75,19 @@ std::optional<SteelField> accepted(Dialogs& dialogs, const Accept& accept) {
         return refusal.focus;
     } catch (const RunTimeError&) {
         dialogs.message(steelTitle, steelTitle, MessageStyle::Stop);
-        return SteelField::Text2_0;
+        return SteelField::Strength;
     }
 }
 
 } // namespace
 
 AnchorSteelFields rememberedAnchorSteel(const Materialy& materials) {
-    return {materials.Stal_nazwa,
-            {general(materials.Stal_fd), general(materials.Stal_fi_max), general(materials.Stal_Rm),
-             general(materials.Stal_Re)}};
+    return {materials.Stal_nazwa, general(materials.Stal_fd), general(materials.Stal_fi_max),
+            general(materials.Stal_Rm), general(materials.Stal_Re)};
 }
 
 PlateSteelFields rememberedPlateSteel(const Materialy& materials) {
-    return {materials.Blacha_nazwa,
-            {general(materials.Blacha_fd), general(materials.Blacha_t_max)}};
+    return {materials.Blacha_nazwa, general(materials.Blacha_fd), general(materials.Blacha_t_max)};
 }
 
 std::optional<SteelField> acceptAnchorSteel(Stan& stan, const AnchorSteelFields& fields,

@@ -4,25 +4,32 @@
 #include "design/stan.h"
 #include "runtime/dialogs.h"
 
-#include <array>
 #include <optional>
 
 namespace ferna {
 
 /// The fields of the dialog `KGM8` (anchors) as typed.
 struct AnchorSteelFields {
-    QString Text1;                ///< name
-    std::array<QString, 4> Text2; ///< fd MPa, largest diameter mm, Rm MPa, Re MPa
+    QString name;
+    QString fd;     ///< MPa
+    QString fi_max; ///< largest diameter, mm
+    QString Rm;     ///< MPa
+    QString Re;     ///< MPa
+
+    bool operator==(const AnchorSteelFields&) const = default;
 };
 
 /// The fields of the dialog `KGM8b` (plate) as typed.
 struct PlateSteelFields {
-    QString Text1;                ///< name
-    std::array<QString, 2> Text2; ///< fd MPa, largest thickness mm
+    QString name;
+    QString fd;    ///< MPa
+    QString t_max; ///< largest thickness, mm
+
+    bool operator==(const PlateSteelFields&) const = default;
 };
 
-/// Where the focus goes after a refusal: Text1 or a member of Text2.
-enum class SteelField { Text1, Text2_0, Text2_1 };
+/// Where the focus goes after a refusal.
+enum class SteelField { Name, Strength, Largest };
 
 /// The fields with the values last remembered.
 AnchorSteelFields rememberedAnchorSteel(const Materialy& materials);

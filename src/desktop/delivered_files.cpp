@@ -79,10 +79,10 @@ void bringFile(const QString& file, const QByteArray& delivered, const QString& 
 } // namespace
 
 void bringDeliveredFiles(const QString& delivered, const QString& own) {
-    const QStringList files =
-        QDir(delivered).entryList({QStringLiteral("*.txt"), QStringLiteral("*.cfg"),
-                                   QStringLiteral("*.bmp"), QStringLiteral("*.qch")},
-                                  QDir::Files);
+    const QStringList files = QDir(delivered).entryList(
+        {QStringLiteral("*.txt"), QStringLiteral("*.cfg"), QStringLiteral("*.bmp"),
+         QStringLiteral("*.svg"), QStringLiteral("*.qch")},
+        QDir::Files);
     Record record(own);
     for (const QString& file : files) {
         const QString target = own + u'/' + file;

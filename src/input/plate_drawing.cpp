@@ -6,26 +6,17 @@ namespace ferna {
 
 namespace {
 
-/// Half width and half height of the picture in mm; the larger relative extent of the plate and its
-/// anchors takes 1/1.3 of the picture. Only the positive side of an anchor counts.
-QSizeF halfExtent(QSize size, const Plyta_i_kotwy& plate) {
-    Single LX = plate.Dlugosc_plyty;
-    Single LY = plate.Szerokosc_plyty;
-    for (int i = 1; i <= plate.Liczba_srub; ++i) {
-        LX = qMax(LX, CSng(2.0 * plate.X_kotwy(i)));
-        LY = qMax(LY, CSng(2.0 * plate.Y_kotwy(i)));
-    }
-    const Integer W = CInt(size.width());
-    const Integer H = CInt(size.height());
-    const Single sx = CSng(divided(W, LX * 1.3 * 10));
-    const Single sy = CSng(divided(H, LY * 1.3 * 10));
-    const Single s = sx <= sy ? sx : sy;
-    return {CSng(W * 0.5 / s), CSng(H * 0.5 / s)};
+Integer scaleBarLength(qreal Hw) {
+    return Hw > 1000 ? 1000 : Hw > 100 ? 100 : 50;
+}
+
+QPointF scaleBarStart(qreal Hw, qreal Hh) {
+    return {-0.94 * Hw, -0.92 * Hh};
 }
 
 void drawScaleBar(PictureBox& picture, qreal Hw, qreal Hh) {
-    const Integer D = Hw > 1000 ? 1000 : Hw > 100 ? 100 : 50;
-    const QPointF start(-0.94 * Hw, -0.92 * Hh);
+    const Integer D = scaleBarLength(Hw);
+    const QPointF start = scaleBarStart(Hw, Hh);
     const QPointF end = start + QPointF(D, 0);
     picture.setWidth(1);
     picture.setFilled(true);
@@ -33,7 +24,12 @@ void drawScaleBar(PictureBox& picture, qreal Hw, qreal Hh) {
     picture.circle(end, 0.02 * Hw);
     picture.setFilled(false);
     picture.line(start, end);
-    picture.text({start.x(), 0.8 * start.y()}, general(D) + QStringLiteral(" mm"));
+}
+
+/// Drawn behind the outline, over which its rim may reach.
+void drawScaleText(PictureBox& picture, qreal Hw, qreal Hh) {
+    const QPointF start = scaleBarStart(Hw, Hh);
+    picture.text({start.x(), 0.8 * start.y()}, general(scaleBarLength(Hw)) + QStringLiteral(" mm"));
 }
 
 void drawAxes(PictureBox& picture, qreal Hw, qreal Hh) {
@@ -67,13 +63,29 @@ void drawAnchors(PictureBox& picture, const Plyta_i_kotwy& plate) {
 
 } // namespace
 
+QSizeF plateHalfExtent(QSize size, const Plyta_i_kotwy& plate) {
+    Single LX = plate.Dlugosc_plyty;
+    Single LY = plate.Szerokosc_plyty;
+    for (int i = 1; i <= plate.Liczba_srub; ++i) {
+        LX = qMax(LX, CSng(2.0 * plate.X_kotwy(i)));
+        LY = qMax(LY, CSng(2.0 * plate.Y_kotwy(i)));
+    }
+    const Integer W = CInt(size.width());
+    const Integer H = CInt(size.height());
+    const Single sx = CSng(divided(W, LX * 1.3 * 10));
+    const Single sy = CSng(divided(H, LY * 1.3 * 10));
+    const Single s = sx <= sy ? sx : sy;
+    return {CSng(W * 0.5 / s), CSng(H * 0.5 / s)};
+}
+
 void drawPlate(PictureBox& picture, const Plyta_i_kotwy& plate) {
-    const QSizeF half = halfExtent(picture.size(), plate);
+    const QSizeF half = plateHalfExtent(picture.size(), plate);
     const qreal Hw = half.width();
     const qreal Hh = half.height();
     picture.setScale({-Hw, Hh}, {Hw, -Hh});
     picture.setColour(qb::Black);
     picture.setFillColour(qb::Black);
+    picture.setRim(true);
     drawScaleBar(picture, Hw, Hh);
     drawAxes(picture, Hw, Hh);
     picture.setColour(qb::Black);
@@ -81,6 +93,7 @@ void drawPlate(PictureBox& picture, const Plyta_i_kotwy& plate) {
     const QPointF corner(plate.Dlugosc_plyty * 10.0 / 2, plate.Szerokosc_plyty * 10.0 / 2);
     picture.box(corner, -corner);
     picture.setWidth(1);
+    drawScaleText(picture, Hw, Hh);
     drawAnchors(picture, plate);
 }
 

@@ -10,6 +10,11 @@ namespace ferna {
 /// wide.
 inline constexpr QSize platePictureSize(265, 176);
 
+/// Half width and half height in mm of what a plate picture of a size shows; the larger relative
+/// extent of the plate and its anchors takes 1/1.3 of the picture. Only the positive side of an
+/// anchor counts. Error 11 for a plate without extent.
+QSizeF plateHalfExtent(QSize size, const Plyta_i_kotwy& plate);
+
 /// Draws the plate with its anchors true to scale: outline, anchors as circles of their diameter
 /// with their numbers, axes, a scale bar. Reads sizes in cm and diameters in mm from the state.
 /// Error 11 for a plate without extent.

@@ -7,6 +7,7 @@ namespace ferna::emf {
 
 enum Type : quint32 {
     Header = 1,
+    PolyPolygon = 8,
     SetWindowExtEx = 9,
     SetWindowOrgEx = 10,
     SetViewportExtEx = 11,
@@ -14,6 +15,7 @@ enum Type : quint32 {
     Eof = 14,
     SetMapMode = 17,
     SetBkMode = 18,
+    SetPolyFillMode = 19,
     SetStretchBltMode = 21,
     SetTextAlign = 22,
     SetTextColor = 24,
@@ -40,6 +42,8 @@ inline constexpr quint32 blackPen = stockObject | 7;
 inline constexpr quint32 nullPen = stockObject | 8;
 
 inline constexpr quint32 mapModeText = 1;
+inline constexpr quint32 fillAlternate = 1;
+inline constexpr quint32 fillWinding = 2;
 inline constexpr quint32 backgroundTransparent = 1;
 inline constexpr quint32 stretchHalftone = 4;
 inline constexpr quint32 alignBaseline = 24;

@@ -153,10 +153,25 @@ quint32 EmfWriter::fontHandle(const Font& font) {
     return entry->second;
 }
 
+quint32 EmfWriter::brushHandle(QRgb colour) {
+    const auto [entry, isNew] = brushes_.try_emplace(colour, handles_ + 1);
+    if (isNew) {
+        ++handles_;
+        begin(emf::CreateBrushIndirect);
+        put32(entry->second);
+        put32(0); // solid
+        put32(qRed(colour) | qGreen(colour) << 8 | qBlue(colour) << 16);
+        put32(0); // hatch
+        end();
+    }
+    return entry->second;
+}
+
 void EmfWriter::whiteSheet(const QRectF& mm) {
     simple(emf::SelectObject, emf::nullPen);
     simple(emf::SelectObject, emf::whiteBrush);
-    selectedPen_ = 0;
+    selectedPen_ = emf::nullPen;
+    selectedBrush_ = emf::whiteBrush;
     begin(emf::Rectangle);
     put(units(mm.topLeft()));
     put(units(mm.bottomRight()));
@@ -235,10 +250,42 @@ void EmfWriter::picture(const QImage& image, const QRectF& mm) {
     end();
 }
 
+void EmfWriter::outline(const QPainterPath& mm, const QColor& colour) {
+    const QList<QPolygonF> parts =
+        mm.toSubpathPolygons(QTransform::fromScale(drawing::unitsPerMm, drawing::unitsPerMm));
+    qsizetype points = 0;
+    for (const QPolygonF& part : parts)
+        points += part.size();
+    if (points == 0)
+        return;
+    const quint32 mode = mm.fillRule() == Qt::WindingFill ? emf::fillWinding : emf::fillAlternate;
+    if (mode != fillMode_)
+        simple(emf::SetPolyFillMode, mode);
+    fillMode_ = mode;
+    select(emf::nullPen, selectedPen_);
+    select(brushHandle(colour.rgb()), selectedBrush_);
+    const QRectF box = mm.boundingRect();
+    begin(emf::PolyPolygon);
+    put(units(box.topLeft()));
+    put(units(box.bottomRight()));
+    put32(parts.size());
+    put32(points);
+    for (const QPolygonF& part : parts)
+        put32(part.size());
+    for (const QPolygonF& part : parts)
+        for (const QPointF& point : part)
+            put(point.toPoint());
+    end();
+}
+
 void EmfWriter::page(const Page& page, QPointF sheetCornerMm) {
     const QPointF corner = sheetCornerMm + frameCorner;
-    for (const Picture& picture : page.pictures)
-        this->picture(picture.image, picture.rect.translated(corner));
+    for (const Picture& picture : page.pictures) {
+        if (picture.outlines.empty())
+            this->picture(picture.image, picture.rect.translated(corner));
+        for (const Outline& shape : picture.outlines)
+            outline(picture.placed(shape).translated(corner), shape.colour);
+    }
     for (const Line& line : page.lines)
         this->line(line.line.translated(corner), line.width, true);
     for (const Text& text : page.texts) {

@@ -21,6 +21,8 @@ public:
     void line(const QLineF& mm, double widthMm, bool squareEnds, int gray = 0);
     void text(const Text& text, QPointF baselineMm);
     void picture(const QImage& image, const QRectF& mm);
+    /// A filled outline, mm.
+    void outline(const QPainterPath& mm, const QColor& colour);
     /// The primitives of a page whose sheet has its corner there; mm.
     void page(const Page& page, QPointF sheetCornerMm);
 
@@ -50,6 +52,7 @@ private:
     void select(quint32 handle, quint32& selected);
     quint32 penHandle(const Pen& pen);
     quint32 fontHandle(const Font& font);
+    quint32 brushHandle(QRgb colour);
     void header();
 
     QSizeF mm_;
@@ -60,7 +63,9 @@ private:
     quint32 handles_ = 0;
     std::map<Pen, quint32> pens_;
     std::map<Font, quint32> fonts_;
-    quint32 selectedPen_ = 0, selectedFont_ = 0;
+    std::map<QRgb, quint32> brushes_;
+    quint32 selectedPen_ = 0, selectedFont_ = 0, selectedBrush_ = 0;
+    quint32 fillMode_ = 0;
 };
 
 /// One page as a metafile.

@@ -5,6 +5,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <cmath>
 
@@ -101,6 +102,13 @@ void MetafilePlayer::step(const Record& record) {
         break;
     case emf::Rectangle:
         rectangle(record);
+        break;
+    case emf::PolyPolygon:
+        polygons(record);
+        break;
+    case emf::SetPolyFillMode:
+        if (has(record, 12))
+            fillRule_ = reader_.u32(at + 8) == emf::fillWinding ? Qt::WindingFill : Qt::OddEvenFill;
         break;
     case emf::ExtTextOutW:
         text(record);
@@ -290,6 +298,38 @@ void MetafilePlayer::rectangle(const Record& record) {
     painter_.setPen(pen_);
     painter_.setBrush(brush_);
     painter_.drawRect(QRectF(point(record.offset + 8), point(record.offset + 16)));
+}
+
+void MetafilePlayer::polygons(const Record& record) {
+    constexpr qsizetype counts = 32; // offset of the lengths
+    if (!has(record, counts))
+        return;
+    const qsizetype at = record.offset;
+    const quint64 parts = reader_.u32(at + 24);
+    const quint64 points = reader_.u32(at + 28);
+    const quint64 bytes = 4 * parts + 8 * points;
+    if (parts > points || !holds(record, counts, bytes))
+        return;
+    QPainterPath path;
+    path.setFillRule(fillRule_);
+    qsizetype next = at + counts + 4 * static_cast<qsizetype>(parts);
+    quint64 left = points;
+    for (quint64 part = 0; part < parts; ++part) {
+        const quint64 count = reader_.u32(at + counts + 4 * static_cast<qsizetype>(part));
+        if (count > left)
+            return;
+        left -= count;
+        for (quint64 i = 0; i < count; ++i, next += 8) {
+            if (i == 0)
+                path.moveTo(point(next));
+            else
+                path.lineTo(point(next));
+        }
+        path.closeSubpath();
+    }
+    painter_.setPen(pen_);
+    painter_.setBrush(brush_);
+    painter_.drawPath(path);
 }
 
 void MetafilePlayer::text(const Record& record) {

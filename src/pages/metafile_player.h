@@ -58,6 +58,7 @@ private:
     void mapping(const Record& record);
     void lineTo(const Record& record);
     void rectangle(const Record& record);
+    void polygons(const Record& record);
     void text(const Record& record);
     void bitmap(const Record& record);
 
@@ -80,6 +81,7 @@ private:
     QPointF windowExtent_{1, 1}, viewportExtent_{1, 1};
     QPen pen_{Qt::black};
     QBrush brush_{Qt::white};
+    Qt::FillRule fillRule_ = Qt::OddEvenFill;
     QFont font_;
 };
 

@@ -42,4 +42,19 @@ bool Text::leavesInk() const {
     return underline ? !text.isEmpty() : !text.trimmed().isEmpty();
 }
 
+QPainterPath Picture::placed(const Outline& outline) const {
+    const QPainterPath path = outline.path.translated(rect.topLeft());
+    if (rect.contains(path.boundingRect()))
+        return path;
+    QPainterPath frame;
+    frame.addRect(rect);
+    return path.intersected(frame);
+}
+
+void Picture::scale(double factor) {
+    rect.setSize(rect.size() * factor);
+    for (Outline& outline : outlines)
+        outline.path = QTransform::fromScale(factor, factor).map(outline.path);
+}
+
 } // namespace ferna::pages

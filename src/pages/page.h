@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QLineF>
+#include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
 #include <QSizeF>
@@ -38,9 +40,22 @@ struct Line {
     double width = 0; ///< mm
 };
 
+/// A filled outline of a picture, mm from the picture's corner.
+struct Outline {
+    QPainterPath path;
+    QColor colour;
+};
+
+/// A picture, as outlines where it has them, else as its bitmap.
 struct Picture {
     QRectF rect;
     QImage image;
+    std::vector<Outline> outlines = {};
+
+    /// The part of an outline that lies on the picture, mm on the page.
+    QPainterPath placed(const Outline& outline) const;
+    /// Made smaller or larger about its corner.
+    void scale(double factor);
 };
 
 struct Page {

@@ -17,14 +17,24 @@ void stroke(QPainter& painter, const QLineF& line, double width, Qt::PenCapStyle
     painter.drawLine(units(line.p1()), units(line.p2()));
 }
 
+void paintPicture(QPainter& painter, const Picture& picture) {
+    const QRectF target(units(picture.rect.topLeft()), units(picture.rect.bottomRight()));
+    if (picture.outlines.empty()) {
+        drawing::drawPicture(painter, target, picture.image);
+        return;
+    }
+    const QTransform inUnits = QTransform::fromTranslate(frameCorner.x(), frameCorner.y())
+                               * QTransform::fromScale(drawing::unitsPerMm, drawing::unitsPerMm);
+    for (const Outline& outline : picture.outlines)
+        painter.fillPath(inUnits.map(picture.placed(outline)), outline.colour);
+}
+
 } // namespace
 
 void paintPage(QPainter& painter, const Page& page) {
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     for (const Picture& picture : page.pictures)
-        drawing::drawPicture(
-            painter, QRectF(units(picture.rect.topLeft()), units(picture.rect.bottomRight())),
-            picture.image);
+        paintPicture(painter, picture);
     for (const Line& line : page.lines)
         stroke(painter, line.line, line.width, Qt::SquareCap);
     for (const Text& text : page.texts) {

@@ -1,7 +1,10 @@
 #include "pages/sketch_files.h"
 
+#include "runtime/picture_twin.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
+
+#include <QFileInfo>
 
 #include <array>
 
@@ -17,8 +20,11 @@ QString nth(const std::array<const char*, N>& files, int number) {
 }
 
 void save(const QString& folder, const QString& delivered, const QString& name) {
-    writeFileWhole(folder + u'/' + name, readFileWhole(folder + u'/' + delivered),
-                   Lasting::UntilNextUse);
+    const QString source = folder + u'/' + delivered;
+    const QString target = folder + u'/' + name;
+    writeFileWhole(target, readFileWhole(source), Lasting::UntilNextUse);
+    if (QFileInfo::exists(twinPath(source)))
+        writeFileWhole(twinPath(target), readFileWhole(twinPath(source)), Lasting::UntilNextUse);
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace ferna {
 
 // The sketches are delivered as bitmaps in the program folder. A section of the report that uses
-// one has it saved under the name that the report's records link.
+// one has it saved under the name that the report's records link, its vector twin beside it.
 
 /// The general view of a column base, as delivered, and the plate of the task.
 inline const QString generalViewFile = QStringLiteral("Ferogo2.bmp");

@@ -4,6 +4,7 @@
 #include "pages/drawing.h"
 #include "pages/text_measure.h"
 #include "protocol/renderer_files.h"
+#include "renderer/vector_twin.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
 
@@ -77,7 +78,7 @@ void Block::translate(double dy) {
 
 void Block::scale(double factor) {
     const auto scaled = [&](QPointF p) { return rect.topLeft() + (p - rect.topLeft()) * factor; };
-    picture.rect.setSize(picture.rect.size() * factor);
+    picture.scale(factor);
     for (pages::Line& line : lines)
         line.line = QLineF(scaled(line.line.p1()), scaled(line.line.p2()));
     for (pages::Text& text : texts)
@@ -175,6 +176,8 @@ void RecordInterpreter::picture(const wyd::PictureRecord& record, int line) {
     Block block;
     block.rect = {*pictureX_, *pictureY_, *pictureWidth_, *pictureHeight_};
     block.picture = {block.rect, image(record.path, line)};
+    if (!block.picture.image.isNull())
+        block.picture.outlines = vectorsOf(fileOf(record.path), block.rect);
     pictureBytes_ += block.picture.image.sizeInBytes();
     if (pictureBytes_ > wyd::mostPictureBytes)
         throw RunTimeError(error::DeviceIO, QStringLiteral("%1, wiersz %2: rysunki mają razem "
@@ -187,8 +190,12 @@ void RecordInterpreter::picture(const wyd::PictureRecord& record, int line) {
     segment_.blocks.push_back(std::move(block));
 }
 
+QString RecordInterpreter::fileOf(const QString& path) const {
+    return wyd::pathOfLine(QFileInfo(path_).absolutePath(), path);
+}
+
 QImage RecordInterpreter::image(const QString& path, int line) {
-    const QString full = wyd::pathOfLine(QFileInfo(path_).absolutePath(), path);
+    const QString full = fileOf(path);
     const auto known = images_.constFind(full);
     if (known != images_.constEnd())
         return *known;

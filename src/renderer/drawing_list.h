@@ -64,6 +64,7 @@ private:
     void picture(const wyd::PictureRecord& record, int line);
     void pen(const wyd::PenRecord& record);
     void standIn(Block& block, const QString& file);
+    QString fileOf(const QString& path) const;
     QImage image(const QString& path, int line);
 
     QString path_;

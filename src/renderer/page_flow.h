@@ -19,9 +19,9 @@ public:
 
     /// An explicit new page; coordinates count anew from its frame.
     void newPage();
-    /// Sections come in their order, in the coordinates of the file. One that does not fit starts the
-    /// next page; where that would leave a page less than half full, and where it is longer than a
-    /// page, it is divided at the last of its breaks that fits.
+    /// Sections come in their order, in the coordinates of the file. One that does not fit starts
+    /// the next page; where that would leave a page less than half full, and where it is longer
+    /// than a page, it is divided at the last of its breaks that fits.
     void place(Section section);
     std::vector<pages::Page> takePages() { return std::exchange(pages_, {}); }
 

@@ -15,8 +15,7 @@ constexpr std::size_t fewLines = 2;     // of a paragraph that do not stand alon
 constexpr std::size_t shortRun = 6;     // lines that are not divided at all
 
 QString wordsOf(const Group& group) {
-    return group.lines.empty() ? QString()
-                               : group.lines.front().chains.front().texts.front().text;
+    return group.lines.empty() ? QString() : group.lines.front().chains.front().texts.front().text;
 }
 
 bool isLine(const Group& group) {
@@ -160,8 +159,8 @@ private:
             while (end < groups_.size() && isLine(groups_[end]) && !isHeading(groups_[end])
                    && !groups_[end].startsParagraph)
                 ++end;
-        const bool single = end - next_ == 1 && isLine(groups_[next_]) && inSection_
-                            && !isHeading(groups_[next_]);
+        const bool single =
+            end - next_ == 1 && isLine(groups_[next_]) && inSection_ && !isHeading(groups_[next_]);
         inSection_ = true;
         Section section = take(end);
         if (single)

@@ -103,6 +103,7 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
               Dialogs& dialogs) {
     Nazwa_zadania(raport, dialogs);
     auto& title = raport.Wiersze_naglowka;
+    raport.titledAt = now;
     title(1) = norm0 ? QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
                                       "PN-84/B-03264")
                      : QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "

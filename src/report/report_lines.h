@@ -18,6 +18,7 @@ struct Raport {
     IndexedArray<QString, 5> Wiersze_strefy;   ///< neutral-axis line, by case - 1
     QString Nazwa_stopy;                       ///< label of the footing, at most 32 characters
     QString typedLabel;                        ///< the same before it was cut
+    QDateTime titledAt;                        ///< when the title block was made
 };
 
 /// Asks for the label of the footing and keeps its first 32 characters; cancel gives an empty one.

@@ -100,10 +100,9 @@ void drawOutline(PictureBox& picture, const Zone& z) {
     picture.box({-5 * z.L, -5 * z.B}, {5 * z.L, 5 * z.B});
 }
 
-/// The axis, and its end points with letters drawn towards the plate's centre.
+/// The axis and its end points.
 void drawNeutralAxis(PictureBox& picture, const Zone& z) {
     constexpr Double discRadius = 20; // mm
-    constexpr Double towardsCentre = 0.75;
     const QPointF A(10 * z.a, 10 * z.b);
     const QPointF B(10 * z.c, 10 * z.d);
     picture.setColour(qb::LightRed);
@@ -112,10 +111,21 @@ void drawNeutralAxis(PictureBox& picture, const Zone& z) {
     picture.setFilled(true);
     picture.setFillColour(qb::LightRed);
     picture.circle(A, discRadius);
-    picture.text(A * towardsCentre, QStringLiteral("A"));
     picture.circle(B, discRadius);
-    picture.text(B * towardsCentre, QStringLiteral("B"));
     picture.setFilled(false);
+}
+
+/// The letters of the axis' ends, drawn towards the plate's centre, over everything else.
+void drawLetters(PictureBox& picture, const Zone& z) {
+    constexpr Double towardsCentre = 0.75;
+    picture.setColour(qb::LightRed);
+    picture.setLetterHeight(zoneLetterHeight);
+    picture.setBold(true);
+    picture.setRim(true);
+    picture.text(QPointF(10 * z.a, 10 * z.b) * towardsCentre, QStringLiteral("A"));
+    picture.text(QPointF(10 * z.c, 10 * z.d) * towardsCentre, QStringLiteral("B"));
+    picture.setRim(false);
+    picture.setBold(false);
 }
 
 void drawPlateAxes(PictureBox& picture, const Zone& z) {
@@ -124,8 +134,6 @@ void drawPlateAxes(PictureBox& picture, const Zone& z) {
     picture.line({-5.25 * z.L, 0}, {5.25 * z.L, 0});
     picture.line({0, -5.25 * z.B}, {0, 5.25 * z.B});
     picture.setStyle(PictureBox::Style::Solid);
-    picture.setColour(qb::Grey);
-    picture.setFillColour(qb::White);
 }
 
 } // namespace
@@ -143,6 +151,9 @@ void drawZone(PictureBox& picture, const Stan& stan, int c) {
     drawOutline(picture, z);
     drawNeutralAxis(picture, z);
     drawPlateAxes(picture, z);
+    drawLetters(picture, z);
+    picture.setColour(qb::Grey);
+    picture.setFillColour(qb::White);
 }
 
 QString zoneSketchFile(int c) {
@@ -153,7 +164,7 @@ void Rysuj_strefe(Raport& raport, const Stan& stan, int c, const QString& path) 
     constexpr qreal printedWidth = 41.1; // mm
     PictureBox picture(zoneSketchSize, printRatio(zoneSketchSize.width(), printedWidth));
     drawZone(picture, stan, c);
-    picture.saveBitmap(path);
+    picture.saveBitmap(path, printedWidth);
     raport.Wiersze_strefy(c - 1) = Wiersz_strefy(stan, c);
 }
 

@@ -6,7 +6,10 @@
 namespace ferna {
 
 /// Size of a case's sketch in picture pixels; it is printed 41.1 mm wide.
-inline constexpr QSize zoneSketchSize(155, 105);
+inline constexpr QSize zoneSketchSize(372, 252);
+
+/// Height of its letters A and B, picture pixels: 2.8 mm in print.
+inline constexpr int zoneLetterHeight = 25;
 
 /// Draws the plan of the plate with the compressed zone of a case hatched, the neutral axis through
 /// its two points A and B, the outline and the axes. Error 11 for a plate without extent.

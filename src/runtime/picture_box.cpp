@@ -1,5 +1,6 @@
 #include "runtime/picture_box.h"
 
+#include "runtime/picture_twin.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
 
@@ -13,12 +14,10 @@ namespace ferna {
 
 namespace {
 
-constexpr qreal printDotsPerInch = 300;
+constexpr qreal printDotsPerInch = 600;
 constexpr qreal millimetresPerInch = 25.4;
 
-constexpr int letterHeight = 11; // pixels of the picture
-
-QFont pictureFont(bool bold) {
+QFont pictureFont(int letterHeight, bool bold) {
     QFont font(QStringLiteral("Liberation Sans"));
     font.setPixelSize(letterHeight);
     font.setBold(bold);
@@ -70,32 +69,62 @@ QPen PictureBox::pen() const {
 
 void PictureBox::clear() {
     image_.fill(Qt::white);
+    shapes_.clear();
+}
+
+void PictureBox::draw(const PictureShape& shape) {
+    painter_.setPen(shape.pen);
+    painter_.setBrush(shape.fill.isValid() ? QBrush(shape.fill) : QBrush(Qt::NoBrush));
+    painter_.drawPath(shape.path);
+    shapes_.push_back(shape);
 }
 
 void PictureBox::line(QPointF from, QPointF to) {
-    painter_.setPen(pen());
-    painter_.drawLine(pixel(from), pixel(to));
+    QPainterPath path(pixel(from));
+    path.lineTo(pixel(to));
+    draw({path, pen(), {}});
 }
 
 void PictureBox::box(QPointF corner, QPointF opposite) {
-    painter_.setPen(pen());
-    painter_.setBrush(Qt::NoBrush);
-    painter_.drawRect(QRectF(pixel(corner), pixel(opposite)).normalized());
+    QPainterPath path;
+    path.addRect(QRectF(pixel(corner), pixel(opposite)).normalized());
+    draw({path, pen(), {}});
 }
 
 void PictureBox::circle(QPointF centre, qreal radius) {
     const qreal r = radius * std::fabs(pixelsPerUnit_.x());
-    painter_.setPen(pen());
-    painter_.setBrush(filled_ ? QBrush(fillColour_) : QBrush(Qt::NoBrush));
-    painter_.drawEllipse(pixel(centre), r, r);
+    QPainterPath path;
+    path.addEllipse(pixel(centre), r, r);
+    draw({path, pen(), filled_ ? fillColour_ : QColor()});
+}
+
+/// The corner moved so that the letters lie in the picture; where nothing of them does, as it was.
+QPointF PictureBox::insidePicture(QPointF corner, const QRectF& letters) const {
+    const QRectF picture(QPointF(0, 0), QSizeF(size_));
+    const QRectF box = letters.translated(corner);
+    if (!picture.intersects(box))
+        return corner;
+    corner.rx() -= qMax(0.0, box.right() - picture.right());
+    corner.ry() -= qMax(0.0, box.bottom() - picture.bottom());
+    corner.rx() += qMax(0.0, picture.left() - letters.translated(corner).left());
+    corner.ry() += qMax(0.0, picture.top() - letters.translated(corner).top());
+    return corner;
 }
 
 void PictureBox::text(QPointF at, const QString& text) {
-    const QFont font = pictureFont(bold_);
-    painter_.setFont(font);
-    painter_.setPen(colour_);
-    const QPointF corner = pixel(at);
-    painter_.drawText(QPointF(corner.x(), corner.y() + QFontMetricsF(font).ascent()), text);
+    constexpr qreal rimShare = 0.28; // of the letters' height, both sides together
+    const QFont font = pictureFont(letterHeight_, bold_);
+    QPainterPath letters;
+    letters.addText(QPointF(0, QFontMetricsF(font).ascent()), font, text);
+    QPointF corner = pixel(at);
+    if (rim_) {
+        const qreal rim = rimShare * letterHeight_;
+        corner = insidePicture(
+            corner, letters.boundingRect().adjusted(-rim / 2, -rim / 2, rim / 2, rim / 2));
+        draw({letters.translated(corner),
+              QPen(Qt::white, rim, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin), Qt::white});
+    }
+    draw({letters.translated(corner), QPen(Qt::NoPen), colour_});
 }
 
 QImage PictureBox::image() {
@@ -103,10 +132,12 @@ QImage PictureBox::image() {
     return image_;
 }
 
-void PictureBox::saveBitmap(const QString& path) {
+void PictureBox::saveBitmap(const QString& path, qreal printedWidth) {
     QImage picture = image();
-    // Natural size for programs that place the file: a picture pixel is 1/96 inch.
-    const int dotsPerMetre = qRound(picture.devicePixelRatio() * 96 / millimetresPerInch * 1000);
+    constexpr qreal pixelsPerInch = 96;
+    const qreal width =
+        printedWidth > 0 ? printedWidth : size_.width() / pixelsPerInch * millimetresPerInch;
+    const int dotsPerMetre = qRound(picture.width() / width * 1000);
     picture.setDotsPerMeterX(dotsPerMetre);
     picture.setDotsPerMeterY(dotsPerMetre);
     picture.setDevicePixelRatio(1);
@@ -115,6 +146,7 @@ void PictureBox::saveBitmap(const QString& path) {
     if (!buffer.open(QIODevice::WriteOnly) || !picture.save(&buffer, "BMP"))
         throw RunTimeError(error::DeviceIO, path);
     writeFileWhole(path, bytes, Lasting::UntilNextUse);
+    writeFileWhole(twinPath(path), twinOf(svgOf(size_, shapes_), bytes), Lasting::UntilNextUse);
 }
 
 qreal printRatio(int widthPixels, qreal millimetres) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/picture_shapes.h"
+
 #include <QColor>
 #include <QImage>
 #include <QPainter>
@@ -38,6 +40,9 @@ public:
     void setStyle(Style style) { style_ = style; }
     void setFilled(bool filled) { filled_ = filled; }
     void setBold(bool bold) { bold_ = bold; }
+    void setLetterHeight(int picturePixels) { letterHeight_ = picturePixels; }
+    /// Letters stand in a white rim, so that they are read also on a line, and inside the picture.
+    void setRim(bool rim) { rim_ = rim; }
 
     void clear();
     void line(QPointF from, QPointF to);
@@ -49,10 +54,14 @@ public:
 
     /// The finished bitmap; nothing can be drawn behind it.
     QImage image();
-    /// Saves it as a bitmap file. Errors of `writeFileWhole`.
-    void saveBitmap(const QString& path);
+    /// Saves it as a bitmap file, and as vectors beside it (`twinPath`). The natural width, for
+    /// programs that place the file, is `printedWidth` mm, or a picture pixel is 1/96 inch. Errors
+    /// of `writeFileWhole`.
+    void saveBitmap(const QString& path, qreal printedWidth = 0);
 
 private:
+    void draw(const PictureShape& shape);
+    QPointF insidePicture(QPointF corner, const QRectF& letters) const;
     QPointF pixel(QPointF user) const;
     QPen pen() const;
 
@@ -67,9 +76,12 @@ private:
     Style style_ = Style::Solid;
     bool filled_ = false;
     bool bold_ = false;
+    bool rim_ = false;
+    int letterHeight_ = 11;
+    std::vector<PictureShape> shapes_; ///< what was drawn
 };
 
-/// The device pixel ratio at which a picture of a width in pixels is printed with at least 300 dots
+/// The device pixel ratio at which a picture of a width in pixels is printed with at least 600 dots
 /// per inch on `millimetres` of paper.
 qreal printRatio(int widthPixels, qreal millimetres);
 

@@ -122,7 +122,7 @@ bool RowReader::separates() {
 QString RowReader::cell() {
     while (!atRowEnd() && text_[at_] == u' ')
         ++at_;
-    if (at_ < text_.size() && text_[at_] == quote)
+    if (isQuoted())
         return quotedCell();
     const qsizetype start = at_;
     qsizetype end = at_;
@@ -136,6 +136,21 @@ QString RowReader::cell() {
         end = at_;
     }
     return text_.sliced(start, end - start).trimmed().toString();
+}
+
+/// A mark that nothing closes within the lines that a cell can have is a letter like others, else
+/// it would take the rest of the table into its cell.
+bool RowReader::isQuoted() const {
+    constexpr int mostLines = 20;
+    if (at_ >= text_.size() || text_[at_] != quote)
+        return false;
+    int lines = 0;
+    for (qsizetype i = at_ + 1; i < text_.size() && lines < mostLines; ++i) {
+        if (text_[i] == quote)
+            return true;
+        lines += text_[i] == u'\n' ? 1 : 0;
+    }
+    return false;
 }
 
 QString RowReader::quotedCell() {

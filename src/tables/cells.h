@@ -43,6 +43,7 @@ private:
     bool atRowEnd() const;
     bool separates();
     QString cell();
+    bool isQuoted() const;
     QString quotedCell();
     void endLine();
 

@@ -1,5 +1,7 @@
 #include "task/anchor_task.h"
 
+#include "task/json_text.h"
+
 namespace ferna {
 
 AnchorTask readAnchorTask(const TaskValue& value, const std::string& path) {
@@ -7,6 +9,11 @@ AnchorTask readAnchorTask(const TaskValue& value, const std::string& path) {
     object.required("g");
     return {object.oneOf("rodzaj", {"F", "P"}) == "P" ? 1 : 0,
             object.wholeFieldText("g").value_or(QString())};
+}
+
+Json anchorTaskJson(const AnchorTask& task) {
+    return {{"rodzaj", task.tab == 1 ? "P" : "F"},
+            {"g", jsonNumber(numberIn(task.typed).value_or(0))}};
 }
 
 std::optional<SelectionForm> selectAnchor(const AnchorTask& task, Stan& stan,

@@ -18,6 +18,9 @@ struct AnchorTask {
 /// Throws TaskError.
 AnchorTask readAnchorTask(const TaskValue& value, const std::string& path = "Kotwa");
 
+/// The key's value. A text that is no number becomes 0, as the form takes it.
+Json anchorTaskJson(const AnchorTask& task);
+
 /// Opens the selection on the results in the state, types the thickness, brings the tab to the
 /// front and confirms. Empty where the menu does not offer the selection; after a failed loading
 /// the report has no lines of it. The form is as it stood in the end.

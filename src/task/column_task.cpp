@@ -1,6 +1,8 @@
 #include "task/column_task.h"
 
+#include "runtime/format.h"
 #include "statics/load_scheme.h"
+#include "task/json_text.h"
 
 namespace ferna {
 
@@ -15,6 +17,9 @@ struct ValueKey {
 };
 
 using ValueKeys = std::vector<ValueKey>;
+
+constexpr std::array directions{"pionowe", "ZX", "ZY"};
+constexpr std::array kinds{"sila", "ciagle", "moment"};
 
 const ValueKeys verticalValues{{"P", &Load::load}, {"ex", &Load::arm}, {"ey", &Load::secondArm}};
 const ValueKeys forceValues{{"H", &Load::load}, {"h", &Load::arm}};
@@ -43,14 +48,15 @@ Load readLoad(const TaskValue& value, const std::string& path) {
     ObjectReader any(
         value, path,
         {"kierunek", "rodzaj", "P", "ex", "ey", "H", "h", "p1", "p2", "h1", "h2", "M"});
-    const std::string direction = any.oneOf("kierunek", {"pionowe", "ZX", "ZY"});
+    const std::string direction =
+        any.oneOf("kierunek", {directions[0], directions[1], directions[2]});
     Load load{};
-    load.optTypObciaz = direction == "pionowe" ? 0 : direction == "ZX" ? 1 : 2;
+    load.optTypObciaz = direction == directions[0] ? 0 : direction == directions[1] ? 1 : 2;
     // A vertical load is always a force: the form hides the other kinds.
     const std::string kind = load.optTypObciaz == 0
-                                 ? any.oneOf("rodzaj", {"sila"})
-                                 : any.oneOf("rodzaj", {"sila", "ciagle", "moment"});
-    load.optTypsily = kind == "sila" ? 0 : kind == "ciagle" ? 1 : 2;
+                                 ? any.oneOf("rodzaj", {kinds[0]})
+                                 : any.oneOf("rodzaj", {kinds[0], kinds[1], kinds[2]});
+    load.optTypsily = kind == kinds[0] ? 0 : kind == kinds[1] ? 1 : 2;
     ObjectReader object = loadObject(value, path, load.optTypObciaz, load.optTypsily);
     for (const ValueKey& key : valuesOf(load.optTypObciaz, load.optTypsily))
         load.*key.typed = object.fieldText(key.key);
@@ -90,11 +96,40 @@ private:
 
 ColumnTask readColumnTask(const TaskValue& value, const std::string& path) {
     if (!value.isArray())
-        throw TaskError(path, "expected an array of loads");
+        throw TaskError(path, {"expected an array of loads", "ma tu stać tablica obciążeń"});
     ColumnTask task;
     task.path = path;
     for (const TaskValue& part : value.parts())
         task.loads.push_back(readLoad(part, path + '[' + std::to_string(task.loads.size()) + ']'));
+    return task;
+}
+
+Json columnTaskJson(const ColumnTask& task) {
+    Json all = Json::array();
+    for (const Load& load : task.loads) {
+        Json one{{"kierunek", directions.at(static_cast<std::size_t>(load.optTypObciaz))},
+                 {"rodzaj", kinds.at(static_cast<std::size_t>(load.optTypsily))}};
+        for (const ValueKey& key : valuesOf(load.optTypObciaz, load.optTypsily))
+            if (const auto& typed = load.*key.typed)
+                one[key.key] = jsonNumber(numberIn(*typed).value_or(0));
+        all.push_back(std::move(one));
+    }
+    return all;
+}
+
+ColumnTask columnTaskOf(const Stan_statyki& loads, int inCase) {
+    ColumnTask task;
+    task.path = "Slup";
+    task.inCase = inCase;
+    for (int slot = 1; slot <= qMin<int>(loads.Liczba_obc, MaxColumnLoads); ++slot) {
+        Load load{qMax(loads.Obc_typ[0](slot) - 1, 0), loads.Obc_typ[1](slot), {}, {}, {}, {}};
+        const std::array places{&Load::load, &Load::secondLoad, &Load::arm, &Load::secondArm};
+        for (const ValueKey& key : valuesOf(load.optTypObciaz, load.optTypsily))
+            for (std::size_t row = 0; row < places.size(); ++row)
+                if (places[row] == key.typed)
+                    load.*key.typed = general(loads.Obc_wart[row](slot));
+        task.loads.push_back(std::move(load));
+    }
     return task;
 }
 
@@ -109,7 +144,8 @@ DeclaredLoads declareLoads(const ColumnTask& task, Stan& stan, InputFields& fiel
             declare(task.loads[i], done.loads, done.form);
         }
         at = task.path;
-        saveTotals(stan, done.form.totals, table);
+        if (task.inCase == 0)
+            saveTotals(stan, done.form.totals, table);
     } catch (const RunTimeError& failure) {
         done.failure = failure.of(at);
     }

@@ -19,11 +19,20 @@ struct ColumnTask {
         std::optional<QString> load, secondLoad, arm, secondArm;
     };
     std::string path; ///< key of the section
+    /// "Slup_przypadek": the case, from 1, in which the totals stand already; 0 where they become
+    /// one more case.
+    int inCase = 0;
     std::vector<Load> loads;
 };
 
 /// Throws TaskError.
 ColumnTask readColumnTask(const TaskValue& value, const std::string& path = "Slup");
+
+/// The key's value.
+Json columnTaskJson(const ColumnTask& task);
+
+/// The loads that stand declared, as a task would declare them.
+ColumnTask columnTaskOf(const Stan_statyki& loads, int inCase);
 
 /// What declaring the loads of a column leaves behind.
 struct DeclaredLoads {
@@ -33,7 +42,7 @@ struct DeclaredLoads {
 };
 
 /// Declares the loads and ends the list: the totals become one more case in the state and in the
-/// fields. A run-time error ends the run where it stands.
+/// fields, unless they stand in one already. A run-time error ends the run where it stands.
 DeclaredLoads declareLoads(const ColumnTask& task, Stan& stan, InputFields& fields);
 
 } // namespace ferna

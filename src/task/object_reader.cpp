@@ -10,15 +10,12 @@ namespace ferna {
 
 namespace {
 
-std::string found(const TaskValue& value) {
+/// What was expected, and what stands there.
+Complaint expected(const std::string& english, const std::string& polish, const TaskValue& value) {
     std::string text = value.written();
     if (text.size() > 40)
         text = text.substr(0, 37) + "...";
-    return ", found " + text;
-}
-
-std::string range(Integer least, Integer most) {
-    return "expected a whole number from " + std::to_string(least) + " to " + std::to_string(most);
+    return {"expected " + english + ", found " + text, "ma tu stać " + polish + ", a stoi " + text};
 }
 
 } // namespace
@@ -58,7 +55,8 @@ const TaskValue& ObjectReader::at(std::string_view key) {
 const TaskValue& ObjectReader::required(std::string_view key) {
     const TaskValue* const value = ask(key);
     if (value == nullptr)
-        throw TaskError(pathOf(key), "this key is required and is missing");
+        throw TaskError(pathOf(key), {"this key is required and is missing",
+                                      "brak tego klucza, a jest wymagany"});
     return *value;
 }
 
@@ -87,13 +85,16 @@ QString ObjectReader::text(std::string_view key, const QString& preset) {
 
 std::string ObjectReader::oneOf(std::string_view key, std::initializer_list<const char*> choices) {
     const TaskValue& value = required(key);
-    std::string expected;
+    std::string all;
+    std::string polish;
     for (const char* choice : choices) {
         if (value.isText() && value.text == choice)
             return choice;
-        expected += (expected.empty() ? "\"" : " or \"") + std::string(choice) + '"';
+        const std::string quoted = '"' + std::string(choice) + '"';
+        all += (all.empty() ? "" : " or ") + quoted;
+        polish += (polish.empty() ? "" : " albo ") + quoted;
     }
-    throw TaskError(pathOf(key), "expected " + expected);
+    throw TaskError(pathOf(key), {"expected " + all, "ma tu stać " + polish});
 }
 
 std::optional<double> ObjectReader::optionalNumber(std::string_view key) {
@@ -112,7 +113,8 @@ std::optional<QString> ObjectReader::wholeFieldText(std::string_view key) {
         return std::nullopt;
     const double whole = std::nearbyint(*value);
     if (whole < std::numeric_limits<Integer>::min() || whole > std::numeric_limits<Integer>::max())
-        throw TaskError(pathOf(key), "expected a whole number of 16 bits");
+        throw TaskError(pathOf(key), {"expected a whole number of 16 bits",
+                                      "ma tu stać liczba całkowita od -32768 do 32767"});
     return general(*value);
 }
 
@@ -127,37 +129,42 @@ void ObjectReader::finish() const {
     const auto end = known_.begin() + knownKeys_;
     for (const TaskValue& part : value_.parts())
         if (std::find(known_.begin(), end, part.key) == end)
-            throw TaskError(pathOf(part.key), "unknown key");
+            throw TaskError(pathOf(part.key),
+                            {"unknown key", "nieznany klucz (plik nowszej wersji programu?)"});
 }
 
 Integer integerOf(const TaskValue& value, const Place& place, Integer least, Integer most) {
     const bool whole = value.isNumber() && value.number == Int(value.number);
-    if (!whole || value.number < least || value.number > most)
-        throw TaskError(place.path(), range(least, most) + found(value));
+    if (!whole || value.number < least || value.number > most) {
+        const std::string from = std::to_string(least);
+        const std::string to = std::to_string(most);
+        throw TaskError(place.path(), expected("a whole number from " + from + " to " + to,
+                                               "liczba całkowita od " + from + " do " + to, value));
+    }
     return CInt(value.number);
 }
 
 double numberOf(const TaskValue& value, const Place& place) {
     if (!value.isNumber())
-        throw TaskError(place.path(), "expected a number" + found(value));
+        throw TaskError(place.path(), expected("a number", "liczba", value));
     return value.number;
 }
 
 QString textOf(const TaskValue& value, const Place& place) {
     if (!value.isText())
-        throw TaskError(place.path(), "expected a text" + found(value));
+        throw TaskError(place.path(), expected("a text", "tekst", value));
     return QString::fromUtf8(value.text.data(), static_cast<qsizetype>(value.text.size()));
 }
 
 const TaskValue& objectOf(const TaskValue& value, const std::string& path) {
     if (!value.isObject())
-        throw TaskError(path, "expected an object" + found(value));
+        throw TaskError(path, expected("an object", "obiekt", value));
     return value;
 }
 
 const TaskValue& arrayOf(const TaskValue& value, const std::string& path) {
     if (!value.isArray())
-        throw TaskError(path, "expected an array" + found(value));
+        throw TaskError(path, expected("an array", "tablica", value));
     return value;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "runtime/numbers.h"
 #include "task/task_error.h"
 #include "task/task_value.h"
-#include "runtime/numbers.h"
 
 #include <QString>
 

@@ -2,19 +2,23 @@
 
 #include "plate/plate_checks.h"
 #include "plate/plate_tables.h"
+#include "runtime/format.h"
+#include "task/json_text.h"
 
 namespace ferna {
 
 namespace {
 
-/// A key of a check and the field that it fills.
+/// A key of a check, the field that it fills and the value that was read of it.
 struct FieldKey {
     const char* key;
     bool whole; ///< read as a whole number
     QString& (*field)(PlateFields&);
+    Single (*read)(const PlateInputs&);
 };
 
 using Fields = PlateFields;
+using Inputs = const PlateInputs;
 
 template <auto check, auto text>
 QString& in(Fields& fields) {
@@ -25,30 +29,54 @@ using FieldKeys = std::vector<FieldKey>;
 
 /// The fields of each check 1..8; check 4 has its list of profiles besides.
 const std::array<FieldKeys, PlateChecks> fieldKeys{
-    FieldKeys{{"bs", false, in<&Fields::check1, &Fields::TensionStrip::bs>},
-              {"ca", false, in<&Fields::check1, &Fields::TensionStrip::ca>},
-              {"S", false, in<&Fields::check1, &Fields::TensionStrip::S>}},
-    FieldKeys{{"ca", false, in<&Fields::check2, &Fields::CompressionStrip::ca>},
-              {"sigma_k", false, in<&Fields::check2, &Fields::CompressionStrip::sigma_k>},
-              {"sigma_p", false, in<&Fields::check2, &Fields::CompressionStrip::sigma_p>}},
-    FieldKeys{{"l", true, in<&Fields::check3, &Fields::Fragment::l>},
-              {"b", true, in<&Fields::check3, &Fields::Fragment::b>},
-              {"sigma", false, in<&Fields::check3, &Fields::Fragment::sigma>}},
-    FieldKeys{{"sigma", false, in<&Fields::check4, &Fields::ColumnBase::sigma>}},
-    FieldKeys{{"l", true, in<&Fields::check5, &Fields::Fragment::l>},
-              {"b", true, in<&Fields::check5, &Fields::Fragment::b>},
-              {"sigma", false, in<&Fields::check5, &Fields::Fragment::sigma>}},
-    FieldKeys{{"l", true, in<&Fields::check6, &Fields::Fragment::l>},
-              {"b", true, in<&Fields::check6, &Fields::Fragment::b>},
-              {"sigma", false, in<&Fields::check6, &Fields::Fragment::sigma>}},
-    FieldKeys{{"b", true, in<&Fields::check7, &Fields::AnchorFragment::b>},
-              {"a", true, in<&Fields::check7, &Fields::AnchorFragment::a>},
-              {"c", true, in<&Fields::check7, &Fields::AnchorFragment::c>},
-              {"S", false, in<&Fields::check7, &Fields::AnchorFragment::S>}},
-    FieldKeys{{"b", true, in<&Fields::check8, &Fields::AnchorFragment::b>},
-              {"a", true, in<&Fields::check8, &Fields::AnchorFragment::a>},
-              {"c", true, in<&Fields::check8, &Fields::AnchorFragment::c>},
-              {"S", false, in<&Fields::check8, &Fields::AnchorFragment::S>}},
+    FieldKeys{{"bs", false, in<&Fields::check1, &Fields::TensionStrip::bs>,
+               [](Inputs& i) { return Single(i.check1.bs); }},
+              {"ca", false, in<&Fields::check1, &Fields::TensionStrip::ca>,
+               [](Inputs& i) { return Single(i.check1.ca); }},
+              {"S", false, in<&Fields::check1, &Fields::TensionStrip::S>,
+               [](Inputs& i) { return Single(i.check1.S); }}},
+    FieldKeys{{"ca", false, in<&Fields::check2, &Fields::CompressionStrip::ca>,
+               [](Inputs& i) { return Single(i.check2.ca); }},
+              {"sigma_k", false, in<&Fields::check2, &Fields::CompressionStrip::sigma_k>,
+               [](Inputs& i) { return Single(i.check2.sigma_k); }},
+              {"sigma_p", false, in<&Fields::check2, &Fields::CompressionStrip::sigma_p>,
+               [](Inputs& i) { return Single(i.check2.sigma_p); }}},
+    FieldKeys{{"l", true, in<&Fields::check3, &Fields::Fragment::l>,
+               [](Inputs& i) { return Single(i.check3.l); }},
+              {"b", true, in<&Fields::check3, &Fields::Fragment::b>,
+               [](Inputs& i) { return Single(i.check3.b); }},
+              {"sigma", false, in<&Fields::check3, &Fields::Fragment::sigma>,
+               [](Inputs& i) { return Single(i.check3.sigma); }}},
+    FieldKeys{{"sigma", false, in<&Fields::check4, &Fields::ColumnBase::sigma>,
+               [](Inputs& i) { return Single(i.check4.sigma); }}},
+    FieldKeys{{"l", true, in<&Fields::check5, &Fields::Fragment::l>,
+               [](Inputs& i) { return Single(i.check5.l); }},
+              {"b", true, in<&Fields::check5, &Fields::Fragment::b>,
+               [](Inputs& i) { return Single(i.check5.b); }},
+              {"sigma", false, in<&Fields::check5, &Fields::Fragment::sigma>,
+               [](Inputs& i) { return Single(i.check5.sigma); }}},
+    FieldKeys{{"l", true, in<&Fields::check6, &Fields::Fragment::l>,
+               [](Inputs& i) { return Single(i.check6.l); }},
+              {"b", true, in<&Fields::check6, &Fields::Fragment::b>,
+               [](Inputs& i) { return Single(i.check6.b); }},
+              {"sigma", false, in<&Fields::check6, &Fields::Fragment::sigma>,
+               [](Inputs& i) { return Single(i.check6.sigma); }}},
+    FieldKeys{{"b", true, in<&Fields::check7, &Fields::AnchorFragment::b>,
+               [](Inputs& i) { return Single(i.check7.b); }},
+              {"a", true, in<&Fields::check7, &Fields::AnchorFragment::a>,
+               [](Inputs& i) { return Single(i.check7.a); }},
+              {"c", true, in<&Fields::check7, &Fields::AnchorFragment::c>,
+               [](Inputs& i) { return Single(i.check7.c); }},
+              {"S", false, in<&Fields::check7, &Fields::AnchorFragment::S>,
+               [](Inputs& i) { return Single(i.check7.S); }}},
+    FieldKeys{{"b", true, in<&Fields::check8, &Fields::AnchorFragment::b>,
+               [](Inputs& i) { return Single(i.check8.b); }},
+              {"a", true, in<&Fields::check8, &Fields::AnchorFragment::a>,
+               [](Inputs& i) { return Single(i.check8.a); }},
+              {"c", true, in<&Fields::check8, &Fields::AnchorFragment::c>,
+               [](Inputs& i) { return Single(i.check8.c); }},
+              {"S", false, in<&Fields::check8, &Fields::AnchorFragment::S>,
+               [](Inputs& i) { return Single(i.check8.S); }}},
 };
 
 ObjectReader checkObject(const TaskValue& value, const std::string& path, int check) {
@@ -113,9 +141,8 @@ PlateTask readPlateTask(const TaskValue& value, const std::string& path) {
     PlateTask task;
     task.path = path;
     task.cmbStalb = object.listNumber("Nr_stali_blachy", 1, userPlateSteel).value_or(0) - 1;
-    task.steel = {object.text("Blacha_nazwa"),
-                  {object.fieldText("Blacha_fd").value_or(zero),
-                   object.wholeFieldText("Blacha_t_max").value_or(zero)}};
+    task.steel = {object.text("Blacha_nazwa"), object.fieldText("Blacha_fd").value_or(zero),
+                  object.wholeFieldText("Blacha_t_max").value_or(zero)};
     if (object.has("Grubosc") && !object.at("Grubosc").isNull())
         task.Grubosc = object.fieldText("Grubosc");
     if (!object.has("Sprawdzenia"))
@@ -126,6 +153,73 @@ PlateTask readPlateTask(const TaskValue& value, const std::string& path) {
         const std::string number(part.key);
         task.checks.push_back(readCheck(part, checks.pathOf(number), std::stoi(number)));
     }
+    return task;
+}
+
+Json plateTaskJson(const PlateTask& task) {
+    Json out = Json::object();
+    const auto number = [](Json& object, const char* key, const QString& text) {
+        if (const auto value = numberIn(text))
+            object[key] = jsonNumber(*value);
+    };
+    if (task.cmbStalb >= 0)
+        out["Nr_stali_blachy"] = task.cmbStalb + 1;
+    if (!task.steel.name.isEmpty())
+        out["Blacha_nazwa"] = task.steel.name.toStdString();
+    if (numberIn(task.steel.fd).value_or(0) != 0)
+        number(out, "Blacha_fd", task.steel.fd);
+    if (numberIn(task.steel.t_max).value_or(0) != 0)
+        number(out, "Blacha_t_max", task.steel.t_max);
+    if (task.Grubosc)
+        number(out, "Grubosc", *task.Grubosc);
+    if (task.checks.empty())
+        return out;
+    Json& checks = out["Sprawdzenia"];
+    for (const PlateTask::Check& check : task.checks) {
+        Json one = Json::object();
+        if (check.profile)
+            one["Nr_profilu"] = *check.profile;
+        for (const FieldKey& key : fieldKeys.at(static_cast<std::size_t>(check.check - 1)))
+            for (const auto& typed : check.typed)
+                if (typed.field == key.field)
+                    number(one, key.key, typed.text);
+        checks[std::to_string(check.check)] = std::move(one);
+    }
+    return out;
+}
+
+namespace {
+
+/// What check n was given: as it read it where it stands, else as it is typed.
+PlateTask::Check checkOf(const PlateForm& form, int n, bool stands) {
+    PlateTask::Check check{n, {}, {}};
+    PlateFields typed = form.fields;
+    for (const FieldKey& key : fieldKeys.at(static_cast<std::size_t>(n - 1)))
+        check.typed.push_back(
+            {key.field, stands ? general(key.read(form.inputs)) : key.field(typed)});
+    const int profile = stands ? form.inputs.check4.Nr_profilu : form.fields.cmbProfil + 1;
+    if (n == 4 && profile > 0)
+        check.profile = profile;
+    return check;
+}
+
+} // namespace
+
+PlateTask plateTaskOf(const Stan& stan, const PlateForm& form) {
+    PlateTask task;
+    task.path = "Blacha";
+    task.cmbStalb = form.fields.cmbStalb;
+    if (task.cmbStalb + 1 == userPlateSteel)
+        task.steel = rememberedPlateSteel(stan.materialy);
+    Integer required = 0;
+    for (int n = 1; n <= PlateChecks; ++n) {
+        const bool stands = stan.raport.Spr_blachy(n) != 0;
+        if (stands || form.refused.at(static_cast<std::size_t>(n - 1)))
+            task.checks.push_back(checkOf(form, n, stands));
+        required = std::max(required, stan.raport.Spr_blachy(n));
+    }
+    if (numberIn(form.fields.Text4) != static_cast<Double>(required))
+        task.Grubosc = form.fields.Text4;
     return task;
 }
 

@@ -36,6 +36,13 @@ struct PlateTask {
 /// Throws TaskError.
 PlateTask readPlateTask(const TaskValue& value, const std::string& path = "Blacha");
 
+/// The key's value. A text that is no number is left out: the form's first text stands for it.
+Json plateTaskJson(const PlateTask& task);
+
+/// The form as it was worked, as a task that works it again: the checks that stand with what they
+/// read, and the refused ones with what is typed.
+PlateTask plateTaskOf(const Stan& stan, const PlateForm& form);
+
 /// What working the plate form leaves behind.
 struct WorkedPlate {
     PlateForm form;

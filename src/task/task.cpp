@@ -3,6 +3,7 @@
 #include "design/material_tables.h"
 #include "input/anchor_layout.h"
 #include "runtime/format.h"
+#include "task/typed_fields.h"
 
 namespace ferna {
 
@@ -10,6 +11,23 @@ namespace {
 
 std::string element(const char* key, std::size_t index) {
     return std::string(key) + '[' + std::to_string(index) + ']';
+}
+
+/// More parts in an array than a task may have.
+Complaint atMost(int most, const char* english, std::size_t count, const char* polish) {
+    const std::string number = std::to_string(most);
+    const std::string met = std::to_string(count);
+    return {"expected at most " + number + english + ", found " + met,
+            "program przyjmuje najwyżej " + number + polish + ", a jest ich " + met};
+}
+
+Complaint casesExpected(std::size_t most, bool column, std::size_t count) {
+    const std::string number = std::to_string(most);
+    const std::string met = std::to_string(count);
+    return {"expected 1 to " + number + (column ? " cases and a column" : " cases") + ", found "
+                + met,
+            "ma tu stać od 1 do " + number + " przypadków obciążenia"
+                + (column ? " oprócz przypadku ze słupa" : "") + ", a jest ich " + met};
 }
 
 void readOptions(ObjectReader& task, Task& out) {
@@ -47,7 +65,8 @@ void readSteel(ObjectReader& task, Task& out) {
     const auto single = [&steel](std::string_view key) {
         const double value = steel.number(key, 0);
         if (!std::isfinite(static_cast<Single>(value)))
-            throw TaskError(steel.pathOf(key), "expected a number that fits 32 bits");
+            throw TaskError(steel.pathOf(key), {"expected a number that fits 32 bits",
+                                                "ta liczba nie mieści się w 32 bitach"});
         return CSng(value);
     };
     Materialy& materials = out.stan.materialy;
@@ -63,8 +82,7 @@ void readSteel(ObjectReader& task, Task& out) {
 void readAnchors(ObjectReader& task, Task& out) {
     const TaskValue& anchors = arrayOf(task.required("Kotwy"), "Kotwy");
     if (anchors.count > MaxAnchors)
-        throw TaskError("Kotwy", "expected at most " + std::to_string(MaxAnchors)
-                                     + " anchors, found " + std::to_string(anchors.count));
+        throw TaskError("Kotwy", atMost(MaxAnchors, " anchors", anchors.count, " kotew"));
     Plyta_i_kotwy& plate = out.stan.plyta;
     std::size_t i = 0;
     for (const TaskValue& part : anchors.parts()) {
@@ -73,7 +91,8 @@ void readAnchors(ObjectReader& task, Task& out) {
             const double mm = anchor.requiredNumber(key);
             if (!(std::fabs(mm) <= 32767))
                 throw TaskError(anchor.pathOf(key),
-                                "expected a coordinate in mm that fits 16 bits");
+                                {"expected a coordinate in mm that fits 16 bits",
+                                 "ma tu stać współrzędna w mm od -32767 do 32767"});
             return CInt(mm);
         };
         const Integer x = coordinate("x");
@@ -87,11 +106,9 @@ void readAnchors(ObjectReader& task, Task& out) {
 
 void readCases(ObjectReader& task, Task& out) {
     const TaskValue& cases = arrayOf(task.required("Przypadki"), "Przypadki");
-    const std::size_t most = out.column ? MaxCases - 1 : MaxCases;
+    const std::size_t most = addsCase(out) ? MaxCases - 1 : MaxCases;
     if (cases.count == 0 || cases.count > most)
-        throw TaskError("Przypadki", "expected 1 to " + std::to_string(most)
-                                         + (out.column ? " cases and a column" : " cases")
-                                         + ", found " + std::to_string(cases.count));
+        throw TaskError("Przypadki", casesExpected(most, addsCase(out), cases.count));
     std::size_t r = 0;
     for (const TaskValue& part : cases.parts()) {
         ObjectReader loads(part, element("Przypadki", r));
@@ -106,9 +123,30 @@ void readCases(ObjectReader& task, Task& out) {
     out.stan.obciazenia.Liczba_przyp = CInt(static_cast<int>(cases.count));
 }
 
+/// The case in which the column's totals stand.
+void readCaseOfColumn(ObjectReader& task, Task& out) {
+    const Integer inCase = task.integer("Slup_przypadek", 1, 1, MaxCases);
+    if (!out.column)
+        throw TaskError("Slup_przypadek",
+                        {"expected together with Slup", "ten klucz ma sens tylko z kluczem Slup"});
+    out.column->inCase = inCase;
+}
+
+/// Texts that were typed where a number belongs: they stand in their fields in place of it.
+void readTyped(const TaskValue& typed, InputFields& fields) {
+    std::vector<std::pair<std::string, QString*>> known;
+    forTypedFields(fields, [&](std::string key, QString& field) {
+        known.emplace_back(std::move(key), &field);
+    });
+    ObjectReader texts(typed, "Wpisane");
+    for (const auto& [key, field] : known)
+        *field = texts.text(key, *field);
+    texts.finish();
+}
+
 } // namespace
 
-Task readTask(const TaskValue& json) {
+Task readTask(const TaskValue& json, TaskCases cases) {
     Task out;
     ObjectReader task(json, "");
     readOptions(task, out);
@@ -118,12 +156,19 @@ Task readTask(const TaskValue& json) {
     out.fields.Text4 = general(task.requiredInteger("Szer_plyty_mm"));
     if (task.has("Slup"))
         out.column = readColumnTask(task.at("Slup"));
+    if (task.has("Slup_przypadek"))
+        readCaseOfColumn(task, out);
     if (task.has("Blacha"))
         out.plate = readPlateTask(task.at("Blacha"));
     if (task.has("Kotwa"))
         out.anchor = readAnchorTask(task.at("Kotwa"));
     readAnchors(task, out);
-    readCases(task, out);
+    if (cases == TaskCases::Required || task.has("Przypadki"))
+        readCases(task, out);
+    if (out.column && out.column->inCase > out.stan.obciazenia.Liczba_przyp)
+        throw TaskError("Slup_przypadek", {"there is no such case", "nie ma takiego przypadku"});
+    if (task.has("Wpisane"))
+        readTyped(task.at("Wpisane"), out.fields);
     task.finish();
     return out;
 }

@@ -1,3 +1,4 @@
+#include "task/complaints.h"
 #include "task/task.h"
 
 #include <iterator>
@@ -23,8 +24,7 @@ public:
         case Event::array_start: {
             const std::string* const begun = beginValue();
             if (levels_.size() == deepest)
-                throw TaskError(path_, "expected at most " + std::to_string(deepest)
-                                           + " objects and arrays within one another");
+                throw TaskError(path_, tooDeep(deepest));
             levels_.push_back({event == Event::array_start, path_, {}, 0});
             return begun;
         }
@@ -52,7 +52,7 @@ private:
         Level& level = levels_.back();
         path_ = level.path.empty() ? name : level.path + '.' + name;
         if (!level.keys.insert(name).second)
-            throw TaskError(path_, "this key stands twice");
+            throw TaskError(path_, keyTwice);
     }
 
     const std::string* beginValue() {

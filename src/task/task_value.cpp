@@ -1,5 +1,6 @@
 #include "task/task_value.h"
 
+#include "task/complaints.h"
 #include "task/object_reader.h"
 #include "task/plain_json.h"
 #include "task/task_error.h"
@@ -77,7 +78,7 @@ public:
         level.key = lettersOf(name);
         const TaskValue& object = document_.values[level.begin];
         if (isKnown(level, object))
-            throw TaskError(pathOf(depth_), "this key stands twice");
+            throw TaskError(pathOf(depth_), keyTwice);
         return true;
     }
 
@@ -86,8 +87,9 @@ public:
         const std::string what = failure.what();
         const std::size_t behindTheId = what.find("] ");
         throw TaskError(
-            "", "expected JSON: "
-                    + (behindTheId == std::string::npos ? what : what.substr(behindTheId + 2)));
+            "", {"expected JSON: "
+                     + (behindTheId == std::string::npos ? what : what.substr(behindTheId + 2)),
+                 "to nie jest pełny plik zadania (tekst JSON jest tu uszkodzony albo urwany)"});
     }
 
 private:
@@ -129,8 +131,7 @@ private:
 
     bool open(TaskValue::Kind kind) {
         if (depth_ == deepest)
-            throw TaskError(pathOfNext(), "expected at most " + std::to_string(deepest)
-                                              + " objects and arrays within one another");
+            throw TaskError(pathOfNext(), tooDeep(deepest));
         const std::size_t begin = document_.values.size();
         keep(kind);
         levels_[depth_++] = {begin, {}};

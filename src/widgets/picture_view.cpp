@@ -23,6 +23,11 @@ void PictureView::setDrawing(QSize size, Drawing drawing) {
     renew();
 }
 
+void PictureView::setOverlay(Overlay overlay) {
+    overlay_ = std::move(overlay);
+    update();
+}
+
 void PictureView::renew() {
     image_ = QImage();
     update();
@@ -50,6 +55,11 @@ void PictureView::paintEvent(QPaintEvent* /*event*/) {
             image_ = drawing_(ratio);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(place, image_);
+        if (overlay_) {
+            painter.save();
+            overlay_(painter);
+            painter.restore();
+        }
     }
     painter.setPen(palette().color(QPalette::Mid));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

@@ -28,6 +28,12 @@ public:
     /// Draws anew.
     void renew();
 
+    /// What is painted over the drawing, on the screen alone.
+    using Overlay = std::function<void(QPainter& painter)>;
+    void setOverlay(Overlay overlay);
+    /// Where the drawing stands in the widget.
+    QRectF drawingPlace() const { return placeOf(drawingSize_); }
+
     QSize sizeHint() const override;
 
 protected:
@@ -38,6 +44,7 @@ private:
     QRectF placeOf(QSizeF picture) const;
 
     Drawing drawing_;
+    Overlay overlay_;
     QSize drawingSize_;
     std::unique_ptr<QSvgRenderer> sketch_;
     QImage image_;

@@ -45,11 +45,11 @@ void SteelDialog::reject() {
 
 QLineEdit* SteelDialog::fieldOf(SteelField field) const {
     switch (field) {
-    case SteelField::Text1:
+    case SteelField::Name:
         return name_;
-    case SteelField::Text2_0:
+    case SteelField::Strength:
         return numbers_[0];
-    case SteelField::Text2_1:
+    case SteelField::Largest:
         return numbers_[1];
     }
     return name_;

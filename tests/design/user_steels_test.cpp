@@ -16,9 +16,8 @@ struct AnchorSteelDialog : ::testing::Test {
     Stan stan;
     ScriptedDialogs dialogs;
     // fd, largest diameter, Rm, Re
-    AnchorSteelFields fields{QStringLiteral("10.9"),
-                             {QStringLiteral("640"), QStringLiteral("36"), QStringLiteral("1000"),
-                              QStringLiteral("900,5")}};
+    AnchorSteelFields fields{QStringLiteral("10.9"), QStringLiteral("640"), QStringLiteral("36"),
+                             QStringLiteral("1000"), QStringLiteral("900,5")};
 
     AnchorSteelDialog() {
         stan.plyta.Fi_max = 24;
@@ -55,65 +54,67 @@ TEST_F(AnchorSteelDialog, AcceptedItReplacesTheStrengths) {
 }
 
 TEST_F(AnchorSteelDialog, RefusesInItsOrder) {
-    fields = {QString(),
-              {QStringLiteral("0"), QStringLiteral("8"), QStringLiteral("0"), QStringLiteral("0")}};
-    expectRefused(u"Podaj nazwę materiału", SteelField::Text1);
-    fields.Text1 = QStringLiteral("X");
-    expectRefused(u"Nieoczekiwana max. średnica", SteelField::Text2_1);
-    fields.Text2[1] = QStringLiteral("120");
-    expectRefused(u"Nieoczekiwana max. średnica", SteelField::Text2_1);
-    fields.Text2[1] = QStringLiteral("23");
-    expectRefused(u"Conajmniej jedna śruba jest grubsza!", SteelField::Text2_1);
-    fields.Text2[1] = QStringLiteral("24");
-    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1); // fd is 0
-    fields.Text2[0] = QStringLiteral("300");
-    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Text2_0); // Re is 0
+    fields = {QString(), QStringLiteral("0"), QStringLiteral("8"), QStringLiteral("0"),
+              QStringLiteral("0")};
+    expectRefused(u"Podaj nazwę materiału", SteelField::Name);
+    fields.name = QStringLiteral("X");
+    expectRefused(u"Nieoczekiwana max. średnica", SteelField::Largest);
+    fields.fi_max = QStringLiteral("120");
+    expectRefused(u"Nieoczekiwana max. średnica", SteelField::Largest);
+    fields.fi_max = QStringLiteral("23");
+    expectRefused(u"Conajmniej jedna śruba jest grubsza!", SteelField::Largest);
+    fields.fi_max = QStringLiteral("24");
+    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Name); // fd is 0
+    fields.fd = QStringLiteral("300");
+    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Strength); // Re is 0
 }
 
 TEST_F(AnchorSteelDialog, TheRangeOfDiametersIncludesItsEnds) {
     stan.plyta.Fi_max = 9;
-    fields.Text2[1] = QStringLiteral("9");
+    fields.fi_max = QStringLiteral("9");
     EXPECT_EQ(ok(), std::nullopt);
-    fields.Text2[1] = QStringLiteral("119");
+    fields.fi_max = QStringLiteral("119");
     EXPECT_EQ(ok(), std::nullopt);
 }
 
 TEST_F(AnchorSteelDialog, AYieldPointEqualToTheStrengthPasses) {
-    fields.Text2[2] = fields.Text2[3] = QStringLiteral("700");
+    fields.Rm = fields.Re = QStringLiteral("700");
     EXPECT_EQ(ok(), std::nullopt);
-    fields.Text2[2] = QStringLiteral("699,9");
-    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Text2_0);
+    fields.Rm = QStringLiteral("699,9");
+    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Strength);
 }
 
 TEST_F(AnchorSteelDialog, AStrengthEqualToTheYieldPointDoesNotPass) {
-    fields.Text2[0] = QStringLiteral("900,5");
-    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Text2_0);
-    fields.Text2[0] = QStringLiteral("900,4");
+    fields.fd = QStringLiteral("900,5");
+    expectRefused(u"Nieprawidłowe parametry materiału", SteelField::Strength);
+    fields.fd = QStringLiteral("900,4");
     EXPECT_EQ(ok(), std::nullopt);
 }
 
 TEST_F(AnchorSteelDialog, ARememberedZeroRefusesWhateverIsTyped) {
     stan.materialy.Stal_Re = 0;
-    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1);
-    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1); // it never gets further
+    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Name);
+    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Name); // it never gets further
     stan.materialy.Stal_Re = 1;
     EXPECT_EQ(ok(), std::nullopt);
     stan.materialy.Stal_Rm = 0;
-    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Text1);
+    expectRefused(u"Musisz wypełnic wszystkie pola", SteelField::Name);
 }
 
 TEST_F(AnchorSteelDialog, ATextThatIsNoNumberKeepsTheDialogOpen) {
-    for (QString& field : fields.Text2) {
-        const QString before = field;
-        field = QStringLiteral("1,2,3");
+    for (QString AnchorSteelFields::*const number :
+         {&AnchorSteelFields::fd, &AnchorSteelFields::fi_max, &AnchorSteelFields::Rm,
+          &AnchorSteelFields::Re}) {
+        const QString before = fields.*number;
+        fields.*number = QStringLiteral("1,2,3");
         dialogs.messages.clear();
         EXPECT_TRUE(ok());
         ASSERT_EQ(dialogs.messages.size(), 1U);
         EXPECT_EQ(dialogs.messages[0].text, title);
         EXPECT_EQ(dialogs.messages[0].title, title);
-        field = before;
+        fields.*number = before;
     }
-    fields.Text2[1] = QStringLiteral("40000");
+    fields.fi_max = QStringLiteral("40000");
     dialogs.messages.clear();
     EXPECT_TRUE(ok());
     EXPECT_EQ(dialogs.messages.at(0).text, title);
@@ -122,8 +123,7 @@ TEST_F(AnchorSteelDialog, ATextThatIsNoNumberKeepsTheDialogOpen) {
 TEST_F(AnchorSteelDialog, ShowsTheValuesLastRemembered) {
     ASSERT_EQ(ok(), std::nullopt);
     const AnchorSteelFields again = rememberedAnchorSteel(stan.materialy);
-    EXPECT_EQ(again.Text1, fields.Text1);
-    EXPECT_EQ(again.Text2, fields.Text2);
+    EXPECT_EQ(again, fields);
 }
 
 TEST_F(AnchorSteelDialog, CancelLeavesNoSteel) {
@@ -136,8 +136,7 @@ struct PlateSteelDialog : ::testing::Test {
     WithDecimalSign comma{u','};
     Stan stan;
     ScriptedDialogs dialogs;
-    PlateSteelFields fields{QStringLiteral("S235"),
-                            {QStringLiteral("215,5"), QStringLiteral("40")}};
+    PlateSteelFields fields{QStringLiteral("S235"), QStringLiteral("215,5"), QStringLiteral("40")};
 
     std::optional<SteelField> ok() { return acceptPlateSteel(stan, fields, dialogs); }
 
@@ -161,28 +160,28 @@ TEST_F(PlateSteelDialog, AcceptedItIsTheSteelOfThePlate) {
     EXPECT_EQ(m.Max_grubosc, 40);
     EXPECT_EQ(m.Stal_anulowana, False);
     EXPECT_EQ(m.Blacha_uzytkownika, True);
-    EXPECT_EQ(rememberedPlateSteel(m).Text2, fields.Text2);
+    EXPECT_EQ(rememberedPlateSteel(m), fields);
 }
 
 TEST_F(PlateSteelDialog, RefusesInItsOrder) {
-    fields = {QString(), {QStringLiteral("0"), QStringLiteral("8")}};
-    expectRefused(u"Podaj nazwę materiału", SteelField::Text1);
-    fields.Text1 = QStringLiteral("X");
-    expectRefused(u"Nieoczekiwana max. grubość", SteelField::Text2_1);
+    fields = {QString(), QStringLiteral("0"), QStringLiteral("8")};
+    expectRefused(u"Podaj nazwę materiału", SteelField::Name);
+    fields.name = QStringLiteral("X");
+    expectRefused(u"Nieoczekiwana max. grubość", SteelField::Largest);
     EXPECT_EQ(stan.materialy.Max_grubosc, 0);
-    fields.Text2[1] = QStringLiteral("120");
-    expectRefused(u"Nieoczekiwana max. grubość", SteelField::Text2_1);
-    fields.Text2[1] = QStringLiteral("119");
-    expectRefused(u"Musisz określić fd", SteelField::Text2_0);
+    fields.t_max = QStringLiteral("120");
+    expectRefused(u"Nieoczekiwana max. grubość", SteelField::Largest);
+    fields.t_max = QStringLiteral("119");
+    expectRefused(u"Musisz określić fd", SteelField::Strength);
     EXPECT_EQ(stan.materialy.Max_grubosc, 119);
-    fields.Text2[0] = QStringLiteral("-5");
-    expectRefused(u"Musisz określić fd", SteelField::Text2_0);
+    fields.fd = QStringLiteral("-5");
+    expectRefused(u"Musisz określić fd", SteelField::Strength);
     EXPECT_EQ(stan.materialy.Fd_blachy, -5) << "a refusal leaves what was set";
     EXPECT_EQ(stan.materialy.Blacha_uzytkownika, False);
 }
 
 TEST_F(PlateSteelDialog, ATextThatIsNoNumberKeepsTheDialogOpen) {
-    fields.Text2[0] = QStringLiteral("fd");
+    fields.fd = QStringLiteral("fd");
     EXPECT_TRUE(ok());
     EXPECT_EQ(dialogs.messages.at(0).text, title);
 }

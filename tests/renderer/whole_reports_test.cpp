@@ -18,9 +18,8 @@ using namespace ferna::renderer;
 using ferna::testing::Dice;
 using ferna::testing::expectGoodPages;
 using ferna::testing::Folder;
-using ferna::testing::goldenLines;
 using ferna::testing::GoldenJson;
-
+using ferna::testing::goldenLines;
 
 namespace {
 
@@ -127,8 +126,11 @@ void expectHalfFull(const pages::Report& report) {
 class WholeReports : public ::testing::Test {
 protected:
     WholeReports() {
-        QStringList names{generalViewFile, platePictureFile, anchorSketchFile,
-                          QStringLiteral("rys3f.bmp"), QStringLiteral("rys2pm.bmp"),
+        QStringList names{generalViewFile,
+                          platePictureFile,
+                          anchorSketchFile,
+                          QStringLiteral("rys3f.bmp"),
+                          QStringLiteral("rys2pm.bmp"),
                           QStringLiteral("rys2pd.bmp")};
         for (int c = 1; c <= MaxCases; ++c)
             names += QStringLiteral("fernasz%1.bmp").arg(c);
@@ -159,7 +161,9 @@ protected:
                                      {"fi", 24}});
         for (int c = dice.whole(1, MaxCases); c > 0; --c) {
             const int N = dice.whole(20, 1500);
-            const auto part = [&](double size) { return std::round(N * dice.between(-1, 1) * size); };
+            const auto part = [&](double size) {
+                return std::round(N * dice.between(-1, 1) * size);
+            };
             task["Przypadki"].push_back({{"N", N},
                                          {"M1", part(length / 1500.0)},
                                          {"M2", dice.oneIn(3) ? 0.0 : part(width / 1500.0)},
@@ -167,8 +171,8 @@ protected:
                                          {"Vy", part(0.4)}});
         }
         if (dice.oneIn(2))
-            task["Blacha"] =
-                plates[static_cast<std::size_t>(dice.whole(0, static_cast<int>(plates.size()) - 1))];
+            task["Blacha"] = plates[static_cast<std::size_t>(
+                dice.whole(0, static_cast<int>(plates.size()) - 1))];
         if (dice.oneIn(2))
             task["Kotwa"] = {{"rodzaj", dice.oneIn(2) ? "F" : "P"}, {"g", 50}};
         return task;
@@ -233,16 +237,14 @@ protected:
 };
 
 TEST_F(WholeReports, FiveHundredReportsKeepTogetherWhatBelongsTogether) {
-    batch::RunOptions options;
-    options.dataFolder = places::data();
-    options.now = QDateTime(QDate(2026, 5, 17), QTime(9, 41));
+    const batch::RunOptions options{
+        {}, places::data(), QDateTime(QDate(2026, 5, 17), QTime(9, 41))};
     std::size_t several = 0;
     int made = 0;
     for (std::uint64_t number = 1; made < reports; ++number) {
         Dice dice(number);
         const GoldenJson asked = task(dice);
-        batch::Task read =
-            batch::readTask(ferna::testing::documentOf(asked));
+        batch::Task read = batch::readTask(ferna::testing::documentOf(asked));
         const batch::ComputedTask done = batch::run(std::move(read), options);
         if (!done.reportReady)
             continue;

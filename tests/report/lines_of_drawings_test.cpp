@@ -110,9 +110,12 @@ TEST_F(ZoneLines, AAndBStandAtThreeQuartersOfTheWayToTheirPoints) {
         PictureBox expected(QSize(630, 420));
         expected.setScale({-315, 210}, {315, -210});
         expected.setColour(qb::LightRed);
+        expected.setLetterHeight(zoneLetterHeight);
+        expected.setBold(true);
+        expected.setRim(true);
         expected.text(place, letter);
         const QImage alone = expected.image();
-        const QRect box(qRound(315 + place.x()) - 2, qRound(210 - place.y()) - 2, 16, 20);
+        const QRect box(qRound(315 + place.x()) - 2, qRound(210 - place.y()) - 2, 26, 32);
         int letterPixels = 0;
         for (int y = box.top(); y <= box.bottom(); ++y)
             for (int x = box.left(); x <= box.right(); ++x) {

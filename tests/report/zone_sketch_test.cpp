@@ -1,4 +1,5 @@
 #include "report/zone_sketch.h"
+#include "runtime/picture_twin.h"
 #include "support/column_base.h"
 #include "support/folder.h"
 #include "support/printing.h"
@@ -117,6 +118,50 @@ TEST(ZoneSketch, MarksThePointsOfTheAxisInRed) {
     EXPECT_GT(redAround(0.75 * 300, 0.75 * -50), 10);
 }
 
+/// The rows of a picture that have red in them, from the left edge to `right`.
+int rowsWithRed(const QImage& image, int left, int right) {
+    int rows = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        bool red = false;
+        for (int x = left; x < right; ++x)
+            red = red || isRed(image.pixelColor(x, y));
+        rows += red ? 1 : 0;
+    }
+    return rows;
+}
+
+TEST(ZoneSketch, ItsLettersAreReadOnTheDiscsOfASmallPlate) {
+    // On a plate of 120 x 80 mm the letter B lies on the disc of its point, 20 mm about (60, -10).
+    Stan stan = zoneBy(2, 1, -6, 1, 6, -1);
+    stan.plyta.Dlugosc_plyty = 12;
+    stan.plyta.Szerokosc_plyty = 8;
+    PictureBox picture(QSize(378, 252)); // 3 pixels a millimetre
+    drawZone(picture, stan, 1);
+    const QImage image = picture.image();
+    const QPoint letter(189 + 3 * 45, 126 + 3 * 7); // its box begins at three quarters of the way
+    int white = 0;
+    int red = 0;
+    for (int x = letter.x() - 3; x < letter.x() + 20; ++x)
+        for (int y = letter.y(); y < letter.y() + 26; ++y) {
+            white += image.pixelColor(x, y) == Qt::white ? 1 : 0;
+            red += isRed(image.pixelColor(x, y)) ? 1 : 0;
+        }
+    EXPECT_GT(white, 60) << "the rim";
+    EXPECT_GT(red, 60) << "the letter";
+}
+
+TEST(ZoneSketch, ItsLettersStayInsideThePicture) {
+    // The point B in the lower right corner of a flat plate: its letter would begin three quarters
+    // of the way down and end below the picture.
+    Stan stan = zoneBy(2, 1, -30, 2, 30, -3);
+    stan.plyta.Szerokosc_plyty = 6;
+    PictureBox picture(QSize(630, 63));
+    drawZone(picture, stan, 1);
+    const QImage image = picture.image();
+    EXPECT_GE(rowsWithRed(image, 535, 560), 17)
+        << "the whole letter, " << zoneLetterHeight << " pixels with its accents";
+}
+
 TEST(ZoneSketch, IsSavedAtPrintQualityWithTheLineOfItsCase) {
     Stan stan = zoneBy(3, 1, -1.23F, 20, 4.56F, -20);
     numberedCatalogue(stan);
@@ -125,9 +170,12 @@ TEST(ZoneSketch, IsSavedAtPrintQualityWithTheLineOfItsCase) {
     Rysuj_strefe(raport, stan, 1, folder.path(zoneSketchFile(1)));
     const QImage saved(folder.path(QStringLiteral("fernasz1.bmp")));
     constexpr double printedInches = 41.1 / 25.4;
-    EXPECT_GE(saved.width() / printedInches, 300);
+    EXPECT_GE(saved.width() / printedInches, 600);
     EXPECT_NEAR(saved.width() * 1000.0 / saved.dotsPerMeterX(), 41.1, 0.2) << "its natural width";
     EXPECT_EQ(raport.Wiersze_strefy(0), QStringLiteral("<45>-13,200), B(45,-200)"));
+    EXPECT_TRUE(isTwinOf(folder.read(QStringLiteral("fernasz1.svg")),
+                         folder.read(QStringLiteral("fernasz1.bmp"))))
+        << "with its vectors";
 }
 
 } // namespace

@@ -45,10 +45,14 @@ protected:
         stan = Stan();
         startUp(stan, folder.path());
         form = std::make_unique<Ferna3>(stan, folder.path(), dialogs, [this] { ++resultsOpened; });
+        prepare();
         form->load();
         form->show();
         activate();
     }
+
+    /// What stands beside the form, put there before it is loaded.
+    virtual void prepare() {}
 
     QString path(const QString& file) const { return folder.filePath(file); }
     QByteArray contents(const QString& file) const { return readFileWhole(path(file)); }

@@ -1,6 +1,6 @@
-#include "task/field_keys.h"
 #include "support/column_base.h"
 #include "support/run_time_errors.h"
+#include "task/field_keys.h"
 
 #include <gtest/gtest.h>
 

@@ -94,9 +94,9 @@ TEST_F(Tasks, EveryKeyReachesItsPlace) {
     EXPECT_FALSE(read.fields.Option1_0);
     EXPECT_EQ(read.fields.cmbStal, 6);
     EXPECT_EQ(read.stan.materialy.Stal_Re, 640);
-    EXPECT_EQ(read.steel.Text1, QStringLiteral("8.8"));
-    EXPECT_EQ(read.steel.Text2[0], QStringLiteral("300,5"));
-    EXPECT_EQ(read.steel.Text2[2], QStringLiteral("800")) << "Rm stands in front of Re";
+    EXPECT_EQ(read.steel.name, QStringLiteral("8.8"));
+    EXPECT_EQ(read.steel.fd, QStringLiteral("300,5"));
+    EXPECT_EQ(read.steel.Rm, QStringLiteral("800")) << "Rm stands in front of Re";
 }
 
 TEST_F(Tasks, CoordinatesRoundToWholeMillimetresWithTiesToEven) {
