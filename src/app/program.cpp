@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include "app/editing_entries.h"
+#include "app/sheet_entry.h"
 #include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
@@ -46,6 +47,7 @@ void Program::openResults() {
     combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
     task_.resultsMade(*results_);
+    addSheetEntry(*results_, stan_, input_.record(), dialogs_);
     input_.hide();
     results_->open();
 }

@@ -136,7 +136,11 @@ void FernaWyn::connectMenu() {
 
 void FernaWyn::tellWritten() {
     if (const QStringList files = session_->takeWritten(); !files.isEmpty())
-        ui_->zapisano->tell(files);
+        tellWritten(files);
+}
+
+void FernaWyn::tellWritten(const QStringList& files) {
+    ui_->zapisano->tell(files);
 }
 
 void FernaWyn::showRtfEntry() {
