@@ -1,5 +1,7 @@
 #pragma once
 
+#include "app/live_entries.h"
+#include "app/reserve_entries.h"
 #include "app/task_entries.h"
 #include "input/forms/Ferna3.h"
 #include "report/forms/FernaWyn.h"
@@ -34,6 +36,8 @@ private:
     Ferna3 input_;
     TaskEntries task_;
     CombinationEntries* combinations_ = nullptr;
+    ReserveEntries reserve_;
+    std::unique_ptr<Podglad> view_;
     std::unique_ptr<FernaWyn> results_;
 };
 
