@@ -1,6 +1,7 @@
 #include "app/program.h"
 
 #include "app/editing_entries.h"
+#include "app/sheet_entry.h"
 #include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
@@ -22,6 +23,7 @@ Program::Program(Stan& stan, QString folder)
     addMenus();
     addEditing(input_, stan_);
     combinations_ = new CombinationEntries(stan_, input_, dialogs_); // the form owns it
+    view_ = addLiveView(input_, stan_, dialogs_);
 }
 
 int Program::run(const QString& taskFile) {
@@ -38,12 +40,14 @@ void Program::addMenus() {
 }
 
 void Program::openResults() {
+    view_->calculated();
     auto session = std::make_unique<ResultsSession>(
         stan_, dialogs_, folder_, input_.firstNorm(), [] { return QDateTime::currentDateTime(); },
         [this] { return render(); });
     combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
     task_.resultsMade(*results_);
+    addSheetEntry(*results_, stan_, input_.record(), dialogs_);
     input_.hide();
     results_->open();
 }

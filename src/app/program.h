@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/live_entries.h"
 #include "app/reserve_entries.h"
 #include "app/task_entries.h"
 #include "input/forms/Ferna3.h"
@@ -36,6 +37,7 @@ private:
     TaskEntries task_;
     CombinationEntries* combinations_ = nullptr;
     ReserveEntries reserve_;
+    std::unique_ptr<Podglad> view_;
     std::unique_ptr<FernaWyn> results_;
 };
 

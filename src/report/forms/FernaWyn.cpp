@@ -111,6 +111,7 @@ void FernaWyn::connectMenu() {
         session_->retitle();
         showPanels();
     });
+    ui_->mnuPowrot->setShortcuts({ui_->mnuPowrot->shortcut(), QKeySequence::Back});
     on(ui_->mnuPowrot, [this] { back(); });
     for (QAction* end : {ui_->mnuKoniec, ui_->mnuKoniec2})
         on(end, [this] {
@@ -135,7 +136,11 @@ void FernaWyn::connectMenu() {
 
 void FernaWyn::tellWritten() {
     if (const QStringList files = session_->takeWritten(); !files.isEmpty())
-        ui_->zapisano->tell(files);
+        tellWritten(files);
+}
+
+void FernaWyn::tellWritten(const QStringList& files) {
+    ui_->zapisano->tell(files);
 }
 
 void FernaWyn::showRtfEntry() {
