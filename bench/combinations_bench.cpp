@@ -1,5 +1,5 @@
-// Aim: 10,000 combinations with six anchors below 0.1 s, from the rows of the table to the six that go
-// into the load table.
+// Aim: 10,000 combinations with six anchors below 0.1 s, from the rows of the table to the six that
+// go into the load table.
 #include "combinations/answered_table.h"
 #include "combinations/table_reader.h"
 #include "support/column_base.h"

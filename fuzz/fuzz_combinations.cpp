@@ -42,8 +42,7 @@ void checkRow(const ReadRow& row) {
         return;
     }
     const auto& one = std::get<Combination>(row);
-    for (const Double load :
-         {one.load.N, one.load.M1, one.load.M2, one.shear.Vx, one.shear.Vy})
+    for (const Double load : {one.load.N, one.load.M1, one.load.M2, one.shear.Vx, one.shear.Vy})
         require(std::fabs(load) <= 1e100, "a load is a number of some size");
 }
 

@@ -109,7 +109,7 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                        "at. Exit code 1 where the calculation confirms none."),
         QStringLiteral("RANGE.json"));
     parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines,
-                        combinations, threads, schema, capacity, range});
+                       combinations, threads, schema, capacity, range});
     parser.addPositionalArgument(QStringLiteral("TASK.json"),
                                  QStringLiteral("The task; - is standard input."));
 

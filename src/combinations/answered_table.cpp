@@ -9,7 +9,8 @@ namespace ferna::combinations {
 
 namespace {
 
-/// A text as a cell of CSV; the marks that a spreadsheet would take for a formula's begin are quoted.
+/// A text as a cell of CSV; the marks that a spreadsheet would take for a formula's begin are
+/// quoted.
 QString cellText(QString text) {
     const bool needsMarks = text.contains(u';') || text.contains(u'"') || text.contains(u'\n');
     if (!needsMarks)
@@ -31,8 +32,8 @@ QString csvLine(const AnsweredTable& table, RowNumber number) {
     const Combination* const one = table.combination(number);
     cells += cellText(one ? one->name : std::get<Refusal>(table.row(number)).name);
     if (one)
-        for (const Double load : {one->load.N, one->load.M1, one->load.M2, one->shear.Vx,
-                                  one->shear.Vy})
+        for (const Double load :
+             {one->load.N, one->load.M1, one->load.M2, one->shear.Vx, one->shear.Vy})
             cells += general(load);
     else
         cells += QStringList(loads.size());

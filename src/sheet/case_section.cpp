@@ -1,7 +1,6 @@
+#include "sheet/numbers.h"
 #include "sheet/plate_picture.h"
 #include "sheet/sections.h"
-
-#include "sheet/numbers.h"
 
 namespace ferna::sheet {
 

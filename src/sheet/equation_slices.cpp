@@ -75,7 +75,8 @@ SetRow setRow(const Equation& equation, const Quantity& told, double most) {
     made.way = symbolBox(told.symbol, mathSize);
     if (!told.formula || !isWorthPrinting(*told.formula))
         return made;
-    const MathBox symbols = row({made.way, equals(), formulaBox(*told.formula, Show::Symbols, mathSize)});
+    const MathBox symbols =
+        row({made.way, equals(), formulaBox(*told.formula, Show::Symbols, mathSize)});
     const MathBox values = row({equals(), formulaBox(*told.formula, Show::Values, mathSize)});
     if (symbols.width + values.width <= most) {
         made.way = row({symbols, values});
@@ -90,7 +91,8 @@ SetRow setRow(const Equation& equation, const Quantity& told, double most) {
 /// The columns of the rows of a block.
 class Layout {
 public:
-    Layout(const std::vector<SetRow>& rows, double width, bool twoResults) : twoResults_(twoResults) {
+    Layout(const std::vector<SetRow>& rows, double width, bool twoResults)
+        : twoResults_(twoResults) {
         for (const SetRow& row : rows) {
             way_ = std::max({way_, row.way.width, row.secondLine.width});
             first_.take(row.result);
@@ -106,7 +108,8 @@ public:
     }
 
     Slice slice(const SetRow& row) const {
-        const double secondLine = row.secondLine.height() > 0 ? row.secondLine.height() + 0.6 * perMm : 0;
+        const double secondLine =
+            row.secondLine.height() > 0 ? row.secondLine.height() + 0.6 * perMm : 0;
         const TextBlock remark =
             row.remark.isEmpty() ? TextBlock() : TextBlock(row.remark, remarkStyle, remark_);
         const double letters = std::max(row.way.height(), 3.3 * perMm);
@@ -153,7 +156,8 @@ public:
         made.withNext = true;
         made.draw = [*this, search, exact](QPainter& painter, QPointF at) {
             const double x = way_ + columnGap;
-            search.draw(painter, at + QPointF(x + std::min(0.0, first_.width() - search.width()), 0));
+            search.draw(painter,
+                        at + QPointF(x + std::min(0.0, first_.width() - search.width()), 0));
             exact.draw(painter, at + QPointF(x + first_.width() + columnGap, 0));
         };
         return made;

@@ -53,9 +53,9 @@ void addHead(Maker& maker) {
     sheet.made = rich(input.program + QStringLiteral(" · ")
                       + input.now.toString(QStringLiteral("yyyy-MM-dd HH:mm")));
     maker.add(subjectTable(maker));
-    maker.add(SignatureFields{{text(QStringLiteral("head.author")),
-                               text(QStringLiteral("head.checker")),
-                               text(QStringLiteral("head.signature"))}});
+    maker.add(
+        SignatureFields{{text(QStringLiteral("head.author")), text(QStringLiteral("head.checker")),
+                         text(QStringLiteral("head.signature"))}});
     if (!input.hasResults)
         tellThatTheSearchFailed(maker);
     maker.say(QStringLiteral("head.reading"), {}, Tone::Small);

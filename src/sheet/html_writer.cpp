@@ -39,7 +39,10 @@ public:
         : sheet_(sheet), pictures_(HtmlPictures::Inside), taken_(&taken) {}
 
     QString flat() {
-        html_ = QStringLiteral("<html><body style=\"font-family:'Liberation Sans'; font-size:9pt\"><h1>%1</h1>").arg(sheet_.title);
+        html_ =
+            QStringLiteral(
+                "<html><body style=\"font-family:'Liberation Sans'; font-size:9pt\"><h1>%1</h1>")
+                .arg(sheet_.title);
         write(sheet_.blocks);
         html_ += QStringLiteral("<p>%1</p></body></html>").arg(sheet_.made);
         return html_;
@@ -49,9 +52,10 @@ public:
         QFile style(QStringLiteral(":/arkusz/styl.css"));
         const QString css =
             style.open(QIODevice::ReadOnly) ? QString::fromUtf8(style.readAll()) : QString();
-        html_ = QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n<meta charset=\"utf-8\">"
-                               "\n<title>%2</title>\n<style>\n%3</style>\n</head>\n<body>\n")
-                    .arg(sheet_.language, sheet_.title, css);
+        html_ =
+            QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n<meta charset=\"utf-8\">"
+                           "\n<title>%2</title>\n<style>\n%3</style>\n</head>\n<body>\n")
+                .arg(sheet_.language, sheet_.title, css);
         html_ += QStringLiteral("<h1>%1</h1>\n").arg(sheet_.title);
         write(sheet_.blocks);
         writeUnseen();
@@ -88,7 +92,8 @@ private:
     void write(const SignatureFields& fields) {
         if (taken_ != nullptr) {
             for (const QString& name : fields.names)
-                html_ += QStringLiteral("<p>%1: ........................................</p>").arg(rich(name));
+                html_ += QStringLiteral("<p>%1: ........................................</p>")
+                             .arg(rich(name));
             return;
         }
         html_ += QStringLiteral("<div class=\"sign\">");
@@ -109,9 +114,10 @@ private:
             taken_->push_back(&picture);
             return;
         }
-        html_ += QStringLiteral("<img alt=\"\" style=\"width:%1mm\" src=\"data:image/png;base64,%2\">\n")
-                     .arg(picture.width)
-                     .arg(QString::fromLatin1(pngOf(picture).toBase64()));
+        html_ +=
+            QStringLiteral("<img alt=\"\" style=\"width:%1mm\" src=\"data:image/png;base64,%2\">\n")
+                .arg(picture.width)
+                .arg(QString::fromLatin1(pngOf(picture).toBase64()));
     }
 
     void write(const std::shared_ptr<const Beside>& beside) {
@@ -148,15 +154,17 @@ private:
             return;
         QString way;
         if (told->formula && isWorthPrinting(*told->formula))
-            way = QStringLiteral("= %1 = %2").arg(formula(*told->formula, Show::Symbols),
-                                                  formula(*told->formula, Show::Values));
+            way = QStringLiteral("= %1 = %2")
+                      .arg(formula(*told->formula, Show::Symbols),
+                           formula(*told->formula, Show::Values));
         if (taken_ != nullptr) {
             writeFlatRow(row, *told, way, twoResults);
             return;
         }
-        html_ += QStringLiteral("<tr><td>%1</td><td class=\"way\">%2</td><td class=\"result\">%3</td>")
-                     .arg(richSymbol(told->symbol), way,
-                          row.result != nullptr ? withUnit(*row.result) : QString());
+        html_ +=
+            QStringLiteral("<tr><td>%1</td><td class=\"way\">%2</td><td class=\"result\">%3</td>")
+                .arg(richSymbol(told->symbol), way,
+                     row.result != nullptr ? withUnit(*row.result) : QString());
         if (twoResults)
             html_ += QStringLiteral("<td class=\"result\">%1</td>")
                          .arg(row.exact != nullptr ? withUnit(*row.exact) : QString());
@@ -171,8 +179,8 @@ private:
             html_ += QStringLiteral("<td width=\"%1%\">%2</td>").arg(share).arg(text);
         };
         const auto result = [&](const Quantity* number) {
-            add(15, number != nullptr ? QStringLiteral("<b>%1</b>").arg(withUnit(*number))
-                                      : QString());
+            add(15,
+                number != nullptr ? QStringLiteral("<b>%1</b>").arg(withUnit(*number)) : QString());
         };
         html_ += QStringLiteral("<tr>");
         add(9, richSymbol(told.symbol));
@@ -208,8 +216,8 @@ private:
         std::size_t column = 0;
         for (const Cell& cell : row) {
             static constexpr std::array<const char*, 3> aligns{"left", "right", "center"};
-            const Column::Align align = cell.span > 1 ? Column::Align::Centre
-                                                      : table.columns.at(column).align;
+            const Column::Align align =
+                cell.span > 1 ? Column::Align::Centre : table.columns.at(column).align;
             const QString name = QString::fromLatin1(element);
             html_ += QStringLiteral("<%1 style=\"text-align:%2\"%3>%4</%1>")
                          .arg(name, QLatin1String(aligns.at(static_cast<std::size_t>(align))),

@@ -30,7 +30,8 @@ MathBox textBox(const QString& text, double size, bool italic) {
 }
 
 MathBox shifted(MathBox box, double down) {
-    MathBox made{box.width, std::max(box.ascent - down, 0.0), std::max(box.descent + down, 0.0), {}};
+    MathBox made{
+        box.width, std::max(box.ascent - down, 0.0), std::max(box.descent + down, 0.0), {}};
     made.draw = [draw = std::move(box.draw), down](QPainter& painter, QPointF at) {
         draw(painter, at + QPointF(0, down));
     };
@@ -60,7 +61,8 @@ public:
         case Kind::Sum:
             return sum(e);
         case Kind::Product:
-            return sheet::row({factor(e.parts[0]), word(QStringLiteral(" · ")), factor(e.parts[1])});
+            return sheet::row(
+                {factor(e.parts[0]), word(QStringLiteral(" · ")), factor(e.parts[1])});
         case Kind::Quotient:
             return fraction(set(withoutBrackets(e.parts[0])), set(withoutBrackets(e.parts[1])));
         case Kind::Square:
@@ -191,7 +193,8 @@ private:
             return around(std::move(inside), u'|', u'|');
         if (e.text == u"floor")
             return around(std::move(inside), u'⌊', u'⌋');
-        return sheet::row({word(e.text), space(0.05 * size_), around(std::move(inside), u'(', u')')});
+        return sheet::row(
+            {word(e.text), space(0.05 * size_), around(std::move(inside), u'(', u')')});
     }
 
     Show show_;

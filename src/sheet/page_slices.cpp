@@ -23,8 +23,8 @@ Slices headingSlices(const Heading& heading, double width) {
     static constexpr std::array<double, 3> sizes{points(11.5), points(10), points(8.8)};
     static constexpr std::array<double, 3> blanks{4.6 * perMm, 3.4 * perMm, 2.2 * perMm};
     const auto level = static_cast<std::size_t>(heading.level - 1);
-    Slice made = textSlice(
-        TextBlock(heading.text, {.size = sizes.at(level), .bold = true}, width), blanks.at(level));
+    Slice made = textSlice(TextBlock(heading.text, {.size = sizes.at(level), .bold = true}, width),
+                           blanks.at(level));
     made.withNext = true;
     const bool ruled = heading.level == 1;
     if (ruled) {
@@ -47,12 +47,11 @@ Slices paragraphSlices(const Paragraph& paragraph, double width) {
     const TextStyle style{.size = paragraph.tone == Tone::Small ? points(7.2) : points(8.5),
                           .bold = paragraph.tone == Tone::Warning,
                           .grey = paragraph.tone == Tone::Small};
-    Slice made =
-        textSlice(TextBlock(paragraph.text, style, width - indent), 1.3 * perMm, indent);
+    Slice made = textSlice(TextBlock(paragraph.text, style, width - indent), 1.3 * perMm, indent);
     made.withNext = paragraph.withNext;
     if (barred) {
-        const QColor colour = paragraph.tone == Tone::Warning ? QColor(0xA0, 0, 0)
-                                                              : QColor(0x99, 0x99, 0x99);
+        const QColor colour =
+            paragraph.tone == Tone::Warning ? QColor(0xA0, 0, 0) : QColor(0x99, 0x99, 0x99);
         made.draw = [draw = std::move(made.draw), colour, indent,
                      height = made.height](QPainter& painter, QPointF at) {
             constexpr double bar = 0.8 * perMm;
@@ -93,8 +92,8 @@ Slices pictureSlices(const Picture& picture, double width) {
 Slices signatureSlices(const SignatureFields& fields, double width) {
     constexpr double blank = 11 * perMm; // to write in
     constexpr double gap = 6 * perMm;
-    const double each =
-        (width - gap * static_cast<double>(fields.names.size() - 1)) / static_cast<double>(fields.names.size());
+    const double each = (width - gap * static_cast<double>(fields.names.size() - 1))
+                        / static_cast<double>(fields.names.size());
     std::vector<TextBlock> texts;
     for (const QString& name : fields.names)
         texts.emplace_back(rich(name), TextStyle{.size = points(7.2), .grey = true});

@@ -65,7 +65,7 @@ QString withoutEntities(QString text) {
 
 /// The tags that the sheet's texts use; a "<" that begins none of them is a letter.
 bool isTag(QStringView name) {
-    static const std::array<QStringView, 9> known{u"i",   u"/i",   u"b",   u"/b", u"sub",
+    static const std::array<QStringView, 9> known{u"i",    u"/i",  u"b",    u"/b", u"sub",
                                                   u"/sub", u"sup", u"/sup", u"br/"};
     return std::find(known.begin(), known.end(), name) != known.end();
 }
@@ -84,8 +84,8 @@ Marked parsedText(const Rich& text, const QFont& base) {
     };
     for (qsizetype i = 0; i < text.size(); ++i) {
         const qsizetype end = text[i] == u'<' ? text.indexOf(u'>', i) : -1;
-        const QStringView name = end > 0 ? QStringView(text).sliced(i + 1, end - i - 1)
-                                         : QStringView();
+        const QStringView name =
+            end > 0 ? QStringView(text).sliced(i + 1, end - i - 1) : QStringView();
         if (end < 0 || !isTag(name)) {
             run += text[i];
             continue;
@@ -107,9 +107,9 @@ Marked parsedText(const Rich& text, const QFont& base) {
 
 QFont fontOf(const TextStyle& style) {
     QFont font;
-    font.setFamilies({style.serif ? QStringLiteral("Liberation Serif")
-                                  : QStringLiteral("Liberation Sans"),
-                      QStringLiteral("DejaVu Sans")});
+    font.setFamilies(
+        {style.serif ? QStringLiteral("Liberation Serif") : QStringLiteral("Liberation Sans"),
+         QStringLiteral("DejaVu Sans")});
     font.setPixelSize(static_cast<int>(style.size + 0.5));
     font.setBold(style.bold);
     font.setItalic(style.italic);
@@ -142,8 +142,7 @@ TextBlock::TextBlock(const Rich& text, const TextStyle& style, double width) : g
     if (width <= 0 && style.align != Qt::AlignLeft) { // aligned within its own width
         height_ = 0;
         layout_->beginLayout();
-        for (QTextLine line = layout_->createLine(); line.isValid();
-             line = layout_->createLine()) {
+        for (QTextLine line = layout_->createLine(); line.isValid(); line = layout_->createLine()) {
             line.setLineWidth(width_);
             line.setPosition({0, height_});
             height_ += line.height() * 1.04;

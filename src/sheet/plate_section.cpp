@@ -1,9 +1,8 @@
-#include "sheet/sections.h"
-
 #include "plate/clauses.h"
 #include "plate/load_charts.h"
 #include "plate/plate_tables.h"
 #include "sheet/numbers.h"
+#include "sheet/sections.h"
 #include "sheet/sketch_picture.h"
 
 namespace ferna::sheet {
@@ -114,11 +113,10 @@ private:
         const Quantity* const ca = given("ca", "c_a", in.ca, "mm");
         const Quantity* const k = pressure("sk", "σ_k", in.sigma_k);
         const Quantity* const p = pressure("sp", "σ_p", in.sigma_p);
-        const Quantity* const M =
-            computed("M", "M",
-                     in.sigma_k < in.sigma_p ? momentOfFallingStressClause
-                                             : momentOfRisingStressClause,
-                     {ca, k, p}, digits(6));
+        const Quantity* const M = computed("M", "M",
+                                           in.sigma_k < in.sigma_p ? momentOfFallingStressClause
+                                                                   : momentOfRisingStressClause,
+                                           {ca, k, p}, digits(6));
         return computed("t", "t", compressionStripThicknessClause, {M, fd()});
     }
 
@@ -128,9 +126,9 @@ private:
         const Quantity* const b = given("b", "b", in.b, "mm");
         const Quantity* const r = computed("r", "r", sideRatioClause, {b, l});
         const FragmentInterval table = fragmentInterval(check_, sideRatio(in.b, in.l));
-        const Rich read = maker_.text()(
-            QStringLiteral("plate.interval"),
-            {significant(table.r0, 4), significant(table.r0 + table.d, 4)});
+        const Rich read =
+            maker_.text()(QStringLiteral("plate.interval"),
+                          {significant(table.r0, 4), significant(table.r0 + table.d, 4)});
         const Quantity* const r0 = given("r0", "r_0", table.r0, "", read);
         const Quantity* const w0 = given("w0", "ω_0", table.y0, "");
         const Quantity* const w1 = given("w1", "ω_1", table.y1, "");
@@ -169,8 +167,8 @@ private:
         const double step = check_ == 8 && read.row.k2 >= 30 ? 0.5 : 0.2;
         const Quantity* const L = given(
             "L", "L", read.row.L, "",
-            maker_.text()(QStringLiteral("plate.curves"),
-                          {significant(read.row.k1 / 10.0, 3), significant(read.row.k2 / 10.0, 3)}));
+            maker_.text()(QStringLiteral("plate.curves"), {significant(read.row.k1 / 10.0, 3),
+                                                           significant(read.row.k2 / 10.0, 3)}));
         const Quantity* const y1 = given("y1", "y_1", read.y1, "", readAt(read.y1, read.row.k1));
         const Quantity* const y2 = given("y2", "y_2", read.y2, "", readAt(read.y2, read.row.k2));
         const Quantity* const d = given("d", "d", step, "");

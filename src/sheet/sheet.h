@@ -109,13 +109,13 @@ struct Sheet {
     Sheet(Sheet&&) = default;
     Sheet& operator=(Sheet&&) = default;
 
-    QString language;   ///< of the texts, as HTML names it: "pl"
-    Rich title;         ///< "Arkusz obliczeniowy"
-    Rich subject;       ///< project and footing, for the foot of the pages
-    Rich made;          ///< program, version, date
-    QString program;    ///< its name and version
-    QString pageOf;     ///< "Strona %1 z %2"
-    QString search;     ///< heads of the two columns of results
+    QString language; ///< of the texts, as HTML names it: "pl"
+    Rich title;       ///< "Arkusz obliczeniowy"
+    Rich subject;     ///< project and footing, for the foot of the pages
+    Rich made;        ///< program, version, date
+    QString program;  ///< its name and version
+    QString pageOf;   ///< "Strona %1 z %2"
+    QString search;   ///< heads of the two columns of results
     QString exact;
     Blocks blocks;
     std::vector<std::unique_ptr<Quantity>> numbers;

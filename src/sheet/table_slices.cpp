@@ -35,7 +35,8 @@ public:
     Slices all() {
         Slices slices;
         if (!table_.caption.isEmpty()) {
-            const TextBlock caption(table_.caption, {.size = points(7.8), .bold = true}, edges_.back());
+            const TextBlock caption(table_.caption, {.size = points(7.8), .bold = true},
+                                    edges_.back());
             Slice made;
             made.height = caption.height() + 0.4 * perMm;
             made.before = 1.8 * perMm;
@@ -90,8 +91,7 @@ private:
 
     Placed place(const Cell& cell, std::size_t column, bool head) const {
         const double left = edges_[column] + padding;
-        const double right =
-            edges_.at(column + static_cast<std::size_t>(cell.span)) - padding;
+        const double right = edges_.at(column + static_cast<std::size_t>(cell.span)) - padding;
         if (cell.number != nullptr) {
             const AlignedNumber number(cell.number->text, style(cell, head));
             const double sign = right - behind_[column];
@@ -127,8 +127,7 @@ private:
         made.height = height + 2 * rowGap;
         made.draw = [cells = std::move(cells), height, head](QPainter& painter, QPointF at) {
             for (const Placed& cell : cells)
-                cell.draw(painter,
-                          at + QPointF(0, rowGap + (head ? height - cell.height : 0)));
+                cell.draw(painter, at + QPointF(0, rowGap + (head ? height - cell.height : 0)));
         };
         return made;
     }

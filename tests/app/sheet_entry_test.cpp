@@ -27,16 +27,16 @@ protected:
         record.begin(notes::entered(base.stan, base.fields));
         ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
         record.caseEnded(base.stan, 1);
-        form = std::make_unique<FernaWyn>(
-            base.stan,
-            std::make_unique<ResultsSession>(
-                base.stan, dialogs, folder.path(QStringLiteral(".")), true,
-                [] { return QDateTime::currentDateTime(); }, [] { return RendererReport{}; }),
-            FernaWyn::Links{.plateForm = [](QWidget*) {},
-                            .anchorForm = [](QWidget*) {},
-                            .help = [] {},
-                            .back = [] {},
-                            .endProgram = [] {}});
+        form = std::make_unique<FernaWyn>(base.stan,
+                                          std::make_unique<ResultsSession>(
+                                              base.stan, dialogs, folder.path(QStringLiteral(".")),
+                                              true, [] { return QDateTime::currentDateTime(); },
+                                              [] { return RendererReport{}; }),
+                                          FernaWyn::Links{.plateForm = [](QWidget*) {},
+                                                          .anchorForm = [](QWidget*) {},
+                                                          .help = [] {},
+                                                          .back = [] {},
+                                                          .endProgram = [] {}});
         addSheetEntry(*form, base.stan, record, dialogs);
     }
 

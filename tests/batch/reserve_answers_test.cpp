@@ -91,7 +91,8 @@ TEST_F(ReserveAnswers, CountTheCaseOfTheColumn) {
 
 TEST_F(ReserveAnswers, GoIntoTheFileThatIsNamed) {
     const QString result = folder.path(QStringLiteral("n.json"));
-    ASSERT_EQ(call({QStringLiteral("--nosnosc"), QStringLiteral("--wynik"), result, task(hall)}), 0);
+    ASSERT_EQ(call({QStringLiteral("--nosnosc"), QStringLiteral("--wynik"), result, task(hall)}),
+              0);
     EXPECT_EQ(out, QByteArray());
     QFile file(result);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
@@ -104,7 +105,8 @@ TEST_F(ReserveAnswers, AreUnsolvedWhereThereIsNone) {
     Json thick = Json::parse(hall.toStdString());
     thick["Nr_stali"] = 3;
     thick["Kotwy"][0]["fi"] = 42;
-    EXPECT_EQ(call({QStringLiteral("--nosnosc"), task(QByteArray::fromStdString(thick.dump()))}), 1);
+    EXPECT_EQ(call({QStringLiteral("--nosnosc"), task(QByteArray::fromStdString(thick.dump()))}),
+              1);
     EXPECT_EQ(answer()["Blad"]["numer"], 0);
     Json pulled = Json::parse(hall.toStdString());
     pulled["Przypadki"][1]["N"] = -20;
@@ -124,12 +126,15 @@ TEST_F(ReserveAnswers, AreRefusedWithOneLineThatSaysWhatIsWrong) {
         EXPECT_EQ(out, QByteArray());
     };
     const QString own = task(hall);
-    refused({QStringLiteral("--nosnosc"), QStringLiteral("--dobierz"), good, own}, "do not go together");
+    refused({QStringLiteral("--nosnosc"), QStringLiteral("--dobierz"), good, own},
+            "do not go together");
     refused({QStringLiteral("--nosnosc"), QStringLiteral("--linie")}, "takes no --linie");
     refused({QStringLiteral("--nosnosc"), QStringLiteral("--raport"), QStringLiteral("x.txt"), own},
             "takes no --linie, --raport");
-    refused({QStringLiteral("--dobierz"), QString(), own}, "--dobierz: expected the name of a file");
-    refused({QStringLiteral("--dobierz"), folder.path(QStringLiteral("none.json")), own}, "none.json");
+    refused({QStringLiteral("--dobierz"), QString(), own},
+            "--dobierz: expected the name of a file");
+    refused({QStringLiteral("--dobierz"), folder.path(QStringLiteral("none.json")), own},
+            "none.json");
     QByteArray wrong = smallRange;
     wrong.replace("[20, 24, 30]", "[20,\n25]");
     refused({QStringLiteral("--dobierz"), range(wrong), own},
@@ -141,7 +146,8 @@ TEST_F(ReserveAnswers, AreRefusedWithOneLineThatSaysWhatIsWrong) {
     wrong = smallRange;
     wrong.replace("\"co\": 50}, \"Sz", "\"co\": 1}, \"Sz").replace("\"do\": 700", "\"do\": 30000");
     wrong.replace("\"do\": 500, \"co\": 50", "\"do\": 30000, \"co\": 1");
-    refused({QStringLiteral("--dobierz"), range(wrong), own}, "expected at most 20000000 candidates");
+    refused({QStringLiteral("--dobierz"), range(wrong), own},
+            "expected at most 20000000 candidates");
     refused({QStringLiteral("--schemat"), QStringLiteral("inny")},
             "expected zadanie or wynik or zakres or dobor or nosnosc");
 }

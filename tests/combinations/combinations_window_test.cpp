@@ -147,8 +147,7 @@ TEST_F(CombinationsWindowTest, EveryRowHasItsAnswerOrItsRefusal) {
     for (const int row : {1, 2, 4, 5}) {
         const auto answer = evaluator.answer(*window().work().table().combination(row));
         ASSERT_TRUE(answer);
-        EXPECT_EQ(cell(row - 1, AnswersModel::Concrete),
-                  combinations::useText(answer->concrete));
+        EXPECT_EQ(cell(row - 1, AnswersModel::Concrete), combinations::useText(answer->concrete));
         EXPECT_EQ(cell(row - 1, AnswersModel::Tension), combinations::useText(answer->tension));
     }
     EXPECT_EQ(governing(), (QStringList{QStringLiteral("Beton KO-4 (wiersz 4)"),

@@ -126,8 +126,7 @@ TEST(SheetNumbers, AreThoseOfTheUtilisations) {
         for (int c = 1; c <= 6; ++c) {
             const auto load = enteredLoad(given.fields, c);
             const double V = done.task.fields.loads[static_cast<std::size_t>(c - 1)].Vy.toDouble();
-            const auto use =
-                utilisation(*given.equilibrium(c), *load, {300, V}, *limits, *anchors);
+            const auto use = utilisation(*given.equilibrium(c), *load, {300, V}, *limits, *anchors);
             const auto of = [&](const char* id) {
                 const auto found = sheet.byName.find({c, QString::fromLatin1(id)});
                 return found == sheet.byName.end() ? 0.0 : found->second->value;
@@ -167,8 +166,8 @@ TEST(SheetWithoutASolution, QuotesTheMessageInFrontOfEverything) {
     const QString html = page(task);
     const QString first = html.left(html.indexOf(QStringLiteral("<h2>")));
     EXPECT_TRUE(first.contains(QStringLiteral("Arkusz opiera się na dokładnej równowadze")));
-    EXPECT_TRUE(first.contains(
-        QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych")));
+    EXPECT_TRUE(
+        first.contains(QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych")));
     EXPECT_TRUE(html.contains(QStringLiteral("data-symbol=\"sigma_1_e\"")));
     EXPECT_FALSE(html.contains(QStringLiteral("data-symbol=\"sigma_1_s\"")));
 }

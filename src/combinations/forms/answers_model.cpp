@@ -125,11 +125,11 @@ QVariant AnswersModel::headerData(int section, Qt::Orientation orientation, int 
     if (orientation != Qt::Horizontal || section >= columns)
         return {};
     static const QStringList names{
-        QStringLiteral("Wiersz"),   QStringLiteral("Nazwa"),       QStringLiteral("Największe"),
-        QStringLiteral("Beton"),    QStringLiteral("Rozciąganie"), QStringLiteral("Ścinanie"),
-        QStringLiteral("Interakcja"), QStringLiteral("Kotwa"),     QStringLiteral("Przyp."),
-        QStringLiteral("N, kN"),    QStringLiteral("M1, kNm"),     QStringLiteral("M2, kNm"),
-        QStringLiteral("Vx, kN"),   QStringLiteral("Vy, kN"),      QStringLiteral("Uwagi")};
+        QStringLiteral("Wiersz"),     QStringLiteral("Nazwa"),       QStringLiteral("Największe"),
+        QStringLiteral("Beton"),      QStringLiteral("Rozciąganie"), QStringLiteral("Ścinanie"),
+        QStringLiteral("Interakcja"), QStringLiteral("Kotwa"),       QStringLiteral("Przyp."),
+        QStringLiteral("N, kN"),      QStringLiteral("M1, kNm"),     QStringLiteral("M2, kNm"),
+        QStringLiteral("Vx, kN"),     QStringLiteral("Vy, kN"),      QStringLiteral("Uwagi")};
     static const QStringList tips{
         QStringLiteral("Największe ze sprawdzeń"),
         QStringLiteral("Największy docisk do podwojonego Rb"),

@@ -20,8 +20,8 @@ constexpr std::array columns{Value::N, Value::M1, Value::M2, Value::Vx, Value::V
 
 CombinationEntries::CombinationEntries(const Stan& stan, Ferna3& form)
     : QObject(&form), stan_(stan), form_(form) {
-    QAction* const entry = form.menus().task->addAction(QStringLiteral("&Kombinacje..."), this,
-                                                        [this] { open(); });
+    QAction* const entry =
+        form.menus().task->addAction(QStringLiteral("&Kombinacje..."), this, [this] { open(); });
     entry->setShortcut(QKeySequence(QStringLiteral("Ctrl+K")));
     connect(&form, &Ferna3::entered, this, [this] {
         if (window_)
@@ -75,7 +75,8 @@ void CombinationEntries::put(const CombinationsWindow::Rows& rows) {
     form_.replaceLoads(static_cast<int>(rows.size()), [&] {
         int r = 0;
         for (const auto& [row, one] : rows) {
-            const std::array loads{one.load.N, one.load.M1, one.load.M2, one.shear.Vx, one.shear.Vy};
+            const std::array loads{one.load.N, one.load.M1, one.load.M2, one.shear.Vx,
+                                   one.shear.Vy};
             for (std::size_t i = 0; i < columns.size(); ++i)
                 form_.fieldOf({columns.at(i), r})->setText(general(loads.at(i)));
             ++r;

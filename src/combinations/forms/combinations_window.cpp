@@ -208,8 +208,9 @@ QWidget* CombinationsWindow::bottomRow() {
     auto* const layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     putButton_ = new QPushButton(QStringLiteral("&Wstaw do tabeli"));
-    putButton_->setToolTip(QStringLiteral("Wpisuje do tabeli obciążeń wiersze miarodajne i następne "
-                                          "najbardziej wytężone, razem do sześciu"));
+    putButton_->setToolTip(
+        QStringLiteral("Wpisuje do tabeli obciążeń wiersze miarodajne i następne "
+                       "najbardziej wytężone, razem do sześciu"));
     export_ = new QPushButton(QStringLiteral("&Eksportuj CSV..."));
     auto* const close = new QPushButton(QStringLiteral("&Zamknij"));
     for (QPushButton* button : {putButton_, export_, close})
@@ -337,8 +338,9 @@ void CombinationsWindow::showState() {
     if (work_.isWorking())
         return;
     if (table.size() == 0) {
-        state_->setText(QStringLiteral("Wczytaj tabelę kombinacji: CSV, arkusz .xlsx lub .ods, albo "
-                                       "wklej ją ze schowka."));
+        state_->setText(
+            QStringLiteral("Wczytaj tabelę kombinacji: CSV, arkusz .xlsx lub .ods, albo "
+                           "wklej ją ze schowka."));
         return;
     }
     QString text = QStringLiteral("%1: wierszy %2").arg(source_).arg(table.size());
@@ -393,9 +395,10 @@ void CombinationsWindow::putSix() {
     for (const RowNumber row : work_.table().choice().six())
         put_.emplace_back(row, *work_.table().combination(row));
     links_.putIntoTable(put_);
-    notes_->setNotes({QStringLiteral("Wstawiono do tabeli obciążeń wierszy: %1. Oblicz policzy je i "
-                                     "utworzy raport; porównanie pokaże się tutaj.")
-                          .arg(put_.size())});
+    notes_->setNotes(
+        {QStringLiteral("Wstawiono do tabeli obciążeń wierszy: %1. Oblicz policzy je i "
+                        "utworzy raport; porównanie pokaże się tutaj.")
+             .arg(put_.size())});
 }
 
 void CombinationsWindow::calculated() {
@@ -408,8 +411,8 @@ void CombinationsWindow::calculated() {
     if (all.empty())
         return;
     tabs_->setCurrentIndex(place);
-    const auto differing = std::count_if(all.begin(), all.end(),
-                                         [](const auto& one) { return one.differs(); });
+    const auto differing =
+        std::count_if(all.begin(), all.end(), [](const auto& one) { return one.differs(); });
     notes_->setNotes({differing == 0
                           ? QStringLiteral("Oblicz potwierdza wstawione wiersze.")
                           : QStringLiteral("Wierszy, w których Oblicz i dokładna równowaga się "

@@ -82,9 +82,9 @@ private:
     Links links_;
     TableWork work_;
     std::optional<combinations::Evaluator> evaluator_;
-    QTimer settle_; ///< until typing pauses
-    QString source_; ///< what the table was read from; empty without a table
-    QString coming_; ///< the same of the table being read
+    QTimer settle_;   ///< until typing pauses
+    QString source_;  ///< what the table was read from; empty without a table
+    QString coming_;  ///< the same of the table being read
     QString stopped_; ///< what is told of the work that was stopped
     Rows put_;
 

@@ -20,10 +20,10 @@ QString verdict(const combinations::Compared& one) {
 } // namespace
 
 ComparisonView::ComparisonView(QWidget* parent) : QTableWidget(0, 7, parent) {
-    setHorizontalHeaderLabels({QStringLiteral("Przyp."), QStringLiteral("Wiersz"),
-                               QStringLiteral("Beton\nOblicz"), QStringLiteral("Beton\ndokładnie"),
-                               QStringLiteral("Rozciąg.\nOblicz"),
-                               QStringLiteral("Rozciąg.\ndokładnie"), QStringLiteral("Porównanie")});
+    setHorizontalHeaderLabels(
+        {QStringLiteral("Przyp."), QStringLiteral("Wiersz"), QStringLiteral("Beton\nOblicz"),
+         QStringLiteral("Beton\ndokładnie"), QStringLiteral("Rozciąg.\nOblicz"),
+         QStringLiteral("Rozciąg.\ndokładnie"), QStringLiteral("Porównanie")});
     setAccessibleName(QStringLiteral("Porównanie z Oblicz"));
     verticalHeader()->hide();
     horizontalHeader()->setStretchLastSection(true);
@@ -42,9 +42,12 @@ void ComparisonView::show(const std::vector<combinations::Compared>& all) {
         const auto exact = [&](Check check) {
             return combinations::useText(combinations::useOf(one.exact, check));
         };
-        const QStringList texts{QString::number(one.caseNumber), QString::number(one.row),
-                                told(one.concrete),              exact(Check::Concrete),
-                                told(one.tension),               exact(Check::Tension),
+        const QStringList texts{QString::number(one.caseNumber),
+                                QString::number(one.row),
+                                told(one.concrete),
+                                exact(Check::Concrete),
+                                told(one.tension),
+                                exact(Check::Tension),
                                 verdict(one)};
         for (int c = 0; c < texts.size(); ++c) {
             auto* const cell = new QTableWidgetItem(texts.at(c));

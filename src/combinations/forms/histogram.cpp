@@ -32,8 +32,7 @@ void Histogram::show(const combinations::AnsweredTable& table) {
     for (combinations::RowNumber row = 1; row <= static_cast<combinations::RowNumber>(table.size());
          ++row)
         if (table.isAnswered(row))
-            ++counts_.at(static_cast<std::size_t>(
-                binOf(combinations::worstOf(table.answer(row)))));
+            ++counts_.at(static_cast<std::size_t>(binOf(combinations::worstOf(table.answer(row)))));
     update();
 }
 

@@ -26,8 +26,8 @@ struct Unit {
     double factor; ///< to kN or kNm
 };
 constexpr Unit forces[] = {{u"kN", 1}, {u"N", 1e-3}, {u"MN", 1e3}};
-constexpr Unit moments[] = {{u"kNm", 1}, {u"Nm", 1e-3}, {u"Nmm", 1e-6}, {u"kNcm", 1e-2},
-                            {u"kNmm", 1e-3}, {u"MNm", 1e3}};
+constexpr Unit moments[] = {{u"kNm", 1},     {u"Nm", 1e-3},   {u"Nmm", 1e-6},
+                            {u"kNcm", 1e-2}, {u"kNmm", 1e-3}, {u"MNm", 1e3}};
 
 bool isMoment(Value load) {
     return load == Value::M1 || load == Value::M2;
@@ -197,7 +197,8 @@ void ReadingDialog::showRead() {
         const auto& one = std::get<combinations::Combination>(row);
         read_->setItem(r, 0, new QTableWidgetItem(one.name));
         int column = 1;
-        for (const Double load : {one.load.N, one.load.M1, one.load.M2, one.shear.Vx, one.shear.Vy}) {
+        for (const Double load :
+             {one.load.N, one.load.M1, one.load.M2, one.shear.Vx, one.shear.Vy}) {
             auto* const cell = new QTableWidgetItem(general(load));
             cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
             read_->setItem(r, column++, cell);

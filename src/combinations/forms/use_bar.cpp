@@ -34,7 +34,8 @@ void UseBar::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const bool chosen = (cell.state & QStyle::State_Selected) != 0 && !use.isValid();
     painter->setPen(cell.palette.color(chosen ? QPalette::HighlightedText : QPalette::Text));
     painter->setFont(cell.font);
-    painter->drawText(cell.rect.adjusted(6, 0, -6, 0), int(Qt::AlignRight | Qt::AlignVCenter), text);
+    painter->drawText(cell.rect.adjusted(6, 0, -6, 0), int(Qt::AlignRight | Qt::AlignVCenter),
+                      text);
     painter->restore();
 }
 
