@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include "app/document_entries.h"
 #include "app/editing_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
@@ -37,15 +38,17 @@ void Program::openResults() {
         stan_, dialogs_, folder_, input_.firstNorm(), [] { return QDateTime::currentDateTime(); },
         [this] { return render(); });
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
+    addDocumentEntries(*results_, {folder_, dialogs_,
+                                   [this](const QStringList& options) { return render(options); }});
     input_.hide();
     results_->open();
 }
 
-RendererReport Program::render() {
+RendererReport Program::render(const QStringList& options) {
     const Hourglass hourglass;
     RendererWait wait(results_.get());
     return runRenderer(
-        folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
+        folder_, options, [&wait](const RendererState& state) { return wait.goOn(state); },
         results_->winId());
 }
 

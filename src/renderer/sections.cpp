@@ -15,7 +15,7 @@ constexpr std::size_t fewLines = 2;     // of a paragraph that do not stand alon
 constexpr std::size_t shortRun = 6;     // lines that are not divided at all
 
 QString wordsOf(const Group& group) {
-    return group.lines.empty() ? QString() : group.lines.front().chains.front().texts.front().text;
+    return group.lines.empty() ? QString() : group.lines.front().words();
 }
 
 bool isLine(const Group& group) {
@@ -37,6 +37,12 @@ bool isColumnsLine(const Group& group) {
     constexpr qsizetype inside = 10; // blanks before the first letter
     const QString words = wordsOf(group);
     return isLine(group) && words.startsWith(QString(inside, u' '));
+}
+
+/// Puts the first line into the table of contents.
+void head(Group& group, int depth) {
+    if (!group.lines.empty())
+        group.lines.front().outline = depth;
 }
 
 std::size_t linesOf(const std::vector<Group>& groups, std::size_t first, std::size_t last) {
@@ -116,6 +122,9 @@ private:
     void takeCase(std::size_t title) {
         const std::size_t titleLines = linesOf(groups_, next_, title) + linesOfTitle;
         const bool alone = !isTitleBesideSketch(groups_[title]);
+        if (title > next_)
+            head(groups_[next_], 0);
+        head(groups_[title], 1);
         Section section = take(endOfParagraph(alone ? title + 1 : title));
         const std::size_t count = section.groups.size();
         for (std::size_t i = 1; i < count; ++i)
@@ -129,12 +138,15 @@ private:
         const std::size_t end = endOfParagraph(next_);
         for (std::size_t i = next_ + 1; i < end; ++i)
             if (isColumnsLine(groups_[i])) {
+                head(groups_[i - 1], 0);
                 if (i - 1 > next_)
                     addDivisible(take(i - 1));
                 sections_.push_back(take(end));
                 return;
             }
         const bool summary = groups_[next_].emptyLinesAbove > 1 && end - next_ <= shortRun;
+        if (summary)
+            head(groups_[next_], 0);
         Section section = take(end);
         if (summary)
             sections_.push_back(std::move(section));
@@ -155,6 +167,8 @@ private:
     /// single line goes with what stands above it.
     void takeOfSection() {
         std::size_t end = next_ + 1;
+        if (isHeading(groups_[next_]))
+            head(groups_[next_], 0);
         if (groups_[next_].blocks.empty())
             while (end < groups_.size() && isLine(groups_[end]) && !isHeading(groups_[end])
                    && !groups_[end].startsParagraph)

@@ -10,6 +10,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -135,7 +137,14 @@ void FernaWyn::connectMenu() {
 
 void FernaWyn::tellWritten() {
     if (const QStringList files = session_->takeWritten(); !files.isEmpty())
-        ui_->zapisano->tell(files);
+        tellWritten(files);
+}
+
+void FernaWyn::tellWritten(const QStringList& files) {
+    QStringList absolute;
+    for (const QString& file : files)
+        absolute += QDir::cleanPath(QFileInfo(file).absoluteFilePath());
+    ui_->zapisano->tell(absolute);
 }
 
 void FernaWyn::showRtfEntry() {
