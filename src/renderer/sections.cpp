@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
+#include <optional>
 
 namespace ferna::renderer {
 
@@ -70,11 +71,17 @@ public:
     }
 
 private:
-    /// True where the group's first line is level with the top of its sketch.
-    static bool isTitleBesideSketch(const Group& group) {
-        return !group.blocks.empty() && !group.lines.empty()
-               && qAbs(group.lines.front().y - group.blocks.front().rect.top()) < level;
+    /// The line of the group that is level with the top of its sketch, the first or, below a
+    /// heading, the second; none where there is no such line.
+    static std::optional<std::size_t> titleLine(const Group& group) {
+        if (!group.blocks.empty())
+            for (std::size_t i = 0; i < qMin(fewLines, group.lines.size()); ++i)
+                if (qAbs(group.lines[i].y - group.blocks.front().rect.top()) < level)
+                    return i;
+        return {};
     }
+
+    static bool isTitleBesideSketch(const Group& group) { return titleLine(group).has_value(); }
 
     /// A line with an empty one above and one below it.
     bool isTitleAlone(std::size_t i) const {
@@ -120,11 +127,13 @@ private:
     }
 
     void takeCase(std::size_t title) {
-        const std::size_t titleLines = linesOf(groups_, next_, title) + linesOfTitle;
+        const std::size_t inGroup = titleLine(groups_[title]).value_or(0);
+        const std::size_t above = linesOf(groups_, next_, title) + inGroup;
+        const std::size_t titleLines = above + linesOfTitle;
         const bool alone = !isTitleBesideSketch(groups_[title]);
-        if (title > next_)
+        if (above > 0)
             head(groups_[next_], 0);
-        head(groups_[title], 1);
+        groups_[title].lines[inGroup].outline = 1;
         Section section = take(endOfParagraph(alone ? title + 1 : title));
         const std::size_t count = section.groups.size();
         for (std::size_t i = 1; i < count; ++i)
