@@ -9,6 +9,7 @@
 #include "batch/smallest_run.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
+#include "batch/view_files.h"
 #include "design/language.h"
 #include "desktop/program_folder.h"
 #include "runtime/format.h"
@@ -96,6 +97,8 @@ int runOne(const Options& options, const RunOptions& runOptions) {
     for (const QString& file : options.reports + options.sheets + QStringList(options.result))
         if (!file.isEmpty())
             outputs.claim(file);
+    for (const QString& file : options.views)
+        outputs.claim(file);
     const QByteArray bytes = readTaskText(options.task);
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     try {
@@ -116,6 +119,8 @@ int runOne(const Options& options, const RunOptions& runOptions) {
                 remark(writeReport(done, file, runOptions.pictures, outputs));
         for (const QString& file : options.sheets)
             writeSheet(done, file);
+        for (const QString& file : options.views)
+            remark(writeView(done, file, outputs));
         tellNotes(done, namesAreTold);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
@@ -262,7 +267,7 @@ constexpr const char* outOfMemory = "out of memory";
 
 /// Qt without a screen; its fonts are started only where something is drawn.
 std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options& options) {
-    if (!anyNeedsPictures(options) && options.sheets.isEmpty())
+    if (!anyNeedsPictures(options) && options.sheets.isEmpty() && options.views.isEmpty())
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     hushMissingRuntimeFolder();

@@ -3,6 +3,7 @@
 #include "batch/report_files.h"
 #include "batch/schemas.h"
 #include "batch/sheet_files.h"
+#include "batch/view_files.h"
 
 #include <QCommandLineParser>
 
@@ -33,10 +34,10 @@ std::optional<QString> clashOf(const Options& options) {
     if (options.capacity && !options.range.isEmpty())
         return QStringLiteral("--nosnosc and --dobierz do not go together");
     const bool more = options.lines || !options.reports.isEmpty() || !options.sheets.isEmpty()
-                      || !options.combinations.isEmpty();
+                      || !options.views.isEmpty() || !options.combinations.isEmpty();
     if (more && (options.capacity || !options.range.isEmpty()))
-        return QStringLiteral("%1 answers one task; it takes no --linie, --raport, --arkusz or "
-                              "--kombinacje")
+        return QStringLiteral("%1 answers one task; it takes no --linie, --raport, --arkusz, "
+                              "--podglad or --kombinacje")
             .arg(options.capacity ? QStringLiteral("--nosnosc") : QStringLiteral("--dobierz"));
     return std::nullopt;
 }
@@ -77,6 +78,15 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                        "sheet stands on the exact equilibrium.")
             .arg(sheetEndings().join(QStringLiteral(", "))),
         QStringLiteral("FILE"));
+    const QCommandLineOption view(
+        QStringLiteral("podglad"),
+        QStringLiteral(
+            "Write the live view's picture of each case, its format by the file's ending "
+            "(%1); may be given several times. The pictures of several cases go into "
+            "F-przypadek-1-z-3.svg and so on. Also of a task that is refused or not "
+            "solved: it is a view by the exact equilibrium and no report.")
+            .arg(viewEndings().join(QStringLiteral(", "))),
+        QStringLiteral("FILE"));
     const QCommandLineOption result(
         QStringLiteral("wynik"), QStringLiteral("Write the result here, not to standard output."),
         QStringLiteral("FILE.json"));
@@ -108,7 +118,7 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                        "the task's loads, as JSON; the task's own plate and anchors are not looked "
                        "at. Exit code 1 where the calculation confirms none."),
         QStringLiteral("RANGE.json"));
-    parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines,
+    parser.addOptions({help, version, catalogue, decimal, report, sheet, view, result, lines,
                        combinations, threads, schema, capacity, range});
     parser.addPositionalArgument(QStringLiteral("TASK.json"),
                                  QStringLiteral("The task; - is standard input."));
@@ -141,6 +151,11 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         if (!isSheetFile(file))
             return badCall(QStringLiteral("--arkusz %1: expected a file ending in %2")
                                .arg(file, sheetEndings().join(QStringLiteral(", "))));
+    options.views = parser.values(view);
+    for (const QString& file : options.views)
+        if (!isViewFile(file))
+            return badCall(QStringLiteral("--podglad %1: expected a file ending in %2")
+                               .arg(file, viewEndings().join(QStringLiteral(", "))));
     options.result = parser.value(result);
     options.capacity = parser.isSet(capacity);
     options.range = parser.value(range);
@@ -151,9 +166,10 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     if (parser.isSet(combinations) && options.combinations.isEmpty())
         return badCall(QStringLiteral("--kombinacje: expected the name of a file"));
     if (!options.combinations.isEmpty()
-        && (options.lines || !options.reports.isEmpty() || !options.result.isEmpty()))
+        && (options.lines || !options.reports.isEmpty() || !options.views.isEmpty()
+            || !options.result.isEmpty()))
         return badCall(QStringLiteral("--kombinacje writes standard output; it takes no --linie, "
-                                      "--raport or --wynik"));
+                                      "--raport, --podglad or --wynik"));
     if (const std::optional<QString> clash = clashOf(options))
         return badCall(*clash);
     bool isNumber = false;
@@ -165,10 +181,11 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     const QStringList tasks = parser.positionalArguments();
     if (options.lines) {
         if (!tasks.isEmpty() || !options.reports.isEmpty() || !options.sheets.isEmpty()
-            || !options.result.isEmpty())
+            || !options.views.isEmpty() || !options.result.isEmpty())
             return badCall(
                 QStringLiteral("--linie reads standard input and writes standard output; "
-                               "it takes no task file, --raport, --arkusz or --wynik"));
+                               "it takes no task file, --raport, --arkusz, --podglad or "
+                               "--wynik"));
         return options;
     }
     if (parser.isSet(threads))

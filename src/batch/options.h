@@ -16,6 +16,7 @@ struct Options {
     std::optional<QChar> decimalSign; ///< --dziesietny; the locale's without it
     QStringList reports;              ///< --raport, in order
     QStringList sheets;               ///< --arkusz, in order
+    QStringList views;                ///< --podglad, in order
     QString result;                   ///< --wynik; standard output without it
     bool lines = false;               ///< --linie
     QString combinations;             ///< --kombinacje: a file, or "-" for standard input

@@ -1,13 +1,11 @@
 #include "batch/range_task.h"
 
+#include "runtime/format.h"
+#include "smallest/words.h"
+
 namespace ferna::batch {
 
 namespace {
-
-/// A range is read by the companion alone.
-TaskError refused(std::string path, const std::string& what) {
-    return {std::move(path), {what, what}};
-}
 
 using smallest::DesignRange;
 using smallest::Sizes;
@@ -20,7 +18,8 @@ Sizes readSizes(ObjectReader& range, const char* key) {
     };
     const Sizes found{size("od"), size("do"), size("co")};
     if (found.to < found.from)
-        throw refused(sizes.pathOf("do"), "expected at least \"od\"");
+        throw TaskError(sizes.pathOf("do"),
+                        {"expected at least \"od\"", "ma być co najmniej tyle, co \"od\""});
     return found;
 }
 
@@ -31,7 +30,7 @@ void readList(ObjectReader& range, const char* key, std::vector<Number>& list, I
         return;
     const TaskValue& values = arrayOf(range.at(key), key);
     if (values.count == 0)
-        throw refused(key, "expected at least one");
+        throw TaskError(key, {"expected at least one", "potrzebny jest co najmniej jeden"});
     list.clear();
     for (const TaskValue& value : values.parts())
         list.push_back(integerOf(value, {key, std::to_string(list.size())}, least, most));
@@ -40,9 +39,13 @@ void readList(ObjectReader& range, const char* key, std::vector<Number>& list, I
 double readBounded(ObjectReader& object, const char* key, double preset, double least,
                    double most) {
     const double value = object.number(key, preset);
-    if (!(value >= least && value <= most))
-        throw refused(object.pathOf(key), "expected a number from " + std::to_string(least) + " to "
-                                              + std::to_string(most));
+    if (!(value >= least && value <= most)) {
+        const auto bounds = [&](const char* from, const char* to) {
+            return from + general(least).toStdString() + to + general(most).toStdString();
+        };
+        throw TaskError(object.pathOf(key), {bounds("expected a number from ", " to "),
+                                             bounds("ma tu stać liczba od ", " do ")});
+    }
     return value;
 }
 
@@ -68,18 +71,22 @@ void readDistances(ObjectReader& task, DesignRange& range) {
 void refuseWhatIsLeft(const DesignRange& range) {
     using smallest::RangePart;
     const std::optional<RangePart> wrong = wrongPart(range);
+    if (!wrong)
+        return;
+    const std::string polish = smallest::wordsOf(*wrong).toStdString();
     if (wrong == RangePart::Layouts)
-        throw refused("Kotwy", "expected numbers of anchors among 4, 6, 8, 12");
+        throw TaskError("Kotwy", {"expected numbers of anchors among 4, 6, 8, 12", polish});
     if (wrong == RangePart::Diameters)
-        throw refused(
+        throw TaskError(
             "Srednice",
-            "expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80");
+            {"expected diameters among 12, 16, 20, 24, 30, 36, 42, 48, 52, 56, 64, 72, 80",
+             polish});
     if (wrong == RangePart::TooMany)
-        throw refused("", "expected at most " + std::to_string(smallest::mostCandidates)
-                              + " candidates, found "
-                              + std::to_string(smallest::candidates(range)));
-    if (wrong)
-        throw refused("", "expected a range that can be worked with");
+        throw TaskError("",
+                        {"expected at most " + std::to_string(smallest::mostCandidates)
+                             + " candidates, found " + std::to_string(smallest::candidates(range)),
+                         polish});
+    throw TaskError("", {"expected a range that can be worked with", polish});
 }
 
 } // namespace
@@ -91,7 +98,8 @@ RangeTask readRange(const TaskValue& json) {
     readColumn(task, range);
     range.length = readSizes(task, "Dlugosc");
     if (task.has("Szerokosc") == task.has("Proporcja"))
-        throw refused("", "expected either \"Szerokosc\" or \"Proporcja\"");
+        throw TaskError("", {"expected either \"Szerokosc\" or \"Proporcja\"",
+                             "ma stać albo \"Szerokosc\", albo \"Proporcja\""});
     if (task.has("Szerokosc"))
         range.width = readSizes(task, "Szerokosc");
     else

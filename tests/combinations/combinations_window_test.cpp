@@ -4,11 +4,13 @@
 #include "combinations/forms/comparison_view.h"
 #include "combinations/forms/governing_view.h"
 #include "combinations/forms/histogram.h"
+#include "editing/forms/load_table_keys.h"
 #include "input/anchor_layout.h"
 #include "support/main_form.h"
 #include "widgets/note_band.h"
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QDialogButtonBox>
 #include <QMenu>
 #include <QTableView>
@@ -22,7 +24,7 @@ const QString table = QStringLiteral("Kombinacja;N [kN];My;Mz;Ty;Tz\n"
                                      "KO-1;300;20;0;1;0\n"
                                      "KO-2;100;60;10;5;0\n"
                                      "KO-3;300;x;0;1;0\n"
-                                     "KO-4;900;20;0;1;0\n"
+                                     "KO-4;2500;20;0;1;0\n"
                                      "KO-5;100;-60;10;5;0\n");
 
 class CombinationsWindowTest : public MainForm {
@@ -39,7 +41,10 @@ protected:
         form->fieldOf({Value::PlateLength})->setText(QStringLiteral("600"));
         form->fieldOf({Value::PlateWidth})->setText(QStringLiteral("400"));
     }
-    void prepare() override { entries = new CombinationEntries(stan, *form); }
+    void prepare() override {
+        new LoadTableKeys(form.get());
+        entries = new CombinationEntries(stan, *form, dialogs);
+    }
 
     static void accept(QWidget& modal) {
         auto* const buttons = modal.findChild<QDialogButtonBox*>();
@@ -182,7 +187,7 @@ TEST_F(CombinationsWindowTest, WstawFillsTheLoadTableWithTheGoverningRowsAndObli
     QTest::mouseClick(button(QStringLiteral("&Wstaw do tabeli")), Qt::LeftButton);
     EXPECT_EQ(stan.obciazenia.Liczba_przyp, 4);
     EXPECT_EQ(text("Text1"), QStringLiteral("4"));
-    EXPECT_EQ(loadRow(0), QStringLiteral("900 20 0 1 0"));
+    EXPECT_EQ(loadRow(0), QStringLiteral("2500 20 0 1 0"));
     EXPECT_EQ(loadRow(1), QStringLiteral("100 60 10 5 0"));
     EXPECT_EQ(loadRow(2), QStringLiteral("300 20 0 1 0")) << "the first, where shear is nowhere";
     EXPECT_EQ(loadRow(3), QStringLiteral("100 -60 10 5 0"));
@@ -231,15 +236,44 @@ TEST_F(CombinationsWindowTest, PrzerwijLeavesTheTableOfBefore) {
     EXPECT_FALSE(window().work().isWorking());
     EXPECT_EQ(window().work().table().size(), 5U);
     EXPECT_EQ(view().model()->rowCount(), 5);
+    EXPECT_EQ(governing().front(), QStringLiteral("Beton KO-4 (wiersz 4)"));
+    EXPECT_NE(cell(1, AnswersModel::Tension), QString());
     EXPECT_TRUE(notes().join(u' ').contains(u"Wczytywanie przerwano"));
+}
+
+TEST_F(CombinationsWindowTest, ATableTooLargeForTheLoadTableIsOfferedToTheWindow) {
+    QString large;
+    for (int i = 1; i <= 7; ++i)
+        large += QStringLiteral("%1\t20\t0\t1\t0\n").arg(100 * i);
+    const auto paste = [&] {
+        show(Obciazenia_);
+        QApplication::clipboard()->setText(large);
+        key(Qt::Key_V, Qt::ControlModifier);
+    };
+    const QString question =
+        QStringLiteral("Tabela ma więcej wierszy, niż mieści tabela obciążeń.\n"
+                       "Otworzyć ją w oknie Kombinacje, które wybierze wiersze miarodajne?");
+    answers.box(QStringLiteral("Ferna 2005 Pr - Kombinacje"), question, QStringLiteral("Nie"));
+    paste();
+    EXPECT_EQ(entries->window(), nullptr);
+    EXPECT_EQ(loadRow(5), QStringLiteral("600 20 0 1 0")) << "the first six, as ever";
+    const QString before = loadRow(0);
+    answers.box(QStringLiteral("Ferna 2005 Pr - Kombinacje"), question, QStringLiteral("Tak"));
+    answers.dialog(QStringLiteral("Wczytanie_kombinacji"), accept);
+    large.replace(QStringLiteral("100\t"), QStringLiteral("150\t"));
+    paste();
+    waitForWork();
+    EXPECT_EQ(window().work().table().size(), 7U);
+    EXPECT_EQ(loadRow(0), before);
 }
 
 TEST_F(CombinationsWindowTest, ExportsEveryRowWithItsAnswer) {
     read(table);
-    const QStringList lines =
-        QString::fromUtf8(answersAsCsv(window().work().table())).split(QStringLiteral("\r\n"));
+    const QByteArray bytes = answersAsCsv(window().work().table());
+    ASSERT_TRUE(bytes.startsWith("\xEF\xBB\xBF")) << "so that a spreadsheet takes it for UTF-8";
+    const QStringList lines = QString::fromUtf8(bytes).split(QStringLiteral("\r\n"));
     ASSERT_EQ(lines.size(), 7);
-    EXPECT_TRUE(lines[0].startsWith(u"\uFEFFwiersz;nazwa;N [kN];M1 [kNm]"));
+    EXPECT_TRUE(lines[0].startsWith(u"wiersz;nazwa;N [kN];M1 [kNm]"));
     EXPECT_TRUE(lines[2].startsWith(u"2;KO-2;100;60;10;5;0;0,"));
     EXPECT_EQ(lines[3], QStringLiteral("3;KO-3;;;;;;;;;;;\"odrzucony: kolumna M1 (My): \"\"x\"\" "
                                        "nie jest liczbą\""));

@@ -8,6 +8,8 @@ namespace ferna {
 
 /// Shows the picture of one combination, or that none is chosen.
 class CasePicture : public QWidget {
+    Q_OBJECT
+
 public:
     explicit CasePicture(QWidget* parent = nullptr) : QWidget(parent) {}
 

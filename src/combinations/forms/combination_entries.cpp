@@ -1,6 +1,7 @@
 #include "combinations/forms/combination_entries.h"
 
 #include "input/forms/Ferna3.h"
+#include "runtime/dialogs.h"
 #include "runtime/format.h"
 #include "runtime/settings.h"
 #include "windows/save_question.h"
@@ -18,11 +19,12 @@ constexpr std::array columns{Value::N, Value::M1, Value::M2, Value::Vx, Value::V
 
 } // namespace
 
-CombinationEntries::CombinationEntries(const Stan& stan, Ferna3& form)
-    : QObject(&form), stan_(stan), form_(form) {
+CombinationEntries::CombinationEntries(const Stan& stan, Ferna3& form, Dialogs& dialogs)
+    : QObject(&form), stan_(stan), form_(form), dialogs_(dialogs) {
     QAction* const entry =
         form.menus().task->addAction(QStringLiteral("&Kombinacje..."), this, [this] { open(); });
     entry->setShortcut(QKeySequence(QStringLiteral("Ctrl+K")));
+    form.largeTable = [this](const QString& table) { return offer(table); };
     connect(&form, &Ferna3::entered, this, [this] {
         if (window_)
             window_->baseChanged();
@@ -63,6 +65,16 @@ void CombinationEntries::open() {
 void CombinationEntries::openWith(const QString& table) {
     open();
     window_->readText(table);
+}
+
+bool CombinationEntries::offer(const QString& table) {
+    if (!dialogs_.confirm(QStringLiteral("Tabela ma więcej wierszy, niż mieści tabela obciążeń.\n"
+                                         "Otworzyć ją w oknie Kombinacje, które wybierze wiersze "
+                                         "miarodajne?"),
+                          QStringLiteral("Ferna 2005 Pr - Kombinacje")))
+        return false;
+    openWith(table);
+    return true;
 }
 
 void CombinationEntries::calculated() {

@@ -6,13 +6,15 @@
 
 namespace ferna {
 
+class Dialogs;
 class Ferna3;
 
 /// "Kombinacje..." in the main form's menu, and its window beside the form.
 class CombinationEntries : public QObject {
 public:
-    /// The form outlives what is made here and owns it.
-    CombinationEntries(const Stan& stan, Ferna3& form);
+    /// The form owns what is made here. From now on it offers the window where a table of more rows
+    /// than the load table holds is pasted.
+    CombinationEntries(const Stan& stan, Ferna3& form, Dialogs& dialogs);
 
     /// Opens the window.
     void open();
@@ -25,10 +27,12 @@ public:
     CombinationsWindow* window() const { return window_.get(); }
 
 private:
+    bool offer(const QString& table);
     void put(const CombinationsWindow::Rows& rows);
 
     const Stan& stan_;
     Ferna3& form_;
+    Dialogs& dialogs_;
     std::unique_ptr<CombinationsWindow> window_; ///< made at its first opening
 };
 

@@ -7,24 +7,17 @@
 #include "combinations/forms/governing_view.h"
 #include "combinations/forms/histogram.h"
 #include "combinations/forms/reading_dialog.h"
-#include "combinations/forms/use_bar.h"
 #include "command/entered_equilibria.h"
-#include "editing/forms/clipboard_table.h"
 #include "runtime/run_time_error.h"
 #include "runtime/saved_file.h"
 #include "widgets/note_band.h"
 
-#include <QApplication>
 #include <QBuffer>
-#include <QClipboard>
 #include <QComboBox>
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
@@ -42,8 +35,6 @@ namespace ferna {
 using combinations::RowNumber;
 
 namespace {
-
-const QString title = QStringLiteral("Ferna 2005 Pr - Kombinacje");
 
 /// A text as rows, with its bytes.
 class TextRows : public combinations::RowSource {
@@ -82,7 +73,7 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
              }},
             this) {
     setObjectName(QStringLiteral("Kombinacje"));
-    setWindowTitle(title);
+    setWindowTitle(QStringLiteral("Ferna 2005 Pr - Kombinacje"));
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
     setAcceptDrops(true);
     auto* const page = new QVBoxLayout(this);
@@ -107,128 +98,10 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
 
 CombinationsWindow::~CombinationsWindow() = default;
 
-QWidget* CombinationsWindow::topRow() {
-    auto* const row = new QWidget;
-    auto* const layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    auto* const open = new QPushButton(QStringLiteral("Wczytaj &plik..."));
-    auto* const paste = new QPushButton(QStringLiteral("W&klej"));
-    paste->setToolTip(QStringLiteral("Wczytuje tabelę skopiowaną z arkusza lub programu"));
-    for (QPushButton* button : {open, paste})
-        button->setAutoDefault(false);
-    connect(open, &QPushButton::clicked, this, [this] {
-        if (const QString path = links_.openName(); !path.isEmpty())
-            readFile(path);
-    });
-    connect(paste, &QPushButton::clicked, this,
-            [this] { readText(clipboardTable(QApplication::clipboard()->mimeData())); });
-    state_ = new QLabel;
-    state_->setTextFormat(Qt::PlainText);
-    progress_ = new QProgressBar;
-    progress_->setMaximumWidth(180);
-    stop_ = new QPushButton(QStringLiteral("P&rzerwij"));
-    stop_->setAutoDefault(false);
-    connect(stop_, &QPushButton::clicked, this, [this] { work_.stop(); });
-    layout->addWidget(open);
-    layout->addWidget(paste);
-    layout->addWidget(state_, 1);
-    layout->addWidget(progress_);
-    layout->addWidget(stop_);
-    return row;
-}
-
-QWidget* CombinationsWindow::tableSide() {
-    auto* const side = new QWidget;
-    auto* const layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-    governing_ = new GoverningView([this](RowNumber row) { choose(row); });
-    layout->addWidget(governing_);
-    auto* const row = new QHBoxLayout;
-    filterText_ = new QLineEdit;
-    filterText_->setClearButtonEnabled(true);
-    filterText_->setPlaceholderText(QStringLiteral("nazwa, numer wiersza lub uwaga"));
-    auto* const label = new QLabel(QStringLiteral("&Filtr:"));
-    label->setBuddy(filterText_);
-    shown_ = new QComboBox;
-    shown_->addItems({QStringLiteral("wszystkie"), QStringLiteral("niespełnione"),
-                      QStringLiteral("sześć do tabeli"), QStringLiteral("odrzucone")});
-    auto* const shownLabel = new QLabel(QStringLiteral("Pok&aż:"));
-    shownLabel->setBuddy(shown_);
-    row->addWidget(label);
-    row->addWidget(filterText_, 1);
-    row->addWidget(shownLabel);
-    row->addWidget(shown_);
-    layout->addLayout(row);
-    model_ = new AnswersModel(this);
-    filter_ = new AnswersFilter(this);
-    filter_->setSourceModel(model_);
-    table_ = new QTableView;
-    table_->setAccessibleName(QStringLiteral("Kombinacje"));
-    table_->setModel(filter_);
-    table_->setSortingEnabled(true);
-    table_->sortByColumn(AnswersModel::Row, Qt::AscendingOrder);
-    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table_->setSelectionMode(QAbstractItemView::SingleSelection);
-    table_->setTabKeyNavigation(false);
-    table_->setWordWrap(false);
-    table_->verticalHeader()->hide();
-    table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
-    table_->horizontalHeader()->setStretchLastSection(true);
-    auto* const bars = new UseBar(table_);
-    for (int column = AnswersModel::Worst; column <= AnswersModel::Interaction; ++column)
-        table_->setItemDelegateForColumn(column, bars);
-    connect(filterText_, &QLineEdit::textChanged, this, [this](const QString& text) {
-        filter_->setText(text);
-        showState();
-    });
-    connect(shown_, &QComboBox::currentIndexChanged, this, [this](int index) {
-        filter_->setShown(static_cast<AnswersFilter::Shown>(index));
-        showState();
-    });
-    connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-            [this] { showChosen(); });
-    layout->addWidget(table_, 1);
-    return side;
-}
-
-QWidget* CombinationsWindow::pictureSide() {
-    tabs_ = new QTabWidget;
-    picture_ = new CasePicture;
-    histogram_ = new Histogram;
-    comparison_ = new ComparisonView;
-    tabs_->addTab(picture_, QStringLiteral("&Obraz"));
-    tabs_->addTab(histogram_, QStringLiteral("&Histogram"));
-    tabs_->addTab(comparison_, QStringLiteral("Porów&nanie z Oblicz"));
-    tabs_->setTabEnabled(tabs_->indexOf(comparison_), false);
-    return tabs_;
-}
-
-QWidget* CombinationsWindow::bottomRow() {
-    auto* const row = new QWidget;
-    auto* const layout = new QHBoxLayout(row);
-    layout->setContentsMargins(0, 0, 0, 0);
-    putButton_ = new QPushButton(QStringLiteral("&Wstaw do tabeli"));
-    putButton_->setToolTip(
-        QStringLiteral("Wpisuje do tabeli obciążeń wiersze miarodajne i następne "
-                       "najbardziej wytężone, razem do sześciu"));
-    export_ = new QPushButton(QStringLiteral("&Eksportuj CSV..."));
-    auto* const close = new QPushButton(QStringLiteral("&Zamknij"));
-    for (QPushButton* button : {putButton_, export_, close})
-        button->setAutoDefault(false);
-    connect(putButton_, &QPushButton::clicked, this, [this] { putSix(); });
-    connect(export_, &QPushButton::clicked, this, [this] { exportCsv(); });
-    connect(close, &QPushButton::clicked, this, &QDialog::close);
-    layout->addWidget(putButton_);
-    layout->addWidget(export_);
-    layout->addStretch(1);
-    layout->addWidget(close);
-    return row;
-}
-
 void CombinationsWindow::readFile(const QString& path) {
     auto opened = combinations::openTable(path);
     if (const auto* const why = std::get_if<QString>(&opened)) {
-        QMessageBox::warning(this, title, QStringLiteral("%1: %2.").arg(path, *why));
+        notes_->setNotes({QStringLiteral("%1: %2.").arg(path, *why)});
         return;
     }
     take(std::move(std::get<std::unique_ptr<combinations::RowSource>>(opened)),
@@ -245,8 +118,7 @@ void CombinationsWindow::take(std::unique_ptr<combinations::RowSource> source,
     auto reader = std::make_unique<combinations::TableReader>(*source);
     const QList<QStringList> first = reader->firstRows(shownRows);
     if (first.isEmpty()) {
-        QMessageBox::warning(this, title,
-                             QStringLiteral("%1: nie ma w nim wierszy z liczbami.").arg(name));
+        notes_->setNotes({QStringLiteral("%1: nie ma w nim wierszy z liczbami.").arg(name)});
         return;
     }
     ReadingDialog dialog(reader->layout(), first, name, this);
@@ -254,8 +126,9 @@ void CombinationsWindow::take(std::unique_ptr<combinations::RowSource> source,
         return;
     coming_ = name;
     stopped_.clear();
-    work_.read(std::move(source), std::move(reader), dialog.columns());
-    answerAnew();
+    readBase();
+    work_.read(std::move(source), std::move(reader), dialog.columns(), evaluator_);
+    showProgress();
 }
 
 void CombinationsWindow::baseChanged() {
@@ -263,8 +136,8 @@ void CombinationsWindow::baseChanged() {
         settle_.start();
 }
 
-/// The base as it is entered now answers; the rows keep their place in the table.
-void CombinationsWindow::answerAnew() {
+/// Takes the base as it is entered now; says where there is none.
+void CombinationsWindow::readBase() {
     auto made = combinations::Evaluator::of(stan_, links_.fields());
     evaluator_.reset();
     QStringList notes;
@@ -273,6 +146,11 @@ void CombinationsWindow::answerAnew() {
     else
         evaluator_ = std::get<combinations::Evaluator>(std::move(made));
     notes_->setNotes(notes);
+}
+
+/// The rows keep their place in the table.
+void CombinationsWindow::answerAnew() {
+    readBase();
     work_.answer(evaluator_);
     showProgress();
 }
@@ -427,9 +305,10 @@ void CombinationsWindow::exportCsv() {
     try {
         writeFileWhole(*path, answersAsCsv(work_.table()));
     } catch (const RunTimeError& failure) {
-        QMessageBox::warning(this, title,
-                             QStringLiteral("Nie zapisano %1: %2").arg(*path, failure.detail()));
+        notes_->setNotes({QStringLiteral("Nie zapisano: %1.").arg(failure.detail())});
+        return;
     }
+    notes_->setNotes({QStringLiteral("Zapisano %1.").arg(*path)});
 }
 
 void CombinationsWindow::dragEnterEvent(QDragEnterEvent* event) {

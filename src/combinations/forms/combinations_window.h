@@ -64,9 +64,11 @@ protected:
 private:
     QWidget* topRow();
     QWidget* tableSide();
+    QWidget* combinationTable();
     QWidget* pictureSide();
     QWidget* bottomRow();
     void take(std::unique_ptr<combinations::RowSource> source, const QString& name);
+    void readBase();
     void answerAnew();
     void showProgress();
     void showTable();

@@ -8,6 +8,8 @@ namespace ferna {
 
 /// What Oblicz found for the rows that were put into the load table, beside the exact equilibrium.
 class ComparisonView : public QTableWidget {
+    Q_OBJECT
+
 public:
     explicit ComparisonView(QWidget* parent = nullptr);
 

@@ -11,6 +11,8 @@ namespace ferna {
 /// For each check the largest use and the combinations that govern it, ties included. A chosen line
 /// leads to its first combination.
 class GoverningView : public QTableWidget {
+    Q_OBJECT
+
 public:
     explicit GoverningView(std::function<void(combinations::RowNumber)> follow,
                            QWidget* parent = nullptr);

@@ -11,6 +11,8 @@ namespace ferna {
 /// How many combinations use their worst check how far: a bar for each tenth, the last for all
 /// beyond. A click chooses what the bar counts.
 class Histogram : public QWidget {
+    Q_OBJECT
+
 public:
     static constexpr int bins = 21; ///< 0..0.1, ... 1.9..2.0, beyond
 

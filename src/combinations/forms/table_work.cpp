@@ -18,7 +18,9 @@ TableWork::TableWork(Told told, QObject* parent) : QObject(parent), told_(std::m
 
 void TableWork::read(std::unique_ptr<combinations::RowSource> source,
                      std::unique_ptr<combinations::TableReader> reader,
-                     const combinations::Columns& columns) {
+                     const combinations::Columns& columns,
+                     std::optional<combinations::Evaluator> evaluator) {
+    evaluator_ = std::move(evaluator);
     reader_ = std::move(reader); // before its source
     source_ = std::move(source);
     columns_ = columns;
@@ -35,7 +37,8 @@ void TableWork::answer(std::optional<combinations::Evaluator> evaluator) {
 void TableWork::stop() {
     if (!isWorking())
         return;
-    timer_.stop();
+    if (!isReading() || table_.answered() == table_.size())
+        timer_.stop();
     reader_.reset();
     source_.reset();
     coming_ = {};

@@ -21,12 +21,16 @@ public:
     };
     TableWork(Told told, QObject* parent);
 
-    /// Reads all rows by these columns, then answers them. The table of before stays until then.
+    /// Reads all rows by these columns, then answers them. The table of before stays with its
+    /// answers until all rows are read.
     void read(std::unique_ptr<combinations::RowSource> source,
               std::unique_ptr<combinations::TableReader> reader,
-              const combinations::Columns& columns);
+              const combinations::Columns& columns,
+              std::optional<combinations::Evaluator> evaluator);
     /// Answers the rows anew for another base; without one they stay without answers.
     void answer(std::optional<combinations::Evaluator> evaluator);
+    /// Ends the work; a table that was being read is forgotten, and that of before is answered to
+    /// its end.
     void stop();
 
     bool isWorking() const { return timer_.isActive(); }

@@ -152,6 +152,7 @@ void Ferna3::connectOptions() {
         fillConcretes();
         if (ui_->Wsp_n_0->isChecked())
             showRatio();
+        emit entered(); // the option was told of before the norm was taken
     });
     onClick(Wsp_n_, [this](Integer i) { chooseRatioMode(i); });
 }
@@ -439,7 +440,7 @@ void Ferna3::leaveText1() {
     takeCaseCount(stan_, text);
     ui_->Text1->setText(text);
     showRows();
-    uwagi_->renew();
+    emit entered();
 }
 
 void Ferna3::showRows() {
@@ -466,6 +467,7 @@ void Ferna3::leaveConcrete() {
     } else {
         askForRatio();
     }
+    emit entered();
 }
 
 void Ferna3::leaveSteel() {

@@ -70,6 +70,10 @@ public:
     /// The same with exactly so many rows: cases behind them go.
     void replaceLoads(int rows, const std::function<void()>& fill);
 
+    /// Asked with a table of more rows than the load table holds, before the first of them are put
+    /// there; true where the whole went elsewhere. Nobody is asked by default.
+    std::function<bool(const QString& table)> largeTable;
+
     /// Has the anchors changed, and shows list and drawing anew.
     void editAnchors(const std::function<void(Plyta_i_kotwy&)>& edit);
 

@@ -45,6 +45,8 @@ public:
 
     /// Shows the form, prepares the report and has it rendered.
     void open();
+    /// Shows the report anew after a section was added to it.
+    void afterSection();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -62,7 +64,6 @@ private:
     void showRtfEntry();
     void tellWritten();
     void refresh();
-    void afterSection();
     void layOut();
     bool keyOfMenuBar(QEvent* event);
     void saveDocument();

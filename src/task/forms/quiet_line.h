@@ -13,6 +13,8 @@ namespace ferna {
 /// A line above a form that offers or tells something and asks for nothing: a text, where there is
 /// one an action, and a cross that takes the line away. Hidden at first.
 class QuietLine : public QFrame {
+    Q_OBJECT
+
 public:
     explicit QuietLine(QWidget* parent = nullptr);
 

@@ -50,7 +50,11 @@ TaskDesk::TaskDesk(Ferna3& form, Dialogs& dialogs, const QString& keptFolder)
 
 void TaskDesk::watchForm() {
     for (QLineEdit* field : form_.findChildren<QLineEdit*>())
-        connect(field, &QLineEdit::textEdited, this, [this] { typing_ = true; });
+        connect(field, &QLineEdit::textEdited, this, [this] {
+            typing_ = true;
+            if (!std::exchange(isTyped_, true))
+                Q_EMIT changed();
+        });
     connect(&form_, &Ferna3::entered, this, [this] {
         if (!waiting_)
             QTimer::singleShot(0, this, &TaskDesk::recordUnlessTyping);
@@ -62,9 +66,10 @@ void TaskDesk::watchForm() {
         sections_.column = columnTaskOf(loads, loadCase);
         record();
     });
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* left) {
-        if (left != nullptr && form_.isAncestorOf(left))
-            QTimer::singleShot(0, this, [this] { record(); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* left, QWidget* come) {
+        if ((left != nullptr && form_.isAncestorOf(left))
+            || (come != nullptr && form_.isAncestorOf(come)))
+            QTimer::singleShot(0, this, &TaskDesk::recordWhenFree);
     });
     qApp->installEventFilter(this);
     form_.setAcceptDrops(true);
@@ -88,14 +93,25 @@ Task TaskDesk::task() const {
 void TaskDesk::recordUnlessTyping() {
     waiting_ = false;
     if (!std::exchange(typing_, false))
+        recordWhenFree();
+}
+
+// While a dialog stands its command is half done, as where anchors are counted and not placed yet.
+// Once it goes the focus comes back.
+void TaskDesk::recordWhenFree() {
+    if (QApplication::activeModalWidget() == nullptr)
         record();
 }
 
 void TaskDesk::record(const QString& name) {
-    if (!begun_ || !history_.record(task(), name))
+    if (!begun_)
         return;
-    keep();
-    Q_EMIT changed();
+    const bool wasTyped = std::exchange(isTyped_, false);
+    const bool isStep = history_.record(task(), name);
+    if (isStep)
+        keep();
+    if (isStep || wasTyped)
+        Q_EMIT changed();
 }
 
 void TaskDesk::keep() {
@@ -118,13 +134,12 @@ void TaskDesk::lay(const Task& task, const QString& step, const QString& file, b
     sections_ = task;
     history_.recordAnother(this->task(), step);
     saved_[history_.number()] = {file, isSaved ? history_.text() : std::string()};
-    keep();
     Q_EMIT opened();
     Q_EMIT changed();
 }
 
 void TaskDesk::beginNew() {
-    lay(newTask(task()), QStringLiteral("nowe zadanie"), {}, true);
+    lay(newTask(task()), QStringLiteral("nowe zadanie"), {}, true); // kept once it is worked on
 }
 
 void TaskDesk::openByQuestion() {
@@ -146,6 +161,7 @@ bool TaskDesk::open(const QString& file) {
         const Task task = withColumnInCase(readTask(parsed(text)));
         const QString path = QFileInfo(file).absoluteFilePath();
         lay(task, QStringLiteral("otwarcie ") + shortName(file), path, true);
+        keep();
         remember(path);
         return true;
     } catch (const TaskError& failure) {
@@ -161,6 +177,7 @@ bool TaskDesk::open(const QString& file) {
 
 void TaskDesk::restore(const KeptTask& kept) {
     lay(kept.task, QStringLiteral("przywrócenie zadania"), {}, false);
+    keep();
 }
 
 bool TaskDesk::save() {
@@ -228,7 +245,7 @@ QString TaskDesk::file() const {
 
 bool TaskDesk::isChanged() const {
     const auto found = saved_.find(history_.number());
-    return found == saved_.end() || found->second.text != history_.text();
+    return isTyped_ || found == saved_.end() || found->second.text != history_.text();
 }
 
 QStringList TaskDesk::recentFiles() {

@@ -47,6 +47,8 @@ public:
     QString file() const;
     /// True where the file does not hold what stands.
     bool isChanged() const;
+    /// True where there is something to undo, the text that is being typed included.
+    bool canUndo() const { return isTyped_ || history_.canUndo(); }
     /// Files opened and saved last, the last one first; only those that are there.
     static QStringList recentFiles();
     std::vector<KeptTask> kept() const { return kept_.all(); }
@@ -78,6 +80,7 @@ private:
 
     void watchForm();
     void recordUnlessTyping();
+    void recordWhenFree();
     void keep();
     /// Puts another task on the desk, as a step.
     void lay(const Task& task, const QString& step, const QString& file, bool isSaved);
@@ -95,6 +98,7 @@ private:
     std::map<int, Saved> saved_; ///< by the number of the task
     int keptNumber_ = 0;         ///< of the task that was kept last
     bool begun_ = false;
+    bool isTyped_ = false; ///< a typed text is no step yet
     bool typing_ = false;  ///< a key has changed a text since the last look
     bool waiting_ = false; ///< a look is due
     bool failureTold_ = false;

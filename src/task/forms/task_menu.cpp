@@ -83,7 +83,7 @@ void TaskMenu::offerLastTask() {
     const std::vector<KeptTask> kept = desk_.kept();
     if (kept.empty())
         return;
-    line_->offer(offerOf(kept.front(), QDateTime::currentDateTime()), QStringLiteral("Przywróć"),
+    line_->offer(offerOf(kept.front(), QDateTime::currentDateTime()), QStringLiteral("P&rzywróć"),
                  [this, last = kept.front()] { guarded(&form_, [&] { desk_.restore(last); }); });
 }
 
@@ -98,12 +98,12 @@ void TaskMenu::renew() {
     form_.setWindowTitle(isChanged ? title + u'*' : title);
     folder_->setEnabled(!file.isEmpty());
     const TaskHistory& history = desk_.history();
-    undo_->setEnabled(history.canUndo());
+    undo_->setEnabled(desk_.canUndo());
     undo_->setText(history.canUndo() ? QStringLiteral("&Cofnij: ") + menuText(history.undoName())
                                      : QStringLiteral("&Cofnij"));
     redo_->setEnabled(history.canRedo());
-    redo_->setText(history.canRedo() ? QStringLiteral("P&onów: ") + menuText(history.redoName())
-                                     : QStringLiteral("P&onów"));
+    redo_->setText(history.canRedo() ? QStringLiteral("Ponó&w: ") + menuText(history.redoName())
+                                     : QStringLiteral("Ponó&w"));
     recent_->setEnabled(true);
 }
 
