@@ -22,9 +22,15 @@ if(FERNA_SANITIZE)
     target_compile_definitions(ferna_options INTERFACE FERNA_SANITIZE)
 endif()
 if(FERNA_COVERAGE)
-    # Exact counters also where threads share them.
-    target_compile_options(ferna_options INTERFACE --coverage -fprofile-update=atomic)
-    target_link_options(ferna_options INTERFACE --coverage)
+    # Exact counters also where threads share them. Clang counts the conditions as they are written,
+    # gcc the jumps that it makes of them.
+    if(CMAKE_CXX_COMPILER_ID STREQUAL Clang)
+        set(counters -fprofile-instr-generate -fcoverage-mapping)
+    else()
+        set(counters --coverage)
+    endif()
+    target_compile_options(ferna_options INTERFACE ${counters} -fprofile-update=atomic)
+    target_link_options(ferna_options INTERFACE ${counters})
     # The shorter series that the slow builds compute.
     target_compile_definitions(ferna_options INTERFACE FERNA_SANITIZE)
 endif()

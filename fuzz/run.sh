@@ -10,7 +10,9 @@ install_missing "${build_packages[@]}" "${run_packages[@]}" "${fuzz_packages[@]}
 build_preset fuzz >/dev/null
 
 programs=build/fuzz/fuzz
-every=(numbers format reply job catalogue configuration metafile commands task)
+every=(
+    numbers format reply job catalogue configuration metafile commands combinations task task_file plain_json
+)
 mkdir -p build/fuzz/findings build/fuzz/log
 
 # A task may search long; the others answer at once.
@@ -18,6 +20,8 @@ options_of() {
     echo "-max_len=4096 -timeout=20 -rss_limit_mb=2048 -print_final_stats=1"
     case $1 in
     task) echo "-timeout=120 -max_len=8192 -dict=fuzz/task.dict" ;;
+    task_file) echo "-max_len=8192 -dict=fuzz/task.dict" ;;
+    plain_json) echo "-max_len=1024 -dict=fuzz/task.dict" ;;
     metafile | commands) echo "-max_len=16384" ;;
     numbers | format) echo "-max_len=512" ;;
     esac

@@ -38,7 +38,7 @@ done
 # Files.
 for file in bin/{ferna,ferna-wsad,Wyd_drk} lib/ferna/libferna_writer.so \
     share/ferna/{Ferna.qch,Ferogo2.bmp,rysgb52.bmp,przyklady/slup-hali.json} \
-    share/ferna/schemat/{zadanie,wynik}.schema.json \
+    share/ferna/schemat/{zadanie,wynik,zakres,dobor,nosnosc}.schema.json \
     share/doc/ferna/{en/first-report.html,pl/pierwszy-raport.html,pictures/results.png} \
     share/bash-completion/completions/{ferna-wsad,Wyd_drk} \
     share/icons/hicolor/scalable/apps/ferna.svg share/doc/ferna/copyright; do

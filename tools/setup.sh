@@ -23,9 +23,11 @@ test_packages=(
     lintian desktop-file-utils appstream man-db
     "${package_packages[@]}"
 )
+# For tests/mutants.py and tests/coverage.sh.
+proof_packages=(clang llvm-14 libclang1-14 libclang-common-14-dev python3-clang-14)
 # For the fuzzers, and for the tests of ./test.sh --long.
 fuzz_packages=(clang libclang-rt-14-dev)
-long_test_packages=("${fuzz_packages[@]}" debootstrap gcovr)
+long_test_packages=("${fuzz_packages[@]}" "${proof_packages[@]}" debootstrap gcovr)
 
 # Says what begins now, and when.
 step() {

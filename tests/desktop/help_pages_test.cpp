@@ -144,7 +144,7 @@ TEST(HelpPages, EveryContextOfTheFormsHasItsPage) {
         captured(helpPage(project), QStringLiteral("<keyword [^>]*id=\"([^\"]*)\""));
     for (const int context : {help::Start, help::Configuration, help::General, help::Loads,
                               help::Anchors, help::Statics, help::Results, help::PlateThickness,
-                              help::AnchorSelection, help::Messages})
+                              help::AnchorSelection, help::Capacity, help::SmallestBase, help::Messages})
         EXPECT_TRUE(ids.contains(QString::number(context))) << context;
 }
 

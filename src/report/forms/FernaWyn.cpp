@@ -113,6 +113,7 @@ void FernaWyn::connectMenu() {
         session_->retitle();
         showPanels();
     });
+    ui_->mnuPowrot->setShortcuts({ui_->mnuPowrot->shortcut(), QKeySequence::Back});
     on(ui_->mnuPowrot, [this] { back(); });
     for (QAction* end : {ui_->mnuKoniec, ui_->mnuKoniec2})
         on(end, [this] {
