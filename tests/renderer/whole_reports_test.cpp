@@ -245,7 +245,7 @@ TEST_F(WholeReports, FiveHundredReportsKeepTogetherWhatBelongsTogether) {
         Dice dice(number);
         const GoldenJson asked = task(dice);
         const batch::ComputedTask done =
-            batch::run(batch::readTask(ferna::testing::documentOf(asked)), options);
+            batch::run(readTask(ferna::testing::documentOf(asked)), options);
         if (!done.reportReady)
             continue;
         ++made;
