@@ -124,7 +124,6 @@ TEST(Picture, NothingIsDrawnOutsideIt) {
             EXPECT_TRUE(staysInside(pictureOf(values, which), options)) << number << ' ' << which;
             if (!staysInside(pictureOf(values, which), options))
                 imageOf(pictureOf(values, which), options, 2)
-                    .save(QStringLiteral("/tmp/out-%1-%2.png").arg(number).arg(which));
         }
     }
     for (const SamplePicture& sample : samplePictures())
