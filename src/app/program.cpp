@@ -1,6 +1,8 @@
 #include "app/program.h"
 
+#include "app/document_entries.h"
 #include "app/editing_entries.h"
+#include "app/sheet_entry.h"
 #include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
@@ -46,15 +48,18 @@ void Program::openResults() {
     combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
     task_.resultsMade(*results_);
+    addSheetEntry(*results_, stan_, input_.record(), dialogs_);
+    addDocumentEntries(*results_, {folder_, dialogs_,
+                                   [this](const QStringList& options) { return render(options); }});
     input_.hide();
     results_->open();
 }
 
-RendererReport Program::render() {
+RendererReport Program::render(const QStringList& options) {
     const Hourglass hourglass;
     RendererWait wait(results_.get());
     return runRenderer(
-        folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
+        folder_, options, [&wait](const RendererState& state) { return wait.goOn(state); },
         results_->winId());
 }
 

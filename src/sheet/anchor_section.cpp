@@ -160,15 +160,18 @@ void addAnchor(Maker& maker) {
     }
     Chosen chosen(maker, *g);
     Equations rows = chosen.all();
-    maker.say(chosen.hooked() ? QStringLiteral("anchor.hooked") : QStringLiteral("anchor.plated"),
-              {chosen.designation()});
+    maker.add(Paragraph{maker.text()(chosen.hooked() ? QStringLiteral("anchor.hooked")
+                                                     : QStringLiteral("anchor.plated"),
+                                     {chosen.designation()}),
+                        Tone::Plain, true});
     auto beside = std::make_shared<Beside>();
-    beside->leftShare = 0.26;
+    beside->leftShare = 0.4;
+    constexpr double width = 66; // mm
     static constexpr std::array<const char*, 3> sketches{"rys3f", "rys2pm", "rys2pd"};
     beside->left.push_back(
         sketchPicture(QString::fromLatin1(sketches.at(static_cast<std::size_t>(
                           std::clamp<int>(stan.raport.Typ_szkicu_kotwy, 1, 3) - 1))),
-                      42));
+                      width));
     beside->right.push_back(std::move(rows));
     maker.add(std::shared_ptr<const Beside>(beside));
 }

@@ -93,4 +93,25 @@ Table anchorTable(Maker& maker, const CaseSheet& one) {
     return table;
 }
 
+Table inTwoColumns(Table table) {
+    const std::size_t columns = table.columns.size();
+    const std::size_t half = (table.rows.size() + 1) / 2;
+    const auto beside = [](Row& left, const Row& right) {
+        left.push_back(cell(Rich()));
+        left.insert(left.end(), right.begin(), right.end());
+    };
+    table.columns.push_back({Column::Align::Left, 0.2});
+    for (std::size_t i = 0; i < columns; ++i)
+        table.columns.push_back(table.columns[i]);
+    for (Row& row : table.head)
+        beside(row, Row(row));
+    std::vector<Row> rows(table.rows.begin(),
+                          table.rows.begin() + static_cast<std::ptrdiff_t>(half));
+    for (std::size_t i = 0; i < half; ++i)
+        beside(rows[i],
+               half + i < table.rows.size() ? table.rows[half + i] : Row(columns, cell(Rich())));
+    table.rows = std::move(rows);
+    return table;
+}
+
 } // namespace ferna::sheet

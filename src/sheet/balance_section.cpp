@@ -186,18 +186,18 @@ Table trianglesTable(const Maker& maker, const std::vector<std::pair<Side, Zone>
     Table table;
     table.caption = maker.text()(QStringLiteral("triangles.caption"));
     table.columns.assign(5, Column{});
-    table.columns.front() = {Column::Align::Left, 1.5};
+    table.columns.front() = {Column::Align::Left, 0.9};
     table.head = {{headCell(maker.text()(QStringLiteral("triangles.which"))),
                    headCell(QStringLiteral("<i>A</i> [mm²]")),
                    headCell(QStringLiteral("<i>C</i> [kN]")),
                    headCell(QStringLiteral("<i>C·x</i> [kNm]")),
                    headCell(QStringLiteral("<i>C·y</i> [kNm]"))}};
     for (const auto& [side, zone] : zones) {
+        table.rows.push_back({headCell(sideName(maker, side), 5)});
         int k = 2;
         for (const Carried& one : zone.triangles()) {
-            table.rows.push_back(
-                {cell(QStringLiteral("%1: 1-%2-%3").arg(sideName(maker, side)).arg(k).arg(k + 1)),
-                 cell(one.area), cell(one.force), cell(one.M1), cell(one.M2)});
+            table.rows.push_back({cell(QStringLiteral("1-%1-%2").arg(k).arg(k + 1)), cell(one.area),
+                                  cell(one.force), cell(one.M1), cell(one.M2)});
             ++k;
         }
     }

@@ -42,6 +42,7 @@ void addHead(Maker& maker) {
     const SheetInput& input = maker.input();
     Sheet& sheet = maker.sheet();
     sheet.language = text.language();
+    sheet.program = input.program;
     sheet.title = text(QStringLiteral("head.title"));
     sheet.pageOf = text(QStringLiteral("page"));
     sheet.search = text(QStringLiteral("side.search"));

@@ -66,8 +66,6 @@ void addConcrete(Maker& maker, Equations& rows) {
     property(maker, rows, "Eb", QStringLiteral("E_b"),
              concrete(input.stan.opcje.Nr_normy, input.stan.opcje.Nr_betonu).Eb_betonu,
              "material.Eb", norm);
-    if (maker.hasBase)
-        ratio(maker, rows);
 }
 
 void addSteel(Maker& maker, Equations& rows) {
@@ -98,6 +96,10 @@ void addMaterials(Maker& maker) {
     addConcrete(maker, rows);
     addSteel(maker, rows);
     maker.add(std::move(rows));
+    Equations moduli;
+    if (maker.hasBase)
+        ratio(maker, moduli);
+    maker.add(std::move(moduli));
     if (!maker.limits)
         maker.say(QStringLiteral("material.noSteel"), {}, Tone::Warning);
     maker.say(QStringLiteral("material.areas"), {}, Tone::Small);

@@ -70,10 +70,14 @@ void makeToldPlane(Maker& maker, const CaseSheet& one) {
 void makeExactPlane(Maker& maker, const CaseSheet& one) {
     const int c = one.number;
     const equilibrium::Plane& plane = one.exact->plane;
+    constexpr double nothing = 1e-12;
+    const double size = maker.at(0, QStringLiteral("L"))->value;
     const auto coefficient = [&](const char* id, const char* symbol, double value,
                                  const QString& unit) {
+        // What a computation leaves of nothing is printed as nothing.
+        const bool none = std::fabs(value) * size < nothing * std::fabs(one.exact->sigmaConcrete);
         return maker.given(c, QString::fromLatin1(id), QString::fromUtf8(symbol), value, unit,
-                           digits(6));
+                           none ? Shown{.told = QStringLiteral("0")} : digits(6));
     };
     const Quantity* const s0 = coefficient("s0_e", "s*_0", plane.s0, MPa);
     const Quantity* const sx = coefficient("sx_e", "s*_x", plane.sx, perMm);

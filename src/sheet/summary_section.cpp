@@ -68,8 +68,8 @@ void addSummary(Maker& maker) {
     maker.heading(1, text(QStringLiteral("summary.heading")));
     Table table;
     table.caption = text(QStringLiteral("summary.caption"));
-    table.columns = {{Column::Align::Centre, 0.7}, {Column::Align::Left, 1.3}, {}, {}, {}, {},
-                     {Column::Align::Left, 1.5},   {Column::Align::Left, 1.5}};
+    table.columns = {{Column::Align::Centre, 1},   {Column::Align::Left, 1.4},  {}, {}, {}, {},
+                     {Column::Align::Centre, 1.5}, {Column::Align::Centre, 1.5}};
     table.head = {{headCell(text(QStringLiteral("case"))), headCell({}),
                    headCell(text(QStringLiteral("summary.concrete"))
                             + QStringLiteral("<br/><i>η<sub>b</sub></i>")),

@@ -1,6 +1,7 @@
 #include "app/reserve_entries.h"
 #include "capacity/forms/chart_view.h"
 #include "support/main_form.h"
+#include "task/forms/task_desk.h"
 
 #include <QCheckBox>
 #include <QMenu>
@@ -105,13 +106,13 @@ TEST_F(ReserveWindows, TheCapacityShowsTheLineOfTheFirstCaseWithBothCasesInIt) {
     EXPECT_EQ(chart().points[1].name, QStringLiteral("Przypadek 2"));
     const auto strength = enteredStrength(stan, form->fields());
     EXPECT_EQ(chart().points[0].used, strength->used({300, 60, 20}, {40, 0})->worst());
-    EXPECT_EQ(
-        reserve(),
-        QStringLiteral("Najbliżej granicy: %1, wytężenie %2. Wszystkie jego siły mogą razem "
-                       "wzrosnąć %3 raza.")
-            .arg(chart().points[static_cast<std::size_t>(nearestToLine(chart()))].name,
-                 usedWords(chart().points[static_cast<std::size_t>(nearestToLine(chart()))].used),
-                 general(std::round(100 * loadFactor(*strength, {120, 50, -5}, {10, 10})) / 100)));
+    // 300 kN takes the shear by friction, so the first case can grow as far as its stresses.
+    const double grows = loadFactor(*strength, {300, 60, 20}, {40, 0});
+    EXPECT_NEAR(grows, 1 / chart().points[0].used, 1e-9);
+    EXPECT_EQ(reserve(),
+              QStringLiteral("Najbliżej granicy: Przypadek 1, wytężenie %1. Wszystkie "
+                             "jego siły mogą razem wzrosnąć %2 raza.")
+                  .arg(usedWords(chart().points[0].used), general(std::round(100 * grows) / 100)));
 }
 
 TEST_F(ReserveWindows, TheCapacityFollowsWhatIsTypedAndTheCaseThatIsChosen) {
@@ -181,6 +182,24 @@ TEST_F(ReserveWindows, TheSmallestBaseIsFoundConfirmedAndTakenIntoTheFormAtOnce)
     EXPECT_EQ(form->fields().loads[0].M1, QStringLiteral("60")) << "the loads stay";
     EXPECT_TRUE(said().endsWith(QStringLiteral(" stoi w zadaniu.")));
     EXPECT_EQ(form->drawnPlate()->Dlug_plyty_mm, plate[0].toInt()) << "drawn on its plate";
+}
+
+TEST_F(ReserveWindows, OneStepBackBringsTheBaseOfBeforeTheTaking) {
+    TaskDesk desk(*form, dialogs, path(QStringLiteral("kept")));
+    desk.begin();
+    openSmallest();
+    in<QComboBox>(entries->smallest(), "cmbFiOd")->setCurrentIndex(4); // 30 mm and more
+    QTest::mouseClick(in<QPushButton>(entries->smallest(), "cmdSzukaj"), Qt::LeftButton);
+    ASSERT_GT(table().rowCount(), 0);
+    QTest::mouseClick(in<QPushButton>(entries->smallest(), "cmdPrzejmij"), Qt::LeftButton);
+    settle();
+    EXPECT_GE(stan.plyta.Fi_kotwy(1), 30);
+    desk.undo();
+    settle();
+    EXPECT_EQ(text("Text3"), QStringLiteral("600"));
+    EXPECT_EQ(text("Text4"), QStringLiteral("400"));
+    EXPECT_EQ(stan.plyta.Liczba_srub, 4);
+    EXPECT_EQ(stan.plyta.Fi_kotwy(1), 24);
 }
 
 TEST_F(ReserveWindows, ARangeThatCannotBeWorkedWithIsSaid) {

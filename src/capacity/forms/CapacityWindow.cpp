@@ -98,6 +98,7 @@ void CapacityWindow::readCases(const InputFields& fields) {
         ui_->cmbPrzypadek->addItem(QStringLiteral("Przypadek %1").arg(one.number));
     ui_->cmbPrzypadek->setCurrentIndex(
         std::max(ui_->cmbPrzypadek->findText(chosen), cases_.empty() ? -1 : 0));
+    makeRoomForItems(ui_->cmbPrzypadek);
     takeCase();
 }
 
@@ -162,19 +163,20 @@ void CapacityWindow::showReserve(const Strength& strength, const Chart& chart) {
     if (others_.empty() && std::isfinite(point.used)) {
         const Case& one = cases_.at(static_cast<std::size_t>(nearest));
         const double all = loadFactor(strength, one.load, one.shear);
-        words += all >= 1 ? QStringLiteral(" Wszystkie jego siły mogą razem wzrosnąć %1 raza.")
-                                .arg(times(all))
-                          : QStringLiteral(" Przeniesione będą, pomnożone razem przez %1.")
-                                .arg(times(all));
+        words +=
+            all >= 1
+                ? QStringLiteral(" Wszystkie jego siły mogą razem wzrosnąć %1 raza.")
+                      .arg(times(all))
+                : QStringLiteral(" Przeniesione będą, pomnożone razem przez %1.").arg(times(all));
     }
     ui_->lblZapas->setText(words);
 }
 
 void CapacityWindow::save() {
-    const std::optional<QString> name = askWhereToSave(
-        {QStringLiteral("Zapis wykresu nośności"), QStringLiteral("nosnosc.png"),
-         QStringLiteral(".png"), pages::pictureFilter},
-        {.parent = this, .run = {}});
+    const std::optional<QString> name =
+        askWhereToSave({QStringLiteral("Zapis wykresu nośności"), QStringLiteral("nosnosc.png"),
+                        QStringLiteral(".png"), pages::pictureFilter},
+                       {.parent = this, .run = {}});
     if (name)
         pages::savePicture(pictureOf(ui_->wykres->chart()), *name);
 }

@@ -29,7 +29,7 @@ void ChartView::setNothing(const QString& why) {
 }
 
 qreal ChartView::letter() const {
-    return 0.72 * QFontMetricsF(font()).height();
+    return 0.82 * QFontMetricsF(font()).height();
 }
 
 QString ChartView::wordsAt(QPointF place) const {

@@ -32,7 +32,8 @@ SmallestWindow::SmallestWindow(Links links, QWidget* parent)
     ui_->tabela->setModel(found_);
     ui_->tabela->horizontalHeader()->setStretchLastSection(true);
     ui_->tabela->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    ui_->lblNieSprawdzono->setText(smallest::notChecked().join(u' '));
+    ui_->lblNieSprawdzono->setText(QStringLiteral("Czego szukanie nie sprawdza: ")
+                                   + smallest::notChecked().join(u' '));
     connectGuarded(ui_->cmdSzukaj, &QPushButton::clicked, this, [this] { search(); });
     connectGuarded(ui_->cmdPrzejmij, &QPushButton::clicked, this, [this] { takeChosen(); });
     connect(ui_->cmdPrzerwij, &QPushButton::clicked, this, [this] { stopped_ = true; });
@@ -47,6 +48,7 @@ SmallestWindow::SmallestWindow(Links links, QWidget* parent)
     connect(ui_->optSzer, &QRadioButton::toggled, this, enableWidths);
     enableWidths();
     showSearching(false);
+    resize(sizeHint().expandedTo(QSize(1180, 760)));
 }
 
 SmallestWindow::~SmallestWindow() = default;
@@ -80,9 +82,10 @@ void SmallestWindow::reject() {
 void SmallestWindow::showLoads() {
     const auto task = smallest::enteredTask(links_.stan, links_.fields());
     ui_->lblObciazenia->setText(
-        task ? QStringLiteral("Obciążenia, beton i stosunek n z zadania; liczba przypadków: %1.")
-                   .arg(task->cases.size())
-             : QStringLiteral("Obciążenia i stosunek n muszą być liczbami, n nie może być ujemne."));
+        task
+            ? QStringLiteral("Obciążenia, beton i stosunek n z zadania; liczba przypadków: %1.")
+                  .arg(task->cases.size())
+            : QStringLiteral("Obciążenia i stosunek n muszą być liczbami, n nie może być ujemne."));
     ui_->cmdSzukaj->setEnabled(task.has_value() && !searching_);
 }
 
@@ -147,7 +150,8 @@ void SmallestWindow::showFound(const smallest::Winners& winners) {
     words += QStringLiteral("Podstaw w zakresie: %1, mieszczących się: %2, wystarczających: %3.")
                  .arg(counted(found.candidates), counted(found.placed), counted(found.passed));
     if (found.tooThick > 0)
-        words += QStringLiteral(" Z blachą za grubą dla jej stali: %1.").arg(counted(found.tooThick));
+        words +=
+            QStringLiteral(" Z blachą za grubą dla jej stali: %1.").arg(counted(found.tooThick));
     if (found.passed == 0 && !found.stopped)
         words += QStringLiteral(" Żadna nie wystarcza: poszerz zakres albo wybierz inną stal.");
     ui_->lblWynik->setText(words);

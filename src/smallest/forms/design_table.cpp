@@ -47,8 +47,10 @@ QString DesignTable::text(const smallest::Winner& winner, int column) const {
     case 0:
         return one(design.mass());
     case 1:
-        return QStringLiteral("%1 × %2 × %3").arg(design.length).arg(design.width).arg(
-            design.thickness);
+        return QStringLiteral("%1 × %2 × %3")
+            .arg(design.length)
+            .arg(design.width)
+            .arg(design.thickness);
     case 2:
         return QStringLiteral("%1 × M%2, L = %3")
             .arg(design.layout)
@@ -73,7 +75,8 @@ QVariant DesignTable::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole)
         return text(winner, index.column());
     if (role == Qt::ToolTipRole && index.column() == 4)
-        return QStringLiteral("docisk %1 % z %2 Rb\nrozciąganie %3 %\nścinanie %4 %\ninterakcja %5 %")
+        return QStringLiteral(
+                   "docisk %1 % z %2 Rb\nrozciąganie %3 %\nścinanie %4 %\ninterakcja %5 %")
             .arg(one(100 * winner.design.used.bearingFactor / pressureLimit_),
                  general(pressureLimit_), one(100 * winner.design.used.tension),
                  one(100 * winner.design.used.shear), one(100 * winner.design.used.interaction));

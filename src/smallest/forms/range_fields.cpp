@@ -21,9 +21,9 @@ std::array<LayoutBox, 4> layoutBoxes(const Ui::SmallestWindow& ui) {
 }
 
 int indexOf(Integer diameter) {
-    return static_cast<int>(std::find(std::begin(anchorDiameters), std::end(anchorDiameters),
-                                      diameter)
-                            - std::begin(anchorDiameters));
+    return static_cast<int>(
+        std::find(std::begin(anchorDiameters), std::end(anchorDiameters), diameter)
+        - std::begin(anchorDiameters));
 }
 
 smallest::Sizes sizesIn(const QSpinBox* from, const QSpinBox* to, const QSpinBox* step) {
@@ -47,6 +47,8 @@ void fillRangeLists(Ui::SmallestWindow& ui) {
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(Qt::Unchecked);
     }
+    ui.lstStale->setFixedHeight(ui.lstStale->count() * ui.lstStale->sizeHintForRow(0)
+                                + 2 * ui.lstStale->frameWidth());
     ui.cmbStalBlachy->addItems(plateSteelNames().mid(0, userPlateSteel - 1));
 }
 

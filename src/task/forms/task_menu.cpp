@@ -83,7 +83,7 @@ void TaskMenu::offerLastTask() {
     const std::vector<KeptTask> kept = desk_.kept();
     if (kept.empty())
         return;
-    line_->offer(offerOf(kept.front(), QDateTime::currentDateTime()), QStringLiteral("Przywróć"),
+    line_->offer(offerOf(kept.front(), QDateTime::currentDateTime()), QStringLiteral("P&rzywróć"),
                  [this, last = kept.front()] { guarded(&form_, [&] { desk_.restore(last); }); });
 }
 
