@@ -122,9 +122,6 @@ TEST(Picture, NothingIsDrawnOutsideIt) {
         ASSERT_TRUE(values.valid()) << number << ' ' << values.reason.toStdString();
         for (const int which : {0, 1}) {
             EXPECT_TRUE(staysInside(pictureOf(values, which), options)) << number << ' ' << which;
-            if (!staysInside(pictureOf(values, which), options))
-                imageOf(pictureOf(values, which), options, 2)
-                    .save(QStringLiteral("/tmp/out-%1-%2.png").arg(number).arg(which));
         }
     }
     for (const SamplePicture& sample : samplePictures())
