@@ -1,5 +1,6 @@
 #include "app/program.h"
 
+#include "app/document_entries.h"
 #include "app/editing_entries.h"
 #include "app/sheet_entry.h"
 #include "combinations/forms/combination_entries.h"
@@ -46,17 +47,19 @@ void Program::openResults() {
         [this] { return render(); });
     combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
+    addDocumentEntries(*results_, {folder_, dialogs_,
+                                   [this](const QStringList& options) { return render(options); }});
     task_.resultsMade(*results_);
     addSheetEntry(*results_, stan_, input_.record(), dialogs_);
     input_.hide();
     results_->open();
 }
 
-RendererReport Program::render() {
+RendererReport Program::render(const QStringList& options) {
     const Hourglass hourglass;
     RendererWait wait(results_.get());
     return runRenderer(
-        folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
+        folder_, options, [&wait](const RendererState& state) { return wait.goOn(state); },
         results_->winId());
 }
 

@@ -26,7 +26,7 @@ public:
 private:
     void addMenus();
     void openResults();
-    RendererReport render();
+    RendererReport render(const QStringList& options = {});
     FernaWyn::Links links();
     QStringList notesOn(const QString& label);
 

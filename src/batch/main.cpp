@@ -1,4 +1,5 @@
 #include "batch/combinations_run.h"
+#include "batch/failure_words.h"
 #include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
@@ -69,7 +70,7 @@ void tellNotes(const ComputedTask& done, bool namesAreTold) {
 }
 
 std::string textOf(const RunTimeError& failure) {
-    return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
+    return failureWords(failure).toStdString();
 }
 
 /// What is wrong with the text of a task, and where.

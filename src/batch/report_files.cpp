@@ -5,6 +5,7 @@
 #include "pages/sketch_files.h"
 #include "protocol/renderer_start.h"
 #include "report/document_writer.h"
+#include "report/report_words.h"
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"
 #include "report/wyd_writer.h"
@@ -56,8 +57,10 @@ QString writePages(const ComputedTask& done, const Destination& to) {
     QDir().mkpath(made);
     Buduj_wyd(modelOf(done), to.pictures);
     writeJob(to.pictures, RenderMode::ScreenPicture, done.task.stan.opcje.Nr_strony);
-    runRenderer(to.pictures, {QString::fromLatin1(option),
-                              made + u'/' + stem + to.file.mid(to.file.lastIndexOf(u'.'))});
+    runRenderer(to.pictures,
+                documentOptions(modelOf(done))
+                    + QStringList{QString::fromLatin1(option),
+                                  made + u'/' + stem + to.file.mid(to.file.lastIndexOf(u'.'))});
     const QStringList pages = QDir(made).entryList(QDir::Files);
     if (pages.size() > 1)
         for (const QString& page : pages)

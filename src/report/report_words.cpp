@@ -1,5 +1,6 @@
 #include "report/report_words.h"
 
+#include "report/report_model.h"
 #include "runtime/run_time_error.h"
 
 #include <QRegularExpression>
@@ -61,6 +62,21 @@ QString documentTitle(Integer Nr_jezyka, Integer Nr_normy) {
     return utf8(rowOf(Nr_jezyka).title)
         .arg(QStringLiteral("PN-B-03215:1999"),
              Nr_normy == 0 ? QStringLiteral("PN-84/B-03264") : QStringLiteral("PN-B-03264:1999"));
+}
+
+QStringList documentOptions(const ReportModel& report) {
+    const ReportWords words = reportWords(report.language);
+    QString title = documentTitle(report.language, report.norm);
+    const QString project = report.title(4).trimmed();
+    if (!project.isEmpty())
+        title += QStringLiteral(" - ") + project;
+    QStringList options{QStringLiteral("--tytul"), title,
+                        QStringLiteral("--temat"), words.subject,
+                        QStringLiteral("--jezyk"), words.tag};
+    const QString author = report.title(3).trimmed();
+    if (!author.isEmpty())
+        options += {QStringLiteral("--autor"), author};
+    return options;
 }
 
 QString fullSpelling(QString line, Integer Nr_jezyka) {

@@ -3,8 +3,11 @@
 #include "runtime/numbers.h"
 
 #include <QString>
+#include <QStringList>
 
 namespace ferna {
+
+struct ReportModel;
 
 /// What a report says beside its lines: in a document's properties, in captions and headers. The
 /// lines themselves come from the catalogues.
@@ -25,6 +28,9 @@ ReportWords reportWords(Integer Nr_jezyka);
 
 /// Title of a document in its language, with the standards that the norm stands for.
 QString documentTitle(Integer Nr_jezyka, Integer Nr_normy);
+
+/// The options by which the renderer learns what a PDF of the report says of itself.
+QStringList documentOptions(const ReportModel& report);
 
 /// A line of a catalogue with the letters that code page 1250 lacks and the catalogue therefore
 /// writes bare: French accents.

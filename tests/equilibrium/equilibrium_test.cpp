@@ -88,6 +88,15 @@ TEST(Equilibrium, OfAPullAtASingleAnchorIsThatOfTheAnchor) {
     EXPECT_LT(result.residual, 1e-12);
 }
 
+TEST(Equilibrium, OfAPullIsThatOfTheAnchorHoweverThinItIs) {
+    for (const double area : {1e-3, 1e-12, 1e-20}) { // mm2
+        const BaseAndLoad problem{600, 400, 6, {{120, -50, area}}, {-10, -1.2, 0.5}};
+        const Result result = problem.solved();
+        ASSERT_TRUE(result.exists) << area;
+        EXPECT_NEAR(result.sigmaAnchor[0] * area, -10e3, 1e-8) << area;
+    }
+}
+
 TEST(Equilibrium, OfAPullBetweenTwoAnchorsFollowsTheLever) {
     const BaseAndLoad problem{600, 400, 6, {{200, 0, 353}, {-200, 0, 353}}, {-10, 1, 0}};
     const Result result = problem.solved();
@@ -143,11 +152,25 @@ TEST(Equilibrium, EndsAboutARowOfAnchorsAlongTheEdge) {
     EXPECT_NEAR(pulled.sigmaAnchor[0] * 353, -7.5e3, 0.1);
     EXPECT_NEAR(pulled.residual, 1e-12, 1e-13) << "the load was moved off the verge by this";
     EXPECT_NEAR(pulled.sigmaAnchor[1] * 353, -2.5e3, 0.1);
-    EXPECT_FALSE((BaseAndLoad{600, 400, 6, row, {-10, -3, 1.1}}.solved().exists));
+    for (const double M2 : {1.1, -1.1})
+        EXPECT_FALSE((BaseAndLoad{600, 400, 6, row, {-10, -3, M2}}.solved().exists)) << M2;
     const Result tipping = BaseAndLoad{600, 400, 6, row, {-10, -2.9, 0}}.solved();
     ASSERT_FALSE(tipping.exists);
     expectPoint(tipping.tippingAxis[0], 300, -200);
     expectPoint(tipping.tippingAxis[1], 300, 200);
+}
+
+TEST(Equilibrium, OfAPullOnTheVergeIsCarriedByTheAnchorsOnItsAxisAlone) {
+    // The third would only push the plate's far edge down, and nothing there answers.
+    const std::vector<Anchor> anchors{{300, -100, 353}, {300, 100, 353}, {400, 0, 353}};
+    const BaseAndLoad problem{600, 400, 6, anchors, {-10, -3, 0.5}};
+    const Result result = problem.solved();
+    ASSERT_TRUE(result.exists);
+    EXPECT_NEAR(force(problem, result, 300, -100), 7.5, 1e-4);
+    EXPECT_NEAR(force(problem, result, 300, 100), 2.5, 1e-4);
+    EXPECT_NEAR(force(problem, result, 400, 0), 0, 1e-4);
+    // Pulled beyond the row's end, the third is no help: it does not stand on the axis.
+    EXPECT_FALSE((BaseAndLoad{600, 400, 6, anchors, {-10, -3, 1.1}}.solved().exists));
 }
 
 TEST(Equilibrium, TipsAboutTheLineFromACornerToAnAnchorBesideThePlate) {
@@ -215,13 +238,17 @@ TEST(Equilibrium, RefusesWhatIsNoBase) {
     const std::vector<Anchor> anchors = fourAnchors(250, 150, 353);
     EXPECT_TRUE((Base{600, 400, 6, anchors}.usable()));
     EXPECT_FALSE((Base{0, 400, 6, anchors}.usable()));
+    EXPECT_FALSE((Base{600, 0, 6, anchors}.usable()));
+    EXPECT_FALSE((Base{std::numeric_limits<double>::infinity(), 400, 6, anchors}.usable()));
     EXPECT_FALSE((Base{600, -400, 6, anchors}.usable()));
     EXPECT_FALSE((Base{600, 400, -6, anchors}.usable()));
     EXPECT_FALSE((Base{600, 400, nothing, anchors}.usable()));
     EXPECT_FALSE((Base{600, 400, 6, std::vector<Anchor>{{0, 0, -1}}}.usable()));
     EXPECT_FALSE((Base{600, 400, 6, std::vector<Anchor>{{nothing, 0, 1}}}.usable()));
+    EXPECT_FALSE((Base{600, 400, 6, std::vector<Anchor>{{0, nothing, 1}}}.usable()));
     EXPECT_FALSE((Base{0, 400, 6, anchors}.solve({1, 0, 0}).exists));
-    EXPECT_FALSE((Base{600, 400, 6, anchors}.solve({nothing, 0, 0}).exists));
+    for (const Load& load : {Load{nothing, 0, 0}, Load{1, nothing, 0}, Load{1, 0, nothing}})
+        EXPECT_FALSE((Base{600, 400, 6, anchors}.solve(load).exists));
 }
 
 TEST(Equilibrium, TellsThePlaneTheLineAndTheStressesAlike) {

@@ -75,6 +75,7 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
     setObjectName(QStringLiteral("Kombinacje"));
     setWindowTitle(QStringLiteral("Ferna 2005 Pr - Kombinacje"));
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    setAttribute(Qt::WA_QuitOnClose, false); // the main form is the program
     setAcceptDrops(true);
     auto* const page = new QVBoxLayout(this);
     page->addWidget(topRow());

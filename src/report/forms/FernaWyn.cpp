@@ -10,6 +10,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -140,7 +142,10 @@ void FernaWyn::tellWritten() {
 }
 
 void FernaWyn::tellWritten(const QStringList& files) {
-    ui_->zapisano->tell(files);
+    QStringList absolute;
+    for (const QString& file : files)
+        absolute += QDir::cleanPath(QFileInfo(file).absoluteFilePath());
+    ui_->zapisano->tell(absolute);
 }
 
 void FernaWyn::showRtfEntry() {
