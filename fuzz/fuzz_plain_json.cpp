@@ -61,8 +61,8 @@ bool mayBeLeft(std::string_view text) {
     std::size_t digits = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         digits = text[i] >= '0' && text[i] <= '9' ? digits + 1 : 0;
-        const bool isExponent = (text[i] == 'e' || text[i] == 'E') && i > 0
-                                && text[i - 1] >= '0' && text[i - 1] <= '9';
+        const bool isExponent =
+            (text[i] == 'e' || text[i] == 'E') && i > 0 && text[i - 1] >= '0' && text[i - 1] <= '9';
         if (digits > 18 || isExponent)
             return true;
     }
