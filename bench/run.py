@@ -36,7 +36,19 @@ ROADS = {  # names of the benchmarks in a reader's words
     "ExactCase/4": "its exact equilibrium, plate less a triangle",
     "ExactCase/5": "its exact equilibrium, whole plate compressed",
     "ExactBase": "a base made ready for exact equilibria",
+    "MomentLine/-100": "capacity line of M1-M2, 360 directions, N = -100 kN (aim 20 ms)",
+    "MomentLine/0": "the same at N = 0",
+    "MomentLine/300": "the same at N = 300 kN",
+    "MomentLine/2000": "the same at N = 2000 kN",
+    "AxialLine": "capacity line of N-M1, 360 directions",
+    "FiftyThousandCandidates": "smallest base, 49 972 candidates x 6 cases (aim 1 s)",
+    "FiftyThousandThatPass": "the same where every candidate passes every case",
     "TaskOfSixCases": "six median cases, 20 anchors, from the fields to the text report",
+    "Answers/300": "combinations, six anchors: 300 answered, the governing ones chosen",
+    "Answers/10000": "combinations, six anchors: 10 000 answered (aim 0.1 s)",
+    "ReadAndAnswered/300": "combinations, six anchors: 300 read from text and answered",
+    "ReadAndAnswered/10000": "combinations, six anchors: 10 000 read from text and answered",
+    "ReadAndAnswered/100000": "combinations, six anchors: 100 000 read from text and answered",
     "ReportLines": "lines of the report, six cases",
     "TextReport": "text report",
     "RtfReport/1": "RTF report, pattern A",
@@ -125,7 +137,7 @@ def main():
     sample = os.path.join(ROOT, "data/przyklady/szesc-przypadkow.json")
     rows, spread = benchmarks(os.path.join(build, "bench/ferna_bench"))
     spread = spread[spread.index("cases outside the kern") - 6:].strip()
-    for name in ("report_bench", "results_form_bench"):
+    for name in ("combinations_bench", "reserve_bench", "report_bench", "results_form_bench"):
         program = os.path.join(build, "bench", name)
         if os.path.exists(program):
             rows += benchmarks(program)[0]

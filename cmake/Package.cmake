@@ -26,6 +26,7 @@ install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/schemat DESTINATION ${CMAKE_INSTALL_D
 install(FILES ${packaging}/completion/ferna-wsad ${packaging}/completion/Wyd_drk
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 install(FILES ${packaging}/ferna.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${packaging}/ferna-mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME ferna.xml)
 install(FILES ${CMAKE_SOURCE_DIR}/data/szkice/ferna.svg
     DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 

@@ -10,7 +10,9 @@ install_missing "${build_packages[@]}" "${run_packages[@]}" "${fuzz_packages[@]}
 build_preset fuzz >/dev/null
 
 programs=build/fuzz/fuzz
-every=(numbers format reply job catalogue configuration metafile commands task task_file plain_json)
+every=(
+    numbers format reply job catalogue configuration metafile commands combinations task task_file plain_json
+)
 mkdir -p build/fuzz/findings build/fuzz/log
 
 # A task may search long; the others answer at once.

@@ -110,7 +110,7 @@ after() {
 no_document() {
     local wanted=$1 said
     shift
-    said=$("$@" build/release/bin/ferna-wsad --raport build/raport/x.odt --wynik build/raport/x.json \
+    said=$("$@" build/release/bin/ferna-wsad --raport build/raport/x.doc --wynik build/raport/x.json \
         data/przyklady/slup-hali.json 2>&1) && fail "a document came out without a word processor"
     [[ $said == *"$wanted"* ]] || fail "what writes documents is not told: $said"
 }

@@ -59,7 +59,7 @@ for text in 'Hala magazynowa, oś B' 'Długość płyty x = 600 mm' 'wsp. docisk
 done
 pdffonts "$home/raport.pdf" | grep -q Liberation || fail "the PDF is not set in Liberation"
 # A document is refused with words, not with a crash, where there is no word processor.
-if as_user 'ferna-wsad --raport raport.odt --wynik wynik.json /usr/share/ferna/przyklady/slup-hali.json' \
+if as_user 'ferna-wsad --raport raport.doc --wynik wynik.json /usr/share/ferna/przyklady/slup-hali.json' \
     2>"$work/document.log"; then
     fail "a document came out without a word processor"
 fi

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # What takes its time, behind ./test.sh: a search that takes a hundred thousand tasks, the equilibrium
-# of two million loads, the thread
+# of two million loads, five hundred kills of the keeping of tasks, the thread
 # sanitizer, ten minutes of the soak of tasks, three hundred rounds of the forms, a minute of each
 # fuzzer, the pictures of the guide, the package on a fresh Debian 12, and both commands of the README
 # there (as root or by sudo).
@@ -10,6 +10,7 @@ source tools/setup.sh
 install_missing "${long_test_packages[@]}"
 
 FERNA_LONG=1 build/release/tests/test_analysis --gtest_brief=1 --gtest_filter='Search.Ends*'
+FERNA_LONG=1 build/release/tests/test_task --gtest_brief=1 --gtest_filter='Kept.Kills*'
 FERNA_LOADS=2000000 build/release/tests/test_equilibrium --gtest_brief=1 --gtest_filter='RandomLoads*'
 
 # Apart from one another: a process that has started others is no longer followed through its mutexes.

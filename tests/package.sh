@@ -38,7 +38,7 @@ done
 # Files.
 for file in bin/{ferna,ferna-wsad,Wyd_drk} lib/ferna/libferna_writer.so \
     share/ferna/{Ferna.qch,Ferogo2.bmp,rysgb52.bmp,przyklady/slup-hali.json} \
-    share/ferna/schemat/{zadanie,wynik}.schema.json \
+    share/ferna/schemat/{zadanie,wynik,zakres,dobor,nosnosc}.schema.json \
     share/doc/ferna/{en/first-report.html,pl/pierwszy-raport.html,pictures/results.png} \
     share/bash-completion/completions/{ferna-wsad,Wyd_drk} \
     share/icons/hicolor/scalable/apps/ferna.svg share/doc/ferna/copyright; do
@@ -105,10 +105,10 @@ export LC_ALL=C.UTF-8 HOME=$work/home XDG_DATA_HOME=$work/home/data XDG_RUNTIME_
 mkdir -m 700 "$HOME"
 cd "$HOME"
 sample=$usr/share/ferna/przyklady/slup-hali.json
-if timeout 120 "$usr/bin/ferna-wsad" --raport raport.pdf --raport raport.odt --wynik wynik.json \
+if timeout 120 "$usr/bin/ferna-wsad" --raport raport.pdf --raport raport.odt --raport raport.doc --wynik wynik.json \
     "$sample"; then
     pdftotext raport.pdf - | grep -q 'Długość płyty x = 600 mm' || fail "the PDF lacks the report's text"
-    [[ -s raport.odt ]] || fail "no document"
+    [[ -s raport.odt && -s raport.doc ]] || fail "no document"
 else
     fail "the companion does not compute the sample"
 fi

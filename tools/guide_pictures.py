@@ -163,6 +163,21 @@ def run(desktop, folder, task, pictures):
     guide.back()
 
 
+def picture_of_the_sheet(programs, sample, work, pictures):
+    """The page of a load case in the calculation sheet."""
+    pdf = os.path.join(work, "sheet.pdf")
+    subprocess.run([os.path.join(programs, "ferna-wsad"), "--dziesietny", ",", "--wynik",
+                    os.path.join(work, "sheet.json"), "--arkusz", pdf, sample],
+                   env=os.environ | {"SOURCE_DATE_EPOCH": "1709560800"}, check=True, timeout=60)
+    page = os.path.join(work, "sheet")
+    subprocess.run(["pdftoppm", "-r", "80", "-f", "2", "-l", "2", "-singlefile", "-png", pdf, page],
+                   check=True, timeout=60)
+    subprocess.run(["convert", page + ".png", "-strip", "+dither", "-colors", "64",
+                    "-define", "png:compression-level=9",
+                    "-define", "png:exclude-chunks=date,time",
+                    "PNG8:" + os.path.join(pictures, "sheet.png")], check=True, timeout=60)
+
+
 def main():
     programs, sample, pictures = map(os.path.abspath, sys.argv[1:])
     with open(sample, encoding="utf-8") as file:
@@ -171,6 +186,7 @@ def main():
     with tempfile.TemporaryDirectory(prefix="ferna-guide-") as work:
         folder = os.path.join(work, "bin")
         shutil.copytree(programs, folder)
+        picture_of_the_sheet(programs, sample, work, pictures)
         desktop = Desktop(os.path.join(work, "home"), SCREEN)
         try:
             # Numbers as an engineer in Poland has them.

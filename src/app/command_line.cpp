@@ -11,8 +11,9 @@ constexpr int Failed = 1;
 constexpr int BadCall = 2;
 
 const QString help =
-    QStringLiteral("Wywołanie: ferna\n"
+    QStringLiteral("Wywołanie: ferna [PLIK]\n"
                    "Projektuje zakotwienie słupa stalowego w fundamencie betonowym.\n"
+                   "PLIK to zadanie (*.ferna), które program otwiera po starcie.\n"
                    "\n"
                    "Opcje:\n"
                    "  -h, --help     Pokazuje tę pomoc.\n"
@@ -40,9 +41,11 @@ std::optional<Leave> answerCall(const QStringList& arguments) {
 }
 
 std::optional<Leave> refuseArguments(const QStringList& left) {
-    if (left.isEmpty())
+    const bool isFile = !left.isEmpty() && !left[0].startsWith(u'-');
+    const qsizetype first = isFile ? 1 : 0;
+    if (left.size() == first)
         return std::nullopt;
-    return refusal(QStringLiteral("nieznany argument \"%1\" (patrz ferna --help)").arg(left[0]),
+    return refusal(QStringLiteral("nieznany argument \"%1\" (patrz ferna --help)").arg(left[first]),
                    BadCall);
 }
 

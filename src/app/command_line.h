@@ -16,7 +16,8 @@ struct Leave {
 /// screen; empty where the program starts. `arguments` without the program's name.
 std::optional<Leave> answerCall(const QStringList& arguments);
 
-/// The refusal of what Qt has left of the arguments; empty where nothing is left.
+/// The refusal of what Qt has left of the arguments: more than the one file of a task, or something
+/// that begins as an option; empty where there is nothing to refuse.
 std::optional<Leave> refuseArguments(const QStringList& left);
 
 } // namespace ferna

@@ -9,6 +9,7 @@
 #include "windows/application.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QLockFile>
 #include <QMessageBox>
 #include <QPushButton>
@@ -41,14 +42,14 @@ bool wantsFolderOf(const FolderHolder& holder) {
     return box.clickedButton() == take;
 }
 
-int runProgram(QApplication& application) {
+int runProgram(QApplication& application, const QString& taskFile) {
     const QString folder = enterProgramFolder();
     openHelpByF1(application, [folder](int context) { openHelp(folder, context); });
     const std::unique_ptr<QLockFile> lock = lockProgramFolder(folder, wantsFolderOf);
     Stan stan;
     if (!restoreLastTask(stan, folder, QStringLiteral(":/dane"), wantsDeliveredFile))
         return 1;
-    return Program(stan, folder).run();
+    return Program(stan, folder).run(taskFile);
 }
 
 int leave(const Leave& answer) {
@@ -66,15 +67,19 @@ int main(int argc, char** argv) {
         return leave(*answer);
     hushMissingRuntimeFolder();
     QApplication application(argc, argv);
-    if (const auto refusal = refuseArguments(QApplication::arguments().mid(1)))
+    const QStringList left = QApplication::arguments().mid(1);
+    if (const auto refusal = refuseArguments(left))
         return leave(*refusal);
+    // The program folder becomes the current one: a name is taken from where the program was
+    // called.
+    const QString taskFile = left.isEmpty() ? QString() : QFileInfo(left[0]).absoluteFilePath();
     QApplication::setApplicationName(QStringLiteral("ferna"));
     QApplication::setApplicationVersion(QStringLiteral(FERNA_VERSION));
     dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
     const TidyEnd tidyEnd;
     try {
-        return runProgram(application);
+        return runProgram(application, taskFile);
     } catch (const ferna::RunTimeError& failure) {
         QMessageBox::critical(
             nullptr, ferna::programTitle,

@@ -1,6 +1,9 @@
 #include "app/program.h"
 
+#include "app/document_entries.h"
 #include "app/editing_entries.h"
+#include "app/sheet_entry.h"
+#include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "plate/forms/Grub_bla.h"
@@ -16,14 +19,19 @@ namespace ferna {
 
 Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
-      input_(stan_, folder_, dialogs_, [this] { openResults(); }) {
+      input_(stan_, folder_, dialogs_, [this] { openResults(); }),
+      task_(input_, stan_, dialogs_, folder_, keptTasksFolder()), reserve_(input_, stan_) {
     addMenus();
     addEditing(input_, stan_);
+    combinations_ = new CombinationEntries(stan_, input_, dialogs_); // the form owns it
+    view_ = addLiveView(input_, stan_, dialogs_);
 }
 
-int Program::run() {
+int Program::run(const QString& taskFile) {
     input_.load();
+    task_.beforeShown(taskFile);
     input_.show();
+    task_.shown(taskFile);
     return QApplication::exec();
 }
 
@@ -33,19 +41,25 @@ void Program::addMenus() {
 }
 
 void Program::openResults() {
+    view_->calculated();
     auto session = std::make_unique<ResultsSession>(
         stan_, dialogs_, folder_, input_.firstNorm(), [] { return QDateTime::currentDateTime(); },
         [this] { return render(); });
+    combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
+    task_.resultsMade(*results_);
+    addSheetEntry(*results_, stan_, input_.record(), dialogs_);
+    addDocumentEntries(*results_, {folder_, dialogs_,
+                                   [this](const QStringList& options) { return render(options); }});
     input_.hide();
     results_->open();
 }
 
-RendererReport Program::render() {
+RendererReport Program::render(const QStringList& options) {
     const Hourglass hourglass;
     RendererWait wait(results_.get());
     return runRenderer(
-        folder_, {}, [&wait](const RendererState& state) { return wait.goOn(state); },
+        folder_, options, [&wait](const RendererState& state) { return wait.goOn(state); },
         results_->winId());
 }
 
@@ -54,11 +68,17 @@ FernaWyn::Links Program::links() {
         .plateForm =
             [this](QWidget* parent) {
                 Grub_bla form(stan_, folder_, dialogs_, parent);
-                if (form.exec() == QDialog::Accepted)
-                    input_.record().plateWorked(notes::plateFacts(stan_, form.worked(), true));
+                if (form.exec() != QDialog::Accepted)
+                    return;
+                input_.record().plateWorked(notes::plateFacts(stan_, form.worked(), true));
+                task_.plateWorked(form);
             },
         .anchorForm =
-            [this](QWidget* parent) { Dobor_fer(stan_, folder_, dialogs_, parent).exec(); },
+            [this](QWidget* parent) {
+                Dobor_fer form(stan_, folder_, dialogs_, parent);
+                if (form.exec() == QDialog::Accepted)
+                    task_.anchorSelected(form);
+            },
         .help = [this] { openHelp(folder_, help::Start); },
         .back = [this] { input_.show(); },
         .endProgram =
@@ -74,6 +94,7 @@ FernaWyn::Links Program::links() {
 QStringList Program::notesOn(const QString& label) {
     notes::Record& record = input_.record();
     record.labelled(label);
+    task_.labelled(label);
     QStringList texts;
     for (const notes::Note& note : notes::notesOf(record))
         texts += note.text;

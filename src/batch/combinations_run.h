@@ -9,8 +9,9 @@ namespace ferna::batch {
 
 /// How the combinations of a table went.
 struct CombinationsEnd {
-    QString trouble = {}; ///< why the table or the base gives nothing at all; empty where rows were read
-    QString remark = {};  ///< what is to be told beside the results
+    QString trouble =
+        {}; ///< why the table or the base gives nothing at all; empty where rows were read
+    QString remark = {}; ///< what is to be told beside the results
     combinations::RowNumber rows = 0;
     combinations::RowNumber refused = 0;
 };

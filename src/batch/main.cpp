@@ -1,4 +1,5 @@
 #include "batch/combinations_run.h"
+#include "batch/failure_words.h"
 #include "batch/name_remarks.h"
 #include "batch/options.h"
 #include "batch/ordered_workers.h"
@@ -6,8 +7,10 @@
 #include "batch/remarks.h"
 #include "batch/report_files.h"
 #include "batch/sheet_files.h"
+#include "batch/smallest_run.h"
 #include "batch/task_input.h"
 #include "batch/task_run.h"
+#include "batch/view_files.h"
 #include "design/language.h"
 #include "desktop/program_folder.h"
 #include "runtime/format.h"
@@ -28,6 +31,7 @@
 #include <iostream>
 #include <memory>
 #include <new>
+#include <stdexcept>
 #include <system_error>
 
 namespace {
@@ -66,7 +70,7 @@ void tellNotes(const ComputedTask& done, bool namesAreTold) {
 }
 
 std::string textOf(const RunTimeError& failure) {
-    return errorTextEnglish(failure.number()).toStdString() + ": " + failure.detail().toStdString();
+    return failureWords(failure).toStdString();
 }
 
 /// What is wrong with the text of a task, and where.
@@ -94,6 +98,8 @@ int runOne(const Options& options, const RunOptions& runOptions) {
     for (const QString& file : options.reports + options.sheets + QStringList(options.result))
         if (!file.isEmpty())
             outputs.claim(file);
+    for (const QString& file : options.views)
+        outputs.claim(file);
     const QByteArray bytes = readTaskText(options.task);
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     try {
@@ -114,6 +120,8 @@ int runOne(const Options& options, const RunOptions& runOptions) {
                 remark(writeReport(done, file, runOptions.pictures, outputs));
         for (const QString& file : options.sheets)
             writeSheet(done, file);
+        for (const QString& file : options.views)
+            remark(writeView(done, file, outputs));
         tellNotes(done, namesAreTold);
         return solved(done) ? Computed : NotSolved;
     } catch (const TaskError& failure) {
@@ -160,6 +168,39 @@ int runLines(const Options& options, const RunOptions& runOptions) {
     return all ? Computed : NotSolved;
 }
 
+/// The value that `read` makes of a file; a TaskError becomes a line that names file and place.
+template <typename Read>
+auto valueOf(const QString& file, const Read& read) {
+    const QByteArray bytes = readTaskText(file);
+    const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    try {
+        return read(parsed(text));
+    } catch (const TaskError& failure) {
+        throw std::invalid_argument(wordsOf(failure, file, text));
+    }
+}
+
+/// What --nosnosc or --dobierz answers in place of a result.
+int runAnswer(const Options& options) {
+    OutputFiles outputs({options.task, options.range});
+    if (!options.result.isEmpty())
+        outputs.claim(options.result);
+    try {
+        const Task task =
+            valueOf(options.task, [](const TaskValue& json) { return readTask(json); });
+        const Answer answer = options.capacity
+                                  ? capacityAnswer(task)
+                                  : smallestAnswer(task, valueOf(options.range, readRange));
+        if (options.result.isEmpty())
+            print(answer.text);
+        else
+            writeFileWhole(options.result, QByteArray::fromStdString(answer.text));
+        return answer.solved ? Computed : NotSolved;
+    } catch (const std::invalid_argument& failure) {
+        return refuse(failure.what());
+    }
+}
+
 int runTable(const Options& options) {
     const QByteArray bytes = readTaskText(options.task);
     const std::string_view text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
@@ -193,6 +234,8 @@ private:
 int runProgram(const Options& options) {
     if (options.decimalSign)
         setDecimalSign(*options.decimalSign);
+    if (options.capacity || !options.range.isEmpty())
+        return runAnswer(options);
     if (!options.combinations.isEmpty())
         return runTable(options);
     const QString dataFolder = deliveredDataFolder();
@@ -225,7 +268,7 @@ constexpr const char* outOfMemory = "out of memory";
 
 /// Qt without a screen; its fonts are started only where something is drawn.
 std::unique_ptr<QCoreApplication> startQt(int& argc, char** argv, const Options& options) {
-    if (!anyNeedsPictures(options) && options.sheets.isEmpty())
+    if (!anyNeedsPictures(options) && options.sheets.isEmpty() && options.views.isEmpty())
         return std::make_unique<QCoreApplication>(argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     hushMissingRuntimeFolder();

@@ -3,6 +3,7 @@
 #include "batch/report_files.h"
 #include "batch/schemas.h"
 #include "batch/sheet_files.h"
+#include "batch/view_files.h"
 
 #include <QCommandLineParser>
 
@@ -24,7 +25,21 @@ QString helpOf(const QCommandLineParser& parser) {
 Leave schemaLeave(const QString& name) {
     if (const std::optional<std::string> schema = schemaOf(name))
         return {*schema, 0};
-    return badCall(QStringLiteral("--schemat: expected zadanie or wynik and not \"%1\"").arg(name));
+    return badCall(QStringLiteral("--schemat: expected %1 and not \"%2\"")
+                       .arg(schemaNames().join(QStringLiteral(" or ")), name));
+}
+
+/// Why an answer in place of the result cannot be had with what else is asked for.
+std::optional<QString> clashOf(const Options& options) {
+    if (options.capacity && !options.range.isEmpty())
+        return QStringLiteral("--nosnosc and --dobierz do not go together");
+    const bool more = options.lines || !options.reports.isEmpty() || !options.sheets.isEmpty()
+                      || !options.views.isEmpty() || !options.combinations.isEmpty();
+    if (more && (options.capacity || !options.range.isEmpty()))
+        return QStringLiteral("%1 answers one task; it takes no --linie, --raport, --arkusz, "
+                              "--podglad or --kombinacje")
+            .arg(options.capacity ? QStringLiteral("--nosnosc") : QStringLiteral("--dobierz"));
+    return std::nullopt;
 }
 
 } // namespace
@@ -63,6 +78,15 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
                        "sheet stands on the exact equilibrium.")
             .arg(sheetEndings().join(QStringLiteral(", "))),
         QStringLiteral("FILE"));
+    const QCommandLineOption view(
+        QStringLiteral("podglad"),
+        QStringLiteral(
+            "Write the live view's picture of each case, its format by the file's ending "
+            "(%1); may be given several times. The pictures of several cases go into "
+            "F-przypadek-1-z-3.svg and so on. Also of a task that is refused or not "
+            "solved: it is a view by the exact equilibrium and no report.")
+            .arg(viewEndings().join(QStringLiteral(", "))),
+        QStringLiteral("FILE"));
     const QCommandLineOption result(
         QStringLiteral("wynik"), QStringLiteral("Write the result here, not to standard output."),
         QStringLiteral("FILE.json"));
@@ -80,10 +104,22 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         QStringLiteral("FILE"));
     const QCommandLineOption schema(
         QStringLiteral("schemat"),
-        QStringLiteral("Print the JSON schema of a task (zadanie) or of a result (wynik)."),
-        QStringLiteral("zadanie|wynik"));
-    parser.addOptions({help, version, catalogue, decimal, report, sheet, result, lines,
-                       combinations, threads, schema});
+        QStringLiteral("Print the JSON schema of a task (zadanie), of its result (wynik), of the "
+                       "range (zakres) and the answer (dobor) of --dobierz, or of the answer of "
+                       "--nosnosc (nosnosc)."),
+        schemaNames().join(u'|'));
+    const QCommandLineOption capacity(
+        QStringLiteral("nosnosc"),
+        QStringLiteral("In place of the result, up to which loads the base is borne: for each case "
+                       "the line of M1 and M2 at its N, and lines of N and M, as JSON."));
+    const QCommandLineOption range(
+        QStringLiteral("dobierz"),
+        QStringLiteral("In place of the result, the lightest bases of the range in this file for "
+                       "the task's loads, as JSON; the task's own plate and anchors are not looked "
+                       "at. Exit code 1 where the calculation confirms none."),
+        QStringLiteral("RANGE.json"));
+    parser.addOptions({help, version, catalogue, decimal, report, sheet, view, result, lines,
+                       combinations, threads, schema, capacity, range});
     parser.addPositionalArgument(QStringLiteral("TASK.json"),
                                  QStringLiteral("The task; - is standard input."));
 
@@ -115,15 +151,27 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
         if (!isSheetFile(file))
             return badCall(QStringLiteral("--arkusz %1: expected a file ending in %2")
                                .arg(file, sheetEndings().join(QStringLiteral(", "))));
+    options.views = parser.values(view);
+    for (const QString& file : options.views)
+        if (!isViewFile(file))
+            return badCall(QStringLiteral("--podglad %1: expected a file ending in %2")
+                               .arg(file, viewEndings().join(QStringLiteral(", "))));
     options.result = parser.value(result);
+    options.capacity = parser.isSet(capacity);
+    options.range = parser.value(range);
+    if (parser.isSet(range) && options.range.isEmpty())
+        return badCall(QStringLiteral("--dobierz: expected the name of a file"));
     options.lines = parser.isSet(lines);
     options.combinations = parser.value(combinations);
     if (parser.isSet(combinations) && options.combinations.isEmpty())
         return badCall(QStringLiteral("--kombinacje: expected the name of a file"));
     if (!options.combinations.isEmpty()
-        && (options.lines || !options.reports.isEmpty() || !options.result.isEmpty()))
+        && (options.lines || !options.reports.isEmpty() || !options.views.isEmpty()
+            || !options.result.isEmpty()))
         return badCall(QStringLiteral("--kombinacje writes standard output; it takes no --linie, "
-                                      "--raport or --wynik"));
+                                      "--raport, --podglad or --wynik"));
+    if (const std::optional<QString> clash = clashOf(options))
+        return badCall(*clash);
     bool isNumber = false;
     options.threads = parser.value(threads).toInt(&isNumber);
     if (!isNumber || options.threads < 1 || options.threads > 256)
@@ -133,10 +181,11 @@ std::variant<Options, Leave> readOptions(const QStringList& arguments) {
     const QStringList tasks = parser.positionalArguments();
     if (options.lines) {
         if (!tasks.isEmpty() || !options.reports.isEmpty() || !options.sheets.isEmpty()
-            || !options.result.isEmpty())
+            || !options.views.isEmpty() || !options.result.isEmpty())
             return badCall(
                 QStringLiteral("--linie reads standard input and writes standard output; "
-                               "it takes no task file, --raport, --arkusz or --wynik"));
+                               "it takes no task file, --raport, --arkusz, --podglad or "
+                               "--wynik"));
         return options;
     }
     if (parser.isSet(threads))

@@ -16,9 +16,12 @@ struct Options {
     std::optional<QChar> decimalSign; ///< --dziesietny; the locale's without it
     QStringList reports;              ///< --raport, in order
     QStringList sheets;               ///< --arkusz, in order
+    QStringList views;                ///< --podglad, in order
     QString result;                   ///< --wynik; standard output without it
     bool lines = false;               ///< --linie
     QString combinations;             ///< --kombinacje: a file, or "-" for standard input
+    bool capacity = false;            ///< --nosnosc
+    QString range;                    ///< --dobierz: the file of the range
     int threads = 1;                  ///< --watki
     QString task;                     ///< the task file of a single run; of "-" standard input's
 };

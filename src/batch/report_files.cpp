@@ -1,9 +1,11 @@
 #include "batch/report_files.h"
 
 #include "batch/report_pictures.h"
+#include "editable/editable_report.h"
 #include "pages/sketch_files.h"
 #include "protocol/renderer_start.h"
 #include "report/document_writer.h"
+#include "report/report_words.h"
 #include "report/rtf_writer.h"
 #include "report/text_writer.h"
 #include "report/wyd_writer.h"
@@ -55,8 +57,10 @@ QString writePages(const ComputedTask& done, const Destination& to) {
     QDir().mkpath(made);
     Buduj_wyd(modelOf(done), to.pictures);
     writeJob(to.pictures, RenderMode::ScreenPicture, done.task.stan.opcje.Nr_strony);
-    runRenderer(to.pictures, {QString::fromLatin1(option),
-                              made + u'/' + stem + to.file.mid(to.file.lastIndexOf(u'.'))});
+    runRenderer(to.pictures,
+                documentOptions(modelOf(done))
+                    + QStringList{QString::fromLatin1(option),
+                                  made + u'/' + stem + to.file.mid(to.file.lastIndexOf(u'.'))});
     const QStringList pages = QDir(made).entryList(QDir::Files);
     if (pages.size() > 1)
         for (const QString& page : pages)
@@ -90,6 +94,13 @@ QString writeWordDocument(const ComputedTask& done, const Destination& to) {
     return {};
 }
 
+/// The report as an editable document, made here.
+QString writeEditable(const ComputedTask& done, const Destination& to) {
+    const editable::Document document = editable::editableReport(modelOf(done), to.pictures);
+    writeFileWhole(to.file, editable::writerFor(to.file)(document));
+    return {};
+}
+
 constexpr char pdf[] = "--pdf";
 constexpr char emf[] = "--emf";
 constexpr char svg[] = "--svg";
@@ -105,7 +116,8 @@ constexpr std::array formats{
     ReportFormat{".txt", false, writeText},        ReportFormat{".rtf", true, writeRtf},
     ReportFormat{".wyd", true, writeCommands},     ReportFormat{".pdf", true, writePages<pdf>},
     ReportFormat{".emf", true, writePages<emf>},   ReportFormat{".svg", true, writePages<svg>},
-    ReportFormat{".doc", true, writeWordDocument}, ReportFormat{".odt", true, writeWordDocument},
+    ReportFormat{".doc", true, writeWordDocument}, ReportFormat{".odt", true, writeEditable},
+    ReportFormat{".docx", true, writeEditable},
 };
 
 const ReportFormat* formatOf(const QString& file) {

@@ -27,15 +27,18 @@ bool isSheetFile(const QString& file) {
     return sheet::isSheetFile(file);
 }
 
+sheet::Sheet sheetOf(const ComputedTask& done) {
+    return sheet::makeSheet({.stan = done.task.stan,
+                             .record = done.record,
+                             .hasResults = done.reportReady,
+                             .messages = messagesOf(done),
+                             .project = done.task.fields.txtNaz_proj,
+                             .program = QStringLiteral("ferna-wsad " FERNA_VERSION),
+                             .now = done.now});
+}
+
 void writeSheet(const ComputedTask& done, const QString& file) {
-    sheet::saveSheet(sheet::makeSheet({.stan = done.task.stan,
-                                       .record = done.record,
-                                       .hasResults = done.reportReady,
-                                       .messages = messagesOf(done),
-                                       .project = done.task.fields.txtNaz_proj,
-                                       .program = QStringLiteral("ferna-wsad " FERNA_VERSION),
-                                       .now = done.now}),
-                     file);
+    sheet::saveSheet(sheetOf(done), file);
 }
 
 } // namespace ferna::batch

@@ -6,6 +6,7 @@
 #include "command/calculation.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
+#include "report/title_lines.h"
 #include "report/zone_sketch.h"
 #include "task/field_keys.h"
 
@@ -100,6 +101,7 @@ void prepareReport(ComputedTask& done, const RunOptions& options) {
             Rysuj_strefe(done.raport, stan, c, options.pictures + u'/' + zoneSketchFile(c));
     }
     done.dialogs.answers.push_back(done.task.Nazwa_stopy);
+    done.raport.titleLines = titleLines(options.dataFolder, stan.opcje.Nr_jezyka);
     Naglowek(done.raport, stan, stan.opcje.Nr_normy == 0, options.now, done.dialogs);
     done.reportReady = true;
 }

@@ -165,9 +165,13 @@ private:
     void drawLine() {
         const std::vector<LinePoint>& points = chart_.line.points;
         if (points.empty()) {
+            const QRectF band(frame_.field().left() + letter_,
+                              frame_.field().center().y() - letter_,
+                              frame_.field().width() - 2 * letter_, 2 * letter_);
+            painter_.fillRect(band, Qt::white);
             pen(styleOf(Border::Tipping).colour, 0.1);
             font(1, true);
-            text(frame_.field(), Qt::AlignCenter,
+            text(band, Qt::AlignCenter,
                  chart_.plane == ChartPlane::M1M2
                      ? QStringLiteral("Podstawa nie przenosi takiej siły N przy żadnych momentach.")
                      : QStringLiteral("Siła pozioma przekracza nośność kotew na ścinanie."));
@@ -262,7 +266,8 @@ private:
                                      QPointF(x, 2 * y), QPointF(x, -2 * y)}) {
             const QRectF place = around(at + shift, size);
             const QRectF cut = place & frame_.field();
-            qreal covered = size.width() * size.height() - cut.width() * cut.height();
+            qreal covered = size.width() * size.height() - cut.width() * cut.height()
+                            + 0.1 * letter_ * std::hypot(shift.x(), 2 * shift.y());
             for (const LinePoint& point : chart_.line.points)
                 covered += place.contains(frame_.at(point.load)) ? 0.1 * letter_ * letter_ : 0;
             for (const QRectF& other : taken) {

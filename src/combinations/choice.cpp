@@ -57,16 +57,4 @@ std::vector<RowNumber> Choice::six() const {
     return rows;
 }
 
-std::vector<RowNumber> ties(Check check, std::span<const RowNumber> rows,
-                            std::span<const std::optional<Utilisation>> answers) {
-    Double most = 0;
-    for (const auto& answer : answers)
-        most = std::max(most, useOf(answer, check));
-    std::vector<RowNumber> tied;
-    for (std::size_t i = 0; i < answers.size(); ++i)
-        if (!isLarger(most, useOf(answers[i], check)))
-            tied.push_back(rows[i]);
-    return tied;
-}
-
 } // namespace ferna::combinations

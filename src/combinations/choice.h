@@ -4,7 +4,6 @@
 
 #include <array>
 #include <optional>
-#include <span>
 #include <vector>
 
 namespace ferna::combinations {
@@ -52,10 +51,5 @@ private:
     std::array<Ranked, chosenRows> worst_{}; ///< descending, the first of equal ones before others
     std::size_t ranked_ = 0;
 };
-
-/// The rows whose use of a check is equal to the largest, in order, the governing one first.
-/// `answers[i]` is that of row `rows[i]`.
-std::vector<RowNumber> ties(Check check, std::span<const RowNumber> rows,
-                            std::span<const std::optional<Utilisation>> answers);
 
 } // namespace ferna::combinations

@@ -71,8 +71,8 @@ private:
 
 std::unique_ptr<QFile> opened(const QString& path) {
     auto file = std::make_unique<QFile>(path);
-    const bool isOpen = path == u"-" ? file->open(stdin, QIODevice::ReadOnly)
-                                     : file->open(QIODevice::ReadOnly);
+    const bool isOpen =
+        path == u"-" ? file->open(stdin, QIODevice::ReadOnly) : file->open(QIODevice::ReadOnly);
     return isOpen || path == u"-" ? std::move(file) : nullptr;
 }
 

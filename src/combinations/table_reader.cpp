@@ -14,6 +14,13 @@ TableReader::TableReader(RowSource& source) : source_(source) {
     given_ = layout_.skipped;
 }
 
+QList<QStringList> TableReader::firstRows(qsizetype most) const {
+    QList<QStringList> rows;
+    for (qsizetype i = given_; i < first_.size() && rows.size() < most; ++i)
+        rows += first_.at(i).cells;
+    return rows;
+}
+
 std::optional<QStringList> TableReader::nextCells() {
     if (given_ < first_.size())
         return std::move(first_[given_++].cells);

@@ -14,6 +14,9 @@ public:
 
     const Layout& layout() const { return layout_; }
 
+    /// Data rows that the next ones begin with, up to `most`, without taking them.
+    QList<QStringList> firstRows(qsizetype most) const;
+
     /// The cells of the next data row; empty behind the last one. Titles, column names and units
     /// are none.
     std::optional<QStringList> nextCells();

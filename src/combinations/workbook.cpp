@@ -1,11 +1,11 @@
 #include "combinations/workbook.h"
 
+#include <QDateTime>
+#include <QLocale>
+
 #include <orcus/orcus_ods.hpp>
 #include <orcus/orcus_xlsx.hpp>
 #include <orcus/spreadsheet/import_interface.hpp>
-
-#include <QDateTime>
-#include <QLocale>
 
 #include <algorithm>
 #include <exception>
@@ -154,8 +154,8 @@ public:
     sheets::src_range_t resolve_range(std::string_view range) override {
         const std::size_t colon = range.find(':');
         const sheets::src_address_t first = resolve_address(range.substr(0, colon));
-        return {first, colon == std::string_view::npos ? first
-                                                       : resolve_address(range.substr(colon + 1))};
+        return {first,
+                colon == std::string_view::npos ? first : resolve_address(range.substr(colon + 1))};
     }
 };
 

@@ -20,6 +20,8 @@ public:
     virtual void getOrCreate() = 0;
     /// Opens the document that the further calls are about.
     virtual void Documents_Add() = 0;
+    /// The same with a file for its content. Error 53 for one that cannot be opened.
+    virtual void Documents_Open(const QString& FileName) = 0;
 
     /// Text at the end of the document. Carriage return and line feed, or carriage return alone,
     /// end a paragraph; a form feed is a page break.
@@ -34,8 +36,8 @@ public:
     /// processor.
     virtual void GoTo(std::optional<int> what, std::optional<int> which, int Count) = 0;
 
-    /// Saves the document; the ending chooses the format: ".odt", else that of ".doc". An existing
-    /// file is replaced whole or not at all. Errors of `writeFileWhole`.
+    /// Saves the document; the ending chooses the format: ".odt", ".docx", else that of ".doc". An
+    /// existing file is replaced whole or not at all. Errors of `writeFileWhole`.
     virtual void SaveAs(const QString& FileName) = 0;
     virtual void Close() = 0;
 };

@@ -19,7 +19,8 @@ constexpr qreal labelRoom = 2.4; // above the plate and at its right
 constexpr qreal leastRadius = 0.25;
 constexpr qreal reach = 0.5; // around what is to be hit
 
-/// What plate and anchors take, mm, y upwards.
+} // namespace
+
 QRectF extentOf(const PictureValues& values) {
     Double x0 = -values.length / 2;
     Double x1 = values.length / 2;
@@ -34,8 +35,6 @@ QRectF extentOf(const PictureValues& values) {
     }
     return {x0, y0, x1 - x0, y1 - y0};
 }
-
-} // namespace
 
 Frame::Frame(const PictureValues& values, const PictureOptions& options)
     : whole_(QPointF(), options.size), letter_(options.letter) {
@@ -57,7 +56,7 @@ Frame::Frame(const PictureValues& values, const PictureOptions& options)
 
     const qreal besides = (2 * dimensionRow + axisEnd) * h;
     const QRectF free = room_.adjusted(besides, labelRoom * h, -labelRoom * h, -besides);
-    const QRectF mm = extentOf(values);
+    const QRectF mm = extentOf(values).united(options.shown);
     scale_ =
         std::min(std::max(free.width(), h) / mm.width(), std::max(free.height(), h) / mm.height());
     const QPointF middle(mm.center().x(), -mm.center().y());

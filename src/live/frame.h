@@ -6,6 +6,9 @@
 
 namespace ferna::live {
 
+/// What plate and anchors take, mm, y upwards.
+QRectF extentOf(const PictureValues& values);
+
 /// Where everything of a picture lies: the plate true to scale in the middle, dimensions under it
 /// and at its left, the scale of the pressures at the right, texts above and below.
 class Frame {

@@ -3,6 +3,7 @@
 #include "live/palette.h"
 #include "live/picture_values.h"
 
+#include <QRectF>
 #include <QSizeF>
 
 #include <array>
@@ -36,6 +37,9 @@ struct PictureOptions {
     QString reason;       ///< why it is greyed; stands across the picture
     int chosenAnchor = 0; ///< shown as chosen, from 1; 0 for none
     qreal letter = 12;    ///< height of the letters in the painter's units
+    /// What is to be seen at least, mm, y upwards: so that the scale stays while something is
+    /// dragged. Null: plate and anchors.
+    QRectF shown;
     PictureWords words;
 };
 

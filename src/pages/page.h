@@ -58,17 +58,28 @@ struct Picture {
     void scale(double factor);
 };
 
+/// An entry of the table of contents.
+struct Heading {
+    QString text;
+    int level = 0;
+    double y = 0; ///< baseline of its line, mm
+};
+
 struct Page {
     int number = 0;
     std::vector<Picture> pictures; ///< drawn first
     std::vector<Line> lines;
     std::vector<Text> texts;
+    std::vector<Heading> headings; ///< in their order
 };
 
 /// A report laid out.
 struct Report {
-    QString title;   ///< first title line of the frame
-    QString project; ///< its line with the project's name
+    QString title;         ///< first title line of the frame
+    QString project;       ///< its line with the project's name
+    QString documentTitle; ///< what it is called as a document; empty: title and project
+    QString subject, author;
+    QString language; ///< of its texts, BCP 47; empty: not known
     std::vector<Page> pages;
 };
 

@@ -36,11 +36,16 @@ private:
 
     QString option(const QString& name, Call& call) {
         const OutputFormat* format = outputFormat(name);
-        if (format == nullptr && name != u"dpi")
+        QString* const property = propertyOf(name, call);
+        if (format == nullptr && property == nullptr && name != u"dpi")
             return QStringLiteral("nieznana opcja \"--%1\"").arg(name);
         if (next_ >= arguments_.size() || arguments_[next_].isEmpty())
             return QStringLiteral("brak wartości opcji \"--%1\"").arg(name);
         const QString value = arguments_[next_++];
+        if (property != nullptr) {
+            *property = value;
+            return {};
+        }
         if (format == nullptr)
             return dpi(value, call);
         if (call.format != nullptr)
@@ -48,6 +53,15 @@ private:
         call.format = format;
         call.outputPath = value;
         return {};
+    }
+
+    /// The property of the document that an option tells; null for another option.
+    static QString* propertyOf(const QString& name, Call& call) {
+        return name == u"tytul"   ? &call.title
+               : name == u"temat" ? &call.subject
+               : name == u"autor" ? &call.author
+               : name == u"jezyk" ? &call.language
+                                  : nullptr;
     }
 
     static QString dpi(const QString& value, Call& call) {
@@ -74,6 +88,8 @@ QString explanations() {
                "  --png PLIK     zapisuje strony jako PNG\n"
                "  --emf PLIK     zapisuje strony jako EMF\n"
                "  --dpi N        rozdzielczość PNG, od %1 do %2 (bez opcji %3)\n"
+               "  --tytul TEKST, --temat TEKST, --autor TEKST, --jezyk ZNACZNIK\n"
+               "                 własności dokumentu PDF; język np. pl-PL\n"
                "  -h, --help     pokazuje tę pomoc\n"
                "  -v, --version  pokazuje wersję\n"
                "\n"

@@ -14,6 +14,7 @@ struct Call {
     const OutputFormat* format = nullptr; ///< null: the job's mode decides
     QString outputPath;                   ///< of the format
     int dpi = 150;
+    QString title, subject, author, language; ///< of the document, where the call tells them
 };
 
 /// The call, without the program's name; empty where it is none, `fault` saying why in Polish.

@@ -67,6 +67,10 @@ bool TextLine::underlined() const {
     return !chains.empty() && chains.front().texts.front().underline;
 }
 
+QString TextLine::words() const {
+    return chains.empty() ? QString() : chains.front().texts.front().text;
+}
+
 void Block::translate(double dy) {
     rect.translate(0, dy);
     picture.rect.translate(0, dy);

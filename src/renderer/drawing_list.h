@@ -21,9 +21,12 @@ struct Chain {
 struct TextLine {
     double y = 0;
     std::vector<Chain> chains;
+    std::optional<int> outline = {}; ///< level in the table of contents, where it is a heading
 
     bool leavesInk() const;
     bool underlined() const;
+    /// The text at its left.
+    QString words() const;
 };
 
 /// A picture, or straight lines drawn in one go.

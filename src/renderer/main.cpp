@@ -51,7 +51,11 @@ void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage
     if (face != drawing::textFace)
         say(QStringLiteral("brak czcionki %1, zamiast niej %2").arg(drawing::textFace, face));
     wyd::Complaints complaints;
-    const pages::Report report = compose(job, complaints);
+    pages::Report report = compose(job, complaints);
+    report.documentTitle = call.title;
+    report.subject = call.subject;
+    report.author = call.author;
+    report.language = call.language;
     for (const QString& line : complaints.lines())
         say(line);
     deliver(report, call, job);

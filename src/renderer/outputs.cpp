@@ -3,6 +3,7 @@
 #include "pages/drawing.h"
 #include "pages/emf_writer.h"
 #include "pages/page_painter.h"
+#include "renderer/pdf_document.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
 
@@ -24,6 +25,8 @@ constexpr double mmPerInch = 25.4;
 
 /// Title of a document: what it is, and of which project.
 QString documentTitle(const pages::Report& report) {
+    if (!report.documentTitle.isEmpty())
+        return report.documentTitle;
     return report.project.isEmpty() ? report.title
                                     : report.title + QStringLiteral(" - ") + report.project;
 }
@@ -41,8 +44,6 @@ QByteArray pdf(const pages::Report& report, std::size_t, int) {
     QPdfWriter writer(&buffer);
     writer.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()));
     writer.setResolution(static_cast<int>(mmPerInch * drawing::unitsPerMm)); // 0.01 mm
-    writer.setTitle(documentTitle(report));
-    writer.setCreator(QStringLiteral("Wyd_drk"));
     QPainter painter;
     if (!painter.begin(&writer))
         cannotDraw("PDF");
@@ -53,7 +54,7 @@ QByteArray pdf(const pages::Report& report, std::size_t, int) {
         paintPage(painter, page);
     }
     painter.end();
-    return bytes;
+    return finishedPdf(bytes, report, documentTitle(report), pdfTime());
 }
 
 QByteArray svg(const pages::Report& report, std::size_t page, int) {

@@ -189,6 +189,8 @@ void PageFlow::commit(const Group& group) {
     }
     for (const TextLine& line : group.lines) {
         addTo(page, line);
+        if (line.outline)
+            page.headings.push_back({line.words().trimmed(), *line.outline, line.y});
         for (const Chain& chain : line.chains)
             if (chain.leavesInk())
                 textBoxes_.push_back(chain.box());

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <numeric>
+#include <optional>
 
 namespace ferna::renderer {
 
@@ -15,7 +16,7 @@ constexpr std::size_t fewLines = 2;     // of a paragraph that do not stand alon
 constexpr std::size_t shortRun = 6;     // lines that are not divided at all
 
 QString wordsOf(const Group& group) {
-    return group.lines.empty() ? QString() : group.lines.front().chains.front().texts.front().text;
+    return group.lines.empty() ? QString() : group.lines.front().words();
 }
 
 bool isLine(const Group& group) {
@@ -37,6 +38,12 @@ bool isColumnsLine(const Group& group) {
     constexpr qsizetype inside = 10; // blanks before the first letter
     const QString words = wordsOf(group);
     return isLine(group) && words.startsWith(QString(inside, u' '));
+}
+
+/// Puts the first line into the table of contents.
+void head(Group& group, int depth) {
+    if (!group.lines.empty())
+        group.lines.front().outline = depth;
 }
 
 std::size_t linesOf(const std::vector<Group>& groups, std::size_t first, std::size_t last) {
@@ -64,11 +71,17 @@ public:
     }
 
 private:
-    /// True where the group's first line is level with the top of its sketch.
-    static bool isTitleBesideSketch(const Group& group) {
-        return !group.blocks.empty() && !group.lines.empty()
-               && qAbs(group.lines.front().y - group.blocks.front().rect.top()) < level;
+    /// The line of the group that is level with the top of its sketch, the first or, below a
+    /// heading, the second; none where there is no such line.
+    static std::optional<std::size_t> titleLine(const Group& group) {
+        if (!group.blocks.empty())
+            for (std::size_t i = 0; i < qMin(fewLines, group.lines.size()); ++i)
+                if (qAbs(group.lines[i].y - group.blocks.front().rect.top()) < level)
+                    return i;
+        return {};
     }
+
+    static bool isTitleBesideSketch(const Group& group) { return titleLine(group).has_value(); }
 
     /// A line with an empty one above and one below it.
     bool isTitleAlone(std::size_t i) const {
@@ -114,8 +127,13 @@ private:
     }
 
     void takeCase(std::size_t title) {
-        const std::size_t titleLines = linesOf(groups_, next_, title) + linesOfTitle;
+        const std::size_t inGroup = titleLine(groups_[title]).value_or(0);
+        const std::size_t above = linesOf(groups_, next_, title) + inGroup;
+        const std::size_t titleLines = above + linesOfTitle;
         const bool alone = !isTitleBesideSketch(groups_[title]);
+        if (above > 0)
+            head(groups_[next_], 0);
+        groups_[title].lines[inGroup].outline = 1;
         Section section = take(endOfParagraph(alone ? title + 1 : title));
         const std::size_t count = section.groups.size();
         for (std::size_t i = 1; i < count; ++i)
@@ -129,12 +147,15 @@ private:
         const std::size_t end = endOfParagraph(next_);
         for (std::size_t i = next_ + 1; i < end; ++i)
             if (isColumnsLine(groups_[i])) {
+                head(groups_[i - 1], 0);
                 if (i - 1 > next_)
                     addDivisible(take(i - 1));
                 sections_.push_back(take(end));
                 return;
             }
         const bool summary = groups_[next_].emptyLinesAbove > 1 && end - next_ <= shortRun;
+        if (summary)
+            head(groups_[next_], 0);
         Section section = take(end);
         if (summary)
             sections_.push_back(std::move(section));
@@ -155,6 +176,8 @@ private:
     /// single line goes with what stands above it.
     void takeOfSection() {
         std::size_t end = next_ + 1;
+        if (isHeading(groups_[next_]))
+            head(groups_[next_], 0);
         if (groups_[next_].blocks.empty())
             while (end < groups_.size() && isLine(groups_[end]) && !isHeading(groups_[end])
                    && !groups_[end].startsParagraph)

@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <cmath>
+
 namespace ferna::renderer {
 
 namespace {
@@ -36,7 +38,10 @@ public:
     void drawPath(const QPainterPath& path) override {
         if (brush_.style() != Qt::NoBrush)
             keep(path, brush_.color());
-        if (pen_.style() == Qt::NoPen)
+        // The toolkit draws letters with a rim of a tenth of a pixel, which makes them bold here.
+        constexpr double thinnest = 5; // units
+        const double width = pen_.widthF() * std::sqrt(std::fabs(transform_.determinant()));
+        if (pen_.style() == Qt::NoPen || width < thinnest)
             return;
         QPainterPath stroke = QPainterPathStroker(pen_).createStroke(path);
         stroke.setFillRule(Qt::WindingFill);

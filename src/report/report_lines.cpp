@@ -103,12 +103,13 @@ void Naglowek(Raport& raport, const Stan& stan, bool norm0, const QDateTime& now
               Dialogs& dialogs) {
     Nazwa_zadania(raport, dialogs);
     auto& title = raport.Wiersze_naglowka;
+    raport.titledAt = now;
     title(1) = norm0 ? QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
                                       "PN-84/B-03264")
                      : QStringLiteral("Zakotwienie słupów stalowych wg PN-B-03215:1999 oraz "
                                       "PN-B-03264:1999");
-    title(2) = QString();
-    title(3) = QString();
+    title(2) = raport.titleLines[0];
+    title(3) = raport.titleLines[1];
     title(4) = stan.opcje.Nazwa_projektu;
     title(5) = momentText(now);
     title(6) = QStringLiteral("Strona ");

@@ -18,6 +18,8 @@ struct Raport {
     IndexedArray<QString, 5> Wiersze_strefy;   ///< neutral-axis line, by case - 1
     QString Nazwa_stopy;                       ///< label of the footing, at most 32 characters
     QString typedLabel;                        ///< the same before it was cut
+    QDateTime titledAt;                        ///< when the title block was made
+    std::array<QString, 2> titleLines;         ///< lines 2 and 3 of the title block (`titleLines`)
 };
 
 /// Asks for the label of the footing and keeps its first 32 characters; cancel gives an empty one.

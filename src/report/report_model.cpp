@@ -118,6 +118,9 @@ ReportModel reportModel(const Stan& stan, const Raport& raport) {
         model.anchor = anchorSection(stan.raport);
     model.omegaSubscript = omegaSubscript(stan);
     model.firstPage = stan.opcje.Nr_strony;
+    model.language = stan.opcje.Nr_jezyka;
+    model.norm = stan.opcje.Nr_normy;
+    model.titledAt = raport.titledAt;
     return model;
 }
 

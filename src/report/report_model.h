@@ -78,6 +78,9 @@ struct ReportModel {
 
     QChar omegaSubscript;  ///< of the lines with a ratio
     Integer firstPage = 1; ///< number of the first page
+    Integer language = 0;  ///< of the catalogue, 0..4
+    Integer norm = 0;      ///< 0 the older, 1 the newer
+    QDateTime titledAt;    ///< when the title block was made
 
     int caseCount() const { return static_cast<int>(cases.size()); }
     int anchorCount() const { return static_cast<int>(anchors.size()) - 1; }

@@ -6,6 +6,7 @@
 #include "protocol/renderer_files.h"
 #include "report/document_writer.h"
 #include "report/text_writer.h"
+#include "report/title_lines.h"
 #include "report/wyd_writer.h"
 #include "report/zone_sketch.h"
 #include "runtime/format.h"
@@ -78,6 +79,7 @@ void ResultsSession::askProjectName() {
 }
 
 void ResultsSession::retitle() {
+    raport_.titleLines = titleLines(folder_, stan_.opcje.Nr_jezyka);
     Naglowek(raport_, stan_, norm0_, now_(), dialogs_);
 }
 

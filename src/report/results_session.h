@@ -78,13 +78,14 @@ public:
     QStringList takeWritten() { return std::exchange(written_, {}); }
 
     Raport& raport() { return raport_; }
+    /// The report as it stands now. Errors of `reportModel`.
+    ReportModel model() const { return reportModel(stan_, raport_); }
 
 private:
     QString inFolder(const QString& name) const { return folder_ + u'/' + name; }
     QString askWhereToSave(const SaveQuestion& question);
     void saveSketches();
     void keep(const RtfPages& reached);
-    ReportModel model() const { return reportModel(stan_, raport_); }
     void noteWritten(const QString& path);
 
     Stan& stan_;

@@ -1,9 +1,8 @@
-#include "sheet/sections.h"
-
 #include "design/catalogue.h"
 #include "selection/anchor_catalogue.h"
 #include "selection/clauses.h"
 #include "sheet/numbers.h"
+#include "sheet/sections.h"
 #include "sheet/sketch_picture.h"
 
 namespace ferna::sheet {
@@ -46,8 +45,8 @@ public:
 
     QString designation() const {
         const QString whole = maker_.at(0, QStringLiteral("k_Lc"))->text;
-        return (hooked() ? QStringLiteral("F-") : QStringLiteral("P-")) + QString::number(d_)
-               + u'-' + QString(whole).remove(QChar(0x202F));
+        return (hooked() ? QStringLiteral("F-") : QStringLiteral("P-")) + QString::number(d_) + u'-'
+               + QString(whole).remove(QChar(0x202F));
     }
 
 private:
@@ -56,9 +55,9 @@ private:
         const Quantity* const made =
             maker_.given(0, QStringLiteral("k_") + QString::fromLatin1(name),
                          QString::fromUtf8(symbol), value, unit);
-        rows_.rows.push_back({made, nullptr,
-                              *meaning == '\0' ? QString()
-                                               : maker_.text()(QString::fromLatin1(meaning))});
+        rows_.rows.push_back(
+            {made, nullptr,
+             *meaning == '\0' ? QString() : maker_.text()(QString::fromLatin1(meaning))});
         return made;
     }
     const Quantity* computed(const char* name, const char* symbol, const Clause& clause,
@@ -108,8 +107,8 @@ private:
         } else {
             Lk = given("Lk", "L_k", row_.Lk, mm, "anchor.catalogue");
         }
-        const Quantity* const Lo = computed("Lo", "L_o", straightPartClause,
-                                            {Lk, g_number_, thread_}, "anchor.straight");
+        const Quantity* const Lo =
+            computed("Lo", "L_o", straightPartClause, {Lk, g_number_, thread_}, "anchor.straight");
         computed("Lc", "L_c", hookedAnchorLengthClause, {Lo, Lh}, "anchor.whole");
     }
 
@@ -119,18 +118,18 @@ private:
         const Quantity* const factor =
             given("omega", "ω", stan_.materialy.Wsp_dlugosci, {}, "anchor.omega");
         // The nearest whole number.
-        const Quantity* const Lp = computed(
-            "Lp", "L_p",
-            functionOf(QStringLiteral("floor"),
-                       {sumOf({formulaOf(anchorageOfBaseClause, std::vector{factor, base}),
-                               number(QStringLiteral("0.5"))})}),
-            "anchor.anchorage");
+        const Quantity* const Lp =
+            computed("Lp", "L_p",
+                     functionOf(QStringLiteral("floor"),
+                                {sumOf({formulaOf(anchorageOfBaseClause, std::vector{factor, base}),
+                                        number(QStringLiteral("0.5"))})}),
+                     "anchor.anchorage");
         given("a", "a", row_.a, mm, "anchor.plateSide");
         const Quantity* const t = given("t", "t", row_.t, mm, "anchor.plateThickness");
         if (d_ >= leastWithRib)
             given("L1", "L_1", row_.L1, mm, "anchor.rib");
-        const Quantity* const Lo = computed("Lo", "L_o", straightPartClause,
-                                            {Lp, g_number_, thread_}, "anchor.straight");
+        const Quantity* const Lo =
+            computed("Lo", "L_o", straightPartClause, {Lp, g_number_, thread_}, "anchor.straight");
         computed("Lc", "L_c",
                  d_ >= leastWithRib ? ribbedAnchorLengthClause : plateAnchorLengthClause, {Lo, t},
                  "anchor.whole");
@@ -161,15 +160,18 @@ void addAnchor(Maker& maker) {
     }
     Chosen chosen(maker, *g);
     Equations rows = chosen.all();
-    maker.say(chosen.hooked() ? QStringLiteral("anchor.hooked") : QStringLiteral("anchor.plated"),
-              {chosen.designation()});
+    maker.add(Paragraph{maker.text()(chosen.hooked() ? QStringLiteral("anchor.hooked")
+                                                     : QStringLiteral("anchor.plated"),
+                                     {chosen.designation()}),
+                        Tone::Plain, true});
     auto beside = std::make_shared<Beside>();
-    beside->leftShare = 0.26;
+    beside->leftShare = 0.4;
+    constexpr double width = 66; // mm
     static constexpr std::array<const char*, 3> sketches{"rys3f", "rys2pm", "rys2pd"};
-    beside->left.push_back(sketchPicture(
-        QString::fromLatin1(sketches.at(
-            static_cast<std::size_t>(std::clamp<int>(stan.raport.Typ_szkicu_kotwy, 1, 3) - 1))),
-        42));
+    beside->left.push_back(
+        sketchPicture(QString::fromLatin1(sketches.at(static_cast<std::size_t>(
+                          std::clamp<int>(stan.raport.Typ_szkicu_kotwy, 1, 3) - 1))),
+                      width));
     beside->right.push_back(std::move(rows));
     maker.add(std::shared_ptr<const Beside>(beside));
 }

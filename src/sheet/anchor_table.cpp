@@ -1,7 +1,6 @@
-#include "sheet/sections.h"
-
 #include "sheet/descriptions.h"
 #include "sheet/numbers.h"
+#include "sheet/sections.h"
 
 namespace ferna::sheet {
 
@@ -61,9 +60,8 @@ std::vector<Row> headOf(const Maker& maker, const std::vector<Side>& sides) {
     for (const Side side : sides) {
         const bool exact = side == Side::Exact;
         const QString star = exact ? QStringLiteral("*") : QString();
-        over.push_back(headCell(maker.text()(exact ? QStringLiteral("side.exact")
-                                                   : QStringLiteral("side.search")),
-                                3));
+        over.push_back(headCell(
+            maker.text()(exact ? QStringLiteral("side.exact") : QStringLiteral("side.search")), 3));
         symbols.push_back(headCell(QStringLiteral("<i>σ%1<sub>i</sub></i> [MPa]").arg(star)));
         symbols.push_back(headCell(QStringLiteral("<i>F%1<sub>i</sub></i> [kN]").arg(star)));
         symbols.push_back(
@@ -92,6 +90,27 @@ Table anchorTable(Maker& maker, const CaseSheet& one) {
         }
         table.rows.push_back(std::move(row));
     }
+    return table;
+}
+
+Table inTwoColumns(Table table) {
+    const std::size_t columns = table.columns.size();
+    const std::size_t half = (table.rows.size() + 1) / 2;
+    const auto beside = [](Row& left, const Row& right) {
+        left.push_back(cell(Rich()));
+        left.insert(left.end(), right.begin(), right.end());
+    };
+    table.columns.push_back({Column::Align::Left, 0.2});
+    for (std::size_t i = 0; i < columns; ++i)
+        table.columns.push_back(table.columns[i]);
+    for (Row& row : table.head)
+        beside(row, Row(row));
+    std::vector<Row> rows(table.rows.begin(),
+                          table.rows.begin() + static_cast<std::ptrdiff_t>(half));
+    for (std::size_t i = 0; i < half; ++i)
+        beside(rows[i],
+               half + i < table.rows.size() ? table.rows[half + i] : Row(columns, cell(Rich())));
+    table.rows = std::move(rows);
     return table;
 }
 

@@ -1,6 +1,5 @@
-#include "sheet/sections.h"
-
 #include "sheet/descriptions.h"
+#include "sheet/sections.h"
 
 namespace ferna::sheet {
 
@@ -72,12 +71,11 @@ private:
     const Quantity* coordinate(char axis, bool high) {
         const QString id =
             sided(QString(QLatin1Char(axis)) + QString::number(vertices_.size() + 1), side_);
-        return maker_.computed(c_, QStringLiteral("v") + id,
-                               symbolOf(QString(QLatin1Char(axis)),
-                                        QString::number(vertices_.size() + 1), side_),
-                               high ? halfClause : minusHalfClause,
-                               {maker_.at(0, axis == 'x' ? QStringLiteral("L") : QStringLiteral("B"))},
-                               places(1));
+        return maker_.computed(
+            c_, QStringLiteral("v") + id,
+            symbolOf(QString(QLatin1Char(axis)), QString::number(vertices_.size() + 1), side_),
+            high ? halfClause : minusHalfClause,
+            {maker_.at(0, axis == 'x' ? QStringLiteral("L") : QStringLiteral("B"))}, places(1));
     }
 
     /// Where the line meets the edge on which the other coordinate is that of `on`.
@@ -87,8 +85,8 @@ private:
         return maker_.computed(
             c_, QStringLiteral("v") + id,
             symbolOf(QString(QLatin1Char(axis)), QString::number(vertices_.size() + 1), side_),
-            crossingClause,
-            axis == 'x' ? Numbers{s0_, sx_, sy_, on} : Numbers{s0_, sy_, sx_, on}, places(1));
+            crossingClause, axis == 'x' ? Numbers{s0_, sx_, sy_, on} : Numbers{s0_, sy_, sx_, on},
+            places(1));
     }
 
     void addCorner(const Corner& corner) {
@@ -122,8 +120,8 @@ private:
                 maker_.computed(c_, name("tA", i), symbol("A", i), triangleAreaClause,
                                 {p.x, p.y, q.x, q.y, r.x, r.y}, places(0));
             const Numbers stresses{area, p.s, q.s, r.s};
-            const Quantity* const force = maker_.computed(
-                c_, name("tC", i), symbol("C", i), triangleForceClause, stresses, places(2));
+            const Quantity* const force = maker_.computed(c_, name("tC", i), symbol("C", i),
+                                                          triangleForceClause, stresses, places(2));
             const auto moment = [&](const char* id, const char* base, const Quantity* x1,
                                     const Quantity* x2, const Quantity* x3) {
                 Numbers inputs = stresses;
@@ -188,17 +186,18 @@ Table trianglesTable(const Maker& maker, const std::vector<std::pair<Side, Zone>
     Table table;
     table.caption = maker.text()(QStringLiteral("triangles.caption"));
     table.columns.assign(5, Column{});
-    table.columns.front() = {Column::Align::Left, 1.5};
+    table.columns.front() = {Column::Align::Left, 0.9};
     table.head = {{headCell(maker.text()(QStringLiteral("triangles.which"))),
-                   headCell(QStringLiteral("<i>A</i> [mm²]")), headCell(QStringLiteral("<i>C</i> [kN]")),
+                   headCell(QStringLiteral("<i>A</i> [mm²]")),
+                   headCell(QStringLiteral("<i>C</i> [kN]")),
                    headCell(QStringLiteral("<i>C·x</i> [kNm]")),
                    headCell(QStringLiteral("<i>C·y</i> [kNm]"))}};
     for (const auto& [side, zone] : zones) {
+        table.rows.push_back({headCell(sideName(maker, side), 5)});
         int k = 2;
         for (const Carried& one : zone.triangles()) {
-            table.rows.push_back(
-                {cell(QStringLiteral("%1: 1-%2-%3").arg(sideName(maker, side)).arg(k).arg(k + 1)),
-                 cell(one.area), cell(one.force), cell(one.M1), cell(one.M2)});
+            table.rows.push_back({cell(QStringLiteral("1-%1-%2").arg(k).arg(k + 1)), cell(one.area),
+                                  cell(one.force), cell(one.M1), cell(one.M2)});
             ++k;
         }
     }
@@ -213,9 +212,9 @@ public:
 
     std::vector<Row> rows() {
         std::array<Row, 6> made;
-        static constexpr std::array<const char*, 6> names{
-            "balance.concrete", "balance.anchors", "balance.sum",
-            "balance.load",     "balance.off",     "balance.share"};
+        static constexpr std::array<const char*, 6> names{"balance.concrete", "balance.anchors",
+                                                          "balance.sum",      "balance.load",
+                                                          "balance.off",      "balance.share"};
         for (std::size_t i = 0; i < made.size(); ++i)
             made[i].push_back(cell(maker_.text()(QString::fromLatin1(names[i]))));
         for (const Axis& axis : axes)
@@ -229,10 +228,10 @@ public:
 
 private:
     struct Axis {
-        const char* load;     // "N"
-        const char* symbol;   // "N"
-        const char* place;    // of an anchor, empty for the force itself
-        const char* size;     // of the plate along it
+        const char* load;   // "N"
+        const char* symbol; // "N"
+        const char* place;  // of an anchor, empty for the force itself
+        const char* size;   // of the plate along it
         const char* unit;
         const Quantity* Carried::*carried;
     };
@@ -247,11 +246,10 @@ private:
     const Quantity* sum(const char* what, const char* index, const Axis& axis,
                         const Numbers& numbers) {
         const QString symbol = QString::fromLatin1(axis.symbol);
-        return maker_.computed(c_, name(what, axis),
-                               symbol + (symbol.contains(u'_') ? u',' : u'_')
-                                   + QString::fromLatin1(index),
-                               QString::fromLatin1(axis.unit), sumOf(references(numbers)),
-                               places(2));
+        return maker_.computed(
+            c_, name(what, axis),
+            symbol + (symbol.contains(u'_') ? u',' : u'_') + QString::fromLatin1(index),
+            QString::fromLatin1(axis.unit), sumOf(references(numbers)), places(2));
     }
 
     Numbers anchorShares(const Axis& axis) {
@@ -264,11 +262,10 @@ private:
             shares.push_back(
                 *axis.place == '\0'
                     ? F
-                    : maker_.computed(c_, sided(QLatin1String(axis.load) + QStringLiteral("_") + number, side_),
-                                      QString::fromLatin1(axis.symbol) + u',' + number,
-                                      anchorMomentClause,
-                                      {F, maker_.at(0, QLatin1String(axis.place) + number)},
-                                      places(2)));
+                    : maker_.computed(
+                        c_, sided(QLatin1String(axis.load) + QStringLiteral("_") + number, side_),
+                        QString::fromLatin1(axis.symbol) + u',' + number, anchorMomentClause,
+                        {F, maker_.at(0, QLatin1String(axis.place) + number)}, places(2)));
         }
         return shares;
     }
@@ -297,13 +294,12 @@ private:
     Cell share(const Axis& axis, const Quantity* off) {
         const Quantity* size = maker_.find(c_, QStringLiteral("R_load"));
         if (size == nullptr)
-            size = maker_.computed(c_, QStringLiteral("R_load"), QStringLiteral("R"), loadSizeClause,
-                                   {maker_.at(c_, QStringLiteral("N")),
-                                    maker_.at(c_, QStringLiteral("M1")),
-                                    maker_.at(c_, QStringLiteral("M2")),
-                                    maker_.at(0, QStringLiteral("L")),
-                                    maker_.at(0, QStringLiteral("B"))},
-                                   places(2));
+            size = maker_.computed(
+                c_, QStringLiteral("R_load"), QStringLiteral("R"), loadSizeClause,
+                {maker_.at(c_, QStringLiteral("N")), maker_.at(c_, QStringLiteral("M1")),
+                 maker_.at(c_, QStringLiteral("M2")), maker_.at(0, QStringLiteral("L")),
+                 maker_.at(0, QStringLiteral("B"))},
+                places(2));
         if (size->value == 0)
             return cell(QStringLiteral("–"));
         const bool force = *axis.place == '\0';

@@ -1,7 +1,6 @@
+#include "sheet/numbers.h"
 #include "sheet/plate_picture.h"
 #include "sheet/sections.h"
-
-#include "sheet/numbers.h"
 
 namespace ferna::sheet {
 
@@ -28,8 +27,8 @@ QString outcomeKey(const Maker& maker, const CaseSheet& one) {
 }
 
 void tellOutcome(Maker& maker, const CaseSheet& one) {
-    maker.say(outcomeKey(maker, one), {},
-              one.told != nullptr ? Tone::Plain : Tone::Warning);
+    maker.add(Paragraph{maker.text()(outcomeKey(maker, one)),
+                        one.told != nullptr ? Tone::Plain : Tone::Warning, true});
     if (!one.readable)
         maker.say(QStringLiteral("case.unreadable"), {}, Tone::Warning);
     else if (!maker.hasBase)
@@ -38,29 +37,41 @@ void tellOutcome(Maker& maker, const CaseSheet& one) {
         maker.say(QStringLiteral("case.tips"), {}, Tone::Warning);
 }
 
+constexpr std::size_t mostBeside = 8; // anchors whose table finds room below the picture
+
 void addPressure(Maker& maker, const CaseSheet& one) {
-    auto beside = std::make_shared<Beside>();
-    beside->leftShare = 0.47;
     Equations kern = kernEquations(maker, one);
     Table plane = planeTable(maker, one);
+    const bool loaded = hasPlane(one, Side::Search) || hasPlane(one, Side::Exact);
+    auto beside = std::make_shared<Beside>();
+    beside->leftShare = 0.45;
     beside->left.push_back(pressurePicture(maker, one));
+    std::optional<Table> anchors;
+    if (loaded && !maker.anchors.empty())
+        anchors = anchorTable(maker, one);
+    if (anchors && maker.anchors.size() <= mostBeside) {
+        beside->left.push_back(std::move(*anchors));
+        anchors.reset();
+    }
     if (!kern.rows.empty())
         beside->right.push_back(std::move(kern));
     maker.add(std::shared_ptr<const Beside>(beside));
+    if (anchors)
+        maker.add(inTwoColumns(std::move(*anchors)));
     if (!plane.rows.empty())
         maker.add(std::move(plane));
 }
 
-void addAnchorsAndBalance(Maker& maker, const CaseSheet& one) {
-    if (!hasPlane(one, Side::Search) && !hasPlane(one, Side::Exact))
-        return;
-    Table anchors = anchorTable(maker, one);
+void addBalance(Maker& maker, const CaseSheet& one) {
     Blocks balance = balanceTables(maker, one);
+    if (balance.empty())
+        return;
     auto beside = std::make_shared<Beside>();
     beside->leftShare = 0.5;
-    beside->left.push_back(std::move(anchors));
+    beside->right.push_back(std::move(balance.back()));
+    balance.pop_back();
+    beside->left = std::move(balance);
     beside->left.push_back(Paragraph{maker.text()(QStringLiteral("balance.how")), Tone::Small});
-    beside->right = std::move(balance);
     maker.add(std::shared_ptr<const Beside>(beside));
 }
 
@@ -73,7 +84,7 @@ void addCase(Maker& maker, const CaseSheet& one) {
     if (!one.readable || !maker.hasBase)
         return;
     addPressure(maker, one);
-    addAnchorsAndBalance(maker, one);
+    addBalance(maker, one);
     if (maker.limits && (one.told != nullptr || one.exact != nullptr)) {
         maker.heading(3, text(QStringLiteral("check.heading")));
         maker.add(checkEquations(maker, one));

@@ -1,7 +1,6 @@
-#include "sheet/sections.h"
-
 #include "sheet/descriptions.h"
 #include "sheet/numbers.h"
+#include "sheet/sections.h"
 
 namespace ferna::sheet {
 
@@ -59,10 +58,11 @@ private:
                     concreteRatio(CSng(one_.told->sigmaConcrete), CSng(maker_.limits->Rb)), 3);
             return make("omega", "ω", "", side, concreteRatioClause, {stress, shared("Rb")}, shown);
         });
-        add([&](Side side) {
-            return make("u_b", "η", "b", side, doubleShareClause,
-                        {of("sigma_b", side), shared("Rb")}, places(3));
-        },
+        add(
+            [&](Side side) {
+                return make("u_b", "η", "b", side, doubleShareClause,
+                            {of("sigma_b", side), shared("Rb")}, places(3));
+            },
             concreteRemark());
     }
 
@@ -103,28 +103,27 @@ private:
     void addTension() {
         add([&](Side side) { return largestTension(side); },
             maker_.text()(QStringLiteral("check.tension")));
-        add([&](Side side) {
-            return make("u_t", "η", "t", side, shareClause, {of("sigma_t", side), shared("fd")},
-                        places(3));
-        },
+        add(
+            [&](Side side) {
+                return make("u_t", "η", "t", side, shareClause, {of("sigma_t", side), shared("fd")},
+                            places(3));
+            },
             verdict("u_t", 1));
     }
 
     Rich verdict(const char* id, double limit) const {
         bool kept = true;
         for (const Side side : sides_)
-            if (const Quantity* const use =
-                    maker_.find(c_, sided(QString::fromLatin1(id), side)))
+            if (const Quantity* const use = maker_.find(c_, sided(QString::fromLatin1(id), side)))
                 kept = kept && !(use->value > limit);
         return maker_.text()(kept ? QStringLiteral("check.kept") : QStringLiteral("check.not"));
     }
 
     void addShear() {
         constexpr double none = 0.01; // kN
-        const Quantity* const V =
-            maker_.computed(c_, QStringLiteral("V"), QStringLiteral("V"), horizontalForceClause,
-                            {maker_.at(c_, QStringLiteral("Vx")), maker_.at(c_, QStringLiteral("Vy"))},
-                            places(2));
+        const Quantity* const V = maker_.computed(
+            c_, QStringLiteral("V"), QStringLiteral("V"), horizontalForceClause,
+            {maker_.at(c_, QStringLiteral("Vx")), maker_.at(c_, QStringLiteral("Vy"))}, places(2));
         if (!(V->value > none)) {
             addOnce(V, maker_.text()(QStringLiteral("check.noShear")));
             return;
@@ -182,9 +181,10 @@ private:
             return maker_.find(c_, sided(QStringLiteral("A_V"), side)) != nullptr;
         };
         add([&](Side side) {
-            return made(side) ? make("tau", "τ", "", side, anchorShearClause,
-                                     {maker_.at(c_, QStringLiteral("V")), of("A_V", side)}, places(2))
-                              : nullptr;
+            return made(side)
+                       ? make("tau", "τ", "", side, anchorShearClause,
+                              {maker_.at(c_, QStringLiteral("V")), of("A_V", side)}, places(2))
+                       : nullptr;
         });
         if (maker_.limits->tensionSideAlone) {
             add([&](Side side) {

@@ -1,7 +1,6 @@
+#include "design/material_tables.h"
 #include "sheet/plate_picture.h"
 #include "sheet/sections.h"
-
-#include "design/material_tables.h"
 
 namespace ferna::sheet {
 
@@ -25,14 +24,13 @@ void makePlate(Maker& maker) {
 
 /// A length along an edge of the plate: how far an anchor's axis is from the nearest one.
 const Quantity* edgeDistance(Maker& maker, const QString& i, const Quantity* x, const Quantity* y) {
-    static constexpr Clause clause{
-        {},
-        {u"c", u"mm"},
-        u"min({L} / 2 - abs({x}), {B} / 2 - abs({y}))",
-        {{{u"L", u"mm"}, {u"B", u"mm"}, {u"x", u"mm"}, {u"y", u"mm"}}}};
-    return maker.computed(0, QStringLiteral("c_") + i, QStringLiteral("c_") + i, clause,
-                          {maker.at(0, QStringLiteral("L")), maker.at(0, QStringLiteral("B")), x, y},
-                          digits(6));
+    static constexpr Clause clause{{},
+                                   {u"c", u"mm"},
+                                   u"min({L} / 2 - abs({x}), {B} / 2 - abs({y}))",
+                                   {{{u"L", u"mm"}, {u"B", u"mm"}, {u"x", u"mm"}, {u"y", u"mm"}}}};
+    return maker.computed(
+        0, QStringLiteral("c_") + i, QStringLiteral("c_") + i, clause,
+        {maker.at(0, QStringLiteral("L")), maker.at(0, QStringLiteral("B")), x, y}, digits(6));
 }
 
 Row anchorRow(Maker& maker, int anchor) {
@@ -43,15 +41,12 @@ Row anchorRow(Maker& maker, int anchor) {
         const double whole = std::nearbyint(tenths);
         return static_cast<Single>(whole / 10.0) == cm ? whole : tenths;
     };
-    const Quantity* const x =
-        maker.given(0, QStringLiteral("x_") + i, QStringLiteral("x_") + i,
-                    place(plate.X_kotwy(anchor)), mm);
-    const Quantity* const y =
-        maker.given(0, QStringLiteral("y_") + i, QStringLiteral("y_") + i,
-                    place(plate.Y_kotwy(anchor)), mm);
-    const Quantity* const d =
-        maker.given(0, QStringLiteral("d_") + i, QStringLiteral("d_") + i,
-                    plate.Fi_kotwy(anchor), mm);
+    const Quantity* const x = maker.given(0, QStringLiteral("x_") + i, QStringLiteral("x_") + i,
+                                          place(plate.X_kotwy(anchor)), mm);
+    const Quantity* const y = maker.given(0, QStringLiteral("y_") + i, QStringLiteral("y_") + i,
+                                          place(plate.Y_kotwy(anchor)), mm);
+    const Quantity* const d = maker.given(0, QStringLiteral("d_") + i, QStringLiteral("d_") + i,
+                                          plate.Fi_kotwy(anchor), mm);
     Row row{cell(i), cell(x), cell(y), cell(d), cell(edgeDistance(maker, i, x, y))};
     if (const auto area = coreArea(plate.Fi_kotwy(anchor)))
         row.push_back(cell(maker.given(0, QStringLiteral("A_") + i, QStringLiteral("A_") + i, *area,
@@ -66,7 +61,8 @@ Table anchorsTable(Maker& maker) {
     table.caption = maker.text()(QStringLiteral("data.anchors"));
     table.columns.assign(6, Column{});
     table.columns.front().width = 0.6;
-    table.head = {{headCell(QStringLiteral("i")), headCell(QStringLiteral("<i>x<sub>i</sub></i> [mm]")),
+    table.head = {{headCell(QStringLiteral("i")),
+                   headCell(QStringLiteral("<i>x<sub>i</sub></i> [mm]")),
                    headCell(QStringLiteral("<i>y<sub>i</sub></i> [mm]")),
                    headCell(QStringLiteral("<i>d<sub>i</sub></i> [mm]")),
                    headCell(QStringLiteral("<i>c<sub>i</sub></i> [mm]")),
@@ -117,10 +113,9 @@ void addData(Maker& maker) {
     auto beside = std::make_shared<Beside>();
     beside->leftShare = 0.52;
     beside->left.push_back(platePicture(maker));
-    beside->right.push_back(Equations{{{maker.at(0, QStringLiteral("L")), nullptr,
-                                        text(QStringLiteral("data.length"))},
-                                       {maker.at(0, QStringLiteral("B")), nullptr,
-                                        text(QStringLiteral("data.width"))}}});
+    beside->right.push_back(Equations{
+        {{maker.at(0, QStringLiteral("L")), nullptr, text(QStringLiteral("data.length"))},
+         {maker.at(0, QStringLiteral("B")), nullptr, text(QStringLiteral("data.width"))}}});
     beside->right.push_back(anchorsTable(maker));
     maker.add(std::shared_ptr<const Beside>(beside));
     maker.add(loadsTable(maker));

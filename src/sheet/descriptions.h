@@ -28,11 +28,7 @@ inline constexpr Clause largestPressureClause{
     {.standard = standard::columnBases},
     {u"σb", u"MPa"},
     u"max(0, {s0} + abs({sx}) · {L} / 2 + abs({sy}) · {B} / 2)",
-    {{{u"s0", u"MPa"},
-      {u"sx", u"MPa/mm"},
-      {u"sy", u"MPa/mm"},
-      {u"L", u"mm"},
-      {u"B", u"mm"}}}};
+    {{{u"s0", u"MPa"}, {u"sx", u"MPa/mm"}, {u"sy", u"MPa/mm"}, {u"L", u"mm"}, {u"B", u"mm"}}}};
 
 /// Stress of an anchor at (x, y), n times what the plane has there, and only in tension.
 inline constexpr Clause anchorOfPlaneClause{{.standard = standard::columnBases},
@@ -141,10 +137,9 @@ inline constexpr Clause loadSizeClause{
     {{{u"N", u"kN"}, {u"M1", u"kNm"}, {u"M2", u"kNm"}, {u"L", u"mm"}, {u"B", u"mm"}}}};
 inline constexpr Clause forceErrorClause{
     {}, {u"δ", u"%"}, u"100 · {Δ} / {R}", {{{u"Δ", u"kN"}, {u"R", u"kN"}}}};
-inline constexpr Clause momentErrorClause{
-    {},
-    {u"δ", u"%"},
-    u"200000 · {Δ} / ({L} · {R})",
-    {{{u"Δ", u"kNm"}, {u"L", u"mm"}, {u"R", u"kN"}}}};
+inline constexpr Clause momentErrorClause{{},
+                                          {u"δ", u"%"},
+                                          u"200000 · {Δ} / ({L} · {R})",
+                                          {{{u"Δ", u"kNm"}, {u"L", u"mm"}, {u"R", u"kN"}}}};
 
 } // namespace ferna::sheet

@@ -42,6 +42,7 @@ void addHead(Maker& maker) {
     const SheetInput& input = maker.input();
     Sheet& sheet = maker.sheet();
     sheet.language = text.language();
+    sheet.program = input.program;
     sheet.title = text(QStringLiteral("head.title"));
     sheet.pageOf = text(QStringLiteral("page"));
     sheet.search = text(QStringLiteral("side.search"));
@@ -52,9 +53,9 @@ void addHead(Maker& maker) {
     sheet.made = rich(input.program + QStringLiteral(" · ")
                       + input.now.toString(QStringLiteral("yyyy-MM-dd HH:mm")));
     maker.add(subjectTable(maker));
-    maker.add(SignatureFields{{text(QStringLiteral("head.author")),
-                               text(QStringLiteral("head.checker")),
-                               text(QStringLiteral("head.signature"))}});
+    maker.add(
+        SignatureFields{{text(QStringLiteral("head.author")), text(QStringLiteral("head.checker")),
+                         text(QStringLiteral("head.signature"))}});
     if (!input.hasResults)
         tellThatTheSearchFailed(maker);
     maker.say(QStringLiteral("head.reading"), {}, Tone::Small);

@@ -24,32 +24,38 @@ QString attribute(const char* name, const QString& value) {
 }
 
 QByteArray pngOf(const Picture& picture) {
-    constexpr double dotsPerMm = 12; // some 300 dpi
-    QImage image((QSizeF(picture.width, picture.height) * dotsPerMm).toSize(),
-                 QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(dotsPerMm, dotsPerMm);
-    (*picture.painting)(painter);
-    painter.end();
     QByteArray bytes;
     QBuffer buffer(&bytes);
-    image.save(&buffer, "PNG");
+    imageOf(picture).save(&buffer, "PNG");
     return bytes;
 }
 
 class HtmlWriter {
 public:
-    explicit HtmlWriter(const Sheet& sheet) : sheet_(sheet) {}
+    HtmlWriter(const Sheet& sheet, HtmlPictures pictures) : sheet_(sheet), pictures_(pictures) {}
+
+    /// For a rich text of the toolkit.
+    HtmlWriter(const Sheet& sheet, std::vector<const Picture*>& taken)
+        : sheet_(sheet), pictures_(HtmlPictures::Inside), taken_(&taken) {}
+
+    QString flat() {
+        html_ =
+            QStringLiteral(
+                "<html><body style=\"font-family:'Liberation Sans'; font-size:9pt\"><h1>%1</h1>")
+                .arg(sheet_.title);
+        write(sheet_.blocks);
+        html_ += QStringLiteral("<p>%1</p></body></html>").arg(sheet_.made);
+        return html_;
+    }
 
     QByteArray all() {
         QFile style(QStringLiteral(":/arkusz/styl.css"));
         const QString css =
             style.open(QIODevice::ReadOnly) ? QString::fromUtf8(style.readAll()) : QString();
-        html_ = QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n<meta charset=\"utf-8\">"
-                               "\n<title>%2</title>\n<style>\n%3</style>\n</head>\n<body>\n")
-                    .arg(sheet_.language, sheet_.title, css);
+        html_ =
+            QStringLiteral("<!DOCTYPE html>\n<html lang=\"%1\">\n<head>\n<meta charset=\"utf-8\">"
+                           "\n<title>%2</title>\n<style>\n%3</style>\n</head>\n<body>\n")
+                .arg(sheet_.language, sheet_.title, css);
         html_ += QStringLiteral("<h1>%1</h1>\n").arg(sheet_.title);
         write(sheet_.blocks);
         writeUnseen();
@@ -75,7 +81,21 @@ private:
                           paragraph.text);
     }
 
+    void write(const Values& values) {
+        QStringList parts;
+        for (const Quantity* const number : values.numbers)
+            parts += richSymbol(number->symbol) + QStringLiteral(" = ") + withUnit(*number);
+        if (!parts.isEmpty())
+            html_ += QStringLiteral("<p>%1</p>\n").arg(parts.join(QStringLiteral(",&emsp;")));
+    }
+
     void write(const SignatureFields& fields) {
+        if (taken_ != nullptr) {
+            for (const QString& name : fields.names)
+                html_ += QStringLiteral("<p>%1: ........................................</p>")
+                             .arg(rich(name));
+            return;
+        }
         html_ += QStringLiteral("<div class=\"sign\">");
         for (const QString& name : fields.names)
             html_ += QStringLiteral("<div>%1</div>").arg(rich(name));
@@ -83,14 +103,29 @@ private:
     }
 
     void write(const Picture& picture) {
-        if (!picture.painting)
+        if (!picture.painting || pictures_ == HtmlPictures::LeftOut)
             return;
-        html_ += QStringLiteral("<img alt=\"\" style=\"width:%1mm\" src=\"data:image/png;base64,%2\">\n")
-                     .arg(picture.width)
-                     .arg(QString::fromLatin1(pngOf(picture).toBase64()));
+        if (taken_ != nullptr) {
+            constexpr double dotsPerMm = 96 / 25.4; // of a rich text
+            html_ += QStringLiteral("<p><img src=\"%1\" width=\"%2\" height=\"%3\"></p>")
+                         .arg(taken_->size())
+                         .arg(picture.width * dotsPerMm)
+                         .arg(picture.height * dotsPerMm);
+            taken_->push_back(&picture);
+            return;
+        }
+        html_ +=
+            QStringLiteral("<img alt=\"\" style=\"width:%1mm\" src=\"data:image/png;base64,%2\">\n")
+                .arg(picture.width)
+                .arg(QString::fromLatin1(pngOf(picture).toBase64()));
     }
 
     void write(const std::shared_ptr<const Beside>& beside) {
+        if (taken_ != nullptr) {
+            write(beside->left);
+            write(beside->right);
+            return;
+        }
         const int share = static_cast<int>(100 * beside->leftShare);
         html_ += QStringLiteral("<div class=\"beside\">\n<div style=\"flex:%1\">\n").arg(share);
         write(beside->left);
@@ -100,8 +135,11 @@ private:
     }
 
     void write(const Equations& equations) {
-        html_ += QStringLiteral("<table class=\"equations\">\n");
-        if (equations.twoResults)
+        html_ += tableTag("equations");
+        if (equations.twoResults && taken_ != nullptr)
+            html_ += QStringLiteral("<tr><td></td><td></td><td>%1</td><td>%2</td><td></td></tr>\n")
+                         .arg(sheet_.search, sheet_.exact);
+        else if (equations.twoResults)
             html_ += QStringLiteral("<thead><tr><th></th><th></th><th>%1</th><th>%2</th><th></th>"
                                     "<th></th></tr></thead>\n")
                          .arg(sheet_.search, sheet_.exact);
@@ -116,11 +154,17 @@ private:
             return;
         QString way;
         if (told->formula && isWorthPrinting(*told->formula))
-            way = QStringLiteral("= %1 = %2").arg(htmlFormula(*told->formula, Show::Symbols),
-                                                  htmlFormula(*told->formula, Show::Values));
-        html_ += QStringLiteral("<tr><td>%1</td><td class=\"way\">%2</td><td class=\"result\">%3</td>")
-                     .arg(richSymbol(told->symbol), way,
-                          row.result != nullptr ? withUnit(*row.result) : QString());
+            way = QStringLiteral("= %1 = %2")
+                      .arg(formula(*told->formula, Show::Symbols),
+                           formula(*told->formula, Show::Values));
+        if (taken_ != nullptr) {
+            writeFlatRow(row, *told, way, twoResults);
+            return;
+        }
+        html_ +=
+            QStringLiteral("<tr><td>%1</td><td class=\"way\">%2</td><td class=\"result\">%3</td>")
+                .arg(richSymbol(told->symbol), way,
+                     row.result != nullptr ? withUnit(*row.result) : QString());
         if (twoResults)
             html_ += QStringLiteral("<td class=\"result\">%1</td>")
                          .arg(row.exact != nullptr ? withUnit(*row.exact) : QString());
@@ -128,9 +172,33 @@ private:
                      .arg(row.remark, rich(told->source));
     }
 
+    /// With the widths that a rich text would not find by itself.
+    void writeFlatRow(const Equation& row, const Quantity& told, const QString& way,
+                      bool twoResults) {
+        const auto add = [&](int share, const QString& text) {
+            html_ += QStringLiteral("<td width=\"%1%\">%2</td>").arg(share).arg(text);
+        };
+        const auto result = [&](const Quantity* number) {
+            add(15,
+                number != nullptr ? QStringLiteral("<b>%1</b>").arg(withUnit(*number)) : QString());
+        };
+        html_ += QStringLiteral("<tr>");
+        add(9, richSymbol(told.symbol));
+        add(twoResults ? 33 : 40, way);
+        result(row.result);
+        if (twoResults)
+            result(row.exact);
+        add(twoResults ? 28 : 36,
+            told.source.isEmpty() ? row.remark
+                                  : row.remark + QStringLiteral(" [%1]").arg(rich(told.source)));
+        html_ += QStringLiteral("</tr>\n");
+    }
+
     void write(const Table& table) {
-        html_ += QStringLiteral("<table>\n");
-        if (!table.caption.isEmpty())
+        if (taken_ != nullptr && !table.caption.isEmpty())
+            html_ += QStringLiteral("<p><b>%1</b></p>").arg(table.caption);
+        html_ += tableTag("");
+        if (taken_ == nullptr && !table.caption.isEmpty())
             html_ += QStringLiteral("<caption>%1</caption>\n").arg(table.caption);
         if (!table.head.empty()) {
             html_ += QStringLiteral("<thead>\n");
@@ -148,8 +216,8 @@ private:
         std::size_t column = 0;
         for (const Cell& cell : row) {
             static constexpr std::array<const char*, 3> aligns{"left", "right", "center"};
-            const Column::Align align = cell.span > 1 ? Column::Align::Centre
-                                                      : table.columns.at(column).align;
+            const Column::Align align =
+                cell.span > 1 ? Column::Align::Centre : table.columns.at(column).align;
             const QString name = QString::fromLatin1(element);
             html_ += QStringLiteral("<%1 style=\"text-align:%2\"%3>%4</%1>")
                          .arg(name, QLatin1String(aligns.at(static_cast<std::size_t>(align))),
@@ -159,6 +227,16 @@ private:
             column += static_cast<std::size_t>(cell.span);
         }
         html_ += QStringLiteral("</tr>\n");
+    }
+
+    QString formula(const Expression& expression, Show show) const {
+        return taken_ != nullptr ? lineFormula(expression, show) : htmlFormula(expression, show);
+    }
+
+    QString tableTag(const char* name) const {
+        if (taken_ == nullptr)
+            return QStringLiteral("<table class=\"%1\">\n").arg(QLatin1String(name));
+        return QStringLiteral("<table width=\"100%\" cellspacing=\"0\" cellpadding=\"2\">\n");
     }
 
     QString contents(const Cell& cell) {
@@ -200,14 +278,32 @@ private:
     }
 
     const Sheet& sheet_;
+    HtmlPictures pictures_;
+    std::vector<const Picture*>* taken_ = nullptr; ///< for a rich text: where its pictures go
     QString html_;
     std::set<const Quantity*> written_;
 };
 
 } // namespace
 
-QByteArray htmlOf(const Sheet& sheet) {
-    return HtmlWriter(sheet).all();
+QString flatHtmlOf(const Sheet& sheet, std::vector<const Picture*>& pictures) {
+    return HtmlWriter(sheet, pictures).flat();
+}
+
+QImage imageOf(const Picture& picture) {
+    constexpr double dotsPerMm = 12;
+    QImage image((QSizeF(picture.width, picture.height) * dotsPerMm).toSize(),
+                 QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(dotsPerMm, dotsPerMm);
+    (*picture.painting)(painter);
+    return image;
+}
+
+QByteArray htmlOf(const Sheet& sheet, HtmlPictures pictures) {
+    return HtmlWriter(sheet, pictures).all();
 }
 
 } // namespace ferna::sheet

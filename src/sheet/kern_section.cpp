@@ -1,8 +1,7 @@
-#include "sheet/sections.h"
-
 #include "analysis/solve.h"
 #include "sheet/descriptions.h"
 #include "sheet/numbers.h"
+#include "sheet/sections.h"
 
 namespace ferna::sheet {
 
@@ -24,13 +23,12 @@ Equation workingMoment(Maker& maker, const CaseSheet& one, int axis, double take
     const QString id = QStringLiteral("Mk%1").arg(axis);
     const QString symbol = QStringLiteral("M_%1,k").arg(axis);
     const Quantity* const M = maker.at(c, QStringLiteral("M%1").arg(axis));
-    const Expression formula = functionOf(
-        QStringLiteral("abs"),
-        {formulaOf(momentInKilogramsClause, std::vector{M})});
+    const Expression formula =
+        functionOf(QStringLiteral("abs"), {formulaOf(momentInKilogramsClause, std::vector{M})});
     constexpr double same = 1e-6;
     if (std::fabs(valueOf(formula) - taken) <= same * taken)
-        return {maker.computed(c, id, symbol, QStringLiteral("kGcm"), formula, digits(7)), nullptr,
-                {}};
+        return {
+            maker.computed(c, id, symbol, QStringLiteral("kGcm"), formula, digits(7)), nullptr, {}};
     return {maker.given(c, id, symbol, taken, QStringLiteral("kGcm"), digits(7)), nullptr,
             maker.text()(QStringLiteral("kern.small"), {index})};
 }
@@ -50,9 +48,8 @@ void addEccentricities(Maker& maker, const CaseSheet& one, Equations& rows) {
     const Quantity* const ey =
         maker.computed(c, QStringLiteral("ey"), QStringLiteral("e_y"), eccentricityClause,
                        {maker.at(c, QStringLiteral("Mk2")), N}, digits(5));
-    const Quantity* const e =
-        maker.computed(c, QStringLiteral("e"), QStringLiteral("e"), eccentricityLengthClause,
-                       {ex, ey}, digits(5));
+    const Quantity* const e = maker.computed(c, QStringLiteral("e"), QStringLiteral("e"),
+                                             eccentricityLengthClause, {ex, ey}, digits(5));
     const Quantity* const alpha = maker.computed(c, QStringLiteral("alpha"), QStringLiteral("α"),
                                                  directionClause, {ex, ey}, digits(5));
     for (const Quantity* const made : {ex, ey, e, alpha})
@@ -74,14 +71,14 @@ void addKern(Maker& maker, const CaseSheet& one, Equations& rows) {
     };
     const Quantity* const L = centimetres("Lk", "L");
     const Quantity* const B = centimetres("Bk", "B");
-    const Quantity* const r = maker.computed(
-        c, QStringLiteral("r"), QStringLiteral("r"), kernRadiusClause,
-        {L, B, maker.at(c, QStringLiteral("alpha"))}, digits(5));
+    const Quantity* const r =
+        maker.computed(c, QStringLiteral("r"), QStringLiteral("r"), kernRadiusClause,
+                       {L, B, maker.at(c, QStringLiteral("alpha"))}, digits(5));
     const double e = maker.at(c, QStringLiteral("e"))->value;
     const bool inside = one.told != nullptr ? one.wholePlate() : !(r->value < e);
-    rows.rows.push_back({r, nullptr,
-                         maker.text()(inside ? QStringLiteral("kern.inside")
-                                             : QStringLiteral("kern.outside"))});
+    rows.rows.push_back(
+        {r, nullptr,
+         maker.text()(inside ? QStringLiteral("kern.inside") : QStringLiteral("kern.outside"))});
 }
 
 /// The stress at the corner of a plate that is compressed as a whole.
@@ -93,15 +90,14 @@ void addWholePlate(Maker& maker, const CaseSheet& one, Equations& rows) {
                                               sectionModulusClause, {B, L}, digits(6));
     const Quantity* const Wy = maker.computed(c, QStringLiteral("Wy"), QStringLiteral("W_y"),
                                               sectionModulusClause, {L, B}, digits(6));
-    const Quantity* const stress = maker.computed(
-        c, QStringLiteral("sigma_k"), QStringLiteral("σ_k"), cornerStressClause,
-        {maker.at(c, QStringLiteral("Nk")), L, B, maker.at(c, QStringLiteral("Mk1")), Wx,
-         maker.at(c, QStringLiteral("Mk2")), Wy},
-        digits(6));
-    const Quantity* const inMPa =
-        maker.computed(c, QStringLiteral("sigma_b_s"), QStringLiteral("σ_b"),
-                       stressInMegapascalsClause, {stress},
-                       {.told = fixedSingle(CSng(one.told->sigmaConcrete), 2)});
+    const Quantity* const stress =
+        maker.computed(c, QStringLiteral("sigma_k"), QStringLiteral("σ_k"), cornerStressClause,
+                       {maker.at(c, QStringLiteral("Nk")), L, B, maker.at(c, QStringLiteral("Mk1")),
+                        Wx, maker.at(c, QStringLiteral("Mk2")), Wy},
+                       digits(6));
+    const Quantity* const inMPa = maker.computed(
+        c, QStringLiteral("sigma_b_s"), QStringLiteral("σ_b"), stressInMegapascalsClause, {stress},
+        {.told = fixedSingle(CSng(one.told->sigmaConcrete), 2)});
     for (const Quantity* const made : {Wx, Wy, stress, inMPa})
         rows.rows.push_back({made, nullptr, {}});
 }

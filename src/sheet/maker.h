@@ -12,9 +12,9 @@ namespace ferna::sheet {
 
 /// How a number is printed.
 struct Shown {
-    int decimals = -1;  ///< fixed, where not negative
-    int digits = 5;     ///< else so many that count
-    QString told = {};  ///< else this text, as the report gives it
+    int decimals = -1; ///< fixed, where not negative
+    int digits = 5;    ///< else so many that count
+    QString told = {}; ///< else this text, as the report gives it
 };
 inline Shown places(int decimals) {
     return {.decimals = decimals};
@@ -31,7 +31,7 @@ struct CaseSheet {
     bool readable = false; ///< its loads are numbers
     equilibrium::Load load;
     Shear shear;
-    const notes::ToldCase* told = nullptr;      ///< results of the search; null where there are none
+    const notes::ToldCase* told = nullptr; ///< results of the search; null where there are none
     const equilibrium::Result* exact = nullptr; ///< null where there is no equilibrium
     std::optional<Utilisation> exactUse;
 

@@ -1,6 +1,5 @@
-#include "sheet/sections.h"
-
 #include "design/material_tables.h"
+#include "sheet/sections.h"
 
 #include <algorithm>
 
@@ -37,9 +36,9 @@ Integer largestDiameter(const Plyta_i_kotwy& plate) {
 /// A property: symbol, value, meaning.
 void property(Maker& maker, Equations& rows, const char* id, const QString& symbol, double value,
               const char* meaning, const QString& source) {
-    rows.rows.push_back({maker.given(0, QString::fromLatin1(id), symbol, value, MPa, digits(7),
-                                     source),
-                         nullptr, maker.text()(QString::fromLatin1(meaning))});
+    rows.rows.push_back(
+        {maker.given(0, QString::fromLatin1(id), symbol, value, MPa, digits(7), source), nullptr,
+         maker.text()(QString::fromLatin1(meaning))});
 }
 
 void ratio(Maker& maker, Equations& rows) {
@@ -61,15 +60,12 @@ void ratio(Maker& maker, Equations& rows) {
 
 void addConcrete(Maker& maker, Equations& rows) {
     const SheetInput& input = maker.input();
-    const QString norm =
-        maker.text()(QStringLiteral("source.concrete"), {concreteNorm(input)});
+    const QString norm = maker.text()(QStringLiteral("source.concrete"), {concreteNorm(input)});
     if (maker.limits)
         property(maker, rows, "Rb", QStringLiteral("R_b"), maker.limits->Rb, "material.Rb", norm);
     property(maker, rows, "Eb", QStringLiteral("E_b"),
              concrete(input.stan.opcje.Nr_normy, input.stan.opcje.Nr_betonu).Eb_betonu,
              "material.Eb", norm);
-    if (maker.hasBase)
-        ratio(maker, rows);
 }
 
 void addSteel(Maker& maker, Equations& rows) {
@@ -100,6 +96,10 @@ void addMaterials(Maker& maker) {
     addConcrete(maker, rows);
     addSteel(maker, rows);
     maker.add(std::move(rows));
+    Equations moduli;
+    if (maker.hasBase)
+        ratio(maker, moduli);
+    maker.add(std::move(moduli));
     if (!maker.limits)
         maker.say(QStringLiteral("material.noSteel"), {}, Tone::Warning);
     maker.say(QStringLiteral("material.areas"), {}, Tone::Small);

@@ -72,7 +72,8 @@ QString significant(double value, int digits) {
     constexpr int mostDecimals = 9;
     if (value == 0)
         return QStringLiteral("0");
-    if (!(std::fabs(value) < mostWithDigits) || std::fabs(value) < std::pow(10.0, -mostDecimals + 2))
+    if (!(std::fabs(value) < mostWithDigits)
+        || std::fabs(value) < std::pow(10.0, -mostDecimals + 2))
         return withExponent(value, digits);
     const int power = static_cast<int>(std::floor(std::log10(std::fabs(value))));
     const int decimals = std::clamp(digits - 1 - power, 0, mostDecimals + digits);

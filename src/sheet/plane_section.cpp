@@ -1,8 +1,7 @@
-#include "sheet/sections.h"
-
 #include "design/sign_class.h"
 #include "sheet/descriptions.h"
 #include "sheet/numbers.h"
+#include "sheet/sections.h"
 
 #include <algorithm>
 
@@ -17,16 +16,13 @@ const QString perMm = QStringLiteral("MPa/mm");
 /// The two ends of a neutral line, with its angle.
 void makeLine(Maker& maker, int c, Side side, const equilibrium::Segment& ends,
               const std::array<Shown, 4>& shown) {
-    const std::array<std::pair<const char*, double>, 4> values{{{"xA", ends[0].x},
-                                                                {"yA", ends[0].y},
-                                                                {"xB", ends[1].x},
-                                                                {"yB", ends[1].y}}};
+    const std::array<std::pair<const char*, double>, 4> values{
+        {{"xA", ends[0].x}, {"yA", ends[0].y}, {"xB", ends[1].x}, {"yB", ends[1].y}}};
     Numbers made;
     for (std::size_t i = 0; i < values.size(); ++i) {
         const QString name = QString::fromLatin1(values[i].first);
-        made.push_back(maker.given(c, sided(name, side),
-                                   symbolOf(name.left(1), name.mid(1), side), values[i].second, mm,
-                                   shown[i]));
+        made.push_back(maker.given(c, sided(name, side), symbolOf(name.left(1), name.mid(1), side),
+                                   values[i].second, mm, shown[i]));
     }
     maker.computed(c, sided(QStringLiteral("phi"), side), symbolOf(QStringLiteral("φ"), {}, side),
                    lineAngleClause, made, places(2));
@@ -61,14 +57,12 @@ void makeToldPlane(Maker& maker, const CaseSheet& one) {
     const auto ofLine = [&](const char* id) {
         return maker.at(c, sided(QString::fromLatin1(id), Side::Search));
     };
-    const Numbers inputs{ofLine("sigma_b"), ofLine("xA"), ofLine("yA"), ofLine("xB"),
-                         ofLine("yB"),      xC,           yC};
-    const Quantity* const sx =
-        maker.computed(c, QStringLiteral("sx_s"), QStringLiteral("s_x"), slopeAlongXClause, inputs,
-                       digits(6));
-    const Quantity* const sy =
-        maker.computed(c, QStringLiteral("sy_s"), QStringLiteral("s_y"), slopeAlongYClause, inputs,
-                       digits(6));
+    const Numbers inputs{
+        ofLine("sigma_b"), ofLine("xA"), ofLine("yA"), ofLine("xB"), ofLine("yB"), xC, yC};
+    const Quantity* const sx = maker.computed(c, QStringLiteral("sx_s"), QStringLiteral("s_x"),
+                                              slopeAlongXClause, inputs, digits(6));
+    const Quantity* const sy = maker.computed(c, QStringLiteral("sy_s"), QStringLiteral("s_y"),
+                                              slopeAlongYClause, inputs, digits(6));
     maker.computed(c, QStringLiteral("s0_s"), QStringLiteral("s_0"), stressAtCentreClause,
                    {sx, sy, ofLine("xA"), ofLine("yA")}, digits(6));
 }
@@ -76,10 +70,14 @@ void makeToldPlane(Maker& maker, const CaseSheet& one) {
 void makeExactPlane(Maker& maker, const CaseSheet& one) {
     const int c = one.number;
     const equilibrium::Plane& plane = one.exact->plane;
+    constexpr double nothing = 1e-12;
+    const double size = maker.at(0, QStringLiteral("L"))->value;
     const auto coefficient = [&](const char* id, const char* symbol, double value,
                                  const QString& unit) {
+        // What a computation leaves of nothing is printed as nothing.
+        const bool none = std::fabs(value) * size < nothing * std::fabs(one.exact->sigmaConcrete);
         return maker.given(c, QString::fromLatin1(id), QString::fromUtf8(symbol), value, unit,
-                           digits(6));
+                           none ? Shown{.told = QStringLiteral("0")} : digits(6));
     };
     const Quantity* const s0 = coefficient("s0_e", "s*_0", plane.s0, MPa);
     const Quantity* const sx = coefficient("sx_e", "s*_x", plane.sx, perMm);
@@ -118,12 +116,12 @@ Table planeTable(Maker& maker, const CaseSheet& one) {
     for (const std::size_t wide : {7U, 8U})
         table.columns[wide].width = 1.35;
     const auto head = [](const char* text) { return headCell(QString::fromUtf8(text)); };
-    table.head = {{head(""), head("<i>x<sub>A</sub></i><br/>[mm]"),
-                   head("<i>y<sub>A</sub></i><br/>[mm]"), head("<i>x<sub>B</sub></i><br/>[mm]"),
-                   head("<i>y<sub>B</sub></i><br/>[mm]"), head("<i>φ</i><br/>[°]"),
-                   head("<i>s</i><sub>0</sub><br/>[MPa]"), head("<i>s<sub>x</sub></i><br/>[MPa/mm]"),
-                   head("<i>s<sub>y</sub></i><br/>[MPa/mm]"),
-                   head("<i>σ<sub>b</sub></i><br/>[MPa]")}};
+    table.head = {
+        {head(""), head("<i>x<sub>A</sub></i><br/>[mm]"), head("<i>y<sub>A</sub></i><br/>[mm]"),
+         head("<i>x<sub>B</sub></i><br/>[mm]"), head("<i>y<sub>B</sub></i><br/>[mm]"),
+         head("<i>φ</i><br/>[°]"), head("<i>s</i><sub>0</sub><br/>[MPa]"),
+         head("<i>s<sub>x</sub></i><br/>[MPa/mm]"), head("<i>s<sub>y</sub></i><br/>[MPa/mm]"),
+         head("<i>σ<sub>b</sub></i><br/>[MPa]")}};
     if (one.told != nullptr)
         table.rows.push_back(planeRow(maker, one, Side::Search));
     if (one.exact != nullptr)

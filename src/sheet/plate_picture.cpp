@@ -17,8 +17,8 @@ live::PictureWords wordsOf(const Texts& text) {
     words.governingCorner = text(QStringLiteral("picture.corner"));
     words.noPressure = text(QStringLiteral("picture.noPressure"));
     words.noEquilibrium = text(QStringLiteral("picture.noEquilibrium"));
-    words.checks = {text(QStringLiteral("summary.concrete")), text(QStringLiteral("summary.tension")),
-                    text(QStringLiteral("summary.shear")),
+    words.checks = {text(QStringLiteral("summary.concrete")),
+                    text(QStringLiteral("summary.tension")), text(QStringLiteral("summary.shear")),
                     text(QStringLiteral("summary.interaction"))};
     words.inCase = text(QStringLiteral("picture.inCase"));
     words.view = QString();
@@ -44,8 +44,7 @@ Picture drawn(const live::PictureValues& values, const Texts& text, double width
     options.size = QSizeF(width, height) * unitsPerMm;
     options.letter = letter;
     options.words = wordsOf(text);
-    return {width, height,
-            std::make_shared<const Painting>([values, options](QPainter& painter) {
+    return {width, height, std::make_shared<const Painting>([values, options](QPainter& painter) {
                 painter.scale(1 / unitsPerMm, 1 / unitsPerMm);
                 live::drawPicture(painter, values, options);
             })};

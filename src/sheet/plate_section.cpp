@@ -1,9 +1,8 @@
-#include "sheet/sections.h"
-
 #include "plate/clauses.h"
 #include "plate/load_charts.h"
 #include "plate/plate_tables.h"
 #include "sheet/numbers.h"
+#include "sheet/sections.h"
 #include "sheet/sketch_picture.h"
 
 namespace ferna::sheet {
@@ -34,10 +33,11 @@ public:
     PlateCheck(Maker& maker, const notes::PlateFacts& facts, int check)
         : maker_(maker), facts_(facts), check_(check) {}
 
-    Equations all() {
+    /// What was given, then what follows from it.
+    Blocks all() {
         const Quantity* const t = thickness();
         whole(corrected(t));
-        return std::move(rows_);
+        return {std::move(values_), std::move(rows_)};
     }
 
 private:
@@ -48,7 +48,10 @@ private:
                           const Rich& remark = {}) {
         const Quantity* const made =
             maker_.given(0, id(name), QString::fromUtf8(symbol), value, QString::fromLatin1(unit));
-        rows_.rows.push_back({made, nullptr, remark});
+        if (remark.isEmpty())
+            values_.numbers.push_back(made);
+        else
+            rows_.rows.push_back({made, nullptr, remark});
         return made;
     }
     const Quantity* computed(const char* name, const char* symbol, const Clause& clause,
@@ -110,11 +113,10 @@ private:
         const Quantity* const ca = given("ca", "c_a", in.ca, "mm");
         const Quantity* const k = pressure("sk", "σ_k", in.sigma_k);
         const Quantity* const p = pressure("sp", "σ_p", in.sigma_p);
-        const Quantity* const M =
-            computed("M", "M",
-                     in.sigma_k < in.sigma_p ? momentOfFallingStressClause
-                                             : momentOfRisingStressClause,
-                     {ca, k, p}, digits(6));
+        const Quantity* const M = computed("M", "M",
+                                           in.sigma_k < in.sigma_p ? momentOfFallingStressClause
+                                                                   : momentOfRisingStressClause,
+                                           {ca, k, p}, digits(6));
         return computed("t", "t", compressionStripThicknessClause, {M, fd()});
     }
 
@@ -124,9 +126,9 @@ private:
         const Quantity* const b = given("b", "b", in.b, "mm");
         const Quantity* const r = computed("r", "r", sideRatioClause, {b, l});
         const FragmentInterval table = fragmentInterval(check_, sideRatio(in.b, in.l));
-        const Rich read = maker_.text()(
-            QStringLiteral("plate.interval"),
-            {significant(table.r0, 4), significant(table.r0 + table.d, 4)});
+        const Rich read =
+            maker_.text()(QStringLiteral("plate.interval"),
+                          {significant(table.r0, 4), significant(table.r0 + table.d, 4)});
         const Quantity* const r0 = given("r0", "r_0", table.r0, "", read);
         const Quantity* const w0 = given("w0", "ω_0", table.y0, "");
         const Quantity* const w1 = given("w1", "ω_1", table.y1, "");
@@ -147,6 +149,13 @@ private:
         return computed("t", "t", columnBaseThicknessClause, {sigma, h, s, k, fd()});
     }
 
+    /// A curve that the chart does not have, or that has ended, counts as 0.
+    Rich readAt(Single y, Integer curve) const {
+        if (y != 0)
+            return {};
+        return maker_.text()(QStringLiteral("plate.noCurve"), {significant(curve / 10.0, 3)});
+    }
+
     const Quantity* anchorFragment(const PlateInputs::AnchorFragment& in, const Clause& chart) {
         const Quantity* const S = force(in.S);
         const Quantity* const b = given("b", "b", in.b, "mm");
@@ -158,10 +167,10 @@ private:
         const double step = check_ == 8 && read.row.k2 >= 30 ? 0.5 : 0.2;
         const Quantity* const L = given(
             "L", "L", read.row.L, "",
-            maker_.text()(QStringLiteral("plate.curves"),
-                          {significant(read.row.k1 / 10.0, 3), significant(read.row.k2 / 10.0, 3)}));
-        const Quantity* const y1 = given("y1", "y_1", read.y1, "");
-        const Quantity* const y2 = given("y2", "y_2", read.y2, "");
+            maker_.text()(QStringLiteral("plate.curves"), {significant(read.row.k1 / 10.0, 3),
+                                                           significant(read.row.k2 / 10.0, 3)}));
+        const Quantity* const y1 = given("y1", "y_1", read.y1, "", readAt(read.y1, read.row.k1));
+        const Quantity* const y2 = given("y2", "y_2", read.y2, "", readAt(read.y2, read.row.k2));
         const Quantity* const d = given("d", "d", step, "");
         const Quantity* const y = computed("y", "y", chart, {y1, y2, p, L, d});
         return computed("t", "t", anchorFragmentThicknessClause, {S, y, fd()});
@@ -195,6 +204,7 @@ private:
     Maker& maker_;
     const notes::PlateFacts& facts_;
     int check_;
+    Values values_;
     Equations rows_;
 };
 
@@ -204,15 +214,17 @@ void addCheck(Maker& maker, const notes::PlateFacts& facts, int check) {
     maker.heading(3, text(QStringLiteral("plate.check"),
                           {QString::fromLatin1(name.name),
                            text(QStringLiteral("plate.fragment%1").arg(check))}));
-    Equations rows = PlateCheck(maker, facts, check).all();
+    Blocks blocks = PlateCheck(maker, facts, check).all();
     if (*name.sketch == '\0') {
-        maker.add(std::move(rows));
+        for (Block& block : blocks)
+            maker.add(std::move(block));
         return;
     }
     auto beside = std::make_shared<Beside>();
-    beside->leftShare = 0.26;
-    beside->left.push_back(sketchPicture(QString::fromLatin1(name.sketch), 42));
-    beside->right.push_back(std::move(rows));
+    beside->leftShare = 0.22;
+    constexpr double width = 36; // mm
+    beside->left.push_back(sketchPicture(QString::fromLatin1(name.sketch), width));
+    beside->right = std::move(blocks);
     maker.add(std::shared_ptr<const Beside>(beside));
 }
 

@@ -34,6 +34,8 @@ Equations kernEquations(Maker& maker, const CaseSheet& one);
 Table planeTable(Maker& maker, const CaseSheet& one);
 /// Stress, force and utilisation of each anchor.
 Table anchorTable(Maker& maker, const CaseSheet& one);
+/// The same table with its second half beside the first.
+Table inTwoColumns(Table table);
 /// The compressed zone and the balance computed back from it and from the anchors.
 Blocks balanceTables(Maker& maker, const CaseSheet& one);
 /// Concrete, tension, shear and interaction.

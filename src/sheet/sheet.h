@@ -36,6 +36,7 @@ enum class Tone {
 struct Paragraph {
     Rich text;
     Tone tone = Tone::Plain;
+    bool withNext = false; ///< not the last thing on its page
 };
 
 /// A computed number with its way: symbol = formula = numbers = result.
@@ -44,6 +45,10 @@ struct Equation {
     /// The same quantity by the exact equilibrium, where `result` is by the search.
     const Quantity* exact = nullptr;
     Rich remark; ///< what it means, or how it compares
+};
+/// Given numbers in one line of text: "b = 150 mm, a = 100 mm".
+struct Values {
+    std::vector<const Quantity*> numbers;
 };
 /// Equations below one another. With `twoResults` the results stand in two columns, by the search
 /// and by the exact equilibrium.
@@ -87,7 +92,7 @@ struct SignatureFields {
 };
 
 struct Beside;
-using Block = std::variant<Heading, Paragraph, Equations, Table, Picture, SignatureFields,
+using Block = std::variant<Heading, Paragraph, Values, Equations, Table, Picture, SignatureFields,
                            std::shared_ptr<const Beside>>;
 using Blocks = std::vector<Block>;
 
@@ -104,12 +109,13 @@ struct Sheet {
     Sheet(Sheet&&) = default;
     Sheet& operator=(Sheet&&) = default;
 
-    QString language;   ///< of the texts, as HTML names it: "pl"
-    Rich title;         ///< "Arkusz obliczeniowy"
-    Rich subject;       ///< project and footing, for the foot of the pages
-    Rich made;          ///< program, version, date
-    QString pageOf;     ///< "Strona %1 z %2"
-    QString search;     ///< heads of the two columns of results
+    QString language; ///< of the texts, as HTML names it: "pl"
+    Rich title;       ///< "Arkusz obliczeniowy"
+    Rich subject;     ///< project and footing, for the foot of the pages
+    Rich made;        ///< program, version, date
+    QString program;  ///< its name and version
+    QString pageOf;   ///< "Strona %1 z %2"
+    QString search;   ///< heads of the two columns of results
     QString exact;
     Blocks blocks;
     std::vector<std::unique_ptr<Quantity>> numbers;

@@ -1,6 +1,5 @@
-#include "sheet/sections.h"
-
 #include "sheet/numbers.h"
+#include "sheet/sections.h"
 
 namespace ferna::sheet {
 
@@ -32,8 +31,8 @@ Row useRow(const Maker& maker, const CaseSheet& one, Side side) {
     static constexpr std::array<const char*, 4> checks{"summary.concrete", "summary.tension",
                                                        "summary.shear", "summary.interaction"};
     row.push_back(cell(text(QString::fromLatin1(checks[governing]))));
-    row.push_back(cell(text(worst->value > 1 ? QStringLiteral("summary.no")
-                                             : QStringLiteral("summary.yes"))));
+    row.push_back(cell(
+        text(worst->value > 1 ? QStringLiteral("summary.no") : QStringLiteral("summary.yes"))));
     row.back().strong = true;
     return row;
 }
@@ -51,10 +50,10 @@ void addLargest(Maker& maker) {
     Equations rows;
     const auto largest = [&](const char* id, const char* symbol, Single value, const char* unit,
                              const char* meaning) {
-        rows.rows.push_back({maker.given(0, QString::fromLatin1(id), QString::fromUtf8(symbol),
-                                         value, QString::fromLatin1(unit),
-                                         {.told = fixedSingle(value, 2)}),
-                             nullptr, maker.text()(QString::fromLatin1(meaning))});
+        rows.rows.push_back(
+            {maker.given(0, QString::fromLatin1(id), QString::fromUtf8(symbol), value,
+                         QString::fromLatin1(unit), {.told = fixedSingle(value, 2)}),
+             nullptr, maker.text()(QString::fromLatin1(meaning))});
     };
     largest("sigma_b_max", "σ_b,max", r.Sigma_b_max, "MPa", "summary.largestConcrete");
     largest("sigma_s_max", "σ_s,max", r.Sigma_s_max, "MPa", "summary.largestStress");
@@ -69,8 +68,8 @@ void addSummary(Maker& maker) {
     maker.heading(1, text(QStringLiteral("summary.heading")));
     Table table;
     table.caption = text(QStringLiteral("summary.caption"));
-    table.columns = {{Column::Align::Centre, 0.7}, {Column::Align::Left, 1.3}, {}, {}, {}, {},
-                     {Column::Align::Left, 1.5},   {Column::Align::Left, 1.5}};
+    table.columns = {{Column::Align::Centre, 1},   {Column::Align::Left, 1.4},  {}, {}, {}, {},
+                     {Column::Align::Centre, 1.5}, {Column::Align::Centre, 1.5}};
     table.head = {{headCell(text(QStringLiteral("case"))), headCell({}),
                    headCell(text(QStringLiteral("summary.concrete"))
                             + QStringLiteral("<br/><i>η<sub>b</sub></i>")),

@@ -41,7 +41,9 @@ struct DesignRange {
     double pressure = 1;     ///< largest pressure on the concrete in Rb, 1 to 2
     Integer plateSteel = 2;  ///< grade 1..5 of the plate check
     int leastThickness = 10; ///< of the plate, mm
-    int grout = 50;          ///< under the plate, mm
+    /// The plate has stiffeners that are not designed here: its thickness is the one above.
+    bool stiffened = false;
+    int grout = 50; ///< under the plate, mm
 
     bool operator==(const DesignRange&) const = default;
 };

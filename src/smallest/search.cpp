@@ -41,19 +41,21 @@ public:
         : range_(range), task_(task), length_(length), width_(width), layout_(layout),
           diameter_(diameter), places_(anchorPlaces(range, length, width, layout, diameter)) {}
 
-    /// Tells each design that passes; the number of steels that had a strength.
+    /// Tells each design that passes, and counts all in `found`.
     template <typename Tell>
-    long weigh(const Tell& tell) {
+    void weigh(Found& found, const Tell& tell) {
+        found.candidates += static_cast<long>(range_.steels.size());
         if (places_.empty())
-            return 0;
+            return;
         for (const Integer steel : range_.steels)
             if (const auto& limits = task_.limits.at(static_cast<std::size_t>(steel - 1))
                                          .at(placeInSeries(diameter_)))
                 standing_.push_back({steel, &*limits, {}, 0});
-        const auto weighed = static_cast<long>(standing_.size());
-        if (weighed > 0 && holds())
-            tellDesigns(tell);
-        return weighed;
+        found.placed += static_cast<long>(standing_.size());
+        if (standing_.empty() || !holds())
+            return;
+        const auto holding = static_cast<long>(standing_.size());
+        (tellDesigns(tell) ? found.passed : found.tooThick) += holding;
     }
 
 private:
@@ -101,15 +103,16 @@ private:
         return true;
     }
 
+    /// False where the plate would have to be too thick.
     template <typename Tell>
-    void tellDesigns(const Tell& tell) const {
+    bool tellDesigns(const Tell& tell) const {
         const int edge = edgeDistance(range_, diameter_);
         PlateThickness plate(range_, length_, width_, edge, places_, anchors_.front().area);
         for (const equilibrium::Result& found : solved_)
             plate.take(found);
         const std::optional<int> thickness = plate.found();
         if (!thickness)
-            return;
+            return false;
         Design design;
         design.length = length_;
         design.width = width_;
@@ -127,6 +130,7 @@ private:
             design.worstCase = one.worstCase;
             tell(design);
         }
+        return true;
     }
 
     const DesignRange& range_;
@@ -221,14 +225,9 @@ Found lightest(const DesignRange& range, const Task& task, std::size_t most, con
          length += range.length.step)
         for (const int width : widthsFor(range, length)) {
             for (const int layout : range.layouts)
-                for (const Integer diameter : range.diameters) {
-                    found.candidates += static_cast<long>(range.steels.size());
-                    found.placed += Candidate(range, task, length, width, layout, diameter)
-                                        .weigh([&](const Design& design) {
-                                            ++found.passed;
-                                            kept.take(design);
-                                        });
-                }
+                for (const Integer diameter : range.diameters)
+                    Candidate(range, task, length, width, layout, diameter)
+                        .weigh(found, [&](const Design& design) { kept.take(design); });
             if (goesOn && !goesOn(static_cast<double>(found.candidates) / all)) {
                 found.stopped = true;
                 break;

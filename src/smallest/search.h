@@ -56,6 +56,7 @@ struct Found {
     std::vector<Design> best; ///< the lightest ones, in order
     long candidates = 0;      ///< looked at
     long placed = 0;          ///< whose anchors keep their distances and whose steel has a strength
+    long tooThick = 0; ///< that pass but for a plate thicker than its steel's strength holds for
     long passed = 0;
     bool stopped = false;
 };

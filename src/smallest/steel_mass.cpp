@@ -20,7 +20,7 @@ PlateThickness::PlateThickness(const DesignRange& range, int length, int width, 
                                const std::vector<equilibrium::Point>& places, double area)
     : cantilever_(std::max(length - range.columnLength, width - range.columnWidth) / 2.0),
       pulls_(places.size(), 0), area_(area), least_(range.leastThickness),
-      steel_(range.plateSteel) {
+      stiffened_(range.stiffened), steel_(range.plateSteel) {
     for (std::size_t i = 0; i < places.size(); ++i) {
         const double clear = fromColumn(range, places[i]);
         strips_.push_back({clear, 2 * std::min({clear, double(edge), toNearest(places, i) / 2})});
@@ -34,6 +34,8 @@ void PlateThickness::take(const equilibrium::Result& found) {
 }
 
 std::optional<int> PlateThickness::found() const {
+    if (stiffened_)
+        return least_;
     const Single fd = plateSteel(steel_).Fd_blachy;
     const Single length = CSng(cantilever_);
     const Single pressure = CSng(pressure_);

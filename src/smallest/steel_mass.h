@@ -9,8 +9,9 @@ namespace ferna::smallest {
 // The steel of a base by the rules below: its plate and its anchors, without nuts, washers, the
 // plates of anchors, welds and stiffeners.
 
-/// The plate has no stiffeners. Its thickness is the largest that these ask for, in all cases, up
-/// to whole millimetres (PN-B-03215:1998, Annex B, the two strips of the plate check):
+/// The thickness of a plate with stiffeners is the range's. Without, it is the largest that these
+/// ask for, in all cases, up to whole millimetres (PN-B-03215:1998, Annex B, the two strips of the
+/// plate check):
 /// - a cantilever from the column to the farther edge under the largest pressure of the case, even
 ///   over its length;
 /// - at each anchor in tension a cantilever as long as the anchor is away from the column, twice as
@@ -40,6 +41,7 @@ private:
     std::vector<double> pulls_; ///< kN
     double area_;
     int least_;
+    bool stiffened_;
     Integer steel_;
 };
 

@@ -1,5 +1,6 @@
 #include "widgets/form_tools.h"
 
+#include "widgets/small_screen.h"
 #include "windows/window_dress.h"
 
 #include <QApplication>
@@ -40,10 +41,12 @@ public:
 
 void centreOnScreen(QWidget* form) {
     makeRoomForTitle(form);
+    if (needsMoreThan(form, roomOnScreen(form)))
+        letContentsScroll(form);
     form->adjustSize();
     const QRect screen = form->screen()->availableGeometry();
     // On a small screen the toolkit keeps to two thirds of it, and the form grew at its first note.
-    form->resize(form->size().expandedTo(form->sizeHint()).boundedTo(screen.size()));
+    form->resize(form->size().expandedTo(form->sizeHint()).boundedTo(roomOnScreen(form)));
     form->move(
         screen.topLeft()
         + QPoint((screen.width() - form->width()) / 2, (screen.height() - form->height()) / 2));

@@ -18,13 +18,12 @@ int noteHeight(const QFontMetrics& font) {
     return font.lineSpacing() + 2 * noteMargin;
 }
 
-/// A tint that is seen without shouting, on a light window and on a dark one.
-QColor tint(const QPalette& palette) {
+} // namespace
+
+QColor quietTint(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() > 128 ? QColor(0xff, 0xf7, 0xdc)
                                                              : QColor(0x45, 0x3c, 0x22);
 }
-
-} // namespace
 
 NoteBand::NoteBand(QWidget* parent) : QScrollArea(parent) {
     auto* const page = new QWidget;
@@ -86,7 +85,7 @@ int NoteBand::usualHeight() const {
 
 void NoteBand::colour() {
     QPalette palette = this->palette();
-    const QColor ground = tint(palette);
+    const QColor ground = quietTint(palette);
     if (palette.color(QPalette::Base) == ground)
         return;
     palette.setColor(QPalette::Base, ground);

@@ -10,6 +10,9 @@ class QVBoxLayout;
 
 namespace ferna {
 
+/// A tint that is seen without shouting, on a light window and on a dark one.
+QColor quietTint(const QPalette& palette);
+
 /// A quiet band of notes, one under the other. It takes no room where there are none, and a part of
 /// its window at most: more notes are scrolled. Where notes lead somewhere, a click leads there,
 /// and with the focus in the band the arrows choose a note and Enter or Space follows it.

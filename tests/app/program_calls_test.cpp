@@ -41,9 +41,13 @@ TEST(Program, WithoutAScreenSaysSoAndNamesTheCompanion) {
 
 TEST(Program, RefusesAnArgumentThatItDoesNotKnow) {
     const Outcome run = call("ferna", {QStringLiteral("-platform"), QStringLiteral("offscreen"),
-                                       QStringLiteral("zadanie.json")});
+                                       QStringLiteral("zadanie.ferna"), QStringLiteral("drugie")});
     EXPECT_EQ(run.exitCode, 2);
-    EXPECT_TRUE(run.errors.contains(u"nieznany argument \"zadanie.json\""));
+    EXPECT_TRUE(run.errors.contains(u"nieznany argument \"drugie\""));
+    const Outcome option = call("ferna", {QStringLiteral("-platform"), QStringLiteral("offscreen"),
+                                          QStringLiteral("--nie-ma")});
+    EXPECT_EQ(option.exitCode, 2);
+    EXPECT_TRUE(option.errors.contains(u"nieznany argument \"--nie-ma\""));
 }
 
 } // namespace

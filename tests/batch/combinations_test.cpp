@@ -62,7 +62,8 @@ TEST_F(Combinations, AreThoseOfTheTasksOwnResult) {
     for (const Json& stress : exact["Sigma_kotwy"])
         tension = std::max(tension, -stress.get<double>());
     EXPECT_NEAR(use["beton"],
-                exact["Sigma_b"].get<double>() / (2 * result["Materialy"]["Rb_betonu"].get<double>()),
+                exact["Sigma_b"].get<double>()
+                    / (2 * result["Materialy"]["Rb_betonu"].get<double>()),
                 1e-6);
     EXPECT_NEAR(use["rozciaganie"], tension / result["Materialy"]["Fd_kotwy"].get<double>(), 1e-6);
 }

@@ -35,8 +35,8 @@ TEST(Choice, OfNothingGovernsNothing) {
 }
 
 TEST(Choice, HoldsForEachCheckTheRowWithItsLargestUse) {
-    const Choice choice = choiceOf({use(0.2, 0.9, 0.1, 0), use(0.8, 0.1, 0.3, 0.4),
-                                    use(0.3, 0.2, 0.2, 0.7)});
+    const Choice choice =
+        choiceOf({use(0.2, 0.9, 0.1, 0), use(0.8, 0.1, 0.3, 0.4), use(0.3, 0.2, 0.2, 0.7)});
     EXPECT_EQ(choice.governing(Check::Concrete), 2);
     EXPECT_EQ(choice.governing(Check::Tension), 1);
     EXPECT_EQ(choice.governing(Check::Shear), 2);
@@ -91,9 +91,8 @@ Rows sixBySorting(const std::vector<Answer>& answers) {
     const auto at = [&](RowNumber row) { return answers[static_cast<std::size_t>(row) - 1]; };
     const auto largestFirst = [&](const auto& of) {
         Rows sorted = order;
-        std::stable_sort(sorted.begin(), sorted.end(), [&](RowNumber a, RowNumber b) {
-            return isLarger(of(at(a)), of(at(b)));
-        });
+        std::stable_sort(sorted.begin(), sorted.end(),
+                         [&](RowNumber a, RowNumber b) { return isLarger(of(at(a)), of(at(b))); });
         return sorted;
     };
     for (const Check check : allChecks)
@@ -114,14 +113,6 @@ TEST(Choice, OfAStreamIsThatOfTheSortedTable) {
                                                    dice.whole(0, 3) / 4.0, dice.whole(0, 3) / 4.0));
         EXPECT_EQ(choiceOf(answers).six(), sixBySorting(answers)) << table;
     }
-}
-
-TEST(Ties, AreAllRowsThatUseACheckAsTheGoverningOne) {
-    const std::vector<Answer> answers{use(0.2, 0.7), use(0.9, 0.1), use(std::nextafter(0.9, 1.0), 0),
-                                      use(0.9 * (1 - 2e-9), 0.7)};
-    const Rows rows{1, 2, 5, 6};
-    EXPECT_EQ(ties(Check::Concrete, rows, answers), (Rows{2, 5}));
-    EXPECT_EQ(ties(Check::Tension, rows, answers), (Rows{1, 6}));
 }
 
 } // namespace

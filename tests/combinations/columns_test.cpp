@@ -1,5 +1,4 @@
 #include "combinations/columns.h"
-
 #include "support/printing.h"
 
 #include <gtest/gtest.h>
@@ -41,8 +40,8 @@ TEST(Columns, OfSixWithoutNamesTheFirstHoldsTheNamesAlsoWhereTheseAreNumbers) {
 }
 
 TEST(Columns, AreFoundByTheirNamesInAnyOrderInPolishAndEnglish) {
-    const Layout polish = layout(
-        QStringLiteral("Tz;Ty;Kombinacja;Mz;My;Siła osiowa\n0;10;KO-1;0;120;300\n"));
+    const Layout polish =
+        layout(QStringLiteral("Tz;Ty;Kombinacja;Mz;My;Siła osiowa\n0;10;KO-1;0;120;300\n"));
     EXPECT_EQ(polish.skipped, 1);
     EXPECT_EQ(polish.columns.name, 2);
     EXPECT_EQ(places(polish), (Places{5, 4, 3, 1, 0}));
@@ -52,8 +51,7 @@ TEST(Columns, AreFoundByTheirNamesInAnyOrderInPolishAndEnglish) {
 }
 
 TEST(Columns, TakeTheUnitFromTheNameOrFromTheRowBelow) {
-    const Layout beside =
-        layout(QStringLiteral("N [N];M1 [Nmm];M2 (kNm);Vx, kN;Vy\n1;2;3;4;5\n"));
+    const Layout beside = layout(QStringLiteral("N [N];M1 [Nmm];M2 (kNm);Vx, kN;Vy\n1;2;3;4;5\n"));
     EXPECT_EQ(beside.columns.byLoad[0].factor, 1e-3);
     EXPECT_DOUBLE_EQ(beside.columns.byLoad[1].factor, 1e-6);
     EXPECT_EQ(beside.columns.byLoad[2].factor, 1);
@@ -75,8 +73,8 @@ TEST(Columns, TurnTheSignWhereAMinusStandsBeforeTheName) {
 }
 
 TEST(Columns, PassOverTitlesBeforeTheNames) {
-    const Layout found = layout(
-        QStringLiteral("Hala A, słup S-3;;;;;\n\nNazwa;N;M1;M2;Vx;Vy\nKO-1;300;1;2;3;4\n"));
+    const Layout found =
+        layout(QStringLiteral("Hala A, słup S-3;;;;;\n\nNazwa;N;M1;M2;Vx;Vy\nKO-1;300;1;2;3;4\n"));
     EXPECT_EQ(found.skipped, 2);
     EXPECT_EQ(found.columns.name, 0);
     EXPECT_EQ(found.doubt, QString());

@@ -1,5 +1,4 @@
 #include "combinations/evaluation.h"
-
 #include "command/entered_equilibria.h"
 #include "support/column_base.h"
 
@@ -45,12 +44,10 @@ TEST(Evaluator, SaysWhyThereIsNoneToBeHad) {
     EXPECT_EQ(std::get<Unready>(Evaluator::of(noSize.stan, noSize.fields)), Unready::NoAreas);
     ColumnBase offSeries;
     offSeries.anchor(0, 0, 25);
-    EXPECT_EQ(std::get<Unready>(Evaluator::of(offSeries.stan, offSeries.fields)),
-              Unready::NoAreas);
+    EXPECT_EQ(std::get<Unready>(Evaluator::of(offSeries.stan, offSeries.fields)), Unready::NoAreas);
     ColumnBase noSteel;
     noSteel.fields.cmbStal = userSteel - 1;
-    EXPECT_EQ(std::get<Unready>(Evaluator::of(noSteel.stan, noSteel.fields)),
-              Unready::NoStrengths);
+    EXPECT_EQ(std::get<Unready>(Evaluator::of(noSteel.stan, noSteel.fields)), Unready::NoStrengths);
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "combinations/table_reader.h"
-
 #include "combinations/workbook.h"
 #include "support/folder.h"
 #include "support/places.h"
@@ -50,7 +49,8 @@ QStringList readFile(const QString& path) {
     return written(reader);
 }
 
-const QString polish = QStringLiteral("Nazwa;N;M1;M2;Vx;Vy\r\nŚnieg + wiatr ą;1 250,5;-120;0;10;0\r\n");
+const QString polish =
+    QStringLiteral("Nazwa;N;M1;M2;Vx;Vy\r\nŚnieg + wiatr ą;1 250,5;-120;0;10;0\r\n");
 const QStringList polishRow{QStringLiteral("Śnieg + wiatr ą: 1250.5 -120 0 10 0")};
 
 TEST(TableReader, ReadsUtf8AndUtf16AndCodePage1250) {
@@ -123,8 +123,8 @@ TEST(TableReader, ALineWithoutAnEndTakesNoMoreThanItsRoom) {
 
 TEST(TableReader, ReadsWorkbooksWithTheirFormulasAndAllDigits) {
     for (const char* file : {"/combinations.xlsx", "/combinations.ods"}) {
-        const auto opened = openTable(places::source("/tests/combinations/data")
-                                      + QLatin1String(file));
+        const auto opened =
+            openTable(places::source("/tests/combinations/data") + QLatin1String(file));
         ASSERT_TRUE(std::holds_alternative<std::unique_ptr<RowSource>>(opened)) << file;
         TableReader reader(*std::get<std::unique_ptr<RowSource>>(opened));
         EXPECT_EQ(reader.layout().skipped, 3);
@@ -146,7 +146,8 @@ TEST(TableReader, ReadsWorkbooksWithTheirFormulasAndAllDigits) {
 
 TEST(OpenTable, SaysWhyAFileCannotBeRead) {
     const testing::Folder folder;
-    EXPECT_EQ(readFile(folder.path({})), QStringList(QStringLiteral("to jest katalog, a nie plik")));
+    EXPECT_EQ(readFile(folder.path({})),
+              QStringList(QStringLiteral("to jest katalog, a nie plik")));
     EXPECT_EQ(readFile(folder.path(QStringLiteral("brak.csv"))),
               QStringList(QStringLiteral("nie można otworzyć pliku")));
     EXPECT_EQ(readFile(folder.write(QStringLiteral("a.xlsx"), QByteArray("PK\x03\x04zzz", 7))),

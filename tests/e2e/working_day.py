@@ -2,7 +2,8 @@
 """A working day of an engineer with the built programs, on a real screen: describes a column base,
 takes loads from the column, calculates, adds the plate thickness and a catalogue anchor, saves and
 prints the report in every form, goes back and calculates again, ends the program from both places
-and finds everything at the next start. Then the renderer breaks.
+and finds everything at the next start. A second day begins with a crash, and its task goes into a file.
+Then the renderer breaks.
 
 Every output is compared with what the batch companion computes from the same task.
 
@@ -18,7 +19,7 @@ import time
 
 from desktop import Desktop, wait_for
 from print_server import PrintServer
-from program import (DISTRIBUTED, FORCE, PLANE_ZX, PLANE_ZY, RESULTS, TITLE, VERTICAL, Program,
+from program import (DISTRIBUTED, FORCE, MAIN, PLANE_ZX, PLANE_ZY, RESULTS, TITLE, VERTICAL, Program,
                      Results, expect, read)
 from reports import (companion_reports, has_word_processor, lines_of, pages_of_pdf,
                      text_of_document, texts_of_emf, without_date)
@@ -209,6 +210,38 @@ class Day:
         expect(self.page_in_configuration() > self.after_second, "the page was not counted on")
         self.done("start again, and the other end")
 
+    def begin_with_a_crash(self):
+        """The second day: the program is killed over the work and brings it back at its next start.
+        The task goes into a file, and the companion computes that file."""
+        program = Program(self.desktop, self.folder).ready()
+        second = self.typed | {"Nazwa_projektu": "Dzien drugi", "Nr_strony": 40}
+        program.type_general(second)
+        program.type_loads(second)
+        program.add_four(second["Kotwy"][0])
+        program.tab(1)
+        program.process.kill()
+        program.process.wait()
+        program = Program(self.desktop, self.folder).ready()
+        self.desktop.screenshot(self.saved("offer.png"))
+        self.desktop.keys("alt+r")
+        results = program.calculate("F-10")
+        results.save_text(self.saved("recovered.txt"))
+        text, _ = self.companion("recovered", second | {"Nazwa_stopy": "F-10"}, ".txt")
+        expect(without_date(read(self.saved("recovered.txt"))) == without_date(text),
+               "the killed task did not come back whole")
+        results.back("alt+Left")
+        self.desktop.window(MAIN)
+        self.desktop.keys("ctrl+s")
+        self.desktop.answer("Zapisz zadanie jako", self.saved("F-10"))
+        wait_for("the file of the task", lambda: os.path.exists(self.saved("F-10.ferna")))
+        saved = json.loads(read(self.saved("F-10.ferna")))
+        expect(saved["Nazwa_stopy"] == "F-10" and len(saved["Kotwy"]) == 4, "a task is missing")
+        text, _ = self.companion("from-file", saved | {"Nr_strony": 40}, ".txt")
+        expect(without_date(read(self.saved("recovered.txt"))) == without_date(text),
+               "the companion has another report of the saved task")
+        program.leave()
+        self.done("a second day that begins with a crash")
+
     def break_renderer(self):
         renderer = os.path.join(self.folder, "Wyd_drk")
         os.rename(renderer, renderer + ".whole")
@@ -260,6 +293,7 @@ class Day:
         self.print(results)
         self.calculate_again(program, results)
         self.start_again()
+        self.begin_with_a_crash()
         self.work_without_renderer()
 
 

@@ -111,6 +111,23 @@ TEST_F(AnchorDrawing, ArrowsMoveWhatIsChosenByOneMillimetreAndWithShiftByTen) {
     EXPECT_EQ(form->drawnPlate()->X_kotwy(1), CSng(24.1)) << "the drawing follows";
 }
 
+TEST_F(AnchorDrawing, EveryEditIsANamedStep) {
+    QStringList steps;
+    QObject::connect(form.get(), &Ferna3::stepped,
+                     [&steps](const QString& name) { steps += name; });
+    clickAt(-250, 150);
+    key(Qt::Key_Right);
+    openBox(-249, 150);
+    key(Qt::Key_Return);
+    rubberBand(at(-290, 190), at(290, 0));
+    key(Qt::Key_Up, Qt::ShiftModifier);
+    key(Qt::Key_Delete);
+    EXPECT_EQ(
+        steps,
+        QStringList({QStringLiteral("przesunięcie kotwy 2"), QStringLiteral("zmiana kotwy 2"),
+                     QStringLiteral("przesunięcie 2 kotew"), QStringLiteral("usunięcie 2 kotew")}));
+}
+
 TEST_F(AnchorDrawing, DeleteRemovesWhatIsChosenAndTheListIsTrue) {
     clickAt(250, 150);
     key(Qt::Key_Delete);

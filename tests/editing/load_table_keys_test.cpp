@@ -67,6 +67,16 @@ TEST_F(LoadTableKeysTest, APastedTableFillsRowsAndTheNumberOfCasesFollows) {
     EXPECT_EQ(rowsShown(), 3);
 }
 
+TEST_F(LoadTableKeysTest, APasteIsOneNamedStepAndARefusedOneIsNone) {
+    QStringList steps;
+    QObject::connect(form.get(), &Ferna3::stepped,
+                     [&steps](const QString& name) { steps += name; });
+    paste(QStringLiteral("1\tx\n"));
+    EXPECT_EQ(steps, QStringList());
+    paste(QStringLiteral("1\t2\n3\t4\n"));
+    EXPECT_EQ(steps, QStringList(QStringLiteral("wklejenie tabeli obciążeń")));
+}
+
 TEST_F(LoadTableKeysTest, APastedTableStandsFromTheFieldWithTheFocusAndKeepsALargerNumberOfCases) {
     caseCount(4);
     const QString before = row(0);

@@ -47,16 +47,15 @@ TEST_F(MessageStyles, OfTheAnchorCommandsIsPlain) {
 
 TEST_F(MessageStyles, OfARefusedSteelIsTheStop) {
     const QString title = QStringLiteral("Błąd w opisie stali użytkownika");
-    AnchorSteelFields anchors;
-    anchors.Text2 = {QStringLiteral("300"), QStringLiteral("40"), QStringLiteral("490"),
-                     QStringLiteral("355")};
+    AnchorSteelFields anchors{QString(), QStringLiteral("300"), QStringLiteral("40"),
+                              QStringLiteral("490"), QStringLiteral("355")};
     acceptAnchorSteel(stan, anchors, dialogs);
     expect(MessageStyle::Stop, QStringLiteral("Podaj nazwę materiału"), title);
-    anchors.Text1 = QStringLiteral("S355");
-    anchors.Text2[0] = QStringLiteral("x");
+    anchors.name = QStringLiteral("S355");
+    anchors.fd = QStringLiteral("x");
     acceptAnchorSteel(stan, anchors, dialogs);
     expect(MessageStyle::Stop, title, title);
-    acceptPlateSteel(stan, {QString(), {QStringLiteral("300"), QStringLiteral("40")}}, dialogs);
+    acceptPlateSteel(stan, {QString(), QStringLiteral("300"), QStringLiteral("40")}, dialogs);
     expect(MessageStyle::Stop, QStringLiteral("Podaj nazwę materiału"), title);
 }
 

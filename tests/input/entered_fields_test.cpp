@@ -38,6 +38,17 @@ TEST_F(EnteredFields, TheFirstFieldOfAFormThatIsShownIsSelected) {
     click("cmdStatyka");
 }
 
+TEST_F(EnteredFields, TheFieldThatTheProgramGivesTheFocusIsSelected) {
+    show(Obciazenia_);
+    for (const Qt::FocusReason reason : {Qt::OtherFocusReason, Qt::NoFocusReason}) {
+        auto* const field = the<QLineEdit>(reason == Qt::OtherFocusReason ? "Text7_0" : "Text8_0");
+        field->setFocus(reason);
+        EXPECT_EQ(field->selectedText(), field->text());
+        keys(QStringLiteral("7"));
+        EXPECT_EQ(field->text(), QStringLiteral("7"));
+    }
+}
+
 TEST_F(EnteredFields, TheClickThatBringsTheFocusSelectsAndTheNextOnePutsTheCursor) {
     auto* const field = the<QLineEdit>("Text3");
     QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(8, field->height() / 2));
@@ -95,6 +106,7 @@ TEST_F(PastedTables, AreRefusedBesideTheFieldAndTheOldTextStays) {
         EXPECT_EQ(text("Text6_0"), QStringLiteral("55")) << table;
         EXPECT_EQ(note(), refusal) << table;
         const auto* const label = form->findChild<QLabel*>(QStringLiteral("fieldNote"));
+        ASSERT_NE(label, nullptr);
         const QRect place(the("Text6_0")->mapTo(form.get(), QPoint()), the("Text6_0")->size());
         EXPECT_TRUE(form->rect().contains(label->geometry()));
         EXPECT_FALSE(place.intersects(label->geometry())) << "the field itself can be seen";
@@ -134,7 +146,8 @@ TEST_F(PastedTables, AreRefusedInAQuestionForANumber) {
     answers.dialog(QStringLiteral("inputBox"), [this](QWidget& modal) {
         paste(QStringLiteral("1\t2"));
         EXPECT_EQ(modal.findChild<QLineEdit*>()->text(), QStringLiteral("0"));
-        EXPECT_TRUE(modal.findChild<QLabel*>(QStringLiteral("fieldNote"))->isVisible());
+        const auto* const label = modal.findChild<QLabel*>(QStringLiteral("fieldNote"));
+        EXPECT_TRUE(label != nullptr && label->isVisible());
         QTest::keyClick(&modal, Qt::Key_Escape);
     });
     click("cmdUsun1s");

@@ -244,8 +244,9 @@ TEST_F(WholeReports, FiveHundredReportsKeepTogetherWhatBelongsTogether) {
     for (std::uint64_t number = 1; made < reports; ++number) {
         Dice dice(number);
         const GoldenJson asked = task(dice);
-        batch::Task read = batch::readTask(ferna::testing::documentOf(asked));
-        const batch::ComputedTask done = batch::run(std::move(read), options);
+
+        const batch::ComputedTask done =
+            batch::run(batch::readTask(ferna::testing::documentOf(asked)), options);
         if (!done.reportReady)
             continue;
         ++made;

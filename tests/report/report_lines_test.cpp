@@ -68,6 +68,15 @@ TEST_F(ReportLines, TheTitleBlockAsksForTheLabelAndStandsInItsOrder) {
     EXPECT_EQ(raport.Wiersze_naglowka(7), QStringLiteral("F-2"));
 }
 
+TEST_F(ReportLines, TheFreeLinesOfTheTitleBlockAreThoseOfTheOffice) {
+    base.fourAnchors(250, 150).loads(300, 10, 0);
+    raport.titleLines = {QStringLiteral("Konstrukcje stalowe"), QStringLiteral("Biuro Słup")};
+    prepare();
+    EXPECT_EQ(raport.Wiersze_naglowka(2), QStringLiteral("Konstrukcje stalowe"));
+    EXPECT_EQ(raport.Wiersze_naglowka(3), QStringLiteral("Biuro Słup"));
+    EXPECT_EQ(written().mid(1, 2).join(u'|'), QStringLiteral("Konstrukcje stalowe|Biuro Słup"));
+}
+
 TEST_F(ReportLines, TheLabelIsCutAndOfferedAgain) {
     base.dialogs.answers.push_back(QString(40, u'x'));
     Nazwa_zadania(raport, base.dialogs);

@@ -331,7 +331,8 @@ TEST_F(ResultsForm, CarriesTheCaptionsOfItsMenu) {
         EXPECT_EQ(action(name)->text(), QString::fromUtf8(caption)) << name;
     QStringList bar;
     for (const QAction* entry : form->menuBar()->actions())
-        bar += entry->text();
+        if (entry->isVisible())
+            bar += entry->text();
     EXPECT_EQ(bar.join(u'|'), QStringLiteral("&Plik|&Tytuł|&Powrót|&Szczegóły|&Koniec|Pomo&c"));
 }
 

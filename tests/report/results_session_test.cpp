@@ -1,6 +1,7 @@
 #include "protocol/renderer_files.h"
 #include "protocol/renderer_news.h"
 #include "report/results_session.h"
+#include "report/title_lines.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
 #include "support/folder.h"
@@ -52,6 +53,13 @@ TEST_F(Results, OpenWithASketchOfEachCaseThatHasANeutralLine) {
     EXPECT_EQ(session->labelPanel(), QStringLiteral("F-1"));
     EXPECT_EQ(session->pagePanel(), QStringLiteral(" Strona 1"));
     EXPECT_EQ(session->statePanel(), QStringLiteral("OK"));
+}
+
+TEST_F(Results, TakeTheFreeTitleLinesFromTheFileOfTheProgramFolder) {
+    folder.write(titleLinesFile, "norma_pl = Konstrukcje stalowe\nbiuro = Biuro\n");
+    session->open();
+    EXPECT_EQ(session->raport().Wiersze_naglowka(2), QStringLiteral("Konstrukcje stalowe"));
+    EXPECT_EQ(session->model().title(3), QStringLiteral("Biuro"));
 }
 
 TEST_F(Results, TakeThePictureAndDeleteItsFile) {

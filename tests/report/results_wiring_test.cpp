@@ -107,6 +107,15 @@ TEST_F(ResultsWiring, EachEntryOfTheMenuCallsItsOwn) {
     EXPECT_EQ(called, QStringLiteral("blacha kotwa pomoc powrot koniec koniec "));
 }
 
+TEST_F(ResultsWiring, OpeningPutsTheKeyboardOnTheReport) {
+    form->hide();
+    form->findChild<QToolButton*>(QStringLiteral("StatusBar1_2"))->setFocus();
+    ASSERT_NE(focused(), QStringLiteral("Picture1"));
+    askedForLabel();
+    form->open();
+    EXPECT_EQ(focused(), QStringLiteral("Picture1"));
+}
+
 TEST_F(ResultsWiring, TheKeysScrollTheReportAfterEveryReturn) {
     EXPECT_EQ(focused(), QStringLiteral("Picture1"));
     for (const char* action : {"mnuGrub_blachy", "mnuDobor_ferny", "mnuPomoc"}) {

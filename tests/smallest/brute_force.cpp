@@ -96,6 +96,10 @@ bool bears(const DesignRange& range, const Task& task, const CheckLimits& limits
                                                         * clear / (fd * strip)));
         }
     }
+    if (range.stiffened) {
+        design.thickness = range.leastThickness;
+        return true;
+    }
     design.thickness = static_cast<int>(std::ceil(thickness - 0.001));
     return design.thickness
            <= (range.plateSteel == 2 ? 100 : plateSteel(range.plateSteel).Max_grubosc);

@@ -175,6 +175,7 @@ TEST(Lightest, IsWhatBruteForceFindsOnTwoHundredSmallGrids) {
         range.pressure = between(10, 20) / 10.0;
         range.plateSteel = CInt(between(1, 5));
         range.spacing = between(0, 5);
+        range.stiffened = grid % 5 == 0;
         const std::vector<Design> brute = testing::byBruteForce(range, task);
         const Found quick = lightest(range, task, brute.size() + 5);
         ASSERT_EQ(quick.passed, static_cast<long>(brute.size())) << grid;
@@ -218,6 +219,20 @@ TEST(Lightest, TellsTheLargestUtilisationAndItsCase) {
     EXPECT_LE(best.used.bearingFactor, 1);
     EXPECT_LE(best.used.tension, 1);
     EXPECT_GT(judged(best.used, 1), 0.7) << "the lightest one is used well";
+}
+
+TEST(Lightest, CountsWhatOnlyAPlateTooThickWouldBear) {
+    DesignRange range = hallRange();
+    range.plateSteel = 1; // up to 40 mm
+    range.columnLength = range.columnWidth = 50;
+    const Found plain = lightest(range, hallTask(), 5);
+    EXPECT_GT(plain.tooThick, 0);
+    range.stiffened = true;
+    range.leastThickness = 25;
+    const Found stiffened = lightest(range, hallTask(), 5);
+    EXPECT_EQ(stiffened.tooThick, 0);
+    EXPECT_EQ(stiffened.passed, plain.passed + plain.tooThick);
+    EXPECT_EQ(stiffened.best.at(0).thickness, 25);
 }
 
 TEST(Lightest, StopsWhereItIsAskedTo) {

@@ -34,6 +34,10 @@ public:
         record(QStringLiteral("Documents Add"));
         open = true;
     }
+    void Documents_Open(const QString& FileName) override {
+        record(QStringLiteral("Documents Open"), QFileInfo(FileName).fileName());
+        open = true;
+    }
     void InsertAfter(const QString& Text) override {
         QString shown = Text;
         shown.replace(u'\r', QStringLiteral("<CR>")).replace(u'\n', QStringLiteral("<LF>"));

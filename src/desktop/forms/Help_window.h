@@ -24,6 +24,8 @@ inline constexpr int Statics = 150;
 inline constexpr int Results = 200;
 inline constexpr int PlateThickness = 210;
 inline constexpr int AnchorSelection = 220;
+inline constexpr int Capacity = 270;
+inline constexpr int SmallestBase = 280;
 inline constexpr int Messages = 300;
 } // namespace help
 

@@ -293,6 +293,21 @@ void UnoDocument::add() {
     });
 }
 
+void UnoDocument::openFile(const QString& file) {
+    guarded([this, &file] {
+        if (!uno_->desktop.is())
+            ended();
+        const Reference<text::XTextDocument> document(
+            uno_->desktop->loadComponentFromURL(url(QFileInfo(file).absoluteFilePath()),
+                                                OUString("_blank"), 0,
+                                                property("Hidden", Any(true))),
+            uno::UNO_QUERY);
+        if (!document.is())
+            throw RunTimeError(error::FileNotFound, file);
+        uno_->document = document;
+    });
+}
+
 void UnoDocument::insertAfter(const QString& text) {
     guarded([this, &text] {
         const auto body = uno_->open()->getText();
@@ -355,12 +370,16 @@ void UnoDocument::move(const QString& name, int right, int down) {
 }
 
 void UnoDocument::saveAs(const QString& file) {
-    const bool odt = file.endsWith(QStringLiteral(".odt"), Qt::CaseInsensitive);
+    const auto endsIn = [&](const char* ending) {
+        return file.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+    };
+    const OUString filter(endsIn(".odt")    ? OUString("writer8")
+                          : endsIn(".docx") ? OUString("MS Word 2007 XML")
+                                            : OUString("MS Word 97"));
     const QString made = uno_->process.folder() + QStringLiteral("/dokument");
     guarded([&] {
         const Reference<frame::XStorable> document(uno_->open(), UNO_QUERY_THROW);
-        document->storeToURL(url(made), property("FilterName", Any(odt ? OUString("writer8")
-                                                                       : OUString("MS Word 97"))));
+        document->storeToURL(url(made), property("FilterName", Any(filter)));
     });
     // The word processor would make a missing folder and write over a file in place.
     writeFileWhole(QFileInfo(file).absoluteFilePath(), readFileWhole(made));

@@ -23,6 +23,8 @@ public:
 
     void connect();
     void add();
+    /// A file that the word processor reads. Error 53 where it does not.
+    void openFile(const QString& file);
     void insertAfter(const QString& text);
     void addPicture(const QString& file);
     /// Moves a picture right and down, in points.

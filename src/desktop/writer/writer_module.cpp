@@ -90,6 +90,9 @@ public:
     void Documents_Add() override {
         call([](UnoDocument& document) { document.add(); });
     }
+    void Documents_Open(const QString& FileName) override {
+        call([FileName](UnoDocument& document) { document.openFile(FileName); });
+    }
     void InsertAfter(const QString& Text) override {
         call([Text](UnoDocument& document) { document.insertAfter(Text); });
     }

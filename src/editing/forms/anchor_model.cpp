@@ -8,6 +8,16 @@
 
 namespace ferna {
 
+namespace {
+
+/// A step of the work in its name: "usunięcie kotwy 2", "usunięcie 3 kotew".
+QString stepName(const QString& what, const editing::Anchors& anchors) {
+    return anchors.size() == 1 ? QStringLiteral("%1 kotwy %2").arg(what).arg(anchors.front())
+                               : QStringLiteral("%1 %2 kotew").arg(what).arg(anchors.size());
+}
+
+} // namespace
+
 AnchorModel::AnchorModel(Ferna3& form, const Stan& stan, QObject* parent)
     : QAbstractTableModel(parent), form_(form), stan_(stan) {
     connect(&form, &Ferna3::anchorsShown, this, &AnchorModel::renew);
@@ -41,14 +51,17 @@ QString AnchorModel::doubt(int anchor) const {
 
 void AnchorModel::move(const editing::Anchors& anchors, int dx, int dy) {
     form_.editAnchors([&](Plyta_i_kotwy& plate) { editing::moveAnchors(plate, anchors, dx, dy); });
+    Q_EMIT form_.stepped(stepName(QStringLiteral("przesunięcie"), anchors));
 }
 
 void AnchorModel::remove(const editing::Anchors& anchors) {
     form_.editAnchors([&](Plyta_i_kotwy& plate) { editing::removeAnchors(plate, anchors); });
+    Q_EMIT form_.stepped(stepName(QStringLiteral("usunięcie"), anchors));
 }
 
 void AnchorModel::set(int anchor, editing::AnchorPlace place, Integer fi) {
     form_.editAnchors([&](Plyta_i_kotwy& plate) { editing::setAnchor(plate, anchor, place, fi); });
+    Q_EMIT form_.stepped(stepName(QStringLiteral("zmiana"), {anchor}));
 }
 
 int AnchorModel::rowCount(const QModelIndex& parent) const {

@@ -3,6 +3,7 @@
 #include "editing/forms/clipboard_table.h"
 #include "input/forms/Ferna3.h"
 #include "tables/cells.h"
+#include "tables/load_headings.h"
 #include "widgets/field_note.h"
 
 #include <QApplication>
@@ -18,6 +19,13 @@ using editing::LoadBlock;
 using editing::LoadCell;
 
 namespace {
+
+/// More rows than the load table holds, a heading left out.
+bool isTooLarge(const QString& table) {
+    const QList<tables::Row> rows = tables::rowsOf(table);
+    const bool hasHeading = !rows.isEmpty() && tables::isHeadingRow(rows.front().cells);
+    return rows.size() - (hasHeading ? 1 : 0) > MaxCases;
+}
 
 constexpr int lastColumn = static_cast<int>(editing::loadColumns.size()) - 1;
 
@@ -58,6 +66,8 @@ LoadBlock LoadTableKeys::whole() const {
 
 void LoadTableKeys::paste(QLineEdit* field, const QString& table) {
     forget();
+    if (isTooLarge(table) && form_->largeTable && form_->largeTable(table))
+        return;
     const editing::LoadPaste paste = editing::pasteLoads(table, *cellOf(field));
     if (!paste.refusal.isEmpty()) {
         showFieldNote(field, paste.refusal);
@@ -67,6 +77,7 @@ void LoadTableKeys::paste(QLineEdit* field, const QString& table) {
         for (const editing::LoadPaste::Entry& entry : paste.entries)
             fieldOf(entry.cell)->setText(entry.text);
     });
+    Q_EMIT form_->stepped(QStringLiteral("wklejenie tabeli obciążeń"));
     field->selectAll();
     if (!paste.remark.isEmpty())
         showFieldNote(field, paste.remark);

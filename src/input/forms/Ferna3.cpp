@@ -23,6 +23,7 @@
 #include "widgets/form_tools.h"
 #include "widgets/notes.h"
 #include "widgets/number_field.h"
+#include "widgets/small_screen.h"
 
 #include <QCloseEvent>
 #include <QGroupBox>
@@ -63,8 +64,7 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     });
     connectOptions();
     connectAnchorCommands();
-    connectCommand(ui_->cmdStatyka,
-                   [this] { StatykaS(stan_, statyka_, *this, dialogs_, this).exec(); });
+    connectCommand(ui_->cmdStatyka, [this] { declareColumn(); });
     connectCommand(ui_->cmdOblicz, [this] { calculate(); });
     connectCommand(ui_->cmdKoniec, [this] { leaveProgram(); });
     uwagi_ = std::make_unique<InputNotesBand>(this, ui_->uwagi, stan_, [this] { return fields(); });
@@ -152,6 +152,7 @@ void Ferna3::connectOptions() {
         fillConcretes();
         if (ui_->Wsp_n_0->isChecked())
             showRatio();
+        emit entered(); // the option was told of before the norm was taken
     });
     onClick(Wsp_n_, [this](Integer i) { chooseRatioMode(i); });
 }
@@ -246,29 +247,89 @@ void Ferna3::leave(QWidget* field) {
 }
 
 void Ferna3::load() {
-    const Opcje_zadania& task = stan_.opcje;
     ui_->cmbStal->addItems(steelNames());
     makeRoomForItems(ui_->cmbStal);
-    Jezyk_.at(static_cast<std::size_t>(task.Nr_jezyka))->setChecked(true);
-    Jezyk_wczytany = task.Nr_jezyka;
-    optRTF_.at(static_cast<std::size_t>(task.Tryb_RTF))->setChecked(true);
-    Norma_.at(static_cast<std::size_t>(task.Nr_normy))->setChecked(true);
-    Wsp_n_.at(static_cast<std::size_t>(task.Tryb_wsp_n))->setChecked(true);
+    Jezyk_wczytany = stan_.opcje.Nr_jezyka;
     const InputFields start = startFields(stan_);
-    ui_->cmbStal->setCurrentIndex(start.cmbStal);
-    fillConcretes();
-    (start.optHsruby_0 ? ui_->optHsruby_0 : ui_->optHsruby_1)->setChecked(true);
-    ui_->txtNaz_proj->setText(start.txtNaz_proj);
-    ui_->Text2->setText(start.Text2);
-    for (int r = 0; r < MaxCases; ++r)
-        setRow(r, start.loads.at(static_cast<std::size_t>(r)));
-    ui_->Text3->setText(start.Text3);
-    ui_->Text4->setText(start.Text4);
+    showOptions();
+    showFields(start);
     leaveText1();
     Rysuj_P3();
     ui_->SSTab1->setCurrentIndex(generalTab);
     keepRoomForEveryTab(ui_->SSTab1);
+    if (needsMoreThan(this, roomOnScreen(this)))
+        letPagesScroll(ui_->SSTab1); // the commands below stay in sight
     centreOnScreen(this);
+}
+
+void Ferna3::showOptions() {
+    const Opcje_zadania& task = stan_.opcje;
+    const auto choose = [](const auto& options, Integer chosen) {
+        options.at(static_cast<std::size_t>(chosen))->setChecked(true);
+    };
+    choose(Jezyk_, task.Nr_jezyka);
+    choose(optRTF_, task.Tryb_RTF);
+    choose(Norma_, task.Nr_normy);
+    choose(Wsp_n_, task.Tryb_wsp_n);
+    fillConcretes();
+}
+
+void Ferna3::showFields(const InputFields& fields) {
+    ui_->cmbStal->setCurrentIndex(fields.cmbStal);
+    (fields.optHsruby_0 ? ui_->optHsruby_0 : ui_->optHsruby_1)->setChecked(true);
+    (fields.Option1_0 ? ui_->Option1_0 : ui_->Option1_1)->setChecked(true);
+    ui_->txtNaz_proj->setText(fields.txtNaz_proj);
+    ui_->Text2->setText(fields.Text2);
+    for (int r = 0; r < MaxCases; ++r)
+        setRow(r, fields.loads.at(static_cast<std::size_t>(r)));
+    ui_->Text3->setText(fields.Text3);
+    ui_->Text4->setText(fields.Text4);
+}
+
+Stan Ferna3::enteredState() const {
+    Stan entered = stan_;
+    if (ui_->cmbBeton->currentIndex() >= 0)
+        entered.opcje.Nr_betonu = CInt(ui_->cmbBeton->currentIndex() + 1);
+    try {
+        QString count = ui_->Text1->text();
+        takeCaseCount(entered, count);
+    } catch (const RunTimeError&) { // the last number that could be taken stands
+    }
+    return entered;
+}
+
+void Ferna3::takeTask(const Stan& task, const InputFields& fields) {
+    Stan taken = task;
+    taken.Teksty = stan_.Teksty;
+    if (task.opcje.Nr_jezyka != Jezyk_wczytany)
+        Czytaj_teksty(taken, folder_ + u'/' + catalogueFile(task.opcje.Nr_jezyka));
+    {
+        const QSignalBlocker quiet(this);
+        stan_ = std::move(taken);
+        Jezyk_wczytany = stan_.opcje.Nr_jezyka;
+        left_.clear();
+        showOptions();
+        showFields(fields);
+        ui_->txtNr_strony->setText(fields.txtNr_strony);
+        ui_->Text1->setText(general(stan_.obciazenia.Liczba_przyp));
+        showRows();
+        showAnchorList();
+        ScriptedDialogs unseen; // a text that is no number is told when it is used
+        PictureBox picture(platePictureSize);
+        showPlate(ferna::Rysuj_P3(picture, stan_, fields, unseen));
+    }
+    Q_EMIT entered();
+}
+
+void Ferna3::openTask(const Stan& task, const InputFields& fields) {
+    takeTask(task, fields);
+    przypadek_ = {};
+    statyka_ = {};
+}
+
+void Ferna3::declareColumn() {
+    if (StatykaS(stan_, statyka_, *this, dialogs_, this).exec() == QDialog::Accepted)
+        Q_EMIT columnSaved(statyka_, stan_.obciazenia.Liczba_przyp);
 }
 
 InputFields Ferna3::fields() const {
@@ -312,10 +373,15 @@ void Ferna3::showRow(int r) {
 }
 
 void Ferna3::takeLoads(int rows, const std::function<void()>& fill) {
-    if (rows > stan_.obciazenia.Liczba_przyp) {
-        ui_->Text1->setText(general(rows));
-        leaveText1();
-    }
+    if (rows > stan_.obciazenia.Liczba_przyp)
+        replaceLoads(rows, fill);
+    else
+        fill();
+}
+
+void Ferna3::replaceLoads(int rows, const std::function<void()>& fill) {
+    ui_->Text1->setText(general(rows));
+    leaveText1();
     fill();
 }
 
@@ -374,7 +440,7 @@ void Ferna3::leaveText1() {
     takeCaseCount(stan_, text);
     ui_->Text1->setText(text);
     showRows();
-    uwagi_->renew();
+    emit entered();
 }
 
 void Ferna3::showRows() {
@@ -401,6 +467,7 @@ void Ferna3::leaveConcrete() {
     } else {
         askForRatio();
     }
+    emit entered();
 }
 
 void Ferna3::leaveSteel() {
@@ -496,6 +563,7 @@ void Ferna3::drawPlate(Stan& stan, const InputFields& fields) {
 }
 
 void Ferna3::calculate() {
+    Q_EMIT calculating();
     uwagi_->calculationBegins();
     CalculationEnd end = CalculationEnd::Refused;
     shownAfterwards([&] { end = Oblicz(stan_, przypadek_, fields(), dialogs_, *this); },

@@ -44,6 +44,17 @@ public:
     /// The fields and options as they stand.
     InputFields fields() const;
 
+    /// The state as it would stand if the focus left its field now: the lists and the number of
+    /// cases as shown.
+    Stan enteredState() const;
+
+    /// Takes a state and its fields in place of what is entered, as undo does, and tells `entered`
+    /// once. The results of calculations stay those of `task`. Errors of `Czytaj_teksty`; nothing
+    /// is taken then.
+    void takeTask(const Stan& task, const InputFields& fields);
+    /// The same for another task: nothing of earlier calculations is carried into its own.
+    void openTask(const Stan& task, const InputFields& fields);
+
     /// True where the first option of the norm is set.
     bool firstNorm() const;
 
@@ -56,6 +67,12 @@ public:
     /// Has texts put into the load table, with at least so many of its rows shown: the number of
     /// cases follows where it is smaller.
     void takeLoads(int rows, const std::function<void()>& fill);
+    /// The same with exactly so many rows: cases behind them go.
+    void replaceLoads(int rows, const std::function<void()>& fill);
+
+    /// Asked with a table of more rows than the load table holds, before the first of them are put
+    /// there; true where the whole went elsewhere. Nobody is asked by default.
+    std::function<bool(const QString& table)> largeTable;
 
     /// Has the anchors changed, and shows list and drawing anew.
     void editAnchors(const std::function<void(Plyta_i_kotwy&)>& edit);
@@ -71,6 +88,12 @@ public:
 Q_SIGNALS:
     /// Something of the task was typed, chosen, added or removed.
     void entered();
+    /// A command has changed the task: one step to undo, under this name ("przesunięcie kotwy").
+    void stepped(const QString& name);
+    /// The totals of these loads have gone into a load case, numbered from 1.
+    void columnSaved(const Stan_statyki& loads, int loadCase);
+    /// "Oblicz" was given and nothing of it has run yet.
+    void calculating();
     /// The list of the anchors or their drawing is shown anew.
     void anchorsShown();
 
@@ -89,6 +112,9 @@ private:
     void showRow(int r) override;
 
     void collectFields();
+    void showOptions();
+    void showFields(const InputFields& fields);
+    void declareColumn();
     void watchEntries();
     void connectOptions();
     void connectAnchorCommands();

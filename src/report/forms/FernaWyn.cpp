@@ -10,6 +10,8 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -111,6 +113,7 @@ void FernaWyn::connectMenu() {
         session_->retitle();
         showPanels();
     });
+    ui_->mnuPowrot->setShortcuts({ui_->mnuPowrot->shortcut(), QKeySequence::Back});
     on(ui_->mnuPowrot, [this] { back(); });
     for (QAction* end : {ui_->mnuKoniec, ui_->mnuKoniec2})
         on(end, [this] {
@@ -135,7 +138,14 @@ void FernaWyn::connectMenu() {
 
 void FernaWyn::tellWritten() {
     if (const QStringList files = session_->takeWritten(); !files.isEmpty())
-        ui_->zapisano->tell(files);
+        tellWritten(files);
+}
+
+void FernaWyn::tellWritten(const QStringList& files) {
+    QStringList absolute;
+    for (const QString& file : files)
+        absolute += QDir::cleanPath(QFileInfo(file).absoluteFilePath());
+    ui_->zapisano->tell(absolute);
 }
 
 void FernaWyn::showRtfEntry() {

@@ -40,9 +40,13 @@ public:
     /// The menu "&Więcej" of what stands beside the report; seen once it has an entry.
     QMenu* moreMenu() const { return more_; }
     ResultsSession& session() { return *session_; }
+    /// Says which files were written; all of them lie in one folder.
+    void tellWritten(const QStringList& files);
 
     /// Shows the form, prepares the report and has it rendered.
     void open();
+    /// Shows the report anew after a section was added to it.
+    void afterSection();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -60,7 +64,6 @@ private:
     void showRtfEntry();
     void tellWritten();
     void refresh();
-    void afterSection();
     void layOut();
     bool keyOfMenuBar(QEvent* event);
     void saveDocument();

@@ -22,6 +22,9 @@ public:
     Dobor_fer(Stan& stan, const QString& folder, Dialogs& dialogs, QWidget* parent);
     ~Dobor_fer() override;
 
+    /// The form as it was left.
+    const SelectionForm& chosen() const { return form_; }
+
 protected:
     void showEvent(QShowEvent* event) override;
 

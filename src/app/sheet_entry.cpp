@@ -1,0 +1,59 @@
+#include "app/sheet_entry.h"
+
+#include "sheet/make_sheet.h"
+#include "sheet/sheet_file.h"
+#include "widgets/environment_stop.h"
+#include "widgets/hourglass.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace ferna {
+
+namespace {
+
+const SaveQuestion& sheetQuestion() {
+    static const SaveQuestion question{
+        QStringLiteral("Zapisz arkusz obliczeniowy"), QStringLiteral("Arkusz"),
+        QStringLiteral(".pdf"),
+        QStringLiteral("Dokument PDF (*.pdf)|*.pdf|Strona HTML (*.html)|*.html|"
+                       "Tekst OpenDocument (*.odt)|*.odt|Dokument Word (*.docx)|*.docx")};
+    return question;
+}
+
+/// What was asked for, or the same as PDF where no format has the ending.
+QString withSheetEnding(const QString& file) {
+    return sheet::isSheetFile(file) ? file : file + sheetQuestion().extension;
+}
+
+void saveSheet(FernaWyn& results, const Stan& stan, notes::Record& record, Dialogs& dialogs) {
+    const std::optional<QString> path = dialogs.saveFile(sheetQuestion());
+    if (!path)
+        return;
+    const QString file = withSheetEnding(*path);
+    record.labelled(results.session().typedLabel());
+    {
+        const Hourglass hourglass;
+        sheet::saveSheet(
+            sheet::makeSheet({.stan = stan,
+                              .record = record,
+                              .hasResults = true,
+                              .project = stan.opcje.Nazwa_projektu,
+                              .program = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION),
+                              .now = QDateTime::currentDateTime()}),
+            file);
+    }
+    results.tellWritten({file});
+}
+
+} // namespace
+
+void addSheetEntry(FernaWyn& results, const Stan& stan, notes::Record& record, Dialogs& dialogs) {
+    QAction* const entry = results.moreMenu()->addAction(QStringLiteral("&Arkusz obliczeniowy..."));
+    entry->setStatusTip(
+        QStringLiteral("Zapisuje wszystkie liczby obliczenia ze wzorami i normami"));
+    connectGuarded(entry, &QAction::triggered, &results,
+                   [&] { saveSheet(results, stan, record, dialogs); });
+}
+
+} // namespace ferna

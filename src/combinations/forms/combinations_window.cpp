@@ -1,0 +1,335 @@
+#include "combinations/forms/combinations_window.h"
+
+#include "combinations/forms/answers_filter.h"
+#include "combinations/forms/answers_model.h"
+#include "combinations/forms/case_picture.h"
+#include "combinations/forms/comparison_view.h"
+#include "combinations/forms/governing_view.h"
+#include "combinations/forms/histogram.h"
+#include "combinations/forms/reading_dialog.h"
+#include "command/entered_equilibria.h"
+#include "runtime/run_time_error.h"
+#include "runtime/saved_file.h"
+#include "widgets/note_band.h"
+
+#include <QBuffer>
+#include <QComboBox>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QTableView>
+#include <QUrl>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace ferna {
+
+using combinations::RowNumber;
+
+namespace {
+
+/// A text as rows, with its bytes.
+class TextRows : public combinations::RowSource {
+public:
+    explicit TextRows(const QString& text) {
+        buffer_.setData(text.toUtf8());
+        buffer_.open(QIODevice::ReadOnly);
+        rows_.emplace(buffer_);
+    }
+    std::optional<QStringList> next() override { return rows_->next(); }
+    QString trouble() const override { return rows_->trouble(); }
+
+private:
+    QBuffer buffer_;
+    std::optional<combinations::TextSource> rows_;
+};
+
+QString words(combinations::Unready why) {
+    return why == combinations::Unready::NoAreas
+               ? QStringLiteral("Kombinacji nie można policzyć: płyta, stosunek n albo średnica "
+                                "kotwy nie są podane poprawnie.")
+               : QStringLiteral("Kombinacji nie można policzyć: brak wytrzymałości stali kotew.");
+}
+
+} // namespace
+
+CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* parent)
+    : QDialog(parent), stan_(stan), links_(std::move(links)),
+      work_({[this] { showProgress(); }, [this] { showTable(); },
+             [this] {
+                 stopped_ = coming_.isEmpty()
+                                ? QStringLiteral("Liczenie przerwano: część wierszy nie jest "
+                                                 "policzona.")
+                                : QStringLiteral("Wczytywanie przerwano: %1.").arg(coming_);
+                 showTable();
+             }},
+            this) {
+    setObjectName(QStringLiteral("Kombinacje"));
+    setWindowTitle(QStringLiteral("Ferna 2005 Pr - Kombinacje"));
+    setWindowFlag(Qt::WindowMinMaxButtonsHint);
+    setAttribute(Qt::WA_QuitOnClose, false); // the main form is the program
+    setAcceptDrops(true);
+    auto* const page = new QVBoxLayout(this);
+    page->addWidget(topRow());
+    notes_ = new NoteBand;
+    page->addWidget(notes_);
+    auto* const halves = new QSplitter;
+    halves->addWidget(tableSide());
+    halves->addWidget(pictureSide());
+    halves->setStretchFactor(0, 3);
+    halves->setStretchFactor(1, 2);
+    halves->setChildrenCollapsible(false);
+    page->addWidget(halves, 1);
+    page->addWidget(bottomRow());
+    settle_.setSingleShot(true);
+    constexpr int pause = 200; // ms
+    settle_.setInterval(pause);
+    connect(&settle_, &QTimer::timeout, this, [this] { answerAnew(); });
+    resize(QSize(1280, 780).boundedTo(screen()->availableSize()));
+    showTable();
+}
+
+CombinationsWindow::~CombinationsWindow() = default;
+
+void CombinationsWindow::readFile(const QString& path) {
+    auto opened = combinations::openTable(path);
+    if (const auto* const why = std::get_if<QString>(&opened)) {
+        notes_->setNotes({QStringLiteral("%1: %2.").arg(path, *why)});
+        return;
+    }
+    take(std::move(std::get<std::unique_ptr<combinations::RowSource>>(opened)),
+         QFileInfo(path).fileName());
+}
+
+void CombinationsWindow::readText(const QString& text) {
+    take(std::make_unique<TextRows>(text), QStringLiteral("schowek"));
+}
+
+void CombinationsWindow::take(std::unique_ptr<combinations::RowSource> source,
+                              const QString& name) {
+    constexpr qsizetype shownRows = 50;
+    auto reader = std::make_unique<combinations::TableReader>(*source);
+    const QList<QStringList> first = reader->firstRows(shownRows);
+    if (first.isEmpty()) {
+        notes_->setNotes({QStringLiteral("%1: nie ma w nim wierszy z liczbami.").arg(name)});
+        return;
+    }
+    ReadingDialog dialog(reader->layout(), first, name, this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    coming_ = name;
+    stopped_.clear();
+    readBase();
+    work_.read(std::move(source), std::move(reader), dialog.columns(), evaluator_);
+    showProgress();
+}
+
+void CombinationsWindow::baseChanged() {
+    if (isVisible() && work_.table().size() > 0)
+        settle_.start();
+}
+
+/// Takes the base as it is entered now; says where there is none.
+void CombinationsWindow::readBase() {
+    auto made = combinations::Evaluator::of(stan_, links_.fields());
+    evaluator_.reset();
+    QStringList notes;
+    if (const auto* const why = std::get_if<combinations::Unready>(&made))
+        notes += words(*why);
+    else
+        evaluator_ = std::get<combinations::Evaluator>(std::move(made));
+    notes_->setNotes(notes);
+}
+
+/// The rows keep their place in the table.
+void CombinationsWindow::answerAnew() {
+    readBase();
+    work_.answer(evaluator_);
+    showProgress();
+}
+
+void CombinationsWindow::showProgress() {
+    const bool working = work_.isWorking();
+    progress_->setVisible(working);
+    stop_->setVisible(working);
+    if (!working)
+        return;
+    const auto all = static_cast<int>(work_.table().size());
+    progress_->setRange(0, work_.isReading() ? 0 : all); // how many are coming is not known
+    progress_->setValue(static_cast<int>(work_.done()));
+    state_->setText(work_.isReading()
+                        ? QStringLiteral("Wczytywanie: wierszy %1").arg(work_.done())
+                        : QStringLiteral("Liczenie: wierszy %1 z %2").arg(work_.done()).arg(all));
+}
+
+void CombinationsWindow::showTable() {
+    if (!coming_.isEmpty() && stopped_.isEmpty())
+        source_ = coming_;
+    coming_.clear();
+    const RowNumber chosen = filter_->mapToSource(table_->currentIndex()).row() + 1;
+    const combinations::AnsweredTable& table = work_.table();
+    model_->show(table);
+    governing_->show(table);
+    histogram_->show(table);
+    hideIdleColumns();
+    if (table.size() > 0) {
+        table_->resizeColumnsToContents();
+        choose(chosen > 0 && chosen <= static_cast<RowNumber>(table.size())
+                   ? chosen
+                   : std::max<RowNumber>(1, table.choice().governing(Check::Tension)));
+    }
+    QStringList notes = notes_->notes();
+    if (!stopped_.isEmpty())
+        notes += stopped_;
+    if (!work_.trouble().isEmpty())
+        notes += QStringLiteral("Tabela urywa się: %1.").arg(work_.trouble());
+    notes.removeDuplicates();
+    notes_->setNotes(notes);
+    const bool any = !table.choice().six().empty();
+    putButton_->setEnabled(any);
+    export_->setEnabled(table.size() > 0);
+    calculated();
+    showProgress();
+    showState();
+    showChosen();
+}
+
+/// Of shear and interaction only one applies to a base; the other is 0 in all rows.
+void CombinationsWindow::hideIdleColumns() {
+    const bool alone = evaluator_ && evaluator_->limits().tensionSideAlone;
+    table_->setColumnHidden(AnswersModel::Shear, !alone);
+    table_->setColumnHidden(AnswersModel::Interaction, alone);
+    governing_->setRowHidden(2, !alone);
+    governing_->setRowHidden(3, alone);
+    governing_->updateGeometry();
+}
+
+void CombinationsWindow::showState() {
+    const combinations::AnsweredTable& table = work_.table();
+    if (work_.isWorking())
+        return;
+    if (table.size() == 0) {
+        state_->setText(
+            QStringLiteral("Wczytaj tabelę kombinacji: CSV, arkusz .xlsx lub .ods, albo "
+                           "wklej ją ze schowka."));
+        return;
+    }
+    QString text = QStringLiteral("%1: wierszy %2").arg(source_).arg(table.size());
+    if (table.refused() > 0)
+        text += QStringLiteral(", odrzuconych %1").arg(table.refused());
+    if (filter_->rowCount() != model_->rowCount())
+        text += QStringLiteral(", pokazanych %1").arg(filter_->rowCount());
+    state_->setText(text);
+}
+
+void CombinationsWindow::choose(RowNumber row) {
+    QModelIndex index = filter_->mapFromSource(model_->index(static_cast<int>(row) - 1, 0));
+    if (!index.isValid()) { // the filter hides it
+        filterText_->clear();
+        shown_->setCurrentIndex(0);
+        index = filter_->mapFromSource(model_->index(static_cast<int>(row) - 1, 0));
+    }
+    table_->setCurrentIndex(index);
+    table_->scrollTo(index, QAbstractItemView::PositionAtCenter);
+}
+
+live::PictureValues CombinationsWindow::pictureOf(RowNumber row) const {
+    const combinations::Combination& one = *work_.table().combination(row);
+    const InputFields fields = links_.fields();
+    live::PictureValues values;
+    values.title = one.name.isEmpty() ? QStringLiteral("Wiersz %1").arg(row)
+                                      : QStringLiteral("%1 (wiersz %2)").arg(one.name).arg(row);
+    values.length = fields.Text3.toDouble();
+    values.width = fields.Text4.toDouble();
+    for (std::size_t i = 0; i < evaluator_->anchors().size(); ++i) {
+        const equilibrium::Anchor& anchor = evaluator_->anchors()[i];
+        values.anchors.push_back(
+            {anchor.x, anchor.y, stan_.plyta.Fi_kotwy(static_cast<int>(i) + 1), anchor.area});
+    }
+    values.cases.push_back(
+        {static_cast<int>(row), evaluator_->equilibriumOf(one), work_.table().answer(row)});
+    return values;
+}
+
+void CombinationsWindow::showChosen() {
+    const QModelIndex index = filter_->mapToSource(table_->currentIndex());
+    const RowNumber row = index.row() + 1;
+    if (!index.isValid() || !evaluator_ || !work_.table().isAnswered(row)) {
+        picture_->showNothing(index.isValid() ? remarkOn(work_.table(), row) : QString());
+        return;
+    }
+    picture_->show(pictureOf(row));
+}
+
+void CombinationsWindow::putSix() {
+    put_.clear();
+    for (const RowNumber row : work_.table().choice().six())
+        put_.emplace_back(row, *work_.table().combination(row));
+    links_.putIntoTable(put_);
+    notes_->setNotes(
+        {QStringLiteral("Wstawiono do tabeli obciążeń wierszy: %1. Oblicz policzy je i "
+                        "utworzy raport; porównanie pokaże się tutaj.")
+             .arg(put_.size())});
+}
+
+void CombinationsWindow::calculated() {
+    std::vector<combinations::Compared> all;
+    if (evaluator_)
+        all = combinations::compared(stan_, *evaluator_, put_);
+    comparison_->show(all);
+    const int place = tabs_->indexOf(comparison_);
+    tabs_->setTabEnabled(place, !all.empty());
+    if (all.empty())
+        return;
+    tabs_->setCurrentIndex(place);
+    const auto differing =
+        std::count_if(all.begin(), all.end(), [](const auto& one) { return one.differs(); });
+    notes_->setNotes({differing == 0
+                          ? QStringLiteral("Oblicz potwierdza wstawione wiersze.")
+                          : QStringLiteral("Wierszy, w których Oblicz i dokładna równowaga się "
+                                           "różnią: %1 - zob. Porównanie z Oblicz.")
+                                .arg(differing)});
+}
+
+void CombinationsWindow::exportCsv() {
+    const auto path = links_.saveName(QStringLiteral("kombinacje-wyniki.csv"));
+    if (!path)
+        return;
+    try {
+        writeFileWhole(*path, answersAsCsv(work_.table()));
+    } catch (const RunTimeError& failure) {
+        notes_->setNotes({QStringLiteral("Nie zapisano: %1.").arg(failure.detail())});
+        return;
+    }
+    notes_->setNotes({QStringLiteral("Zapisano %1.").arg(*path)});
+}
+
+void CombinationsWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls() || event->mimeData()->hasText())
+        event->acceptProposedAction();
+}
+
+void CombinationsWindow::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    const QList<QUrl> files = event->mimeData()->urls();
+    if (!files.isEmpty() && files.front().isLocalFile())
+        readFile(files.front().toLocalFile());
+    else
+        readText(event->mimeData()->text());
+}
+
+void CombinationsWindow::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (!event->spontaneous() && work_.table().size() > 0)
+        answerAnew();
+}
+
+} // namespace ferna

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "runtime/numbers.h"
+
+#include <QString>
+
+#include <array>
+
+namespace ferna {
+
+/// The file in which an office keeps what the two free lines of its title blocks say.
+inline const QString titleLinesFile = QStringLiteral("Naglowek.ini");
+
+/// Lines 2 and 3 of the title block: the standards' title in the report's language, and the
+/// office's name. From the file of that folder, text in UTF-8 with a line "key = text" each:
+/// "norma_pl", "norma_p2", "norma_gb", "norma_fr", "norma_ge", "biuro"; a line that begins with ";"
+/// is a remark. Empty where the file or a key is missing. Errors 9 for a language that there is
+/// not, 57 for a file that is no UTF-8 or has a line without a known key: the detail names file and
+/// line; those of `readFileWhole`.
+std::array<QString, 2> titleLines(const QString& folder, Integer Nr_jezyka);
+
+} // namespace ferna

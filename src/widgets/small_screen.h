@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QSize>
+
+class QTabWidget;
+class QWidget;
+
+namespace ferna {
+
+/// What a form may take of its screen, its frame left out.
+QSize roomOnScreen(const QWidget* form);
+
+/// True where a form needs more than `room`.
+bool needsMoreThan(const QWidget* form, QSize room);
+
+/// Lets the pages of a tab widget be scrolled, so that what stands around them can always be seen.
+void letPagesScroll(QTabWidget* tabs);
+
+/// Lets all that stands on a form be scrolled; a menu bar stays in its place.
+void letContentsScroll(QWidget* form);
+
+} // namespace ferna
