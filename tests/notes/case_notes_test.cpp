@@ -262,9 +262,10 @@ TEST(CaseNotes, RefusedTensionWithoutAnEquilibriumIsToldWithoutStresses) {
     const notes::Notes found = desk.calculated();
     ASSERT_FALSE(desk.exact(1).exists);
     ASSERT_EQ(marks(found), (Marks{"nie_stoi 1", "rozciaganie 1"}));
-    EXPECT_EQ(found[1].text,
-              QStringLiteral("Przypadek 1: program nie liczy zakotwień rozciąganych (N = -50,0 kN) "
-                             "Policz ten przypadek osobno albo usuń go z zestawienia."));
+    EXPECT_EQ(
+        found[1].text,
+        QStringLiteral("Przypadek 1: program nie liczy zakotwień rozciąganych (N = -50,0 kN). "
+                       "Policz ten przypadek osobno albo usuń go z zestawienia."));
 }
 
 TEST(CaseNotes, AnAnchorMovedAlongOneAxisAloneHasMoved) {

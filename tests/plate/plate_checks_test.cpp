@@ -1,4 +1,5 @@
 #include "plate/plate_desk.h"
+#include "plate/plate_tables.h"
 
 #include <cmath>
 
