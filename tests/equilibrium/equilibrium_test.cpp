@@ -43,6 +43,7 @@ TEST(Equilibrium, InsideTheKernIsThatOfTheWholePlate) {
     EXPECT_NEAR(result.plane.sx, 12e6 / (400 * 600.0 * 600 * 600 / 12), 1e-16);
     EXPECT_NEAR(result.plane.sy, -4e6 / (600 * 400.0 * 400 * 400 / 12), 1e-16);
     EXPECT_NEAR(result.sigmaConcrete, 1.75, 1e-14);
+    EXPECT_EQ(result.steps, 1) << "the first plane is the equilibrium";
     EXPECT_EQ(result.sigmaAnchor, (std::array<double, mostAnchors>{}));
     EXPECT_FALSE(result.neutralLine);
 }
@@ -171,6 +172,39 @@ TEST(Equilibrium, OfAPullOnTheVergeIsCarriedByTheAnchorsOnItsAxisAlone) {
     EXPECT_NEAR(force(problem, result, 400, 0), 0, 1e-4);
     // Pulled beyond the row's end, the third is no help: it does not stand on the axis.
     EXPECT_FALSE((BaseAndLoad{600, 400, 6, anchors, {-10, -3, 1.1}}.solved().exists));
+}
+
+TEST(Equilibrium, EndsAboutARowAlongTheOtherEdgeToo) {
+    const std::vector<Anchor> row{{-100, 200, 353}, {100, 200, 353}};
+    const BaseAndLoad problem{600, 400, 6, row, {-10, -0.5, -2}};
+    const Result pulled = problem.solved();
+    ASSERT_TRUE(pulled.exists);
+    EXPECT_NEAR(force(problem, pulled, 100, 200), 7.5, 1e-4);
+    EXPECT_NEAR(force(problem, pulled, -100, 200), 2.5, 1e-4);
+    for (const double M1 : {1.1, -1.1})
+        EXPECT_FALSE((BaseAndLoad{600, 400, 6, row, {-10, M1, -2}}.solved().exists)) << M1;
+}
+
+TEST(Equilibrium, OfAPullAtAnAnchorInTheVeryCornerIsThatOfTheAnchor) {
+    const BaseAndLoad problem{600, 400, 6, {{300, 200, 353}}, {-10, -3, -2}};
+    const Result result = problem.solved();
+    ASSERT_TRUE(result.exists);
+    EXPECT_NEAR(force(problem, result, 300, 200), 10, 1e-4);
+}
+
+TEST(Equilibrium, OfAMomentAloneIsFoundInEitherDirection) {
+    const std::vector<Anchor> anchors = fourAnchors(250, 150, 353);
+    const BaseAndLoad about1{600, 400, 6, anchors, {0, 5, 0}};
+    const BaseAndLoad about2{600, 400, 6, anchors, {0, 0, 5}};
+    for (const BaseAndLoad& problem : {about1, about2}) {
+        const Result result = problem.solved();
+        EXPECT_GT(result.sigmaConcrete, 0);
+        EXPECT_LT(imbalanceOf(problem, result).error, 1e-13);
+    }
+    EXPECT_NEAR(force(about1, about1.solved(), -250, 150),
+                force(about1, about1.solved(), -250, -150), 1e-9);
+    EXPECT_NEAR(force(about2, about2.solved(), 250, -150),
+                force(about2, about2.solved(), -250, -150), 1e-9);
 }
 
 TEST(Equilibrium, TipsAboutTheLineFromACornerToAnAnchorBesideThePlate) {
