@@ -52,15 +52,17 @@ private:
 };
 
 /// What is left to the library though it is JSON: escapes, a mark of the encoding before the text,
-/// and numbers that may lie beyond those that the reader holds.
+/// a zero that the library takes for its end, and numbers that may lie beyond those that the reader
+/// holds.
 bool mayBeLeft(std::string_view text) {
-    if (text.starts_with("\xEF\xBB\xBF") || text.find('\\') != text.npos)
+    if (text.starts_with("\xEF\xBB\xBF") || text.find('\\') != text.npos
+        || text.find('\0') != text.npos)
         return true;
     std::size_t digits = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
         digits = text[i] >= '0' && text[i] <= '9' ? digits + 1 : 0;
-        const bool isExponent = (text[i] == 'e' || text[i] == 'E') && i > 0
-                                && text[i - 1] >= '0' && text[i - 1] <= '9';
+        const bool isExponent =
+            (text[i] == 'e' || text[i] == 'E') && i > 0 && text[i - 1] >= '0' && text[i - 1] <= '9';
         if (digits > 18 || isExponent)
             return true;
     }

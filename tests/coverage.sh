@@ -18,7 +18,7 @@ if [[ ${1:-} != --again ]]; then
     cmake --build $build -j "${JOBS:-1}" --target "${tests[@]/#/test_}"
     rm -f $build/*.profraw
     for test in "${tests[@]}"; do
-        LLVM_PROFILE_FILE=$build/$test.profraw LC_ALL=C.UTF-8 "$build/tests/test_$test" --gtest_brief=1
+        FERNA_LOADS=100000 LLVM_PROFILE_FILE=$build/$test.profraw LC_ALL=C.UTF-8 "$build/tests/test_$test" --gtest_brief=1
     done
     llvm-profdata-14 merge -o $build/tests.profdata $build/*.profraw
 fi

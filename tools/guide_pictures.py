@@ -27,7 +27,7 @@ class Camera:
         self.desktop = desktop
         self.folder = folder
 
-    def take(self, name, title, part=None):
+    def take(self, name, title, part=None, colours=64):
         """Pictures the window of that title with its frame, in few colours; with `part`, the width
         and height of its upper left corner and what covers it."""
         window = self.desktop.window(title)
@@ -39,7 +39,7 @@ class Camera:
             place = re.findall(r"Absolute upper-left .:\s+(\d+)", told)
             what = ["-window", "root", "-crop", "%dx%d+%s+%s" % (*part, *place), "+repage"]
         path = os.path.join(self.folder, name + ".png")
-        subprocess.run(["import", *what, "-strip", "+dither", "-colors", "64",
+        subprocess.run(["import", *what, "-strip", "+dither", "-colors", str(colours),
                         "-define", "png:compression-level=9",
                         "-define", "png:exclude-chunks=date,time", "PNG8:" + path],
                        env=self.desktop.env, check=True, timeout=30)
@@ -74,6 +74,9 @@ class Guide(Program):
         keys("Return")
         self.desktop.gone(FOUR)
         self.take("anchors", MAIN)
+        keys("F9")
+        self.take("live-view", MAIN, colours=256)  # the pressures are a smooth field
+        keys("F9")
 
     def slip(self, task):
         """A letter among the loads: the program stops, tells it and lets the engineer go back."""
@@ -163,6 +166,21 @@ def run(desktop, folder, task, pictures):
     guide.back()
 
 
+def picture_of_the_sheet(programs, sample, work, pictures):
+    """The page of a load case in the calculation sheet."""
+    pdf = os.path.join(work, "sheet.pdf")
+    subprocess.run([os.path.join(programs, "ferna-wsad"), "--dziesietny", ",", "--wynik",
+                    os.path.join(work, "sheet.json"), "--arkusz", pdf, sample],
+                   env=os.environ | {"SOURCE_DATE_EPOCH": "1709560800"}, check=True, timeout=60)
+    page = os.path.join(work, "sheet")
+    subprocess.run(["pdftoppm", "-r", "80", "-f", "2", "-l", "2", "-singlefile", "-png", pdf, page],
+                   check=True, timeout=60)
+    subprocess.run(["convert", page + ".png", "-strip", "+dither", "-colors", "64",
+                    "-define", "png:compression-level=9",
+                    "-define", "png:exclude-chunks=date,time",
+                    "PNG8:" + os.path.join(pictures, "sheet.png")], check=True, timeout=60)
+
+
 def main():
     programs, sample, pictures = map(os.path.abspath, sys.argv[1:])
     with open(sample, encoding="utf-8") as file:
@@ -171,6 +189,7 @@ def main():
     with tempfile.TemporaryDirectory(prefix="ferna-guide-") as work:
         folder = os.path.join(work, "bin")
         shutil.copytree(programs, folder)
+        picture_of_the_sheet(programs, sample, work, pictures)
         desktop = Desktop(os.path.join(work, "home"), SCREEN)
         try:
             # Numbers as an engineer in Poland has them.

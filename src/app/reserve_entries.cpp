@@ -34,7 +34,7 @@ ReserveEntries::ReserveEntries(Ferna3& form, Stan& stan)
     QObject::connect(&form, &Ferna3::entered, &smallest_, &SmallestWindow::loadsChanged);
 }
 
-// One change of the task, told once it is whole, so that it is one step to undo.
+// One change of the task, told once it is whole: one step to undo.
 void ReserveEntries::take(const smallest::Design& design, const smallest::DesignRange& range) {
     {
         const QSignalBlocker quiet(&form_);
@@ -46,6 +46,7 @@ void ReserveEntries::take(const smallest::Design& design, const smallest::Design
         form_.editAnchors([](Plyta_i_kotwy&) {}); // drawn on the new plate
     }
     Q_EMIT form_.anchorsShown();
+    Q_EMIT form_.stepped(QStringLiteral("przejęcie dobranej podstawy"));
     Q_EMIT form_.entered();
 }
 

@@ -34,13 +34,14 @@ void saveSheet(FernaWyn& results, const Stan& stan, notes::Record& record, Dialo
     record.labelled(results.session().typedLabel());
     {
         const Hourglass hourglass;
-        sheet::saveSheet(sheet::makeSheet({.stan = stan,
-                                           .record = record,
-                                           .hasResults = true,
-                                           .project = stan.opcje.Nazwa_projektu,
-                                           .program = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION),
-                                           .now = QDateTime::currentDateTime()}),
-                         file);
+        sheet::saveSheet(
+            sheet::makeSheet({.stan = stan,
+                              .record = record,
+                              .hasResults = true,
+                              .project = stan.opcje.Nazwa_projektu,
+                              .program = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION),
+                              .now = QDateTime::currentDateTime()}),
+            file);
     }
     results.tellWritten({file});
 }
@@ -49,7 +50,8 @@ void saveSheet(FernaWyn& results, const Stan& stan, notes::Record& record, Dialo
 
 void addSheetEntry(FernaWyn& results, const Stan& stan, notes::Record& record, Dialogs& dialogs) {
     QAction* const entry = results.moreMenu()->addAction(QStringLiteral("&Arkusz obliczeniowy..."));
-    entry->setStatusTip(QStringLiteral("Zapisuje wszystkie liczby obliczenia ze wzorami i normami"));
+    entry->setStatusTip(
+        QStringLiteral("Zapisuje wszystkie liczby obliczenia ze wzorami i normami"));
     connectGuarded(entry, &QAction::triggered, &results,
                    [&] { saveSheet(results, stan, record, dialogs); });
 }

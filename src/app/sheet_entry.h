@@ -1,7 +1,7 @@
 #pragma once
 
-#include "report/forms/FernaWyn.h"
 #include "notes/record.h"
+#include "report/forms/FernaWyn.h"
 
 namespace ferna {
 

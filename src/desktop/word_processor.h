@@ -36,8 +36,8 @@ public:
     /// processor.
     virtual void GoTo(std::optional<int> what, std::optional<int> which, int Count) = 0;
 
-    /// Saves the document; the ending chooses the format: ".odt", ".docx", else that of ".doc". An existing
-    /// file is replaced whole or not at all. Errors of `writeFileWhole`.
+    /// Saves the document; the ending chooses the format: ".odt", ".docx", else that of ".doc". An
+    /// existing file is replaced whole or not at all. Errors of `writeFileWhole`.
     virtual void SaveAs(const QString& FileName) = 0;
     virtual void Close() = 0;
 };

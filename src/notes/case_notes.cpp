@@ -144,6 +144,8 @@ void tensionRefused(const Record& record, int c, Notes& notes) {
         const Exact exact = exactOf(*result, record.given().plate.Liczba_srub, record);
         text += QStringLiteral(". Dokładna równowaga: ") + stressesOf(exact) + QStringLiteral(". ")
                 + verdictOf(exact);
+    } else {
+        text += u'.';
     }
     text += QStringLiteral(" Policz ten przypadek osobno albo usuń go z zestawienia.");
     notes.push_back({Code::Rozciaganie, c, 0, 0, text});

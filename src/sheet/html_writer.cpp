@@ -39,7 +39,10 @@ public:
         : sheet_(sheet), pictures_(HtmlPictures::Inside), taken_(&taken) {}
 
     QString flat() {
-        html_ = QStringLiteral("<html><body><h1>%1</h1>").arg(sheet_.title);
+        html_ =
+            QStringLiteral(
+                "<html><body style=\"font-family:'Liberation Sans'; font-size:9pt\"><h1>%1</h1>")
+                .arg(sheet_.title);
         write(sheet_.blocks);
         html_ += QStringLiteral("<p>%1</p></body></html>").arg(sheet_.made);
         return html_;
@@ -104,9 +107,10 @@ private:
             return;
         if (taken_ != nullptr) {
             constexpr double dotsPerMm = 96 / 25.4; // of a rich text
-            html_ += QStringLiteral("<p><img src=\"%1\" width=\"%2\"></p>")
+            html_ += QStringLiteral("<p><img src=\"%1\" width=\"%2\" height=\"%3\"></p>")
                          .arg(taken_->size())
-                         .arg(picture.width * dotsPerMm);
+                         .arg(picture.width * dotsPerMm)
+                         .arg(picture.height * dotsPerMm);
             taken_->push_back(&picture);
             return;
         }
@@ -132,7 +136,10 @@ private:
 
     void write(const Equations& equations) {
         html_ += tableTag("equations");
-        if (equations.twoResults)
+        if (equations.twoResults && taken_ != nullptr)
+            html_ += QStringLiteral("<tr><td></td><td></td><td>%1</td><td>%2</td><td></td></tr>\n")
+                         .arg(sheet_.search, sheet_.exact);
+        else if (equations.twoResults)
             html_ += QStringLiteral("<thead><tr><th></th><th></th><th>%1</th><th>%2</th><th></th>"
                                     "<th></th></tr></thead>\n")
                          .arg(sheet_.search, sheet_.exact);
@@ -150,6 +157,10 @@ private:
             way = QStringLiteral("= %1 = %2")
                       .arg(formula(*told->formula, Show::Symbols),
                            formula(*told->formula, Show::Values));
+        if (taken_ != nullptr) {
+            writeFlatRow(row, *told, way, twoResults);
+            return;
+        }
         html_ +=
             QStringLiteral("<tr><td>%1</td><td class=\"way\">%2</td><td class=\"result\">%3</td>")
                 .arg(richSymbol(told->symbol), way,
@@ -159,6 +170,28 @@ private:
                          .arg(row.exact != nullptr ? withUnit(*row.exact) : QString());
         html_ += QStringLiteral("<td>%1</td><td class=\"source\">%2</td></tr>\n")
                      .arg(row.remark, rich(told->source));
+    }
+
+    /// With the widths that a rich text would not find by itself.
+    void writeFlatRow(const Equation& row, const Quantity& told, const QString& way,
+                      bool twoResults) {
+        const auto add = [&](int share, const QString& text) {
+            html_ += QStringLiteral("<td width=\"%1%\">%2</td>").arg(share).arg(text);
+        };
+        const auto result = [&](const Quantity* number) {
+            add(15,
+                number != nullptr ? QStringLiteral("<b>%1</b>").arg(withUnit(*number)) : QString());
+        };
+        html_ += QStringLiteral("<tr>");
+        add(9, richSymbol(told.symbol));
+        add(twoResults ? 33 : 40, way);
+        result(row.result);
+        if (twoResults)
+            result(row.exact);
+        add(twoResults ? 28 : 36,
+            told.source.isEmpty() ? row.remark
+                                  : row.remark + QStringLiteral(" [%1]").arg(rich(told.source)));
+        html_ += QStringLiteral("</tr>\n");
     }
 
     void write(const Table& table) {

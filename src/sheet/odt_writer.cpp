@@ -5,6 +5,7 @@
 #include <QBuffer>
 #include <QTextDocument>
 #include <QTextDocumentWriter>
+#include <QTextFrame>
 #include <QUrl>
 
 namespace ferna::sheet {
@@ -17,9 +18,12 @@ QByteArray odtOf(const Sheet& sheet) {
     for (std::size_t i = 0; i < pictures.size(); ++i)
         document.addResource(QTextDocument::ImageResource, QUrl(QString::number(i)),
                              imageOf(*pictures[i]));
-    constexpr double widthOfText = 175 * 96 / 25.4; // A4 within its margins
-    document.setTextWidth(widthOfText);
     document.setHtml(html);
+    constexpr double perMm = 96 / 25.4; // of a rich text
+    document.setPageSize(QSizeF(210, 297) * perMm);
+    QTextFrameFormat page = document.rootFrame()->frameFormat();
+    page.setMargin(15 * perMm);
+    document.rootFrame()->setFrameFormat(page);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);

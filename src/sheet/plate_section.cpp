@@ -149,6 +149,13 @@ private:
         return computed("t", "t", columnBaseThicknessClause, {sigma, h, s, k, fd()});
     }
 
+    /// A curve that the chart does not have, or that has ended, counts as 0.
+    Rich readAt(Single y, Integer curve) const {
+        if (y != 0)
+            return {};
+        return maker_.text()(QStringLiteral("plate.noCurve"), {significant(curve / 10.0, 3)});
+    }
+
     const Quantity* anchorFragment(const PlateInputs::AnchorFragment& in, const Clause& chart) {
         const Quantity* const S = force(in.S);
         const Quantity* const b = given("b", "b", in.b, "mm");
@@ -162,8 +169,8 @@ private:
             "L", "L", read.row.L, "",
             maker_.text()(QStringLiteral("plate.curves"), {significant(read.row.k1 / 10.0, 3),
                                                            significant(read.row.k2 / 10.0, 3)}));
-        const Quantity* const y1 = given("y1", "y_1", read.y1, "");
-        const Quantity* const y2 = given("y2", "y_2", read.y2, "");
+        const Quantity* const y1 = given("y1", "y_1", read.y1, "", readAt(read.y1, read.row.k1));
+        const Quantity* const y2 = given("y2", "y_2", read.y2, "", readAt(read.y2, read.row.k2));
         const Quantity* const d = given("d", "d", step, "");
         const Quantity* const y = computed("y", "y", chart, {y1, y2, p, L, d});
         return computed("t", "t", anchorFragmentThicknessClause, {S, y, fd()});

@@ -1,6 +1,7 @@
 #include "task/complaints.h"
 #include "task/task.h"
 
+#include <algorithm>
 #include <iterator>
 #include <set>
 #include <vector>
@@ -103,6 +104,10 @@ int lineOf(std::string_view text, const std::string& path) {
     int line = 1;
     int found = 1;
     bool known = path.empty();
+    if (const std::size_t zero = text.find('\0'); known && zero != std::string_view::npos) {
+        const std::string_view before = text.substr(0, zero);
+        return 1 + static_cast<int>(std::count(before.begin(), before.end(), '\n'));
+    }
     PathKeeper keeper;
     try {
         const auto note = [&](int /*depth*/, PathKeeper::Event event, nlohmann::json& value) {

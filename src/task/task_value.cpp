@@ -13,7 +13,15 @@ namespace ferna {
 
 namespace {
 
-constexpr std::size_t deepest = 32; // levels of objects and arrays
+constexpr std::size_t deepest = 32;                       // levels of objects and arrays
+constexpr std::int64_t mostWhole = std::int64_t{1} << 53; // a double holds them exactly up to here
+
+/// What the parser says of a text that is no JSON.
+TaskError noJson(const std::string& what) {
+    return {"",
+            {"expected JSON: " + what,
+             "to nie jest pełny plik zadania (tekst JSON jest tu uszkodzony albo urwany)"}};
+}
 
 Json jsonOf(const TaskValue& value) {
     switch (value.kind) {
@@ -56,10 +64,10 @@ public:
         return true;
     }
     bool number_integer(Json::number_integer_t value) {
-        return number(static_cast<double>(value), fits(std::abs(value)));
+        return number(static_cast<double>(value), value >= -mostWhole && value <= mostWhole);
     }
     bool number_unsigned(Json::number_unsigned_t value) {
-        return number(static_cast<double>(value), fits(value));
+        return number(static_cast<double>(value), value <= std::uint64_t{mostWhole});
     }
     bool number_float(double value, std::string_view /*text*/) { return number(value, false); }
     bool string(std::string_view value) {
@@ -86,10 +94,7 @@ public:
                      const nlohmann::detail::exception& failure) {
         const std::string what = failure.what();
         const std::size_t behindTheId = what.find("] ");
-        throw TaskError(
-            "", {"expected JSON: "
-                     + (behindTheId == std::string::npos ? what : what.substr(behindTheId + 2)),
-                 "to nie jest pełny plik zadania (tekst JSON jest tu uszkodzony albo urwany)"});
+        throw noJson(behindTheId == std::string::npos ? what : what.substr(behindTheId + 2));
     }
 
 private:
@@ -113,13 +118,6 @@ private:
                 value.key = levels_[depth_ - 1].key;
         }
         return value;
-    }
-
-    /// True for a whole number that a double holds exactly.
-    template <typename Whole>
-    static bool fits(Whole value) {
-        constexpr Whole most = Whole{1} << 53;
-        return value <= most;
     }
 
     bool number(double value, bool isWhole) {
@@ -202,6 +200,9 @@ TaskDocument parsed(std::string_view text) {
     Keeper keeper(document, text.size());
     if (PlainJson(text, keeper).read())
         return document;
+    // The library takes it for the end and would not see what stands behind it.
+    if (text.find('\0') != std::string_view::npos)
+        throw noJson("a zero byte stands in it");
     TaskDocument again;
     Keeper other(again, text.size());
     Json::sax_parse(text, &other);

@@ -68,9 +68,10 @@ void writeSteel(Json& out, const Task& task) {
 /// The anchors where they are computed, in whole millimetres.
 void writeAnchors(Json& out, const Plyta_i_kotwy& plate) {
     Json& anchors = out["Kotwy"] = Json::array();
-    for (int i = 1; i <= plate.Liczba_srub; ++i)
-        anchors.push_back({{"x", CInt(plate.X_kotwy(i) * 10.0)},
-                           {"y", CInt(plate.Y_kotwy(i) * 10.0)},
+    const auto millimetres = [](Single cm) { return CInt(qBound(-32767.0, cm * 10.0, 32767.0)); };
+    for (int i = 1; i <= qMin<int>(plate.Liczba_srub, MaxAnchors); ++i)
+        anchors.push_back({{"x", millimetres(plate.X_kotwy(i))},
+                           {"y", millimetres(plate.Y_kotwy(i))},
                            {"fi", plate.Fi_kotwy(i)}});
 }
 

@@ -149,4 +149,20 @@ TEST(Solve, DependsOnItsInputAndItsCarryAlone) {
     EXPECT_GT(found, 100);
 }
 
+TEST(Kern, OfAMomentInOnePlaneEndsAtASixthOfItsSide) {
+    Stan_przypadku s;
+    s.Plyta_L = 60;
+    s.Plyta_B = 40;
+    s.M1k = 0;
+    s.M2k = 1000;
+    s.Mimosrod = 0; // not asked for beyond the sixth
+    s.Ey = 6.7;
+    EXPECT_TRUE(Poza_rdzeniem(s));
+    s.Ey = 6.6;
+    EXPECT_FALSE(Poza_rdzeniem(s));
+    s.M2k = 0;
+    s.Ey = 6.7;
+    EXPECT_FALSE(Poza_rdzeniem(s)) << "no moment, no eccentricity";
+}
+
 } // namespace

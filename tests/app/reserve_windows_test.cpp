@@ -1,6 +1,7 @@
 #include "app/reserve_entries.h"
 #include "capacity/forms/chart_view.h"
 #include "support/main_form.h"
+#include "task/forms/task_desk.h"
 
 #include <QCheckBox>
 #include <QMenu>
@@ -181,6 +182,24 @@ TEST_F(ReserveWindows, TheSmallestBaseIsFoundConfirmedAndTakenIntoTheFormAtOnce)
     EXPECT_EQ(form->fields().loads[0].M1, QStringLiteral("60")) << "the loads stay";
     EXPECT_TRUE(said().endsWith(QStringLiteral(" stoi w zadaniu.")));
     EXPECT_EQ(form->drawnPlate()->Dlug_plyty_mm, plate[0].toInt()) << "drawn on its plate";
+}
+
+TEST_F(ReserveWindows, OneStepBackBringsTheBaseOfBeforeTheTaking) {
+    TaskDesk desk(*form, dialogs, path(QStringLiteral("kept")));
+    desk.begin();
+    openSmallest();
+    in<QComboBox>(entries->smallest(), "cmbFiOd")->setCurrentIndex(4); // 30 mm and more
+    QTest::mouseClick(in<QPushButton>(entries->smallest(), "cmdSzukaj"), Qt::LeftButton);
+    ASSERT_GT(table().rowCount(), 0);
+    QTest::mouseClick(in<QPushButton>(entries->smallest(), "cmdPrzejmij"), Qt::LeftButton);
+    settle();
+    EXPECT_GE(stan.plyta.Fi_kotwy(1), 30);
+    desk.undo();
+    settle();
+    EXPECT_EQ(text("Text3"), QStringLiteral("600"));
+    EXPECT_EQ(text("Text4"), QStringLiteral("400"));
+    EXPECT_EQ(stan.plyta.Liczba_srub, 4);
+    EXPECT_EQ(stan.plyta.Fi_kotwy(1), 24);
 }
 
 TEST_F(ReserveWindows, ARangeThatCannotBeWorkedWithIsSaid) {

@@ -7,6 +7,7 @@
 #include "editing/forms/load_table_keys.h"
 #include "input/anchor_layout.h"
 #include "support/main_form.h"
+#include "task/forms/task_desk.h"
 #include "widgets/note_band.h"
 
 #include <QCheckBox>
@@ -192,6 +193,11 @@ TEST_F(CombinationsWindowTest, WstawFillsTheLoadTableWithTheGoverningRowsAndObli
     EXPECT_EQ(loadRow(2), QStringLiteral("300 20 0 1 0")) << "the first, where shear is nowhere";
     EXPECT_EQ(loadRow(3), QStringLiteral("100 -60 10 5 0"));
 
+    QTest::qWait(500); // also when the rows have been answered anew
+    EXPECT_EQ(notes(), QStringList(QStringLiteral(
+                           "Wstawiono do tabeli obciążeń wierszy: 4. Oblicz policzy je i utworzy "
+                           "raport; porównanie pokaże się tutaj.")));
+
     auto* const comparison = window().findChild<ComparisonView*>();
     EXPECT_EQ(comparison->rowCount(), 0);
     activate();
@@ -208,6 +214,27 @@ TEST_F(CombinationsWindowTest, WstawFillsTheLoadTableWithTheGoverningRowsAndObli
     entries->calculated();
     EXPECT_EQ(comparison->item(1, 6)->text(), QStringLiteral("różnią się"));
     EXPECT_TRUE(notes().front().contains(u"się różnią: 1"));
+}
+
+TEST_F(CombinationsWindowTest, WhatWstawPutIsTakenBackInOneStep) {
+    const QTemporaryDir kept;
+    TaskDesk desk(*form, dialogs, kept.path());
+    desk.begin();
+    const QString before = loadRow(0);
+    const QString count = text("Text1");
+    read(table);
+    QTest::mouseClick(button(QStringLiteral("&Wstaw do tabeli")), Qt::LeftButton);
+    settle();
+    ASSERT_EQ(loadRow(0), QStringLiteral("2500 20 0 1 0"));
+    ASSERT_TRUE(desk.history().canUndo());
+    EXPECT_EQ(desk.history().undoName(), QStringLiteral("wstawienie kombinacji"));
+    desk.undo();
+    EXPECT_EQ(loadRow(0), before);
+    EXPECT_EQ(text("Text1"), count);
+    EXPECT_FALSE(desk.canUndo());
+    desk.redo();
+    EXPECT_EQ(loadRow(0), QStringLiteral("2500 20 0 1 0"));
+    EXPECT_EQ(text("Text1"), QStringLiteral("4"));
 }
 
 TEST_F(CombinationsWindowTest, AnswersAnewWhenTheBaseChanges) {

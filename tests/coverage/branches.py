@@ -31,13 +31,11 @@ def branches(export, rooms):
     for data in export["data"]:
         for function in data["functions"]:
             for *span, when_true, when_false, file_id, _, _ in function["branches"]:
-                path = pathlib.Path(function["filenames"][file_id])
-                if path.is_relative_to(TOP / "src"):
-                    name = str(path.relative_to(TOP))
-                else:  # a header found through its room's folder in the build
-                    name = "src/" + "/".join(path.parts[-2:])
-                if name.split("/")[1] not in rooms or "/forms/" in name:
+                # Headers are found through the folders of the rooms in the build.
+                path = pathlib.Path(function["filenames"][file_id]).resolve()
+                if not any(path.parent == TOP / "src" / room for room in rooms):
                     continue
+                name = str(path.relative_to(TOP))
                 taken[(name, tuple(span), "true")] += when_true
                 taken[(name, tuple(span), "false")] += when_false
     return taken

@@ -142,9 +142,10 @@ TEST(HelpPages, AKeywordAndAContextStandOnce) {
 TEST(HelpPages, EveryContextOfTheFormsHasItsPage) {
     const QStringList ids =
         captured(helpPage(project), QStringLiteral("<keyword [^>]*id=\"([^\"]*)\""));
-    for (const int context : {help::Start, help::Configuration, help::General, help::Loads,
-                              help::Anchors, help::Statics, help::Results, help::PlateThickness,
-                              help::AnchorSelection, help::Capacity, help::SmallestBase, help::Messages})
+    for (const int context :
+         {help::Start, help::Configuration, help::General, help::Loads, help::Anchors,
+          help::Statics, help::Results, help::PlateThickness, help::AnchorSelection, help::Capacity,
+          help::SmallestBase, help::Messages})
         EXPECT_TRUE(ids.contains(QString::number(context))) << context;
 }
 

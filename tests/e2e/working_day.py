@@ -233,6 +233,7 @@ class Day:
         self.desktop.window(MAIN)
         self.desktop.keys("ctrl+s")
         self.desktop.answer("Zapisz zadanie jako", self.saved("F-10"))
+        wait_for("the file of the task", lambda: os.path.exists(self.saved("F-10.ferna")))
         saved = json.loads(read(self.saved("F-10.ferna")))
         expect(saved["Nazwa_stopy"] == "F-10" and len(saved["Kotwy"]) == 4, "a task is missing")
         text, _ = self.companion("from-file", saved | {"Nr_strony": 40}, ".txt")

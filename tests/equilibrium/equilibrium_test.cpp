@@ -43,6 +43,7 @@ TEST(Equilibrium, InsideTheKernIsThatOfTheWholePlate) {
     EXPECT_NEAR(result.plane.sx, 12e6 / (400 * 600.0 * 600 * 600 / 12), 1e-16);
     EXPECT_NEAR(result.plane.sy, -4e6 / (600 * 400.0 * 400 * 400 / 12), 1e-16);
     EXPECT_NEAR(result.sigmaConcrete, 1.75, 1e-14);
+    EXPECT_EQ(result.steps, 1) << "the first plane is the equilibrium";
     EXPECT_EQ(result.sigmaAnchor, (std::array<double, mostAnchors>{}));
     EXPECT_FALSE(result.neutralLine);
 }
@@ -86,6 +87,15 @@ TEST(Equilibrium, OfAPullAtASingleAnchorIsThatOfTheAnchor) {
     EXPECT_EQ(result.sigmaConcrete, 0);
     EXPECT_FALSE(result.neutralLine);
     EXPECT_LT(result.residual, 1e-12);
+}
+
+TEST(Equilibrium, OfAPullIsThatOfTheAnchorHoweverThinItIs) {
+    for (const double area : {1e-3, 1e-12, 1e-20}) { // mm2
+        const BaseAndLoad problem{600, 400, 6, {{120, -50, area}}, {-10, -1.2, 0.5}};
+        const Result result = problem.solved();
+        ASSERT_TRUE(result.exists) << area;
+        EXPECT_NEAR(result.sigmaAnchor[0] * area, -10e3, 1e-8) << area;
+    }
 }
 
 TEST(Equilibrium, OfAPullBetweenTwoAnchorsFollowsTheLever) {
@@ -143,11 +153,58 @@ TEST(Equilibrium, EndsAboutARowOfAnchorsAlongTheEdge) {
     EXPECT_NEAR(pulled.sigmaAnchor[0] * 353, -7.5e3, 0.1);
     EXPECT_NEAR(pulled.residual, 1e-12, 1e-13) << "the load was moved off the verge by this";
     EXPECT_NEAR(pulled.sigmaAnchor[1] * 353, -2.5e3, 0.1);
-    EXPECT_FALSE((BaseAndLoad{600, 400, 6, row, {-10, -3, 1.1}}.solved().exists));
+    for (const double M2 : {1.1, -1.1})
+        EXPECT_FALSE((BaseAndLoad{600, 400, 6, row, {-10, -3, M2}}.solved().exists)) << M2;
     const Result tipping = BaseAndLoad{600, 400, 6, row, {-10, -2.9, 0}}.solved();
     ASSERT_FALSE(tipping.exists);
     expectPoint(tipping.tippingAxis[0], 300, -200);
     expectPoint(tipping.tippingAxis[1], 300, 200);
+}
+
+TEST(Equilibrium, OfAPullOnTheVergeIsCarriedByTheAnchorsOnItsAxisAlone) {
+    // The third would only push the plate's far edge down, and nothing there answers.
+    const std::vector<Anchor> anchors{{300, -100, 353}, {300, 100, 353}, {400, 0, 353}};
+    const BaseAndLoad problem{600, 400, 6, anchors, {-10, -3, 0.5}};
+    const Result result = problem.solved();
+    ASSERT_TRUE(result.exists);
+    EXPECT_NEAR(force(problem, result, 300, -100), 7.5, 1e-4);
+    EXPECT_NEAR(force(problem, result, 300, 100), 2.5, 1e-4);
+    EXPECT_NEAR(force(problem, result, 400, 0), 0, 1e-4);
+    // Pulled beyond the row's end, the third is no help: it does not stand on the axis.
+    EXPECT_FALSE((BaseAndLoad{600, 400, 6, anchors, {-10, -3, 1.1}}.solved().exists));
+}
+
+TEST(Equilibrium, EndsAboutARowAlongTheOtherEdgeToo) {
+    const std::vector<Anchor> row{{-100, 200, 353}, {100, 200, 353}};
+    const BaseAndLoad problem{600, 400, 6, row, {-10, -0.5, -2}};
+    const Result pulled = problem.solved();
+    ASSERT_TRUE(pulled.exists);
+    EXPECT_NEAR(force(problem, pulled, 100, 200), 7.5, 1e-4);
+    EXPECT_NEAR(force(problem, pulled, -100, 200), 2.5, 1e-4);
+    for (const double M1 : {1.1, -1.1})
+        EXPECT_FALSE((BaseAndLoad{600, 400, 6, row, {-10, M1, -2}}.solved().exists)) << M1;
+}
+
+TEST(Equilibrium, OfAPullAtAnAnchorInTheVeryCornerIsThatOfTheAnchor) {
+    const BaseAndLoad problem{600, 400, 6, {{300, 200, 353}}, {-10, -3, -2}};
+    const Result result = problem.solved();
+    ASSERT_TRUE(result.exists);
+    EXPECT_NEAR(force(problem, result, 300, 200), 10, 1e-4);
+}
+
+TEST(Equilibrium, OfAMomentAloneIsFoundInEitherDirection) {
+    const std::vector<Anchor> anchors = fourAnchors(250, 150, 353);
+    const BaseAndLoad about1{600, 400, 6, anchors, {0, 5, 0}};
+    const BaseAndLoad about2{600, 400, 6, anchors, {0, 0, 5}};
+    for (const BaseAndLoad& problem : {about1, about2}) {
+        const Result result = problem.solved();
+        EXPECT_GT(result.sigmaConcrete, 0);
+        EXPECT_LT(imbalanceOf(problem, result).error, 1e-13);
+    }
+    EXPECT_NEAR(force(about1, about1.solved(), -250, 150),
+                force(about1, about1.solved(), -250, -150), 1e-9);
+    EXPECT_NEAR(force(about2, about2.solved(), 250, -150),
+                force(about2, about2.solved(), -250, -150), 1e-9);
 }
 
 TEST(Equilibrium, TipsAboutTheLineFromACornerToAnAnchorBesideThePlate) {
@@ -215,13 +272,17 @@ TEST(Equilibrium, RefusesWhatIsNoBase) {
     const std::vector<Anchor> anchors = fourAnchors(250, 150, 353);
     EXPECT_TRUE((Base{600, 400, 6, anchors}.usable()));
     EXPECT_FALSE((Base{0, 400, 6, anchors}.usable()));
+    EXPECT_FALSE((Base{600, 0, 6, anchors}.usable()));
+    EXPECT_FALSE((Base{std::numeric_limits<double>::infinity(), 400, 6, anchors}.usable()));
     EXPECT_FALSE((Base{600, -400, 6, anchors}.usable()));
     EXPECT_FALSE((Base{600, 400, -6, anchors}.usable()));
     EXPECT_FALSE((Base{600, 400, nothing, anchors}.usable()));
     EXPECT_FALSE((Base{600, 400, 6, std::vector<Anchor>{{0, 0, -1}}}.usable()));
     EXPECT_FALSE((Base{600, 400, 6, std::vector<Anchor>{{nothing, 0, 1}}}.usable()));
+    EXPECT_FALSE((Base{600, 400, 6, std::vector<Anchor>{{0, nothing, 1}}}.usable()));
     EXPECT_FALSE((Base{0, 400, 6, anchors}.solve({1, 0, 0}).exists));
-    EXPECT_FALSE((Base{600, 400, 6, anchors}.solve({nothing, 0, 0}).exists));
+    for (const Load& load : {Load{nothing, 0, 0}, Load{1, nothing, 0}, Load{1, 0, nothing}})
+        EXPECT_FALSE((Base{600, 400, 6, anchors}.solve(load).exists));
 }
 
 TEST(Equilibrium, TellsThePlaneTheLineAndTheStressesAlike) {

@@ -1,4 +1,7 @@
 #include "notes/notes_desk.h"
+#include "notes/stress_words.h"
+
+#include <algorithm>
 
 using namespace ferna;
 using namespace ferna::testing;
@@ -196,6 +199,86 @@ TEST(CaseNotes, AfterACaseWithoutSolutionTheOthersSayThatTheyWerePassedOver) {
         EXPECT_TRUE(note.text.contains(QStringLiteral("dopuszczalne."))
                     || note.text.contains(QStringLiteral("przekroczon")))
             << note.text.toStdString();
+    }
+}
+
+TEST(CaseNotes, WhatFollowsAFirstCaseWithoutSolutionNamesIt) {
+    NotesDesk desk;
+    desk.fourAnchors(250, 150).loads(100, 60, 5).loads(100, 30, 30);
+    desk.record.begin(notes::entered(desk.stan, desk.fields));
+    desk.stan.wyniki.outcomes(1) = CaseOutcome::GaveUp;
+    desk.stan.wyniki.outcomes(2) = CaseOutcome::PassedOver;
+    for (int c = 1; c <= 2; ++c)
+        desk.record.caseEnded(desk.stan, c);
+    const notes::Notes found = notes::notesOf(desk.record);
+    ASSERT_EQ(marks(found), (Marks{"brak_rozwiazania 1", "brak_rozwiazania 2"}));
+    EXPECT_TRUE(found[1].text.contains(QStringLiteral("bez rozwiązania w przypadku 1, choć")))
+        << found[1].text.toStdString();
+}
+
+TEST(CaseNotes, TheDeviationOfAnAnchorIsToldByItsOwnStresses) {
+    Bent desk;
+    const equilibrium::Result exact = desk.exact(1);
+    const int most = mostStressed(exact);
+    std::vector<Double> anchors = anchorsOf(exact);
+    anchors.at(static_cast<std::size_t>(most)) /= 2;
+    const notes::Notes found = desk.told(CaseOutcome::Found, exact.sigmaConcrete, anchors);
+    ASSERT_EQ(marks(found), Marks{"odchylka 1 k" + std::to_string(most + 1)});
+    const Double is = -exact.sigmaAnchor.at(static_cast<std::size_t>(most));
+    EXPECT_TRUE(found[0].text.contains(
+        QStringLiteral("poszukiwanie podało %1 MPa w kotwie %2, dokładna równowaga daje %3 MPa")
+            .arg(notes::number(is / 2))
+            .arg(most + 1)
+            .arg(notes::number(is))))
+        << found[0].text.toStdString();
+}
+
+TEST(CaseNotes, OfAnchorsThatDeviateAlikeTheFirstIsNamed) {
+    NotesDesk desk;
+    desk.anchor(-250, 0).anchor(-250, 0).anchor(250, 0).loads(100, 60, 0);
+    const equilibrium::Result exact = desk.exact(1);
+    ASSERT_LT(exact.sigmaAnchor[0], 0);
+    ASSERT_EQ(exact.sigmaAnchor[0], exact.sigmaAnchor[1]);
+    const Marks told = marks(desk.told(CaseOutcome::Found, exact.sigmaConcrete, {0, 0, 0}));
+    EXPECT_EQ(std::ranges::count(told, "odchylka 1 k1"), 1) << ::testing::PrintToString(told);
+}
+
+TEST(CaseNotes, ACaseWhoseLoadsCannotBeReadBringsNoneOfItsOwn) {
+    for (const CaseOutcome outcome :
+         {CaseOutcome::Found, CaseOutcome::FoundWithRaisedMoment, CaseOutcome::GaveUp}) {
+        Bent desk;
+        desk.fields.loads[0].M1 = QStringLiteral("dwa");
+        EXPECT_EQ(marks(desk.told(outcome, 1, {0, 0, 0, 0})), Marks{});
+        desk.record.caseRefused(desk.stan, 1);
+        EXPECT_EQ(marks(notes::notesInPlaceOfResults(desk.record,
+                                                     notes::entered(desk.stan, desk.fields))),
+                  Marks{});
+    }
+}
+
+TEST(CaseNotes, RefusedTensionWithoutAnEquilibriumIsToldWithoutStresses) {
+    NotesDesk desk; // an anchor outside the pull holds nothing down
+    desk.anchor(250, 150).loads(-50, 0, 0);
+    const notes::Notes found = desk.calculated();
+    ASSERT_FALSE(desk.exact(1).exists);
+    ASSERT_EQ(marks(found), (Marks{"nie_stoi 1", "rozciaganie 1"}));
+    EXPECT_EQ(
+        found[1].text,
+        QStringLiteral("Przypadek 1: program nie liczy zakotwień rozciąganych (N = -50,0 kN). "
+                       "Policz ten przypadek osobno albo usuń go z zestawienia."));
+}
+
+TEST(CaseNotes, AnAnchorMovedAlongOneAxisAloneHasMoved) {
+    for (const bool alongX : {true, false}) {
+        Bent desk;
+        desk.record.begin(notes::entered(desk.stan, desk.fields));
+        Single& moved = alongX ? desk.stan.plyta.X_kotwy(4) : desk.stan.plyta.Y_kotwy(4);
+        moved = CSng(moved * 0.995);
+        desk.stan.wyniki.outcomes(1) = CaseOutcome::FoundWithMovedAnchor;
+        desk.record.caseEnded(desk.stan, 1);
+        const Marks told = marks(notes::notesOf(desk.record));
+        EXPECT_EQ(std::ranges::count(told, "kotwa_przesunieta 1 k4"), 1)
+            << ::testing::PrintToString(told);
     }
 }
 

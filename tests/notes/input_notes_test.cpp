@@ -1,5 +1,7 @@
 #include "notes/notes_desk.h"
 
+#include <algorithm>
+
 using namespace ferna;
 using namespace ferna::testing;
 using notes::Code;
@@ -101,6 +103,28 @@ TEST(InputNotes, ListedPlacesAreComparedWithTheComputedOnes) {
     last.dialogs.answers = {QStringLiteral("2")};
     ASSERT_TRUE(removeOneAnchor(last.stan, last.dialogs));
     EXPECT_EQ(marks(last.typed()), Marks{}) << "nothing moved down";
+}
+
+TEST(InputNotes, AnAnchorWithoutADiameterIsOffThePlateOnlyBeyondItsEdge) {
+    const auto isOff = [](int x, Integer fi) {
+        NotesDesk desk;
+        desk.anchor(x, 0, fi);
+        const Marks told = marks(desk.typed());
+        return std::ranges::count(told, "kotwa_poza_plyta k1") == 1;
+    };
+    EXPECT_FALSE(isOff(300, 0)) << "on the edge";
+    EXPECT_FALSE(isOff(300, -8)) << "on the edge";
+    EXPECT_TRUE(isOff(301, 0));
+}
+
+TEST(InputNotes, APlateOfAMillimetreIsAPlate) {
+    NotesDesk desk;
+    desk.plate(1, 400).anchor(250, 0);
+    EXPECT_EQ(marks(desk.typed()), Marks{"kotwa_poza_plyta k1"});
+    desk.plate(0, 400);
+    EXPECT_EQ(marks(desk.typed()), Marks{});
+    desk.plate(600, 0);
+    EXPECT_EQ(marks(desk.typed()), Marks{}) << "nor one of no width";
 }
 
 TEST(InputNotes, EveryWholeMillimetreIsListedWhereItIsComputed) {

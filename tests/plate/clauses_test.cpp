@@ -46,6 +46,7 @@ TEST(PlateClauses, ARootOfANegativeNumberAndADivisorOfZeroAreErrors) {
     EXPECT_EQ(errorNumberOf([] { anchorFragmentThickness(10, 0, 205); }), error::DivisionByZero);
     EXPECT_EQ(errorNumberOf([] { compressionStripThickness(1, 0); }), error::DivisionByZero);
     EXPECT_EQ(errorNumberOf([] { wholeThickness(40000); }), error::Overflow);
+    EXPECT_EQ(errorNumberOf([] { chartCoefficient(-3e38F, 3e38F, 2, 1, 0.2); }), error::Overflow);
 }
 
 TEST(PlateClauses, ADescriptionIsWellFormedWhereBracesAndInputsAreTheSame) {

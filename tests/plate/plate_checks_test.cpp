@@ -1,4 +1,5 @@
 #include "plate/plate_desk.h"
+#include "plate/plate_tables.h"
 
 #include <cmath>
 
@@ -72,6 +73,20 @@ TEST_F(PlateChecksByHand, SquareFragmentOnThreeEdges) {
 
 // A fragment wider than long is refused, so the wide end of the table is met only below zero:
 // b/l = 1.35, coefficient (0.714 + 0.711) / 2 = 0.7125, t = -0.7125 * 1000 sqrt(5 / 205) = -111.27
+TEST_F(PlateChecksByHand, BetweenTheNodesOfEachTableTheCoefficientGoesStraight) {
+    for (const int check : {3, 5, 6}) {
+        const std::span<const FragmentNode> nodes = fragmentNodes(check);
+        for (std::size_t i = 0; i + 1 < nodes.size(); ++i) {
+            const Double middle = (nodes[i].r + nodes[i + 1].r) / 2;
+            const FragmentInterval table = fragmentInterval(check, CSng(middle));
+            EXPECT_EQ(table.r0, nodes[i].r) << check;
+            EXPECT_EQ(table.y0, nodes[i].coefficient) << check;
+            EXPECT_EQ(table.y1, nodes[i + 1].coefficient) << check;
+            EXPECT_NEAR(table.d, nodes[i + 1].r - nodes[i].r, 1e-7) << check << ' ' << middle;
+        }
+    }
+}
+
 TEST_F(PlateChecksByHand, TheWideEndOfTheTableOnThreeEdges) {
     fragment(5, -1000, -1350, u"5");
     compute(5);
@@ -425,6 +440,9 @@ TEST_F(PlateThicknessLimits, ATypedThicknessIsOnlyEverRaised) {
     EXPECT_EQ(line(1), QStringLiteral("Wymagana grubość blachy (1) = 20 mm"));
     computeThickness(1, 205, 35);
     EXPECT_EQ(form.fields.Text4, QStringLiteral("35"));
+    form.fields.Text4 = QStringLiteral("12,4");
+    computeThickness(1, 205, 12);
+    EXPECT_EQ(form.fields.Text4, QStringLiteral("12,4")) << "as large in whole millimetres";
     form.fields.Text4 = QStringLiteral("12");
     computeThickness(1, 205, 10);
     EXPECT_EQ(form.fields.Text4, QStringLiteral("12"));

@@ -124,6 +124,13 @@ TEST_F(LeavingTheGradeList, WithNothingChosenNothingHappens) {
     EXPECT_TRUE(lineShown(1));
 }
 
+TEST_F(LeavingTheGradeList, AListedGradeForgetsWhatWasRefused) {
+    compute(1);
+    ASSERT_TRUE(form.refused[0]) << "nothing was typed";
+    leave(2);
+    EXPECT_EQ(form.refused, (std::array<bool, PlateChecks>{}));
+}
+
 TEST_F(LeavingTheGradeList, AListedGradeWithdrawsEveryResultAndKeepsTheThickness) {
     form.fields.cmbStalb = 3;
     strip(u"100", u"50", u"50");

@@ -101,6 +101,7 @@ TEST_F(PlateSectionOfTheReport, FragmentsAreToldByTheNumberOfTheirEdges) {
     for (const auto& [n, edges] : checks) {
         fragment(n, 300 + n, 200 + n, u"2,5");
         compute(n);
+        stan.raport.Spr_blachy(n) = CInt(40 + n);
     }
     const QStringList lines = written();
     EXPECT_EQ(lines.mid(3, 3),
@@ -108,11 +109,12 @@ TEST_F(PlateSectionOfTheReport, FragmentsAreToldByTheNumberOfTheirEdges) {
                            QStringLiteral("<44>101 mm")}));
     int start = 7;
     for (const auto& [n, edges] : checks) {
-        EXPECT_EQ(lines.mid(start, 4),
+        EXPECT_EQ(lines.mid(start, 5),
                   (QStringList{QStringLiteral("<55>") + QString::fromUtf16(edges)
                                    + QStringLiteral("<56>"),
                                QStringLiteral("<58>"), QStringLiteral("<43>2,5 MPa"),
-                               QStringLiteral("<57>%1 x %2 mm").arg(300 + n).arg(200 + n)}));
+                               QStringLiteral("<57>%1 x %2 mm").arg(300 + n).arg(200 + n),
+                               QStringLiteral("<41>%1 mm").arg(40 + n)}));
         start += 5;
     }
     EXPECT_EQ(sketchFiles(),

@@ -285,11 +285,16 @@ TEST_F(ColumnLoads, WhatSlotZeroHoldsOutlivesTheForm) {
 
 TEST_F(ColumnLoads, AnOpeningClearsTheSlotsFromOneOn) {
     trapezoid("2", "4", "1", "3");
+    loads.Obc_typ[0](MaxColumnLoads) = 2;
+    for (auto& row : loads.Obc_wart)
+        row(MaxColumnLoads) = 5;
     form = openStatics(loads);
     EXPECT_EQ(loads.Liczba_obc, 0);
-    EXPECT_EQ(loads.Obc_typ[0](1), 0);
-    for (const auto& row : loads.Obc_wart)
-        EXPECT_EQ(row(1), 0.0F);
+    for (const int slot : {1, MaxColumnLoads}) {
+        EXPECT_EQ(loads.Obc_typ[0](slot), 0) << slot;
+        for (const auto& row : loads.Obc_wart)
+            EXPECT_EQ(row(slot), 0.0F) << slot;
+    }
 }
 
 TEST_F(ColumnLoads, ACountBelowTheListRunsOutOfTheSlots) {

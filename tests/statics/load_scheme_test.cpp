@@ -65,6 +65,13 @@ TEST(ChoosingAMode, ShowsItsNumbersAndItsCaption) {
     EXPECT_EQ(dialog.optZapis, 0);
 }
 
+TEST(ChoosingAMode, OnAFullTableANewSchemeHasNoNumber) {
+    SchemeDialog dialog = openSchemeDialog(6);
+    chooseMode(dialog, 0, 6);
+    EXPECT_EQ(dialog.optNumer, -1);
+    EXPECT_EQ(dialog.optNumer_visible, (std::array<bool, MaxCases>{}));
+}
+
 class RecordedTable : public LoadTable {
 public:
     void setCount(const QString& text) override { count = text; }

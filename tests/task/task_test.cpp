@@ -36,6 +36,32 @@ Refusal refusalOf(const Json& task) {
     return {"(accepted)", ""};
 }
 
+TEST(TextOfATask, AZeroByteIsRefusedWithItsLine) {
+    for (const std::string& behind : {std::string(), std::string("}"), std::string("\n{")}) {
+        const std::string text = smallest + '\n' + '\0' + behind;
+        try {
+            parsed(text);
+            FAIL() << "the library ends at a zero, and what stands behind it is lost";
+        } catch (const TaskError& failure) {
+            EXPECT_STREQ(failure.what(), "expected JSON: a zero byte stands in it");
+            EXPECT_EQ(lineOf(text, failure.path), 4);
+        }
+    }
+}
+
+TEST(TextOfATask, TheWholeNumbersOfSixtyFourBitsAreNumbers) {
+    const auto numberOfText = [](const std::string& text) {
+        const TaskDocument document = parsed('[' + text + ']');
+        return std::pair(document.values.at(1).number, document.values.at(1).isWhole);
+    };
+    EXPECT_EQ(numberOfText("-9223372036854775808"), std::pair(-9223372036854775808.0, false));
+    EXPECT_EQ(numberOfText("18446744073709551615"), std::pair(18446744073709551615.0, false));
+    EXPECT_EQ(numberOfText("-9007199254740992"), std::pair(-9007199254740992.0, true));
+    EXPECT_EQ(numberOfText("-9007199254740993"), std::pair(-9007199254740992.0, false));
+    EXPECT_EQ(numberOfText("9007199254740992"), std::pair(9007199254740992.0, true));
+    EXPECT_EQ(numberOfText("9007199254740993"), std::pair(9007199254740992.0, false));
+}
+
 struct Tasks : ::testing::Test {
     WithDecimalSign comma{u','};
     Json task = smallestTask();

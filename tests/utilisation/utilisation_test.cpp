@@ -90,6 +90,15 @@ TEST(Utilisation, OfShearThatNoAnchorTakesIsInfinite) {
     EXPECT_EQ(found->governing(), Check::Shear);
 }
 
+TEST(Utilisation, NamesTheCheckThatGoverns) {
+    CheckLimits weak = limits;
+    weak.fv = 1;
+    EXPECT_EQ(of({100, 40, 0}, {60, 0}, weak)->governing(), Check::Interaction);
+    weak = limits;
+    weak.fd = 1;
+    EXPECT_EQ(of({100, 40, 0}, {}, weak)->governing(), Check::Tension);
+}
+
 TEST(Utilisation, IsFormedAsTheCalculationFormsIt) {
     const auto found = of({100, 40, 0}, {60, 20});
     const Single V = horizontalForce(60, 20);
@@ -117,13 +126,26 @@ TEST(CheckLimits, AreThoseOfTheLargestDiameterAndTheFooting) {
     EXPECT_TRUE(found->tensionSideAlone);
 }
 
+TEST(CheckLimits, WithoutAChoiceInTheListAreThoseOfTheTasksSteel) {
+    Stan stan;
+    stan.opcje.Nr_stali = 3;
+    stan.plyta.Liczba_srub = 1;
+    stan.plyta.Fi_kotwy(1) = 20;
+    InputFields fields;
+    fields.cmbStal = -1;
+    ASSERT_TRUE(enteredLimits(stan, fields));
+    EXPECT_EQ(enteredLimits(stan, fields)->fd, anchorSteel(3, 20)->Fd_kotwy);
+}
+
 TEST(CheckLimits, OfTheUsersSteelAreHisOnceDescribed) {
     Stan stan;
     InputFields fields;
     fields.cmbStal = userSteel - 1;
     EXPECT_FALSE(enteredLimits(stan, fields));
     stan.materialy.Stal_fd = 300;
+    EXPECT_FALSE(enteredLimits(stan, fields)) << "neither Re nor Rm is known";
     stan.materialy.Stal_Re = 400;
+    EXPECT_FALSE(enteredLimits(stan, fields)) << "Rm is not known";
     stan.materialy.Stal_Rm = 500;
     const auto found = enteredLimits(stan, fields);
     ASSERT_TRUE(found);

@@ -94,6 +94,7 @@ void CombinationEntries::put(const CombinationsWindow::Rows& rows) {
             ++r;
         }
     });
+    Q_EMIT form_.stepped(QStringLiteral("wstawienie kombinacji"));
 }
 
 } // namespace ferna

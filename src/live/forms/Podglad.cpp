@@ -27,7 +27,7 @@ constexpr int usualWidth = 520;
 
 /// The strengths that a calculation has taken are those that it would take now.
 bool sameLimits(const notes::Record& record, const Stan& stan, const InputFields& fields) {
-    const std::optional<CheckLimits> limits = enteredLimits(stan, fields);
+    const std::optional<CheckLimits> limits = limitsOf(stan, fields);
     return limits && limits->fd == record.anchorLimit() && 2 * limits->Rb == record.pressureLimit();
 }
 
@@ -63,7 +63,6 @@ void Podglad::connectParts() {
     connect(ui_->zamknij, &QToolButton::clicked, this, [this] { setOpen(false); });
     PictureCanvas* const picture = ui_->rysunek;
     connect(picture, &PictureCanvas::anchorChosen, this, &Podglad::anchorChosen);
-    connect(picture, &PictureCanvas::changeBegun, this, [this] { source_.changeBegins(); });
     connect(picture, &PictureCanvas::changeEnded, this, [this] { source_.changeEnds(); });
     connectGuarded(picture, &PictureCanvas::anchorMoved, this,
                    [this](int anchor, int x, int y) { source_.moveAnchor(anchor, x, y); });
@@ -89,7 +88,7 @@ void Podglad::setOpen(bool open) {
             side_.take();
         hide();
     }
-    emit openChanged(open_);
+    Q_EMIT openChanged(open_);
 }
 
 void Podglad::putAside() {
