@@ -13,7 +13,7 @@ namespace ferna {
 
 namespace {
 
-constexpr std::size_t deepest = 32; // levels of objects and arrays
+constexpr std::size_t deepest = 32;                       // levels of objects and arrays
 constexpr std::int64_t mostWhole = std::int64_t{1} << 53; // a double holds them exactly up to here
 
 /// What the parser says of a text that is no JSON.
