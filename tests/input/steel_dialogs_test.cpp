@@ -21,14 +21,14 @@ void expectRefusal(QWidget& modal, const QString& focused, void (*press)(QWidget
 
 class AnchorSteelDialog : public MainForm {
 protected:
-    void prepare() {
+    void chooseOwnSteel() {
         choose("cmbStal", 6);
         show(Sruby);
         add("cmdDodaj4", 30, 250, 150);
     }
     void SetUp() override {
         MainForm::SetUp();
-        prepare();
+        chooseOwnSteel();
     }
 
     void calculateWith(ModalAnswers::Step step, bool cancelled) {
