@@ -102,7 +102,7 @@ TEST_F(AnchorSteelDialog, RefusesInOrderAndPutsTheFocusWhereTheFaultIs) {
 TEST_F(AnchorSteelDialog, AConfigurationWithoutReRefusesWhateverIsTyped) {
     setLine(18, " 305           0             490           64           S355");
     start();
-    prepare();
+    chooseOwnSteel();
     answers.dialog(QStringLiteral("KGM8"), [](QWidget& modal) {
         retype(modal, "Text2_3", QStringLiteral("355"));
         expectRefusal(modal, QStringLiteral("Text1"), &press);
