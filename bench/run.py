@@ -49,6 +49,9 @@ ROADS = {  # names of the benchmarks in a reader's words
     "ReadAndAnswered/300": "combinations, six anchors: 300 read from text and answered",
     "ReadAndAnswered/10000": "combinations, six anchors: 10 000 read from text and answered",
     "ReadAndAnswered/100000": "combinations, six anchors: 100 000 read from text and answered",
+    "KeyToPicture/0/real_time": "live view, key to painted case, 20 anchors, 6 cases (aim 16 ms)",
+    "KeyToPicture/6/real_time": "live view, key to painted envelope, 20 anchors, 6 cases (aim 16 ms)",
+    "PictureValuesOfATask": "live view, its values alone, 20 anchors, 6 cases",
     "ReportLines": "lines of the report, six cases",
     "TextReport": "text report",
     "RtfReport/1": "RTF report, pattern A",
@@ -137,7 +140,8 @@ def main():
     sample = os.path.join(ROOT, "data/przyklady/szesc-przypadkow.json")
     rows, spread = benchmarks(os.path.join(build, "bench/ferna_bench"))
     spread = spread[spread.index("cases outside the kern") - 6:].strip()
-    for name in ("combinations_bench", "reserve_bench", "report_bench", "results_form_bench"):
+    for name in ("combinations_bench", "reserve_bench", "live_view_bench", "report_bench",
+                 "results_form_bench"):
         program = os.path.join(build, "bench", name)
         if os.path.exists(program):
             rows += benchmarks(program)[0]

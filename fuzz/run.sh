@@ -11,7 +11,7 @@ build_preset fuzz >/dev/null
 
 programs=build/fuzz/fuzz
 every=(
-    numbers format reply job catalogue configuration metafile commands combinations task task_file plain_json
+    numbers format reply job catalogue configuration metafile commands combinations task task_file picture plain_json
 )
 mkdir -p build/fuzz/findings build/fuzz/log
 
@@ -20,7 +20,7 @@ options_of() {
     echo "-max_len=4096 -timeout=20 -rss_limit_mb=2048 -print_final_stats=1"
     case $1 in
     task) echo "-timeout=120 -max_len=8192 -dict=fuzz/task.dict" ;;
-    task_file) echo "-max_len=8192 -dict=fuzz/task.dict" ;;
+    task_file | picture) echo "-max_len=8192 -dict=fuzz/task.dict" ;;
     plain_json) echo "-max_len=1024 -dict=fuzz/task.dict" ;;
     metafile | commands) echo "-max_len=16384" ;;
     numbers | format) echo "-max_len=512" ;;
@@ -32,7 +32,7 @@ run_one() {
     shift
     # The font library keeps what it has found: no leak of ours, and libFuzzer cannot suppress it.
     local leaks=1
-    [[ $name == metafile || $name == commands || $name == task ]] && leaks=0
+    [[ $name == metafile || $name == commands || $name == task || $name == picture ]] && leaks=0
     # shellcheck disable=SC2046 # options are words
     ASAN_OPTIONS=detect_leaks=$leaks "$programs/fuzz_$name" $(options_of "$name") -artifact_prefix="build/fuzz/findings/$name-" "$@"
 }

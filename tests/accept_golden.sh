@@ -6,12 +6,13 @@
 set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build/release}
-cmake --build "$build" --target test_report test_rtf test_document
+cmake --build "$build" --target test_report test_rtf test_document test_live
 export QT_QPA_PLATFORM=offscreen
 golden_tests() {
     "$build/tests/test_report" --gtest_brief=1 --gtest_filter='*GoldenReports*:PrintCommands.*'
     "$build/tests/test_rtf" --gtest_brief=1 --gtest_filter='RtfGolden.*'
     "$build/tests/test_document" --gtest_brief=1
+    "$build/tests/test_live" --gtest_brief=1 --gtest_filter='Live/PictureGoldens.*'
 }
 # A test that rewrites its file fails, so that nobody takes it for a passed one.
 (set +e; export FERNA_ACCEPT_GOLDEN=1; golden_tests > /dev/null) || true

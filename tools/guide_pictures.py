@@ -27,7 +27,7 @@ class Camera:
         self.desktop = desktop
         self.folder = folder
 
-    def take(self, name, title, part=None):
+    def take(self, name, title, part=None, colours=64):
         """Pictures the window of that title with its frame, in few colours; with `part`, the width
         and height of its upper left corner and what covers it."""
         window = self.desktop.window(title)
@@ -39,7 +39,7 @@ class Camera:
             place = re.findall(r"Absolute upper-left .:\s+(\d+)", told)
             what = ["-window", "root", "-crop", "%dx%d+%s+%s" % (*part, *place), "+repage"]
         path = os.path.join(self.folder, name + ".png")
-        subprocess.run(["import", *what, "-strip", "+dither", "-colors", "64",
+        subprocess.run(["import", *what, "-strip", "+dither", "-colors", str(colours),
                         "-define", "png:compression-level=9",
                         "-define", "png:exclude-chunks=date,time", "PNG8:" + path],
                        env=self.desktop.env, check=True, timeout=30)
@@ -74,6 +74,9 @@ class Guide(Program):
         keys("Return")
         self.desktop.gone(FOUR)
         self.take("anchors", MAIN)
+        keys("F9")
+        self.take("live-view", MAIN, colours=256)  # the pressures are a smooth field
+        keys("F9")
 
     def slip(self, task):
         """A letter among the loads: the program stops, tells it and lets the engineer go back."""

@@ -27,7 +27,8 @@ std::unique_ptr<Podglad> addLiveView(Ferna3& form, Stan& stan, Dialogs& dialogs)
             .fields = [&form] { return form.fields(); },
             .record = [&form]() -> const notes::Record& { return form.record(); },
             .moveAnchor = [&form](int anchor, int x, int y) { moveAnchor(form, anchor, x, y); },
-            .resizePlate = [&form](int length, int width) { resizePlate(form, length, width); }},
+            .resizePlate = [&form](int length, int width) { resizePlate(form, length, width); },
+            .changeEnds = [&form] { Q_EMIT form.stepped(QStringLiteral("zmiana w podglądzie")); }},
         dialogs);
     QAction* const entry = form.menus().view->addAction(QStringLiteral("&Podgląd"));
     entry->setShortcut(Qt::Key_F9);

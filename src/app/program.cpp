@@ -47,10 +47,10 @@ void Program::openResults() {
         [this] { return render(); });
     combinations_->calculated();
     results_ = std::make_unique<FernaWyn>(stan_, std::move(session), links());
-    task_.resultsMade(*results_);
-    addSheetEntry(*results_, stan_, input_.record(), dialogs_);
     addDocumentEntries(*results_, {folder_, dialogs_,
                                    [this](const QStringList& options) { return render(options); }});
+    task_.resultsMade(*results_);
+    addSheetEntry(*results_, stan_, input_.record(), dialogs_);
     input_.hide();
     results_->open();
 }

@@ -69,15 +69,6 @@ QString loadsText(const equilibrium::Load& load) {
         .arg(general(load.N), general(load.M1), general(load.M2));
 }
 
-/// Limits are looked up in tables that a number of concrete may miss.
-std::optional<CheckLimits> limitsOf(const Stan& stan, const InputFields& fields) {
-    try {
-        return enteredLimits(stan, fields);
-    } catch (const RunTimeError&) {
-        return std::nullopt;
-    }
-}
-
 /// Takes the cases in; false where one of them cannot be computed, and `reason` says why.
 bool takeCases(LiveValues& values, const Stan& stan, const InputFields& fields,
                const equilibrium::Base& base, const std::vector<equilibrium::Anchor>& anchors) {
@@ -106,6 +97,14 @@ bool takeCases(LiveValues& values, const Stan& stan, const InputFields& fields,
 }
 
 } // namespace
+
+std::optional<CheckLimits> limitsOf(const Stan& stan, const InputFields& fields) {
+    try {
+        return enteredLimits(stan, fields);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
 
 LiveValues liveValues(const Stan& stan, const InputFields& fields) {
     LiveValues values;

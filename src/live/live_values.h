@@ -20,6 +20,9 @@ struct LiveValues {
     bool valid() const { return reason.isEmpty(); }
 };
 
+/// The limits of the checks, empty also where the concrete is in neither list.
+std::optional<CheckLimits> limitsOf(const Stan& stan, const InputFields& fields);
+
 /// What is entered with its exact equilibria and their checks. For any state and any typed texts.
 LiveValues liveValues(const Stan& stan, const InputFields& fields);
 

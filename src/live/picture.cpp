@@ -39,7 +39,10 @@ void drawLine(const Strokes& to, const equilibrium::Segment& line, qreal share,
 
 /// The axis about which a column tips over; it reaches as far as plate and anchors.
 void drawTipping(const Strokes& to, const PictureCase& one) {
+    to.painter.save();
+    to.painter.setClipRect(to.frame.room());
     drawLine(to, one.found.tippingAxis, 0.25, Qt::DotLine);
+    to.painter.restore();
 }
 
 void drawNeutralLines(const Strokes& to, const PictureValues& values) {

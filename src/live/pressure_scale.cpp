@@ -21,11 +21,12 @@ Double stepUpTo(Double top, int most) {
 
 /// A number with the decimals that the step needs; a very large or small one with an exponent.
 QString withDecimalsOf(Double value, Double step) {
-    constexpr Double written = 1e6;
     constexpr int most = 6;
     const int decimals = std::max(0, static_cast<int>(-std::floor(std::log10(step))));
-    if (value >= written || decimals > most)
+    if (decimals > most)
         return QString::number(value, 'g', 3).replace(u'.', decimalSign());
+    if (decimals == 0 && value >= 1e5)
+        return figure(value);
     return Format(value, decimals > 0 ? QStringLiteral("0.").append(QString(decimals, u'0'))
                                       : QStringLiteral("0"));
 }
@@ -40,7 +41,7 @@ void drawNumbers(const Strokes& to, const QRectF& bar, Double top) {
     };
     const int most = std::max(1, static_cast<int>(bar.height() / (2.2 * h)));
     const Double step = stepUpTo(top, most);
-    number(top, notes::number(top));
+    number(top, figure(top));
     for (int i = 0; i * step < top && i <= most; ++i)
         if ((1 - i * step / top) * bar.height() > 1.3 * h)
             number(i * step, withDecimalsOf(i * step, step));

@@ -80,6 +80,8 @@ bool differ(Double told, Double exact) {
     constexpr Double bearable = 0.02;
     constexpr Double nothing = 0.001;
     const Double larger = std::max(told, exact);
+    if (std::isinf(larger))
+        return told != exact;
     return larger > nothing && !(std::fabs(told - exact) <= bearable * larger);
 }
 

@@ -54,7 +54,7 @@ std::array<QString, 2> titleLines(const QString& folder, Integer Nr_jezyka) {
         const QString key = content.first(qMax(qsizetype{0}, sign)).trimmed();
         if (!isKey(key))
             refuse(path, number, QStringLiteral("nieznany wpis \"%1\"").arg(content));
-        const QString value = oneLine(content.mid(sign + 1)).left(longestTitleLine);
+        const QString value = oneLine(content.mid(sign + 1)).trimmed().left(longestTitleLine);
         if (key == standard)
             lines[0] = value;
         else if (key == office)

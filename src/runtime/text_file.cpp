@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -61,7 +62,7 @@ private:
 QByteArray readFileWhole(const QString& path, qsizetype most) {
     if (path.startsWith(u':')) { // carried by the program itself: no file of the system
         QFile carried(path);
-        if (!carried.open(QIODevice::ReadOnly))
+        if (!QFileInfo(carried).isFile() || !carried.open(QIODevice::ReadOnly))
             cannotRead(path, ENOENT);
         return carried.readAll();
     }

@@ -26,15 +26,19 @@ QString outcomeKey(const Maker& maker, const CaseSheet& one) {
     }
 }
 
+/// How the search ended, and why there is no exact equilibrium where there is none.
 void tellOutcome(Maker& maker, const CaseSheet& one) {
-    maker.add(Paragraph{maker.text()(outcomeKey(maker, one)),
-                        one.told != nullptr ? Tone::Plain : Tone::Warning, true});
     if (!one.readable)
         maker.say(QStringLiteral("case.unreadable"), {}, Tone::Warning);
     else if (!maker.hasBase)
         maker.say(QStringLiteral("case.noBase"), {}, Tone::Warning);
     else if (one.exact == nullptr)
         maker.say(QStringLiteral("case.tips"), {}, Tone::Warning);
+    if (one.told == nullptr && one.exact == nullptr)
+        return;
+    const QString key = outcomeKey(maker, one);
+    const bool failed = key == u"outcome.gaveUp" || key == u"outcome.none";
+    maker.add(Paragraph{maker.text()(key), failed ? Tone::Warning : Tone::Plain, true});
 }
 
 constexpr std::size_t mostBeside = 8; // anchors whose table finds room below the picture

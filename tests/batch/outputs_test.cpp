@@ -134,9 +134,10 @@ TEST_F(Outputs, PdfTellsItsTitleAndLanguageAndLeadsToCasesByBookmarks) {
     QStringList bookmarks;
     QXmlStreamReader xml(html);
     while (!xml.atEnd())
-        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"item")
-            bookmarks += xml.attributes().value(QStringLiteral("page")).toString() + u' '
-                         + xml.readElementText(QXmlStreamReader::IncludeChildElements);
+        if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"item") {
+            const QString page = xml.attributes().value(QStringLiteral("page")).toString();
+            bookmarks += page + u' ' + xml.readElementText();
+        }
     const QStringList expected{QStringLiteral("1 Belastung"),
                                QStringLiteral("1 Ergebnisse der Berechnung"),
                                QStringLiteral("1 Lastfall Nr. 1"),

@@ -193,6 +193,11 @@ TEST_F(CombinationsWindowTest, WstawFillsTheLoadTableWithTheGoverningRowsAndObli
     EXPECT_EQ(loadRow(2), QStringLiteral("300 20 0 1 0")) << "the first, where shear is nowhere";
     EXPECT_EQ(loadRow(3), QStringLiteral("100 -60 10 5 0"));
 
+    QTest::qWait(500); // also when the rows have been answered anew
+    EXPECT_EQ(notes(), QStringList(QStringLiteral(
+                           "Wstawiono do tabeli obciążeń wierszy: 4. Oblicz policzy je i utworzy "
+                           "raport; porównanie pokaże się tutaj.")));
+
     auto* const comparison = window().findChild<ComparisonView*>();
     EXPECT_EQ(comparison->rowCount(), 0);
     activate();

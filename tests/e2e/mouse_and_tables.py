@@ -41,15 +41,17 @@ def paste_loads(program, desktop, task):
     desktop.keys("ctrl+a", "ctrl+c")
     desktop.type(task["Nazwa_projektu"])
     program.tab(3)
-    desktop.keys("ctrl+v")
+    desktop.keys("ctrl+v", "ctrl+z", "ctrl+y")  # one step, back and forth
 
 
 def work_anchors(program, desktop, task):
-    """Moves all four, removes the second, and gives the second of those left place and diameter."""
+    """Moves all four, removes the first and takes that back, removes the second, and gives the
+    second of those left place and diameter."""
     program.add_four(task["Kotwy"][0])
     main = desktop.window(MAIN)
     drag(desktop, main, (LEFT, TOP), (RIGHT, BOTTOM))
     desktop.keys("shift+Right", "Down")
+    desktop.keys("Escape", "Next", "Delete", "ctrl+z")
     desktop.keys("Escape", "Next", "Next", "Delete")
     desktop.keys("Next", "Next", "F2")
     desktop.type("200")

@@ -46,8 +46,8 @@ struct ReportOfATask {
                                         places::data(),
                                         QDateTime(QDate(2026, 5, 17), QTime(9, 41)),
                                         folder.path(QString())};
-        done = std::make_unique<batch::ComputedTask>(
-            batch::run(batch::readTask(documentOf(task)), options));
+        done =
+            std::make_unique<batch::ComputedTask>(batch::run(readTask(documentOf(task)), options));
         EXPECT_TRUE(done->reportReady);
         model = reportModel(done->task.stan, done->raport);
         return model;

@@ -4,6 +4,7 @@
 #include "live/live_values.h"
 #include "runtime/settings.h"
 #include "support/main_form.h"
+#include "task/forms/task_desk.h"
 
 #include <QClipboard>
 #include <QImage>
@@ -306,16 +307,22 @@ TEST_F(LiveView, StandsFreeWhereItWasLeftAndRemembersIt) {
     EXPECT_TRUE(view->isVisible());
 }
 
-TEST_F(LiveView, ShotForTheEye) {
-    settings::setValue(QStringLiteral("podglad/przypiety"), true);
+TEST_F(LiveView, UndoTakesADragBackInOneStep) {
+    TaskDesk desk(*form, dialogs, path(QStringLiteral("kopie")));
+    desk.begin();
     key(Qt::Key_F9);
-    show(Obciazenia_);
-    form->resize(1350, 700);
-    form->grab().save(QStringLiteral("/tmp/live_form.png"));
-    click("cmdOblicz");
-    view->calculated();
-    setText("Text7_0", QStringLiteral("12x"));
-    form->grab().save(QStringLiteral("/tmp/live_form2.png"));
+    const QString before = anchorLine(2);
+    drag(placeOf({-250, 150}), placeOf({-150, 60}));
+    ASSERT_NE(anchorLine(2), before);
+    desk.undo();
+    settle();
+    EXPECT_EQ(anchorLine(2), before);
+    EXPECT_EQ(picture()->picture().anchors[1].x, -250);
+    EXPECT_FALSE(desk.canUndo());
+    drag(placeOf({300, 60}), placeOf({360, 60}));
+    ASSERT_NE(text("Text3"), u"600");
+    desk.undo();
+    EXPECT_EQ(text("Text3"), u"600");
 }
 
 TEST_F(LiveView, SaysThatItIsAView) {

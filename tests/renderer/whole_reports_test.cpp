@@ -244,9 +244,8 @@ TEST_F(WholeReports, FiveHundredReportsKeepTogetherWhatBelongsTogether) {
     for (std::uint64_t number = 1; made < reports; ++number) {
         Dice dice(number);
         const GoldenJson asked = task(dice);
-
         const batch::ComputedTask done =
-            batch::run(batch::readTask(ferna::testing::documentOf(asked)), options);
+            batch::run(readTask(ferna::testing::documentOf(asked)), options);
         if (!done.reportReady)
             continue;
         ++made;

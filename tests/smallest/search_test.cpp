@@ -149,6 +149,20 @@ TEST(PlateThickness, IsThatOfTheStripsOfThePlateCheck) {
     EXPECT_FALSE(thick.found());
 }
 
+TEST(PlateThickness, IsOfAStripThatEndsHalfwayToTheNextAnchor) {
+    DesignRange range = hallRange();
+    range.columnLength = range.columnWidth = 100;
+    range.leastEdge = 200;
+    const auto places = anchorPlaces(range, 900, 800, 12, 24);
+    ASSERT_EQ(places.size(), 12U);
+    equilibrium::Result found;
+    found.sigmaAnchor[0] = -100; // at 250, 200; the next one at 250, 67
+    PlateThickness plate(range, 900, 800, 200, places, 353);
+    plate.take(found);
+    // 35.3 kN, ca = hypot(200, 150) = 250, bs = 133: 2.2 sqrt(35300 x 250 / (205 x 133)) = 39.6
+    EXPECT_EQ(plate.found(), 40);
+}
+
 TEST(Lightest, IsWhatBruteForceFindsOnTwoHundredSmallGrids) {
     std::mt19937_64 numbers(5);
     const auto between = [&](int least, int most) {

@@ -67,6 +67,7 @@ TEST(Cells, AreATableWhereThereIsMoreThanOne) {
 
 TEST(Cells, WithAMarkThatIsNotClosedHaveItAsALetter) {
     EXPECT_EQ(joined(u"1;\"abc"), list({"1:1|\"abc"})) << "a mark without its fellow is a letter";
+    EXPECT_EQ(joined(u"\"1;2\n3;4"), list({"1:\"1|2", "2:3|4"}));
     EXPECT_EQ(joined(u"\"a\"b;2"), list({"1:ab|2"}));
 }
 

@@ -64,11 +64,11 @@ QString words(combinations::Unready why) {
 CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* parent)
     : QDialog(parent), stan_(stan), links_(std::move(links)),
       work_({[this] { showProgress(); }, [this] { showTable(); },
-             [this] {
-                 stopped_ = coming_.isEmpty()
-                                ? QStringLiteral("Liczenie przerwano: część wierszy nie jest "
-                                                 "policzona.")
-                                : QStringLiteral("Wczytywanie przerwano: %1.").arg(coming_);
+             [this](bool whileReading) {
+                 isStopped_ = whileReading;
+                 said_ = whileReading ? QStringLiteral("Wczytywanie przerwano: %1.").arg(coming_)
+                                      : QStringLiteral("Liczenie przerwano: część wierszy nie jest "
+                                                       "policzona.");
                  showTable();
              }},
             this) {
@@ -102,7 +102,7 @@ CombinationsWindow::~CombinationsWindow() = default;
 void CombinationsWindow::readFile(const QString& path) {
     auto opened = combinations::openTable(path);
     if (const auto* const why = std::get_if<QString>(&opened)) {
-        notes_->setNotes({QStringLiteral("%1: %2.").arg(path, *why)});
+        say(QStringLiteral("%1: %2.").arg(path, *why));
         return;
     }
     take(std::move(std::get<std::unique_ptr<combinations::RowSource>>(opened)),
@@ -119,14 +119,15 @@ void CombinationsWindow::take(std::unique_ptr<combinations::RowSource> source,
     auto reader = std::make_unique<combinations::TableReader>(*source);
     const QList<QStringList> first = reader->firstRows(shownRows);
     if (first.isEmpty()) {
-        notes_->setNotes({QStringLiteral("%1: nie ma w nim wierszy z liczbami.").arg(name)});
+        say(QStringLiteral("%1: nie ma w nim wierszy z liczbami.").arg(name));
         return;
     }
     ReadingDialog dialog(reader->layout(), first, name, this);
     if (dialog.exec() != QDialog::Accepted)
         return;
     coming_ = name;
-    stopped_.clear();
+    said_.clear();
+    isStopped_ = false;
     readBase();
     work_.read(std::move(source), std::move(reader), dialog.columns(), evaluator_);
     showProgress();
@@ -141,11 +142,25 @@ void CombinationsWindow::baseChanged() {
 void CombinationsWindow::readBase() {
     auto made = combinations::Evaluator::of(stan_, links_.fields());
     evaluator_.reset();
-    QStringList notes;
+    unready_.clear();
     if (const auto* const why = std::get_if<combinations::Unready>(&made))
-        notes += words(*why);
+        unready_ = words(*why);
     else
         evaluator_ = std::get<combinations::Evaluator>(std::move(made));
+    showNotes();
+}
+
+/// Says what has just happened; it stands until something else does.
+void CombinationsWindow::say(const QString& what) {
+    said_ = what;
+    showNotes();
+}
+
+void CombinationsWindow::showNotes() {
+    QStringList notes{unready_, said_};
+    if (!work_.trouble().isEmpty())
+        notes += QStringLiteral("Tabela urywa się: %1.").arg(work_.trouble());
+    notes.removeAll(QString());
     notes_->setNotes(notes);
 }
 
@@ -171,7 +186,7 @@ void CombinationsWindow::showProgress() {
 }
 
 void CombinationsWindow::showTable() {
-    if (!coming_.isEmpty() && stopped_.isEmpty())
+    if (!coming_.isEmpty() && !isStopped_)
         source_ = coming_;
     coming_.clear();
     const RowNumber chosen = filter_->mapToSource(table_->currentIndex()).row() + 1;
@@ -186,17 +201,11 @@ void CombinationsWindow::showTable() {
                    ? chosen
                    : std::max<RowNumber>(1, table.choice().governing(Check::Tension)));
     }
-    QStringList notes = notes_->notes();
-    if (!stopped_.isEmpty())
-        notes += stopped_;
-    if (!work_.trouble().isEmpty())
-        notes += QStringLiteral("Tabela urywa się: %1.").arg(work_.trouble());
-    notes.removeDuplicates();
-    notes_->setNotes(notes);
+    showNotes();
     const bool any = !table.choice().six().empty();
     putButton_->setEnabled(any);
     export_->setEnabled(table.size() > 0);
-    calculated();
+    compare();
     showProgress();
     showState();
     showChosen();
@@ -274,29 +283,31 @@ void CombinationsWindow::putSix() {
     for (const RowNumber row : work_.table().choice().six())
         put_.emplace_back(row, *work_.table().combination(row));
     links_.putIntoTable(put_);
-    notes_->setNotes(
-        {QStringLiteral("Wstawiono do tabeli obciążeń wierszy: %1. Oblicz policzy je i "
-                        "utworzy raport; porównanie pokaże się tutaj.")
-             .arg(put_.size())});
+    say(QStringLiteral("Wstawiono do tabeli obciążeń wierszy: %1. Oblicz policzy je i "
+                       "utworzy raport; porównanie pokaże się tutaj.")
+            .arg(put_.size()));
 }
 
-void CombinationsWindow::calculated() {
+std::vector<combinations::Compared> CombinationsWindow::compare() {
     std::vector<combinations::Compared> all;
     if (evaluator_)
         all = combinations::compared(stan_, *evaluator_, put_);
     comparison_->show(all);
-    const int place = tabs_->indexOf(comparison_);
-    tabs_->setTabEnabled(place, !all.empty());
+    tabs_->setTabEnabled(tabs_->indexOf(comparison_), !all.empty());
+    return all;
+}
+
+void CombinationsWindow::calculated() {
+    const std::vector<combinations::Compared> all = compare();
     if (all.empty())
         return;
-    tabs_->setCurrentIndex(place);
+    tabs_->setCurrentWidget(comparison_);
     const auto differing =
         std::count_if(all.begin(), all.end(), [](const auto& one) { return one.differs(); });
-    notes_->setNotes({differing == 0
-                          ? QStringLiteral("Oblicz potwierdza wstawione wiersze.")
-                          : QStringLiteral("Wierszy, w których Oblicz i dokładna równowaga się "
-                                           "różnią: %1 - zob. Porównanie z Oblicz.")
-                                .arg(differing)});
+    say(differing == 0 ? QStringLiteral("Oblicz potwierdza wstawione wiersze.")
+                       : QStringLiteral("Wierszy, w których Oblicz i dokładna równowaga się "
+                                        "różnią: %1 - zob. Porównanie z Oblicz.")
+                             .arg(differing));
 }
 
 void CombinationsWindow::exportCsv() {
@@ -306,10 +317,10 @@ void CombinationsWindow::exportCsv() {
     try {
         writeFileWhole(*path, answersAsCsv(work_.table()));
     } catch (const RunTimeError& failure) {
-        notes_->setNotes({QStringLiteral("Nie zapisano: %1.").arg(failure.detail())});
+        say(QStringLiteral("Nie zapisano: %1.").arg(failure.detail()));
         return;
     }
-    notes_->setNotes({QStringLiteral("Zapisano %1.").arg(*path)});
+    say(QStringLiteral("Zapisano %1.").arg(*path));
 }
 
 void CombinationsWindow::dragEnterEvent(QDragEnterEvent* event) {

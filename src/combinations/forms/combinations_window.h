@@ -1,5 +1,6 @@
 #pragma once
 
+#include "combinations/comparison.h"
 #include "combinations/forms/table_work.h"
 #include "design/input_fields.h"
 #include "live/picture_values.h"
@@ -76,6 +77,9 @@ private:
     void showChosen();
     void choose(combinations::RowNumber row);
     void hideIdleColumns();
+    void say(const QString& what);
+    void showNotes();
+    std::vector<combinations::Compared> compare();
     void putSix();
     void exportCsv();
     live::PictureValues pictureOf(combinations::RowNumber row) const;
@@ -84,10 +88,12 @@ private:
     Links links_;
     TableWork work_;
     std::optional<combinations::Evaluator> evaluator_;
-    QTimer settle_;   ///< until typing pauses
-    QString source_;  ///< what the table was read from; empty without a table
-    QString coming_;  ///< the same of the table being read
-    QString stopped_; ///< what is told of the work that was stopped
+    QTimer settle_;          ///< until typing pauses
+    QString source_;         ///< what the table was read from; empty without a table
+    QString coming_;         ///< the same of the table being read
+    bool isStopped_ = false; ///< the reading of last: the table is that of before
+    QString unready_;        ///< why no base can be made of what is entered
+    QString said_;           ///< what has happened last
     Rows put_;
 
     QLabel* state_ = nullptr;

@@ -37,12 +37,13 @@ void TableWork::answer(std::optional<combinations::Evaluator> evaluator) {
 void TableWork::stop() {
     if (!isWorking())
         return;
-    if (!isReading() || table_.answered() == table_.size())
+    const bool whileReading = isReading();
+    if (!whileReading || table_.answered() == table_.size())
         timer_.stop();
     reader_.reset();
     source_.reset();
     coming_ = {};
-    told_.stopped();
+    told_.stopped(whileReading);
 }
 
 std::size_t TableWork::done() const {

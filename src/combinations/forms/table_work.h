@@ -17,7 +17,8 @@ public:
     struct Told {
         std::function<void()> progressed; ///< after each slice
         std::function<void()> finished;   ///< rows and answers stand
-        std::function<void()> stopped;    ///< the table is that of before
+        /// Stopped while reading: the table is that of before; else some rows have no answer.
+        std::function<void(bool whileReading)> stopped;
     };
     TableWork(Told told, QObject* parent);
 

@@ -22,16 +22,18 @@ void UseBar::paint(QPainter* painter, const QStyleOptionViewItem& option,
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const QString text = std::exchange(cell.text, QString());
+    const QVariant use = index.data(useRole);
+    if (use.isValid())
+        cell.state &= ~QStyle::State_Selected; // the bar is to be seen in a chosen row too
     QStyle* const style = cell.widget ? cell.widget->style() : QApplication::style();
     style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, cell.widget);
-    const QVariant use = index.data(useRole);
     painter->save();
     if (use.isValid()) {
         QRectF bar = QRectF(cell.rect).adjusted(2, 3, -2, -3);
         bar.setWidth(bar.width() * std::clamp(use.toDouble(), 0.0, 1.0));
         painter->fillRect(bar, useColour(use.toDouble(), cell.palette));
     }
-    const bool chosen = (cell.state & QStyle::State_Selected) != 0 && !use.isValid();
+    const bool chosen = (cell.state & QStyle::State_Selected) != 0;
     painter->setPen(cell.palette.color(chosen ? QPalette::HighlightedText : QPalette::Text));
     painter->setFont(cell.font);
     painter->drawText(cell.rect.adjusted(6, 0, -6, 0), int(Qt::AlignRight | Qt::AlignVCenter),

@@ -25,9 +25,19 @@ const QString widthKey = QStringLiteral("podglad/szerokosc");
 const QString placeKey = QStringLiteral("podglad/miejsce");
 constexpr int usualWidth = 520;
 
+const QString pngEnding = QStringLiteral(".png");
+const QString pictureFilter =
+    QStringLiteral("Obraz PNG (*.png)|*.png|Rysunek SVG (*.svg)|*.svg|Dokument PDF (*.pdf)|*.pdf");
+
+/// The name of a picture's file: of a case, or of the envelope for 0.
+QString nameOffered(int which) {
+    return which == 0 ? QStringLiteral("podglad-obwiednia.png")
+                      : QStringLiteral("podglad-przypadek-%1.png").arg(which);
+}
+
 /// The strengths that a calculation has taken are those that it would take now.
 bool sameLimits(const notes::Record& record, const Stan& stan, const InputFields& fields) {
-    const std::optional<CheckLimits> limits = enteredLimits(stan, fields);
+    const std::optional<CheckLimits> limits = limitsOf(stan, fields);
     return limits && limits->fd == record.anchorLimit() && 2 * limits->Rb == record.pressureLimit();
 }
 
@@ -63,7 +73,6 @@ void Podglad::connectParts() {
     connect(ui_->zamknij, &QToolButton::clicked, this, [this] { setOpen(false); });
     PictureCanvas* const picture = ui_->rysunek;
     connect(picture, &PictureCanvas::anchorChosen, this, &Podglad::anchorChosen);
-    connect(picture, &PictureCanvas::changeBegun, this, [this] { source_.changeBegins(); });
     connect(picture, &PictureCanvas::changeEnded, this, [this] { source_.changeEnds(); });
     connectGuarded(picture, &PictureCanvas::anchorMoved, this,
                    [this](int anchor, int x, int y) { source_.moveAnchor(anchor, x, y); });
@@ -89,7 +98,7 @@ void Podglad::setOpen(bool open) {
             side_.take();
         hide();
     }
-    emit openChanged(open_);
+    Q_EMIT openChanged(open_);
 }
 
 void Podglad::putAside() {
@@ -263,14 +272,9 @@ void Podglad::checkChosen(int caseNumber, int anchor) {
 }
 
 void Podglad::savePicture() {
-    const int which = std::max(shownCase(), 0);
-    const std::optional<QString> file = dialogs_.saveFile(
-        {QStringLiteral("Zapis obrazu podglądu"),
-         which == 0 ? QStringLiteral("podglad-obwiednia.png")
-                    : QStringLiteral("podglad-przypadek-%1.png").arg(which),
-         QStringLiteral(".png"),
-         QStringLiteral(
-             "Obraz PNG (*.png)|*.png|Rysunek SVG (*.svg)|*.svg|Dokument PDF (*.pdf)|*.pdf")});
+    const std::optional<QString> file =
+        dialogs_.saveFile({QStringLiteral("Zapis obrazu podglądu"),
+                           nameOffered(std::max(shownCase(), 0)), pngEnding, pictureFilter});
     if (!file)
         return;
     if (!isPictureFile(*file)) {

@@ -47,8 +47,8 @@ ChecksView::ChecksView(QWidget* parent) : QTableWidget(parent) {
         if (row < 0 || column < 0 || row >= static_cast<int>(rows_.size()))
             return;
         const auto of = static_cast<std::size_t>(row);
-        emit checkChosen(row + 1, allChecks.at(static_cast<std::size_t>(column)),
-                         rows_[of].at(static_cast<std::size_t>(column)).anchor);
+        Q_EMIT checkChosen(row + 1, allChecks.at(static_cast<std::size_t>(column)),
+                           rows_[of].at(static_cast<std::size_t>(column)).anchor);
     });
 }
 

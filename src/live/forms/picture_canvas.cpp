@@ -90,7 +90,7 @@ void PictureCanvas::mousePressEvent(QMouseEvent* event) {
     const Frame now = frame();
     const int anchor = anchorAt(now, values_, event->position());
     choose(anchor);
-    emit anchorChosen(anchor);
+    Q_EMIT anchorChosen(anchor);
     const Edge edge = anchor > 0 ? Edge::None : edgeAt(now, event->position());
     if (anchor > 0 || edge != Edge::None)
         drag_ = Drag{now, values_, event->position(), anchor, edge};
@@ -106,7 +106,6 @@ void PictureCanvas::mouseMoveEvent(QMouseEvent* event) {
         if (way.manhattanLength() < QApplication::startDragDistance())
             return;
         drag_->moved = true;
-        emit changeBegun();
     }
     dragTo(event->position());
 }
@@ -122,7 +121,7 @@ void PictureCanvas::endDrag() {
     const bool moved = drag_->moved;
     drag_.reset();
     if (moved)
-        emit changeEnded();
+        Q_EMIT changeEnded();
     update();
 }
 
@@ -147,13 +146,14 @@ void PictureCanvas::dragTo(QPointF place) {
         const equilibrium::Point from = drag_->frame.mmAt(drag_->press);
         const PictureAnchor& anchor =
             drag_->values.anchors.at(static_cast<std::size_t>(drag_->anchor - 1));
-        emit anchorMoved(drag_->anchor, wholeMillimetres(anchor.x + to.x - from.x),
-                         wholeMillimetres(anchor.y + to.y - from.y));
+        Q_EMIT anchorMoved(drag_->anchor, wholeMillimetres(anchor.x + to.x - from.x),
+                           wholeMillimetres(anchor.y + to.y - from.y));
     } else if (isUpright(drag_->edge)) {
-        emit plateResized(sizeWithEdgeAt(to.x), static_cast<int>(std::lround(drag_->values.width)));
+        Q_EMIT plateResized(sizeWithEdgeAt(to.x),
+                            static_cast<int>(std::lround(drag_->values.width)));
     } else {
-        emit plateResized(static_cast<int>(std::lround(drag_->values.length)),
-                          sizeWithEdgeAt(to.y));
+        Q_EMIT plateResized(static_cast<int>(std::lround(drag_->values.length)),
+                            sizeWithEdgeAt(to.y));
     }
 }
 
@@ -162,10 +162,10 @@ void PictureCanvas::giveBack() {
     if (drag_->anchor > 0) {
         const PictureAnchor& anchor =
             drag_->values.anchors.at(static_cast<std::size_t>(drag_->anchor - 1));
-        emit anchorMoved(drag_->anchor, wholeMillimetres(anchor.x), wholeMillimetres(anchor.y));
+        Q_EMIT anchorMoved(drag_->anchor, wholeMillimetres(anchor.x), wholeMillimetres(anchor.y));
     } else {
-        emit plateResized(static_cast<int>(std::lround(drag_->values.length)),
-                          static_cast<int>(std::lround(drag_->values.width)));
+        Q_EMIT plateResized(static_cast<int>(std::lround(drag_->values.length)),
+                            static_cast<int>(std::lround(drag_->values.width)));
     }
 }
 
@@ -173,9 +173,8 @@ void PictureCanvas::step(int x, int y) {
     if (chosen_ == 0 || !canBeWorked())
         return;
     const PictureAnchor& anchor = values_.anchors.at(static_cast<std::size_t>(chosen_ - 1));
-    emit changeBegun();
-    emit anchorMoved(chosen_, wholeMillimetres(anchor.x + x), wholeMillimetres(anchor.y + y));
-    emit changeEnded();
+    Q_EMIT anchorMoved(chosen_, wholeMillimetres(anchor.x + x), wholeMillimetres(anchor.y + y));
+    Q_EMIT changeEnded();
 }
 
 void PictureCanvas::keyPressEvent(QKeyEvent* event) {
@@ -195,7 +194,7 @@ void PictureCanvas::keyPressEvent(QKeyEvent* event) {
         if (anchors > 0) {
             const int on = event->key() == Qt::Key_PageDown ? 1 : -1;
             choose((std::max(chosen_ - 1, on > 0 ? chosen_ - 1 : 0) + on + anchors) % anchors + 1);
-            emit anchorChosen(chosen_);
+            Q_EMIT anchorChosen(chosen_);
         }
         return;
     case Qt::Key_Escape:

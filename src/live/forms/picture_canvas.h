@@ -34,8 +34,7 @@ public:
 
 Q_SIGNALS:
     void anchorChosen(int anchor);
-    /// A change begins that ends with `changeEnded`; what changes: "anchor" or "plate".
-    void changeBegun();
+    /// What was dragged is let go, or a step by a key is done: one change.
     void changeEnded();
     /// Where the anchor is wanted, mm.
     void anchorMoved(int anchor, int x, int y);

@@ -40,7 +40,7 @@ public:
     /// The menu "&Więcej" of what stands beside the report; seen once it has an entry.
     QMenu* moreMenu() const { return more_; }
     ResultsSession& session() { return *session_; }
-    /// Says which files were written; all of them lie in one folder.
+    /// Says below the report where files were written.
     void tellWritten(const QStringList& files);
 
     /// Shows the form, prepares the report and has it rendered.

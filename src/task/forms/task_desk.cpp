@@ -92,7 +92,8 @@ Task TaskDesk::task() const {
 // What is typed becomes a step once its field is left; everything else at once.
 void TaskDesk::recordUnlessTyping() {
     waiting_ = false;
-    if (!std::exchange(typing_, false))
+    const bool isDragged = QGuiApplication::mouseButtons() != Qt::NoButton; // told when it ends
+    if (!std::exchange(typing_, false) && !isDragged)
         recordWhenFree();
 }
 
