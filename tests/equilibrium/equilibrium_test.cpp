@@ -192,6 +192,16 @@ TEST(Equilibrium, OfAPullAtAnAnchorInTheVeryCornerIsThatOfTheAnchor) {
     EXPECT_NEAR(force(problem, result, 300, 200), 10, 1e-4);
 }
 
+TEST(Equilibrium, OfAPullAtACornerIsCarriedByTheAnchorOnBothItsEdgesAlone) {
+    const std::vector<Anchor> anchors{{350, 200, 353}, {300, 250, 353}, {300, 200, 353}};
+    const BaseAndLoad problem{600, 400, 6, anchors, {-10, -3, -2}};
+    const Result result = problem.solved();
+    ASSERT_TRUE(result.exists);
+    EXPECT_NEAR(force(problem, result, 300, 200), 10, 1e-4);
+    EXPECT_NEAR(force(problem, result, 350, 200), 0, 1e-4);
+    EXPECT_NEAR(force(problem, result, 300, 250), 0, 1e-4);
+}
+
 TEST(Equilibrium, OfAMomentAloneIsFoundInEitherDirection) {
     const std::vector<Anchor> anchors = fourAnchors(250, 150, 353);
     const BaseAndLoad about1{600, 400, 6, anchors, {0, 5, 0}};

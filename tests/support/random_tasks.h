@@ -61,8 +61,12 @@ inline void ordinaryTask(ColumnBase& base, Dice& dice) {
         base.anchor(x, 0, fi).anchor(-x, 0, fi);
         break;
     default:
-        for (int i = dice.whole(1, 12); i > 0; --i)
-            base.anchor(dice.whole(-x, x), dice.whole(-y, y), fi);
+        for (int i = dice.whole(1, 12); i > 0; --i) {
+            // One throw a line: compilers do not agree which argument comes first.
+            const int anchorY = dice.whole(-y, y);
+            const int anchorX = dice.whole(-x, x);
+            base.anchor(anchorX, anchorY, fi);
+        }
     }
     base.allAnchorsTakeShear(dice.oneIn(2));
     base.stan.opcje.Nr_betonu = CInt(dice.whole(1, 4));
@@ -76,8 +80,12 @@ inline void ordinaryTask(ColumnBase& base, Dice& dice) {
         };
         const Double M1 = moment(length);
         const Double M2 = moment(width);
-        base.loads(N, M1, M2, dice.oneIn(3) ? 0 : typed(dice.between(-0.6, 0.6) * N, 1),
-                   dice.oneIn(3) ? 0 : typed(dice.between(-0.6, 0.6) * N, 1));
+        const auto shear = [&] {
+            return dice.oneIn(3) ? 0 : typed(dice.between(-0.6, 0.6) * N, 1);
+        };
+        const Double Vy = shear();
+        const Double Vx = shear();
+        base.loads(N, M1, M2, Vx, Vy);
     }
 }
 
@@ -108,7 +116,11 @@ inline void nastyTask(ColumnBase& base, Dice& dice) {
             const Double sign = dice.oneIn(2) ? -1 : 1;
             return dice.oneIn(5) ? 0.0 : sign * magnitude(1e-4, 1e7);
         };
-        base.loads(magnitude(1e-4, 1e7), moment(), moment(), moment(), moment());
+        const Double Vy = moment();
+        const Double Vx = moment();
+        const Double M2 = moment();
+        const Double M1 = moment();
+        base.loads(magnitude(1e-4, 1e7), M1, M2, Vx, Vy);
     }
 }
 
