@@ -28,6 +28,7 @@ std::unique_ptr<Podglad> addLiveView(Ferna3& form, Stan& stan, Dialogs& dialogs)
             .record = [&form]() -> const notes::Record& { return form.record(); },
             .moveAnchor = [&form](int anchor, int x, int y) { moveAnchor(form, anchor, x, y); },
             .resizePlate = [&form](int length, int width) { resizePlate(form, length, width); },
+            .changeBegins = [&form] { Q_EMIT form.stepped({}); },
             .changeEnds = [&form] { Q_EMIT form.stepped(QStringLiteral("zmiana w podglądzie")); }},
         dialogs);
     QAction* const entry = form.menus().view->addAction(QStringLiteral("&Podgląd"));

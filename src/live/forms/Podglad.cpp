@@ -73,6 +73,7 @@ void Podglad::connectParts() {
     connect(ui_->zamknij, &QToolButton::clicked, this, [this] { setOpen(false); });
     PictureCanvas* const picture = ui_->rysunek;
     connect(picture, &PictureCanvas::anchorChosen, this, &Podglad::anchorChosen);
+    connect(picture, &PictureCanvas::changeBegun, this, [this] { source_.changeBegins(); });
     connect(picture, &PictureCanvas::changeEnded, this, [this] { source_.changeEnds(); });
     connectGuarded(picture, &PictureCanvas::anchorMoved, this,
                    [this](int anchor, int x, int y) { source_.moveAnchor(anchor, x, y); });

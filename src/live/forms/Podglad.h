@@ -27,6 +27,8 @@ struct LiveSource {
     std::function<void(int anchor, int x, int y)> moveAnchor;
     /// Gives the plate a size in mm.
     std::function<void(int length, int width)> resizePlate;
+    /// A change by hand begins: what was typed before is a step of its own.
+    std::function<void()> changeBegins = [] {};
     /// A change by hand has ended: all its moves are one step.
     std::function<void()> changeEnds = [] {};
 };

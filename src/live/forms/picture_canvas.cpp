@@ -106,6 +106,7 @@ void PictureCanvas::mouseMoveEvent(QMouseEvent* event) {
         if (way.manhattanLength() < QApplication::startDragDistance())
             return;
         drag_->moved = true;
+        Q_EMIT changeBegun();
     }
     dragTo(event->position());
 }

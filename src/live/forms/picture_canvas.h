@@ -34,6 +34,8 @@ public:
 
 Q_SIGNALS:
     void anchorChosen(int anchor);
+    /// Something begins to be dragged.
+    void changeBegun();
     /// What was dragged is let go, or a step by a key is done: one change.
     void changeEnded();
     /// Where the anchor is wanted, mm.

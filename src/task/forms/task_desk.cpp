@@ -100,7 +100,10 @@ void TaskDesk::recordUnlessTyping() {
 // While a dialog stands its command is half done, as where anchors are counted and not placed yet.
 // Once it goes the focus comes back.
 void TaskDesk::recordWhenFree() {
-    if (QApplication::activeModalWidget() == nullptr)
+    constexpr int lookAgain = 20;                        // ms
+    if (QGuiApplication::mouseButtons() != Qt::NoButton) // what is dragged is half done too
+        QTimer::singleShot(lookAgain, this, &TaskDesk::recordWhenFree);
+    else if (QApplication::activeModalWidget() == nullptr)
         record();
 }
 
