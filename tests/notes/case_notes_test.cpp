@@ -266,6 +266,26 @@ TEST(CaseNotes, RefusedTensionWithoutAnEquilibriumIsToldWithoutStresses) {
         found[2].text,
         QStringLiteral("Przypadek 1: program nie liczy zakotwień rozciąganych (N = -50,0 kN). "
                        "Policz ten przypadek osobno albo usuń go z zestawienia."));
+    EXPECT_EQ(
+        marks(notes::notesInPlaceOfResults(desk.record, notes::entered(desk.stan, desk.fields))),
+        marks(found))
+        << "there are no exact stresses to add";
+}
+
+TEST(CaseNotes, InPlaceOfResultsACaseThatDeviatedHasItsExactStressesToo) {
+    NotesDesk desk;
+    desk.fourAnchors(250, 150).loads(900, 5, 0).loads(100, 60, 5);
+    desk.record.begin(notes::entered(desk.stan, desk.fields));
+    desk.stan.wyniki.outcomes(1) = CaseOutcome::WholePlate;
+    desk.stan.wyniki.Sigma_b(1) = 0;
+    desk.stan.wyniki.outcomes(2) = CaseOutcome::GaveUp;
+    for (int c = 1; c <= 2; ++c)
+        desk.record.caseEnded(desk.stan, c);
+    const Marks told =
+        marks(notes::notesInPlaceOfResults(desk.record, notes::entered(desk.stan, desk.fields)));
+    EXPECT_EQ(std::ranges::count(told, "odchylka 1"), 1) << ::testing::PrintToString(told);
+    EXPECT_EQ(std::ranges::count(told, "dokladnie 1"), 1) << ::testing::PrintToString(told);
+    EXPECT_EQ(std::ranges::count(told, "dokladnie 2"), 0) << ::testing::PrintToString(told);
 }
 
 TEST(CaseNotes, AnAnchorMovedAlongOneAxisAloneHasMoved) {
