@@ -21,14 +21,14 @@ void expectRefusal(QWidget& modal, const QString& focused, void (*press)(QWidget
 
 class AnchorSteelDialog : public MainForm {
 protected:
-    void prepare() {
+    void chooseOwnSteel() {
         choose("cmbStal", 6);
         show(Sruby);
         add("cmdDodaj4", 30, 250, 150);
     }
     void SetUp() override {
         MainForm::SetUp();
-        prepare();
+        chooseOwnSteel();
     }
 
     void calculateWith(ModalAnswers::Step step, bool cancelled) {
@@ -102,7 +102,7 @@ TEST_F(AnchorSteelDialog, RefusesInOrderAndPutsTheFocusWhereTheFaultIs) {
 TEST_F(AnchorSteelDialog, AConfigurationWithoutReRefusesWhateverIsTyped) {
     setLine(18, " 305           0             490           64           S355");
     start();
-    prepare();
+    chooseOwnSteel();
     answers.dialog(QStringLiteral("KGM8"), [](QWidget& modal) {
         retype(modal, "Text2_3", QStringLiteral("355"));
         expectRefusal(modal, QStringLiteral("Text1"), &press);

@@ -78,8 +78,10 @@ protected:
 
     void drag(QPoint from, QPoint to) {
         QTest::mousePress(picture(), Qt::LeftButton, {}, from);
-        for (int i = 1; i <= 5; ++i)
+        for (int i = 1; i <= 5; ++i) {
             QTest::mouseMove(picture(), from + (to - from) * i / 5);
+            QCoreApplication::processEvents(); // as between the moves of a hand
+        }
         QTest::mouseRelease(picture(), Qt::LeftButton, {}, to);
         settle();
     }
