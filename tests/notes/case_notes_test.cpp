@@ -202,20 +202,6 @@ TEST(CaseNotes, AfterACaseWithoutSolutionTheOthersSayThatTheyWerePassedOver) {
     }
 }
 
-TEST(CaseNotes, WhatFollowsAFirstCaseWithoutSolutionNamesIt) {
-    NotesDesk desk;
-    desk.fourAnchors(250, 150).loads(100, 60, 5).loads(100, 30, 30);
-    desk.record.begin(notes::entered(desk.stan, desk.fields));
-    desk.stan.wyniki.outcomes(1) = CaseOutcome::GaveUp;
-    desk.stan.wyniki.outcomes(2) = CaseOutcome::PassedOver;
-    for (int c = 1; c <= 2; ++c)
-        desk.record.caseEnded(desk.stan, c);
-    const notes::Notes found = notes::notesOf(desk.record);
-    ASSERT_EQ(marks(found), (Marks{"brak_rozwiazania 1", "brak_rozwiazania 2"}));
-    EXPECT_TRUE(found[1].text.contains(QStringLiteral("bez rozwiązania w przypadku 1, choć")))
-        << found[1].text.toStdString();
-}
-
 TEST(CaseNotes, TheDeviationOfAnAnchorIsToldByItsOwnStresses) {
     Bent desk;
     const equilibrium::Result exact = desk.exact(1);
@@ -254,18 +240,6 @@ TEST(CaseNotes, ACaseWhoseLoadsCannotBeReadBringsNoneOfItsOwn) {
                                                      notes::entered(desk.stan, desk.fields))),
                   Marks{});
     }
-}
-
-TEST(CaseNotes, RefusedTensionWithoutAnEquilibriumIsToldWithoutStresses) {
-    NotesDesk desk; // an anchor beside the plate alone: nothing there to lean on
-    desk.anchor(400, 0).loads(-50, 0, 0);
-    const notes::Notes found = desk.calculated();
-    ASSERT_FALSE(desk.exact(1).exists);
-    ASSERT_EQ(marks(found), (Marks{"kotwa_poza_plyta k1", "nie_stoi 1", "rozciaganie 1"}));
-    EXPECT_EQ(
-        found[2].text,
-        QStringLiteral("Przypadek 1: program nie liczy zakotwień rozciąganych (N = -50,0 kN). "
-                       "Policz ten przypadek osobno albo usuń go z zestawienia."));
 }
 
 TEST(CaseNotes, AnAnchorMovedAlongOneAxisAloneHasMoved) {

@@ -2,6 +2,8 @@
 #include "notes/plate_notes.h"
 #include "notes/stress_words.h"
 
+#include <algorithm>
+
 using namespace ferna;
 using namespace ferna::testing;
 
@@ -106,6 +108,52 @@ TEST(Record, TheUsersSteelIsNamedOnceItHasBeenDescribed) {
 
 TEST(Record, BeforeACalculationThereIsNothingInPlaceOfItsResults) {
     EXPECT_EQ(marks(notes::notesInPlaceOfResults(notes::Record(), TwoAnchors().now())), Marks{});
+}
+
+TEST(CasesOfARecord, WhatFollowsAFirstCaseWithoutSolutionNamesIt) {
+    NotesDesk desk;
+    desk.fourAnchors(250, 150).loads(100, 60, 5).loads(100, 30, 30);
+    desk.record.begin(notes::entered(desk.stan, desk.fields));
+    desk.stan.wyniki.outcomes(1) = CaseOutcome::GaveUp;
+    desk.stan.wyniki.outcomes(2) = CaseOutcome::PassedOver;
+    for (int c = 1; c <= 2; ++c)
+        desk.record.caseEnded(desk.stan, c);
+    const notes::Notes found = notes::notesOf(desk.record);
+    ASSERT_EQ(marks(found), (Marks{"brak_rozwiazania 1", "brak_rozwiazania 2"}));
+    EXPECT_TRUE(found[1].text.contains(QStringLiteral("bez rozwiązania w przypadku 1, choć")))
+        << found[1].text.toStdString();
+}
+
+TEST(CasesOfARecord, RefusedTensionWithoutAnEquilibriumIsToldWithoutStresses) {
+    NotesDesk desk; // an anchor beside the plate alone: nothing there to lean on
+    desk.anchor(400, 0).loads(-50, 0, 0);
+    const notes::Notes found = desk.calculated();
+    ASSERT_FALSE(desk.exact(1).exists);
+    ASSERT_EQ(marks(found), (Marks{"kotwa_poza_plyta k1", "nie_stoi 1", "rozciaganie 1"}));
+    EXPECT_EQ(
+        found[2].text,
+        QStringLiteral("Przypadek 1: program nie liczy zakotwień rozciąganych (N = -50,0 kN). "
+                       "Policz ten przypadek osobno albo usuń go z zestawienia."));
+    EXPECT_EQ(
+        marks(notes::notesInPlaceOfResults(desk.record, notes::entered(desk.stan, desk.fields))),
+        marks(found))
+        << "there are no exact stresses to add";
+}
+
+TEST(CasesOfARecord, InPlaceOfResultsACaseThatDeviatedHasItsExactStressesToo) {
+    NotesDesk desk;
+    desk.fourAnchors(250, 150).loads(900, 5, 0).loads(100, 60, 5);
+    desk.record.begin(notes::entered(desk.stan, desk.fields));
+    desk.stan.wyniki.outcomes(1) = CaseOutcome::WholePlate;
+    desk.stan.wyniki.Sigma_b(1) = 0;
+    desk.stan.wyniki.outcomes(2) = CaseOutcome::GaveUp;
+    for (int c = 1; c <= 2; ++c)
+        desk.record.caseEnded(desk.stan, c);
+    const Marks told =
+        marks(notes::notesInPlaceOfResults(desk.record, notes::entered(desk.stan, desk.fields)));
+    EXPECT_EQ(std::ranges::count(told, "odchylka 1"), 1) << ::testing::PrintToString(told);
+    EXPECT_EQ(std::ranges::count(told, "dokladnie 1"), 1) << ::testing::PrintToString(told);
+    EXPECT_EQ(std::ranges::count(told, "dokladnie 2"), 0) << ::testing::PrintToString(told);
 }
 
 struct StressWords : ::testing::Test {
