@@ -20,6 +20,8 @@ inline constexpr std::array<Value, 5> loadColumns{Value::N, Value::M1, Value::M2
 struct LoadCell {
     int row = 0;
     int column = 0;
+
+    bool operator==(const LoadCell&) const = default;
 };
 
 /// A block of cells of the load table: both corners belong to it.
@@ -31,9 +33,6 @@ struct LoadBlock {
     bool holds(LoadCell cell) const;
     bool isOneCell() const;
 };
-inline bool operator==(const LoadCell& a, const LoadCell& b) {
-    return a.row == b.row && a.column == b.column;
-}
 
 /// What a pasted table does to the load table.
 struct LoadPaste {

@@ -41,6 +41,8 @@ struct Load {
     double N = 0;
     double M1 = 0;
     double M2 = 0;
+
+    bool operator==(const Load&) const = default;
 };
 
 /// mm, from the centre of the plate.

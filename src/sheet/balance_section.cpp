@@ -208,7 +208,7 @@ Table trianglesTable(const Maker& maker, const std::vector<std::pair<Side, Zone>
 class BalanceRows {
 public:
     BalanceRows(Maker& maker, const CaseSheet& one, Side side, const Zone& zone)
-        : maker_(maker), one_(one), c_(one.number), side_(side), zone_(zone) {}
+        : maker_(maker), c_(one.number), side_(side), zone_(zone) {}
 
     std::vector<Row> rows() {
         std::array<Row, 6> made;
@@ -312,7 +312,6 @@ private:
     }
 
     Maker& maker_;
-    const CaseSheet& one_;
     int c_;
     Side side_;
     const Zone& zone_;
