@@ -42,7 +42,9 @@ TEST(TableText, IsReadInCodePage1250) {
 
 TEST(TableText, IsRefusedWhereTheBytesAreNoText) {
     EXPECT_FALSE(tableText(QByteArray("PK\x03\x04\0\0\x08\0", 8)));
-    EXPECT_FALSE(tableText(QByteArray("100\0200", 7)));
+    EXPECT_FALSE(tableText(QByteArray("100\0"
+                                      "200",
+                                      7)));
     EXPECT_FALSE(tableText("\x81\x83"));                    // unassigned in the page
     EXPECT_FALSE(tableText(QByteArray("\xFF\xFE\x31", 3))); // half a character
     EXPECT_EQ(tableText("")->text, QString());
