@@ -28,6 +28,10 @@ public:
                 [this](QWidget* /*from*/, QWidget* to) { bringIntoSight(to); });
     }
 
+    /// A focus that goes while the area does is no longer its own.
+    ~ScrolledContents() override { disconnect(qApp, nullptr, this, nullptr); }
+    Q_DISABLE_COPY_MOVE(ScrolledContents)
+
     QSize sizeHint() const override {
         const QSize bars(verticalScrollBar()->sizeHint().width(),
                          horizontalScrollBar()->sizeHint().height());
