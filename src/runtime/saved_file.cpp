@@ -182,6 +182,8 @@ bool isNamed(int file, const QByteArray& name) {
 bool removeLeft(const QByteArray& hidden) {
     const Descriptor left(
         ::open(hidden.constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (!left && errno == ENOENT)
+        return true; // what stands there from now on is the next saving's
     if (left && ::flock(left.number(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return false;
     if (left && !isNamed(left.number(), hidden))

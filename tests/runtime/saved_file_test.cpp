@@ -14,12 +14,14 @@
 
 #include <cerrno>
 #include <cstdarg>
+#include <functional>
 
 namespace {
 
 int syncFailure = 0; // what the disk answers; 0: it keeps what it got
 int syncs = 0;
-bool everyFileHasAName = false; // as on some file systems
+bool everyFileHasAName = false;       // as on some file systems
+std::function<int()> lookAtALeftFile; // what the system answers while another program saves
 
 } // namespace
 
@@ -38,6 +40,8 @@ extern "C" int open(const char* path, int flags, ...) {
         errno = EOPNOTSUPP;
         return -1;
     }
+    if (lookAtALeftFile && (flags & O_NOFOLLOW) != 0 && (flags & O_CREAT) == 0)
+        return lookAtALeftFile();
     va_list more;
     va_start(more, flags);
     const mode_t mode = va_arg(more, mode_t);
@@ -57,6 +61,7 @@ protected:
     ~SavedFile() override {
         syncFailure = 0;
         everyFileHasAName = false;
+        lookAtALeftFile = nullptr;
     }
 
     QByteArray native(const QString& file) const { return QFile::encodeName(folder.path(file)); }
@@ -233,6 +238,34 @@ TEST_P(SavedFileOfTwo, AtOnceIsTheOnesOrTheOthers) {
     EXPECT_EQ(status, 0);
     const QByteArray found = folder.read(name);
     EXPECT_TRUE(found == one || found == other);
+    EXPECT_EQ(folder.names(), QStringList(name));
+}
+
+/// The other one's saving ends and its next begins between two steps of this one.
+TEST_P(SavedFileOfTwo, LeavesTheOthersNextSavingAlone) {
+    everyFileHasAName = GetParam();
+    const QString path = folder.path(name);
+    const QByteArray hidden = QFile::encodeName(savingName(path));
+    folder.write(QFileInfo(savingName(path)).fileName(), "drugi");
+    int next = -1;
+    int looks = 0;
+    bool nextIsSaved = false;
+    lookAtALeftFile = [&] {
+        if (++looks == 1) {
+            ::unlink(hidden.constData());
+            next = ::open(hidden.constData(), O_WRONLY | O_CREAT, 0600);
+            ::flock(next, LOCK_EX);
+        } else {
+            nextIsSaved = ::rename(hidden.constData(), native(name).constData()) == 0;
+            ::close(next);
+        }
+        errno = ENOENT;
+        return -1;
+    };
+    writeFileWhole(path, "pierwszy");
+    EXPECT_EQ(looks, 2);
+    EXPECT_TRUE(nextIsSaved);
+    EXPECT_EQ(folder.read(name), QByteArray("pierwszy"));
     EXPECT_EQ(folder.names(), QStringList(name));
 }
 
