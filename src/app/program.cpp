@@ -9,6 +9,7 @@
 #include "plate/forms/Grub_bla.h"
 #include "protocol/renderer_files.h"
 #include "report/forms/renderer_wait.h"
+#include "report/report_words.h"
 #include "selection/forms/Dobor_fer.h"
 #include "widgets/hourglass.h"
 
@@ -60,7 +61,7 @@ RendererReport Program::render(const QStringList& options) {
     RendererWait wait(results_.get());
     return runRenderer(
         folder_, options, [&wait](const RendererState& state) { return wait.goOn(state); },
-        results_->winId());
+        {.window = results_->winId(), .language = reportWords(stan_.opcje.Nr_jezyka).tag});
 }
 
 FernaWyn::Links Program::links() {
