@@ -252,6 +252,8 @@ void Ferna3::takeTask(const Stan& task, const InputFields& fields) {
         PictureBox picture(platePictureSize);
         showPlate(ferna::Rysuj_P3(picture, stan_, fields, unseen));
     }
+    if (auto* const field = qobject_cast<QLineEdit*>(focusWidget()))
+        field->selectAll(); // what is typed next takes the place of what has come
     Q_EMIT entered();
 }
 
