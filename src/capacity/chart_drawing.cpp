@@ -255,9 +255,10 @@ private:
     void drawNames() {
         constexpr std::size_t few = 8;
         const int nearest = nearestToLine(chart_);
+        constexpr std::size_t weighed = 2000; // whose marks a name is to leave free
         std::vector<QRectF> taken;
         for (const ChartPoint& point : chart_.points)
-            if (chart_.points.size() <= few)
+            if (taken.size() < weighed)
                 taken.push_back(around(frame_.atPoint(point), QSizeF(letter_, letter_)));
         const auto name = [&](int i) {
             const ChartPoint& point = chart_.points[static_cast<std::size_t>(i)];
@@ -282,9 +283,11 @@ private:
         const qreal y = 1.2 * letter_;
         QRectF best;
         qreal least = HUGE_VAL;
-        for (const QPointF& shift : {QPointF(x, 0), QPointF(-x, 0), QPointF(0, -y), QPointF(0, y),
-                                     QPointF(x, -y), QPointF(-x, -y), QPointF(x, y), QPointF(-x, y),
-                                     QPointF(x, 2 * y), QPointF(x, -2 * y)}) {
+        for (const QPointF& shift :
+             {QPointF(x, 0), QPointF(-x, 0), QPointF(0, -y), QPointF(0, y), QPointF(x, -y),
+              QPointF(-x, -y), QPointF(x, y), QPointF(-x, y), QPointF(x, 2 * y), QPointF(x, -2 * y),
+              QPointF(-x, 3 * y), QPointF(-x, -3 * y), QPointF(0, 4 * y), QPointF(0, -4 * y),
+              QPointF(-x, 6 * y), QPointF(-x, -6 * y)}) {
             const QRectF place = around(at + shift, size);
             const QRectF cut = place & frame_.field();
             qreal covered = size.width() * size.height() - cut.width() * cut.height()
@@ -299,6 +302,11 @@ private:
                 least = covered;
                 best = place;
             }
+        }
+        if (!best.adjusted(-letter_, -letter_, letter_, letter_).contains(at)) { // far away
+            pen(quiet, 0.08);
+            painter_.drawLine(at, QPointF(std::clamp(at.x(), best.left(), best.right()),
+                                          std::clamp(at.y(), best.top(), best.bottom())));
         }
         painter_.fillRect(best, QColor(255, 255, 255, 200));
         pen(ink, 0.1);

@@ -35,9 +35,11 @@ QString symbolOfUse(const CheckName& check, const QString& index) {
     return QStringLiteral("η_%1,%2").arg(QLatin1String(check.id), index);
 }
 
-/// A utilisation as a cell; nothing bears an infinite one.
+/// A utilisation as a cell, one above the limit in bold; nothing bears an infinite one.
 Cell useCell(const Quantity* number) {
-    return number != nullptr ? cell(number) : cell(QStringLiteral("∞"));
+    Cell made = number != nullptr ? cell(number) : cell(QStringLiteral("∞"));
+    made.strong = number == nullptr || number->value > 1;
+    return made;
 }
 
 /// The utilisations of the rows taken, by row and check; null where one is infinite.

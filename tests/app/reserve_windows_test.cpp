@@ -6,11 +6,13 @@
 #include "support/keyboard_order.h"
 #include "support/main_form.h"
 #include "task/forms/task_desk.h"
+#include "widgets/small_screen.h"
 
 #include <QCheckBox>
 #include <QFileDialog>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTableView>
@@ -204,7 +206,7 @@ TEST_F(ReserveWindows, OtherLoadsStandInTheChartInPlaceOfTheCases) {
     EXPECT_EQ(chart().N, 400);
     list->setCurrentIndex(list->findText(QStringLiteral("KO-8")));
     EXPECT_EQ(chart().N, 150);
-    EXPECT_EQ(in<QLineEdit>(entries->capacity(), "txtV")->text(), general(std::hypot(60, 5)));
+    EXPECT_EQ(in<QLineEdit>(entries->capacity(), "txtV")->text(), QStringLiteral("60,208"));
     // The base changes: the points with it.
     const double before = chart().points[7].used;
     type("Text3", QStringLiteral("800"));
@@ -218,6 +220,16 @@ TEST_F(ReserveWindows, OtherLoadsStandInTheChartInPlaceOfTheCases) {
     entries->capacity().renew();
     EXPECT_FALSE(points->isVisible());
     EXPECT_EQ(chart().points.size(), 2U) << "the table has gone";
+}
+
+TEST_F(ReserveWindows, FitOnTheirScreenWithTheirTitle) {
+    for (const QWidget* window : {static_cast<QWidget*>(&entries->capacity()),
+                                  static_cast<QWidget*>(&entries->smallest())}) {
+        const QSize room = roomOnScreen(window);
+        EXPECT_LE(window->width(), room.width());
+        EXPECT_LE(window->height(), room.height());
+        EXPECT_LT(room.height(), window->screen()->availableSize().height());
+    }
 }
 
 TEST_F(ReserveWindows, F1OpensTheirPagesOfTheHelp) {

@@ -6,6 +6,7 @@
 #include "ui_CapacityWindow.h"
 #include "widgets/environment_stop.h"
 #include "widgets/form_tools.h"
+#include "widgets/small_screen.h"
 #include "windows/save_question.h"
 
 #include <QShowEvent>
@@ -86,6 +87,7 @@ CapacityWindow::CapacityWindow(Entered entered, QWidget* parent)
     });
     connectGuarded(ui_->cmdZapisz, &QPushButton::clicked, this, [this] { save(); });
     connect(ui_->cmdZamknij, &QPushButton::clicked, this, &CapacityWindow::close);
+    fitToScreen(this, QSize(940, 740));
 }
 
 CapacityWindow::~CapacityWindow() = default;
@@ -174,7 +176,9 @@ void CapacityWindow::takeForces() {
         return;
     const NamedLoad& one = loads_.at(ui_->cmbPrzypadek->currentData().toULongLong());
     ui_->txtN->setText(general(one.load.N));
-    ui_->txtV->setText(general(std::hypot(one.shear.Vx, one.shear.Vy)));
+    constexpr double thousandths = 1000; // of a kN are enough for a line
+    ui_->txtV->setText(
+        general(std::round(thousandths * std::hypot(one.shear.Vx, one.shear.Vy)) / thousandths));
 }
 
 /// What is typed stays, whatever becomes of the loads.

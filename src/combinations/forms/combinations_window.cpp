@@ -11,6 +11,7 @@
 #include "runtime/run_time_error.h"
 #include "runtime/saved_file.h"
 #include "widgets/note_band.h"
+#include "widgets/small_screen.h"
 
 #include <QBuffer>
 #include <QComboBox>
@@ -21,7 +22,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
@@ -93,8 +93,8 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
     constexpr int pause = 200; // ms
     settle_.setInterval(pause);
     connect(&settle_, &QTimer::timeout, this, [this] { answerAnew(); });
-    resize(QSize(1280, 780).boundedTo(screen()->availableSize()));
     showTable();
+    fitToScreen(this, QSize(1280, 780));
 }
 
 CombinationsWindow::~CombinationsWindow() = default;

@@ -1,6 +1,7 @@
 #include "combinations/forms/reading_dialog.h"
 
 #include "runtime/format.h"
+#include "widgets/small_screen.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -9,7 +10,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QTableWidget>
 #include <QVBoxLayout>
 
@@ -84,7 +84,7 @@ ReadingDialog::ReadingDialog(const combinations::Layout& layout, QList<QStringLi
     orderTabs();
     showFile();
     showRead();
-    resize(QSize(860, 640).boundedTo(screen()->availableSize()));
+    fitToScreen(this, QSize(860, 640));
     QPushButton* const ok = buttons_->button(QDialogButtonBox::Ok);
     (layout_.doubt.isEmpty() && ok->isEnabled() ? static_cast<QWidget*>(ok)
                                                 : choices_.front().column)
