@@ -4,6 +4,7 @@
 #include "report/results_form.h"
 
 #include <QMenu>
+#include <QMenuBar>
 
 using namespace ferna;
 using namespace ferna::testing;
