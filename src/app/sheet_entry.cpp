@@ -27,26 +27,30 @@ QString withSheetEnding(const QString& file) {
 }
 
 void saveSheet(FernaWyn& results, const Stan& stan, notes::Record& record, Dialogs& dialogs) {
-    const std::optional<QString> path = dialogs.saveFile(sheetQuestion());
-    if (!path)
-        return;
-    const QString file = withSheetEnding(*path);
     record.labelled(results.session().typedLabel());
-    {
-        const Hourglass hourglass;
-        sheet::saveSheet(
-            sheet::makeSheet({.stan = stan,
-                              .record = record,
-                              .hasResults = true,
-                              .project = stan.opcje.Nazwa_projektu,
-                              .program = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION),
-                              .now = QDateTime::currentDateTime()}),
-            file);
-    }
-    results.tellWritten({file});
+    const std::optional<QString> file = askAndSaveSheet({.stan = stan,
+                                                         .record = record,
+                                                         .hasResults = true,
+                                                         .project = stan.opcje.Nazwa_projektu},
+                                                        dialogs);
+    if (file)
+        results.tellWritten({*file});
 }
 
 } // namespace
+
+std::optional<QString> askAndSaveSheet(const sheet::SheetInput& input, Dialogs& dialogs) {
+    const std::optional<QString> path = dialogs.saveFile(sheetQuestion());
+    if (!path)
+        return std::nullopt;
+    const QString file = withSheetEnding(*path);
+    const Hourglass hourglass;
+    sheet::SheetInput whole = input;
+    whole.program = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION);
+    whole.now = QDateTime::currentDateTime();
+    sheet::saveSheet(sheet::makeSheet(whole), file);
+    return file;
+}
 
 void addSheetEntry(FernaWyn& results, const Stan& stan, notes::Record& record, Dialogs& dialogs) {
     QAction* const entry = results.moreMenu()->addAction(QStringLiteral("&Arkusz obliczeniowy..."));
