@@ -1,6 +1,7 @@
 #include "sheet/odt_tables.h"
 
 #include "runtime/format.h"
+#include "sheet/formula_style.h"
 #include "sheet/page_slices.h"
 
 #include <algorithm>
@@ -10,6 +11,7 @@ namespace ferna::sheet::odt {
 namespace {
 
 constexpr double padding = 0.7; // mm, of a cell
+constexpr double slack = 1;     // mm: a tabulator at the very edge would start a new line
 
 TextStyle lettersOf(bool narrow, bool bold) {
     return {.size = points(narrow ? 7.0 : 8.5), .bold = bold};
@@ -23,7 +25,7 @@ double inMm(double pageUnits) {
 void placeDecimalSigns(TablePlan& plan, const std::vector<double>& behind) {
     for (std::size_t i = 0; i < plan.columns.size(); ++i)
         plan.columns[i].decimalSign =
-            std::max(0.0, plan.columns[i].width - 2 * padding - inMm(behind[i]));
+            std::max(0.0, plan.columns[i].width - 2 * padding - slack - inMm(behind[i]));
 }
 
 void paragraphStyle(Xml& xml, const TablePlan& plan, std::size_t column) {
@@ -72,13 +74,21 @@ TablePlan planOf(const Table& table, const QString& name) {
 }
 
 TablePlan planOf(const Equations& equations, const QString& name) {
-    constexpr double result = 27; // mm
-    constexpr double remark = 50;
+    constexpr double result = 28; // mm
+    constexpr double symbol = 18;
+    constexpr double remark = 48;
     const std::size_t results = equations.twoResults ? 2 : 1;
+    const double free = textWidth - result * static_cast<double>(results);
+    const bool given = std::all_of(
+        equations.rows.begin(), equations.rows.end(), [](const Equation& row) {
+            const Quantity* const told = row.result != nullptr ? row.result : row.exact;
+            return told == nullptr || !told->formula || !isWorthPrinting(*told->formula);
+        });
+    const double way = given ? symbol : free - remark;
     TablePlan plan{name, {}, false};
-    plan.columns.push_back({textWidth - result * static_cast<double>(results) - remark});
+    plan.columns.push_back({way});
     plan.columns.insert(plan.columns.end(), results, {result});
-    plan.columns.push_back({remark});
+    plan.columns.push_back({free - way});
     std::vector<double> behind(plan.columns.size(), 0);
     const auto measure = [&](const Quantity* number, std::size_t column) {
         if (number == nullptr)

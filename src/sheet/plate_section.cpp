@@ -37,7 +37,7 @@ public:
     Blocks all() {
         const Quantity* const t = thickness();
         whole(corrected(t));
-        return {std::move(values_), std::move(rows_)};
+        return {std::move(values_), std::move(givens_), std::move(rows_)};
     }
 
 private:
@@ -51,7 +51,7 @@ private:
         if (remark.isEmpty())
             values_.numbers.push_back(made);
         else
-            rows_.rows.push_back({made, nullptr, remark});
+            givens_.rows.push_back({made, nullptr, remark});
         return made;
     }
     const Quantity* computed(const char* name, const char* symbol, const Clause& clause,
@@ -220,13 +220,16 @@ private:
         if (valueOf(formula) == told)
             computed("g", "g", wholeThicknessClause, {t}, places(0), remark);
         else
-            given("g", "g", told, "mm", remark);
+            rows_.rows.push_back(
+                {maker_.given(0, id("g"), QStringLiteral("g"), told, QStringLiteral("mm")), nullptr,
+                 remark});
     }
 
     Maker& maker_;
     const notes::PlateFacts& facts_;
     int check_;
     Values values_;
+    Equations givens_; ///< with a remark each
     Equations rows_;
 };
 
@@ -310,16 +313,14 @@ void addPlate(Maker& maker) {
                                      maker.input().stan.materialy.Fd_blachy, QStringLiteral("MPa")),
                          nullptr,
                          maker.text()(QStringLiteral("plate.steel"), {rich(gradeName(*facts))})});
+    rows.rows.push_back({maker.given(0, QStringLiteral("g_accepted"), QStringLiteral("g"),
+                                     *facts->accepted, QStringLiteral("mm")),
+                         nullptr, maker.text()(QStringLiteral("plate.accepted"))});
     maker.add(std::move(rows));
     for (int check = 1; check <= PlateChecks; ++check)
         if (facts->required.at(static_cast<std::size_t>(check - 1)) > 0)
             addCheck(maker, *facts, check);
     tellRefused(maker, *facts);
-    Equations accepted;
-    accepted.rows.push_back({maker.given(0, QStringLiteral("g_accepted"), QStringLiteral("g"),
-                                         *facts->accepted, QStringLiteral("mm")),
-                             nullptr, maker.text()(QStringLiteral("plate.accepted"))});
-    maker.add(std::move(accepted));
 }
 
 } // namespace ferna::sheet
