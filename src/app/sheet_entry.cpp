@@ -6,6 +6,7 @@
 #include "widgets/hourglass.h"
 
 #include <QAction>
+#include <QFileInfo>
 #include <QMenu>
 
 namespace ferna {
@@ -44,6 +45,10 @@ std::optional<QString> askAndSaveSheet(const sheet::SheetInput& input, Dialogs& 
     if (!path)
         return std::nullopt;
     const QString file = withSheetEnding(*path);
+    if (file != *path && QFileInfo::exists(file)
+        && !dialogs.confirm(QStringLiteral("Zastąpić istniejące pliki: %1?").arg(file),
+                            sheetQuestion().title))
+        return std::nullopt; // the question has asked about another name
     const Hourglass hourglass;
     sheet::SheetInput whole = input;
     whole.program = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION);

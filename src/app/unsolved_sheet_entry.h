@@ -12,8 +12,6 @@ namespace ferna {
 /// that has ended without results and so opens no results form: its sheet stands on the exact
 /// equilibrium. It can be chosen while the task is the one that was calculated.
 class UnsolvedSheetEntry : public QObject {
-    Q_OBJECT
-
 public:
     UnsolvedSheetEntry(Ferna3& form, const Stan& stan, Dialogs& dialogs);
 
