@@ -82,6 +82,8 @@ struct PlateForm {
     PlateFace face;
     PlateInputs inputs;
     std::array<bool, PlateChecks> refused{}; ///< check n at n - 1: pressed last without a result
+    std::array<QString, PlateChecks> why{};  ///< what its refusal has told; empty where nothing
+    std::array<bool, PlateChecks> withdrawn{}; ///< pressed, and withdrawn since
     Integer Nr_stali_blachy = 0;             ///< item of cmbStalb plus 1, as last taken
 };
 
