@@ -52,13 +52,14 @@ struct Segment {
 QStringList pictureFiles(const QString& path, const std::vector<wyd::Record>& records);
 
 /// Turns records into positioned primitives. `lineWidthMm` is that of drawn lines. A picture that
-/// cannot be read is named in `complaints` and an outline with its name stands in its place.
+/// cannot be read is named in `complaints` and an outline with its name stands in its place, with
+/// words in `language` (BCP 47), Polish where it is another one or none.
 class RecordInterpreter {
 public:
     RecordInterpreter(QString path, double lineWidthMm, const Twins& twins,
-                      wyd::Complaints& complaints)
-        : path_(std::move(path)), lineWidthMm_(lineWidthMm), twins_(twins),
-          complaints_(complaints) {}
+                      wyd::Complaints& complaints, QString language = {})
+        : path_(std::move(path)), lineWidthMm_(lineWidthMm), twins_(twins), complaints_(complaints),
+          language_(std::move(language)) {}
 
     /// The frame file: one segment.
     Segment frame(const std::vector<wyd::Record>& records);
@@ -79,6 +80,7 @@ private:
     double lineWidthMm_;
     const Twins& twins_;
     wyd::Complaints& complaints_;
+    QString language_;
     Segment segment_;
     QHash<QString, QImage> images_;
     qsizetype pictureBytes_ = 0; ///< as drawn: a picture that is placed twice counts twice

@@ -77,18 +77,20 @@ Commands::Commands(const Job& job, wyd::Complaints& complaints)
     : frame_(frameOf(job, complaints)), body_(wyd::readRecordFile(job.bodyPath, complaints)),
       twins_(pictureFiles(job.framePath, frame_) + pictureFiles(job.bodyPath, body_)) {}
 
-pages::Report compose(const Job& job, wyd::Complaints& complaints) {
-    return compose(job, Commands(job, complaints), complaints);
+pages::Report compose(const Job& job, wyd::Complaints& complaints, const QString& language) {
+    return compose(job, Commands(job, complaints), complaints, language);
 }
 
-pages::Report compose(const Job& job, const Commands& commands, wyd::Complaints& complaints) {
+pages::Report compose(const Job& job, const Commands& commands, wyd::Complaints& complaints,
+                      const QString& language) {
     const double width = job.lineWidthPt * mmPerPoint;
-    const Twins& twins = commands.twins();
-    Segment frame =
-        RecordInterpreter(job.framePath, width, twins, complaints).frame(commands.frame());
-    std::vector<Segment> body = RecordInterpreter(job.bodyPath, width, twins, complaints)
-                                    .body(commands.body(), commands.frame());
+    const auto interpreter = [&](const QString& path) {
+        return RecordInterpreter(path, width, commands.twins(), complaints, language);
+    };
+    Segment frame = interpreter(job.framePath).frame(commands.frame());
+    std::vector<Segment> body = interpreter(job.bodyPath).body(commands.body(), commands.frame());
     pages::Report report;
+    report.language = language;
     report.title = titleOf(frame);
     report.project = projectOf(frame);
     report.pages = layOut(std::move(frame), std::move(body), job.firstPage);

@@ -33,9 +33,11 @@ private:
     Twins twins_;
 };
 
-/// Lays the command files of a job out.
-pages::Report compose(const Job& job, const Commands& commands, wyd::Complaints& complaints);
+/// Lays the command files of a job out. `language` (BCP 47) is that of the words which are not the
+/// files' own, and of the report.
+pages::Report compose(const Job& job, const Commands& commands, wyd::Complaints& complaints,
+                      const QString& language = {});
 /// The same with the reading.
-pages::Report compose(const Job& job, wyd::Complaints& complaints);
+pages::Report compose(const Job& job, wyd::Complaints& complaints, const QString& language = {});
 
 } // namespace ferna::renderer
