@@ -29,11 +29,9 @@ QString withSheetEnding(const QString& file) {
 
 void saveSheet(FernaWyn& results, const Stan& stan, notes::Record& record, Dialogs& dialogs) {
     record.labelled(results.session().typedLabel());
-    const std::optional<QString> file = askAndSaveSheet({.stan = stan,
-                                                         .record = record,
-                                                         .hasResults = true,
-                                                         .project = stan.opcje.Nazwa_projektu},
-                                                        dialogs);
+    const std::optional<QString> file = askAndSaveSheet(
+        {.stan = stan, .record = record, .hasResults = true, .project = stan.opcje.Nazwa_projektu},
+        dialogs);
     if (file)
         results.tellWritten({*file});
 }

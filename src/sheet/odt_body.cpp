@@ -96,9 +96,8 @@ private:
                        narrow ? QStringLiteral("Narrow_20_Cell") : QStringLiteral("Cell")}},
                      [&] {
                          xml_.element("style:paragraph-properties",
-                                      {{"fo:text-align",
-                                        QString::fromLatin1(alignNames.at(
-                                            static_cast<std::size_t>(align)))}});
+                                      {{"fo:text-align", QString::fromLatin1(alignNames.at(
+                                                             static_cast<std::size_t>(align)))}});
                      });
     }
 
@@ -235,8 +234,7 @@ private:
             return;
         tableOf(plan, [&] {
             if (equations.twoResults)
-                xml_.element("table:table-header-rows", {},
-                             [&] { namesOfSides(); });
+                xml_.element("table:table-header-rows", {}, [&] { namesOfSides(); });
             for (const Equation& row : equations.rows)
                 writeRow(row, plan, equations.twoResults);
         });
@@ -245,13 +243,12 @@ private:
     // Rows
 
     void tableOf(const TablePlan& plan, const std::function<void()>& rows) {
-        xml_.element("table:table", {{"table:name", plan.name}, {"table:style-name", plan.name}},
-                     [&] {
-                         for (std::size_t i = 0; i < plan.columns.size(); ++i)
-                             xml_.element("table:table-column",
-                                          {{"table:style-name", columnName(plan, i)}});
-                         rows();
-                     });
+        xml_.element(
+            "table:table", {{"table:name", plan.name}, {"table:style-name", plan.name}}, [&] {
+                for (std::size_t i = 0; i < plan.columns.size(); ++i)
+                    xml_.element("table:table-column", {{"table:style-name", columnName(plan, i)}});
+                rows();
+            });
     }
 
     void cell(const char* style, int span, const QString& paragraphStyle,

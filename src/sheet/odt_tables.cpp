@@ -85,8 +85,8 @@ TablePlan planOf(const Equations& equations, const QString& name) {
     constexpr double remark = 48;
     const std::size_t results = equations.twoResults ? 2 : 1;
     const double free = textWidth - result * static_cast<double>(results);
-    const bool given = std::all_of(
-        equations.rows.begin(), equations.rows.end(), [](const Equation& row) {
+    const bool given =
+        std::all_of(equations.rows.begin(), equations.rows.end(), [](const Equation& row) {
             const Quantity* const told = row.result != nullptr ? row.result : row.exact;
             return told == nullptr || !told->formula || !isWorthPrinting(*told->formula);
         });
@@ -137,19 +137,18 @@ void writeStyles(Xml& xml, const TablePlan& plan) {
         width += column.width;
     xml.element("style:style",
                 {{"style:name", plan.name}, {"style:family", QStringLiteral("table")}}, [&] {
-                    xml.element("style:table-properties",
-                                {{"style:width", mm(width)},
-                                 {"table:align", QStringLiteral("left")},
-                                 {"fo:margin-bottom", mm(1.5)}});
+                    xml.element("style:table-properties", {{"style:width", mm(width)},
+                                                           {"table:align", QStringLiteral("left")},
+                                                           {"fo:margin-bottom", mm(1.5)}});
                 });
     for (std::size_t i = 0; i < plan.columns.size(); ++i)
-        xml.element("style:style",
-                    {{"style:name", columnName(plan, i)},
-                     {"style:family", QStringLiteral("table-column")}},
-                    [&] {
-                        xml.element("style:table-column-properties",
-                                    {{"style:column-width", mm(plan.columns[i].width)}});
-                    });
+        xml.element(
+            "style:style",
+            {{"style:name", columnName(plan, i)}, {"style:family", QStringLiteral("table-column")}},
+            [&] {
+                xml.element("style:table-column-properties",
+                            {{"style:column-width", mm(plan.columns[i].width)}});
+            });
 }
 
 QString columnName(const TablePlan& plan, std::size_t column) {

@@ -66,8 +66,8 @@ TEST_F(UnsolvedSheet, OfARefusedTaskStandsOnTheExactEquilibriumAndQuotesTheMessa
     const QString html = saved();
     const QString first = html.left(html.indexOf(QStringLiteral("<h2>")));
     EXPECT_TRUE(first.contains(QStringLiteral("Arkusz opiera się na dokładnej równowadze")));
-    EXPECT_TRUE(first.contains(QStringLiteral(
-        "Schemat nr 1: Program nie wykonuje obliczeń dla zakotwień rozciąganych")));
+    EXPECT_TRUE(first.contains(
+        QStringLiteral("Schemat nr 1: Program nie wykonuje obliczeń dla zakotwień rozciąganych")));
     EXPECT_TRUE(html.contains(QStringLiteral("data-symbol=\"sigma_1_e\"")));
     EXPECT_FALSE(html.contains(QStringLiteral("data-symbol=\"sigma_b_s\"")));
     EXPECT_TRUE(the<WrittenFiles>("zapisano")->isVisible());

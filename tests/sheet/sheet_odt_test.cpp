@@ -166,7 +166,8 @@ TEST_F(SheetOdt, ItsFootCountsThePages) {
     EXPECT_TRUE(styles.contains("Seite <text:page-number>1</text:page-number> von "
                                 "<text:page-count>1</text:page-count>"))
         << styles.toStdString();
-    EXPECT_TRUE(styles.contains("Hala &lt;B> &amp; C") || styles.contains("Hala &lt;B&gt; &amp; C"));
+    EXPECT_TRUE(styles.contains("Hala &lt;B> &amp; C")
+                || styles.contains("Hala &lt;B&gt; &amp; C"));
 }
 
 TEST_F(SheetOdt, HeadingsAreHeadings) {
