@@ -39,6 +39,15 @@ std::size_t segmentEnd(const std::vector<wyd::Record>& records, std::size_t firs
     return first;
 }
 
+/// What stands in place of a picture that cannot be read, before its name.
+QString missingPicture(const QString& language) {
+    static const QHash<QString, QString> words{
+        {QStringLiteral("en"), QStringLiteral("picture missing: ")},
+        {QStringLiteral("fr"), QStringLiteral("image manquante : ")},
+        {QStringLiteral("de"), QStringLiteral("Bild fehlt: ")}};
+    return words.value(language.section(u'-', 0, 0).toLower(), QStringLiteral("brak rysunku "));
+}
+
 /// The box of both; other than Qt's, one without width or height counts too.
 QRectF united(const QRectF& a, const QRectF& b) {
     return {QPointF(qMin(a.left(), b.left()), qMin(a.top(), b.top())),
@@ -219,7 +228,7 @@ void RecordInterpreter::standIn(Block& block, const QString& file) {
     for (std::size_t i = 0; i < 4; ++i)
         block.lines.push_back({QLineF(corners[i], corners[(i + 1) % 4]), lineWidthMm_});
     pages::Text text;
-    text.text = QStringLiteral("brak rysunku ") + file;
+    text.text = missingPicture(language_) + file;
     text.height = 280;
     measure(text);
     const double room = r.width() - 2;

@@ -48,11 +48,14 @@ struct Segment {
 };
 
 /// Turns records into positioned primitives. `lineWidthMm` is that of drawn lines. A picture that
-/// cannot be read is named in `complaints` and an outline with its name stands in its place.
+/// cannot be read is named in `complaints` and an outline with its name stands in its place, with
+/// words in `language` (BCP 47), Polish where it is another one or none.
 class RecordInterpreter {
 public:
-    RecordInterpreter(QString path, double lineWidthMm, wyd::Complaints& complaints)
-        : path_(std::move(path)), lineWidthMm_(lineWidthMm), complaints_(complaints) {}
+    RecordInterpreter(QString path, double lineWidthMm, wyd::Complaints& complaints,
+                      QString language = {})
+        : path_(std::move(path)), lineWidthMm_(lineWidthMm), complaints_(complaints),
+          language_(std::move(language)) {}
 
     /// The frame file: one segment.
     Segment frame(const std::vector<wyd::Record>& records);
@@ -73,6 +76,7 @@ private:
     QString path_;
     double lineWidthMm_;
     wyd::Complaints& complaints_;
+    QString language_;
     Segment segment_;
     QHash<QString, QImage> images_;
     qsizetype pictureBytes_ = 0; ///< as drawn: a picture that is placed twice counts twice

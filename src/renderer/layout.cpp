@@ -65,17 +65,19 @@ std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int fi
     return flow.takePages();
 }
 
-pages::Report compose(const Job& job, wyd::Complaints& complaints) {
+pages::Report compose(const Job& job, wyd::Complaints& complaints, const QString& language) {
     const std::vector<wyd::Record> frameRecords = wyd::readRecordFile(job.framePath, complaints);
     if (frameRecords.empty())
         throw RunTimeError(error::DeviceIO, QDir::toNativeSeparators(job.framePath)
                                                 + QStringLiteral(": brak poleceń ramki strony"));
     const std::vector<wyd::Record> bodyRecords = wyd::readRecordFile(job.bodyPath, complaints);
     const double width = job.lineWidthPt * mmPerPoint;
-    Segment frame = RecordInterpreter(job.framePath, width, complaints).frame(frameRecords);
-    std::vector<Segment> body =
-        RecordInterpreter(job.bodyPath, width, complaints).body(bodyRecords, frameRecords);
+    Segment frame =
+        RecordInterpreter(job.framePath, width, complaints, language).frame(frameRecords);
+    std::vector<Segment> body = RecordInterpreter(job.bodyPath, width, complaints, language)
+                                    .body(bodyRecords, frameRecords);
     pages::Report report;
+    report.language = language;
     report.title = titleOf(frame);
     report.project = projectOf(frame);
     report.pages = layOut(std::move(frame), std::move(body), job.firstPage);

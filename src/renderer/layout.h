@@ -16,8 +16,9 @@ inline constexpr double bodyTop = 40;        ///< the body of a following page s
 /// rule of the frame or off the sheet is set in smaller letters.
 std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int firstPage);
 
-/// Reads both command files of a job and lays them out. Errors of `readLines`, 57 where the frame
-/// file holds no record at all.
-pages::Report compose(const Job& job, wyd::Complaints& complaints);
+/// Reads both command files of a job and lays them out. `language` (BCP 47) is that of the words
+/// which are not the files' own, and of the report. Errors of `readLines`, 57 where the frame file
+/// holds no record at all.
+pages::Report compose(const Job& job, wyd::Complaints& complaints, const QString& language = {});
 
 } // namespace ferna::renderer

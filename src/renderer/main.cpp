@@ -1,5 +1,6 @@
 #include "pages/drawing.h"
 #include "protocol/renderer_files.h"
+#include "protocol/renderer_start.h"
 #include "protocol/reply.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
@@ -44,6 +45,10 @@ std::unique_ptr<QGuiApplication> startQt(int& argc, char** argv, bool screen) {
     return application;
 }
 
+QString languageOf(const Call& call) {
+    return call.language.isEmpty() ? qEnvironmentVariable(languageVariable) : call.language;
+}
+
 void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage) {
     const std::unique_ptr<QGuiApplication> application =
         startQt(argc, argv, needsScreen(call, job));
@@ -51,11 +56,10 @@ void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage
     if (face != drawing::textFace)
         say(QStringLiteral("brak czcionki %1, zamiast niej %2").arg(drawing::textFace, face));
     wyd::Complaints complaints;
-    pages::Report report = compose(job, complaints);
+    pages::Report report = compose(job, complaints, languageOf(call));
     report.documentTitle = call.title;
     report.subject = call.subject;
     report.author = call.author;
-    report.language = call.language;
     for (const QString& line : complaints.lines())
         say(line);
     deliver(report, call, job);

@@ -1,5 +1,7 @@
 #include "runtime/dialogs.h"
 
+#include <utility>
+
 namespace ferna {
 
 void ScriptedDialogs::message(const QString& text, const QString& title, MessageStyle style) {
@@ -26,8 +28,8 @@ std::optional<QString> ScriptedDialogs::saveFile(const SaveQuestion& question) {
 std::optional<QString> ScriptedDialogs::nextAnswer() {
     if (answers.empty())
         return std::nullopt;
-    QString answer = answers.front();
-    answers.pop_front();
+    QString answer = std::move(answers.front());
+    answers.erase(answers.begin());
     return answer;
 }
 

@@ -4,7 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <deque>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -64,9 +63,9 @@ public:
     /// The next answer; without one the question is cancelled.
     std::optional<QString> saveFile(const SaveQuestion& question) override;
 
-    std::vector<Box> messages;   ///< message boxes in their order
-    std::vector<Box> questions;  ///< questions and input boxes in their order
-    std::deque<QString> answers; ///< of the questions and input boxes to come
+    std::vector<Box> messages;    ///< message boxes in their order
+    std::vector<Box> questions;   ///< questions and input boxes in their order
+    std::vector<QString> answers; ///< of the questions and input boxes to come
 
 private:
     std::optional<QString> nextAnswer();

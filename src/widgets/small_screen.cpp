@@ -96,4 +96,11 @@ void letContentsScroll(QWidget* form) {
     outer->activate();
 }
 
+void fitToScreen(QWidget* window, QSize wanted) {
+    const QSize room = roomOnScreen(window);
+    if (needsMoreThan(window, room))
+        letContentsScroll(window);
+    window->resize(wanted.boundedTo(room));
+}
+
 } // namespace ferna

@@ -4,14 +4,13 @@
 #include "report/forms/renderer_wait.h"
 #include "report/forms/report_view.h"
 #include "report/forms/written_files.h"
-#include "runtime/picture_box.h"
 #include "runtime/settings.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
-#include "support/folder.h"
 #include "support/modal_answers.h"
 #include "support/places.h"
 #include "support/printing.h"
+#include "support/results_folder.h"
 #include "widgets/qt_dialogs.h"
 
 #include <QAction>
@@ -39,7 +38,7 @@ namespace {
 class ResultsForm : public ::testing::Test {
 protected:
     ColumnBase base;
-    Folder folder;
+    ResultsFolder folder;
     QtDialogs dialogs;
     ModalAnswers answers;
     WithDecimalSign comma{u','};
@@ -50,16 +49,9 @@ protected:
     std::unique_ptr<FernaWyn> form;
 
     void SetUp() override {
-        const QDir programs(places::bin());
-        for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
-            QFile::copy(programs.filePath(picture), folder.path(picture));
-        QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
-                    folder.path(QStringLiteral("Wyd_drk")));
         render = [this] { return runRenderer(path()); };
         base.fourAnchors(250, 150).loads(320, 60, 5).loads(900, 5, 0);
         ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
-        PictureBox plate(QSize(265, 176));
-        plate.saveBitmap(folder.path(QStringLiteral("Ferrob.bmp")));
     }
 
     QString path() const { return folder.path(QStringLiteral(".")); }

@@ -37,6 +37,43 @@ TEST(SheetTexts, WithoutDiacriticsPolishHasNone) {
             EXPECT_FALSE(plain(key).contains(mark)) << key.toStdString();
 }
 
+/// Four rows, one of which nothing carries and one refused; the first two are taken.
+combinations::Digest digestOfTable() {
+    const auto use = [](Double concrete, Double tension) {
+        Utilisation used;
+        used.concrete = concrete;
+        used.tension = tension;
+        return used;
+    };
+    const equilibrium::Load load{100, 40, 10};
+    return {QStringLiteral("hala.csv"),
+            4,
+            1,
+            {{Check::Concrete, 0.61, {2, 1, 4}, QStringLiteral("KO-2")},
+             {Check::Tension, HUGE_VAL, {3}, {}}},
+            {{1, {QStringLiteral("KO-1"), load, {}}, use(0.61, 0.2)},
+             {2, {QStringLiteral("KO-2"), load, {}}, use(0.61, 0.3)}}};
+}
+
+TEST(SheetCombinations, StandInEveryLanguageWithTheirGoverningRowsAndTies) {
+    const combinations::Digest table = digestOfTable();
+    nlohmann::json task = base();
+    task["Przypadki"].push_back(task["Przypadki"][0]);
+    const QRegularExpression key(QStringLiteral(">combinations\\.\\w+"));
+    for (const Integer language : languages) {
+        task["Nr_jezyka"] = language;
+        const Sheet sheet = batch::sheetOf(computed(task), &table);
+        const QString page = QString::fromUtf8(htmlOf(sheet, HtmlPictures::LeftOut));
+        EXPECT_FALSE(page.contains(key)) << language;
+        EXPECT_TRUE(page.contains(u"hala.csv"));
+        EXPECT_TRUE(page.contains(u">1, 4<")) << "the ties";
+        EXPECT_TRUE(page.contains(u">∞<")) << "of a row that nothing carries";
+        EXPECT_TRUE(page.contains(u"data-formula=\"max(k1_b,k2_b)\""));
+        EXPECT_EQ(sheet.byName.count({0, QStringLiteral("k_max_t")}), 0U);
+        EXPECT_GT(Pages(sheet).count(), 1);
+    }
+}
+
 TEST(SheetTexts, NoSheetShowsAKeyInPlaceOfAText) {
     const QRegularExpression key(
         QStringLiteral(">(head|data|material|case|cases|kern|plane|anchors?|zone|triangles|balance|"
