@@ -31,7 +31,7 @@ QString withSheetEnding(const QString& file) {
     return sheet::isSheetFile(file) ? file : file + sheetQuestion().extension;
 }
 
-/// Where the sheet is to stand; none where the question was cancelled.
+/// Where to save a sheet; none where the question was cancelled.
 std::optional<QString> askForFile(Dialogs& dialogs) {
     const std::optional<QString> path = dialogs.saveFile(sheetQuestion());
     if (!path)
@@ -44,8 +44,9 @@ std::optional<QString> askForFile(Dialogs& dialogs) {
     return file;
 }
 
-/// The program and the time are filled in.
-void save(sheet::SheetInput input, const QString& file) {
+/// Fills program and time in and saves the sheet.
+void write(sheet::SheetInput input, const QString& file) {
+    const Hourglass hourglass;
     input.program = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION);
     input.now = QDateTime::currentDateTime();
     sheet::saveSheet(sheet::makeSheet(input), file);
@@ -53,17 +54,18 @@ void save(sheet::SheetInput input, const QString& file) {
 
 void saveSheet(FernaWyn& results, const Stan& stan, notes::Record& record, Dialogs& dialogs,
                const DigestOfCases& digestOf) {
+    const std::optional<QString> file = askForFile(dialogs);
+    if (!file)
+        return;
     record.labelled(results.session().typedLabel());
     const auto digest = digestOf ? digestOf() : std::nullopt;
-    const std::optional<QString> file =
-        askAndSaveSheet({.stan = stan,
-                         .record = record,
-                         .hasResults = true,
-                         .project = stan.opcje.Nazwa_projektu,
-                         .combinations = digest ? &*digest : nullptr},
-                        dialogs);
-    if (file)
-        results.tellWritten({*file});
+    write({.stan = stan,
+           .record = record,
+           .hasResults = true,
+           .project = stan.opcje.Nazwa_projektu,
+           .combinations = digest ? &*digest : nullptr},
+          *file);
+    results.tellWritten({*file});
 }
 
 /// Takes a calculation down that shows nothing.
@@ -97,10 +99,8 @@ InputFields fieldsOf(const combinations::Digest& digest, InputFields fields) {
 
 std::optional<QString> askAndSaveSheet(const sheet::SheetInput& input, Dialogs& dialogs) {
     const std::optional<QString> file = askForFile(dialogs);
-    if (!file)
-        return std::nullopt;
-    const Hourglass hourglass;
-    save(input, *file);
+    if (file)
+        write(input, *file);
     return file;
 }
 
@@ -130,13 +130,13 @@ std::optional<QString> saveSheetOf(const combinations::Digest& digest, const Sta
     }
     for (const ScriptedDialogs::Box& box : told.messages)
         messages += box.text;
-    save({.stan = fresh,
-          .record = record,
-          .hasResults = hasResults,
-          .messages = messages,
-          .project = fields.txtNaz_proj,
-          .combinations = &digest},
-         *file);
+    write({.stan = fresh,
+           .record = record,
+           .hasResults = hasResults,
+           .messages = messages,
+           .project = fields.txtNaz_proj,
+           .combinations = &digest},
+          *file);
     return file;
 }
 

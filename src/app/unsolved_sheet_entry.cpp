@@ -52,12 +52,12 @@ void UnsolvedSheetEntry::save() {
         return;
     Stan shown = ended_->stan;
     shown.opcje.Nr_jezyka = stan_.opcje.Nr_jezyka; // a choice of the document alone
-    const std::optional<QString> file = askAndSaveSheet(
-        {.stan = shown,
-         .record = ended_->record,
-         .messages = ended_->told,
-         .project = ended_->record.given().fields.txtNaz_proj},
-        dialogs_);
+    const std::optional<QString> file =
+        askAndSaveSheet({.stan = shown,
+                         .record = ended_->record,
+                         .messages = ended_->told,
+                         .project = ended_->record.given().fields.txtNaz_proj},
+                        dialogs_);
     if (file)
         written_->tell({QFileInfo(*file).absoluteFilePath()});
 }

@@ -93,8 +93,8 @@ inline constexpr Clause chartPlaceClause{{.standard = standard::basePlates, .ann
                                          u"{a} / {c}",
                                          {{{u"a", u"mm"}, {u"c", u"mm"}}}};
 
-/// Coefficient on one curve of a chart at the ratio `q`: on a straight piece that begins at (x0, y0)
-/// and rises by y1 - y0 over the width w. Computed in the 80-bit format.
+/// Coefficient on one curve of a chart at the ratio `q`: on a straight piece that begins at (x0,
+/// y0) and rises by y1 - y0 over the width w. Computed in the 80-bit format.
 Single curveCoefficient(Single x0, Single y0, Single y1, Single w, Single q);
 inline constexpr std::array<Symbol, mostSymbols> curveSymbols{
     {{u"x0", u""}, {u"y0", u""}, {u"y1", u""}, {u"w", u""}, {u"q", u""}}};

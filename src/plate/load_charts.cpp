@@ -16,9 +16,7 @@ struct Segment {
     Single y1;
     Single w;
 
-    Single at(Single x) const {
-        return curveCoefficient(x0, y0, y1, w, x);
-    }
+    Single at(Single x) const { return curveCoefficient(x0, y0, y1, w, x); }
 };
 
 /// The width as a decimal: the nodes have two places.

@@ -26,7 +26,8 @@ struct ChartRow {
 ChartRow chartRow(int check, Single p);
 
 /// The piece of a curve that a coefficient was read from: a straight line from (x0, y0), rising by
-/// y1 - y0 over the width w. Not everywhere the ends of the piece, where the table departs from them.
+/// y1 - y0 over the width w. Not everywhere the ends of the piece, where the table departs from
+/// them.
 struct ChartPiece {
     Single x0;
     Single y0;

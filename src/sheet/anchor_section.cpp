@@ -161,7 +161,8 @@ void addAnchor(Maker& maker) {
     if (stan.wyniki.Nr_kotwy_max == 0) {
         const QString& line = stan.raport.Wiersze_kotwy(1);
         maker.say(QStringLiteral("anchor.noTension"),
-                  {rich(line.mid(stan.Teksty(phrase::SelectedAnchor).size()).trimmed())}, Tone::Warning);
+                  {rich(line.mid(stan.Teksty(phrase::SelectedAnchor).size()).trimmed())},
+                  Tone::Warning);
         return;
     }
     Chosen chosen(maker, *g);

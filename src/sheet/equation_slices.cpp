@@ -207,8 +207,8 @@ Slices equationSlices(const Equations& equations, double width, const ColumnName
     if (!slices.empty())
         slices.front().before = blank;
     for (std::size_t i = 0; i + 1 < slices.size(); ++i)
-        slices[i].withNext = slices[i].withNext || i == 0 || i + 2 == slices.size()
-                             || slices.size() <= few;
+        slices[i].withNext =
+            slices[i].withNext || i == 0 || i + 2 == slices.size() || slices.size() <= few;
     return slices;
 }
 

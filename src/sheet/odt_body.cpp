@@ -46,9 +46,9 @@ public:
         for (const Block* const block : flat_) {
             const QString name = QStringLiteral("T%1").arg(plans_.size() + 1);
             if (const auto* table = std::get_if<Table>(block))
-                plans_.push_back(planOf(*table, name));
+                take(planOf(*table, name), *table);
             else if (const auto* equations = std::get_if<Equations>(block))
-                plans_.push_back(planOf(*equations, name));
+                take(planOf(*equations, name), *equations);
         }
     }
 
@@ -67,6 +67,12 @@ public:
     }
 
 private:
+    template <typename Numbers>
+    void take(TablePlan plan, const Numbers& numbers) {
+        numberStyles_.merge(stylesOf(plan, numbers));
+        plans_.push_back(std::move(plan));
+    }
+
     void automaticStyles() {
         for (const bool narrow : {false, true})
             for (const auto align :
@@ -78,6 +84,8 @@ private:
         edgeStyle("ToSign", "none", "0.5pt solid #000000");
         for (const TablePlan& plan : plans_)
             writeStyles(xml_, plan);
+        for (const NumberStyle& style : numberStyles_)
+            writeStyle(xml_, style);
     }
 
     void paragraphStyle(bool narrow, Column::Align align) {
@@ -88,9 +96,8 @@ private:
                        narrow ? QStringLiteral("Narrow_20_Cell") : QStringLiteral("Cell")}},
                      [&] {
                          xml_.element("style:paragraph-properties",
-                                      {{"fo:text-align",
-                                        QString::fromLatin1(alignNames.at(
-                                            static_cast<std::size_t>(align)))}});
+                                      {{"fo:text-align", QString::fromLatin1(alignNames.at(
+                                                             static_cast<std::size_t>(align)))}});
                      });
     }
 
@@ -139,8 +146,7 @@ private:
     }
 
     static Rich withUnit(const Quantity& number) {
-        return number.unit.isEmpty() ? htmlNumber(number.text)
-                                     : htmlNumber(number.text) + QChar(0x202F) + rich(number.unit);
+        return htmlNumber(number.text) + unitBehind(number);
     }
 
     // Blocks
@@ -228,8 +234,7 @@ private:
             return;
         tableOf(plan, [&] {
             if (equations.twoResults)
-                xml_.element("table:table-header-rows", {},
-                             [&] { namesOfSides(); });
+                xml_.element("table:table-header-rows", {}, [&] { namesOfSides(); });
             for (const Equation& row : equations.rows)
                 writeRow(row, plan, equations.twoResults);
         });
@@ -238,13 +243,12 @@ private:
     // Rows
 
     void tableOf(const TablePlan& plan, const std::function<void()>& rows) {
-        xml_.element("table:table", {{"table:name", plan.name}, {"table:style-name", plan.name}},
-                     [&] {
-                         for (std::size_t i = 0; i < plan.columns.size(); ++i)
-                             xml_.element("table:table-column",
-                                          {{"table:style-name", columnName(plan, i)}});
-                         rows();
-                     });
+        xml_.element(
+            "table:table", {{"table:name", plan.name}, {"table:style-name", plan.name}}, [&] {
+                for (std::size_t i = 0; i < plan.columns.size(); ++i)
+                    xml_.element("table:table-column", {{"table:style-name", columnName(plan, i)}});
+                rows();
+            });
     }
 
     void cell(const char* style, int span, const QString& paragraphStyle,
@@ -264,10 +268,8 @@ private:
             for (const Cell& one : row) {
                 const char* const style = head ? "HeadCell" : "Cell";
                 if (one.number != nullptr && one.span == 1)
-                    cell(style, 1, numbersName(plan, column), [&] {
-                        xml_.element("text:tab");
-                        letters(htmlNumber(one.number->text), one.strong);
-                    });
+                    cell(style, 1, styleOf(plan, column, *one.number, one.strong).name(),
+                         [&] { letters(htmlNumber(one.number->text), one.strong); });
                 else
                     cell(style, one.span,
                          cellStyle(plan.narrow, one.span > 1 ? Column::Align::Centre
@@ -299,14 +301,13 @@ private:
         if (!told->source.isEmpty())
             remark += QStringLiteral(" [%1]").arg(rich(told->source));
         const auto result = [&](const Quantity* number, std::size_t column) {
-            cell("Bare", 1, numbersName(plan, column), [&] {
-                if (number == nullptr)
-                    return;
-                xml_.element("text:tab");
-                letters(htmlNumber(number->text), true);
-                if (!number->unit.isEmpty())
-                    letters(QChar(0x202F) + rich(number->unit));
-            });
+            if (number == nullptr)
+                cell("Bare", 1, cellStyle(false, Column::Align::Right), [] {});
+            else
+                cell("Bare", 1, styleOf(plan, column, *number, true).name(), [&] {
+                    letters(htmlNumber(number->text), true);
+                    letters(unitBehind(*number));
+                });
         };
         xml_.element("table:table-row", {}, [&] {
             cell("Bare", 1, cellStyle(false, Column::Align::Left), [&] { letters(way); });
@@ -323,6 +324,7 @@ private:
     std::vector<const Block*> flat_;
     std::vector<TablePlan> plans_; ///< of the tables and equations, in their order
     std::size_t written_ = 0;      ///< of them
+    std::set<NumberStyle> numberStyles_;
     Xml xml_;
 };
 

@@ -51,8 +51,8 @@ void defaultStyle(Xml& xml, const Sheet& sheet) {
                     {{"style:font-name", QStringLiteral("Liberation Sans")},
                      {"fo:font-size", points(9)},
                      {"fo:language", sheet.language},
-                     {"fo:country", sheet.language == u"en" ? QStringLiteral("GB")
-                                                            : sheet.language.toUpper()}});
+                     {"fo:country",
+                      sheet.language == u"en" ? QStringLiteral("GB") : sheet.language.toUpper()}});
     });
     xml.element("style:style", {{"style:name", QStringLiteral("Standard")},
                                 {"style:family", QStringLiteral("paragraph")},
@@ -60,11 +60,10 @@ void defaultStyle(Xml& xml, const Sheet& sheet) {
 }
 
 void namedStyle(Xml& xml, const ParagraphStyle& style) {
-    package::Xml::Attributes attributes{
-        {"style:name", latin(style.name)},
-        {"style:display-name", latin(style.display)},
-        {"style:family", QStringLiteral("paragraph")},
-        {"style:parent-style-name", QStringLiteral("Standard")}};
+    package::Xml::Attributes attributes{{"style:name", latin(style.name)},
+                                        {"style:display-name", latin(style.display)},
+                                        {"style:family", QStringLiteral("paragraph")},
+                                        {"style:parent-style-name", QStringLiteral("Standard")}};
     if (style.outline != nullptr)
         attributes.push_back({"style:default-outline-level", latin(style.outline)});
     xml.element("style:style", attributes, [&] {
@@ -102,8 +101,8 @@ void marginStyle(Xml& xml) {
                                                    {"style:type", QStringLiteral("right")}});
                 });
             });
-            xml.element("style:text-properties", {{"fo:font-size", points(7)},
-                                                  {"fo:color", QStringLiteral("#555555")}});
+            xml.element("style:text-properties",
+                        {{"fo:font-size", points(7)}, {"fo:color", QStringLiteral("#555555")}});
         });
 }
 
@@ -164,8 +163,7 @@ QString plainText(const Rich& text) {
     return plain;
 }
 
-void marginLine(Xml& xml, const char* place, const Rich& left,
-                const std::function<void()>& right) {
+void marginLine(Xml& xml, const char* place, const Rich& left, const std::function<void()>& right) {
     xml.element(place, {}, [&] {
         xml.element("text:p", {{"text:style-name", QStringLiteral("Margin")}}, [&] {
             xml.text(plainText(left));

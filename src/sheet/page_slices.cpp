@@ -127,8 +127,8 @@ struct SetColumn {
     double x;
 };
 
-/// The shorter column and as much of the longer one as stands beside it make one slice. What is left
-/// of the longer one follows slice by slice, so that a page may end there.
+/// The shorter column and as much of the longer one as stands beside it make one slice. What is
+/// left of the longer one follows slice by slice, so that a page may end there.
 Slices besideOneAnother(SetColumn shorter, SetColumn longer) {
     const double needed = heightOf(shorter.slices);
     Slices first;

@@ -155,8 +155,8 @@ private:
         return computed("t", "t", columnBaseThicknessClause, {sigma, h, s, k, fd()});
     }
 
-    /// The coefficient on one curve, from the straight piece of it that serves a/c. A curve that the
-    /// chart does not have, or that has ended, counts as 0.
+    /// The coefficient on one curve, from the straight piece of it that serves a/c. A curve that
+    /// the chart does not have, or that has ended, counts as 0.
     const Quantity* readCurve(int number, Integer curve, const ChartReading& read,
                               const Clause& clause, const Quantity* q) {
         const QString n = QString::number(number);

@@ -136,10 +136,29 @@ TEST_F(SheetOdt, EveryColumnHasItsWidthAndEveryTableFitsThePage) {
     }
 }
 
-TEST_F(SheetOdt, NumbersStandAtTheirDecimalSigns) {
-    EXPECT_TRUE(content.contains("style:type=\"char\""));
-    EXPECT_FALSE(content.contains("style:position=\"0mm\"")) << "every column has room for them";
-    EXPECT_GT(content.count("<text:tab/>"), 700);
+/// How far the paragraphs of a style stand from the right edge, mm.
+double indentOf(const QByteArray& content, const QString& style) {
+    const QRegularExpression found(QStringLiteral("style:name=\"%1\"[^>]*>"
+                                                  "<style:paragraph-properties "
+                                                  "fo:text-align=\"end\" "
+                                                  "fo:margin-right=\"([\\d.]+)mm\"")
+                                       .arg(style));
+    const QRegularExpressionMatch match = found.match(QString::fromUtf8(content));
+    EXPECT_TRUE(match.hasMatch()) << style.toStdString();
+    return match.captured(1).toDouble();
+}
+
+TEST_F(SheetOdt, NumbersOfAColumnStandAtTheirDecimalSigns) {
+    // The first point of the line: in whole millimetres, and exact with a decimal.
+    const QString text = QString::fromUtf8(content);
+    const QRegularExpression rows(QStringLiteral(
+        "text:style-name=\"(n?N\\d+)\">\u221282</text:p>.*?text:style-name=\"(n?N\\d+)\">"
+        "\u221281\\.8</text:p>"));
+    const QRegularExpressionMatch match = rows.match(text);
+    ASSERT_TRUE(match.hasMatch());
+    constexpr double decimal = 2.5; // mm: a sign and a digit of 8.5 points
+    EXPECT_NEAR(indentOf(content, match.captured(1)) - indentOf(content, match.captured(2)),
+                decimal, 0.3);
 }
 
 TEST_F(SheetOdt, ItsFootCountsThePages) {
@@ -147,7 +166,8 @@ TEST_F(SheetOdt, ItsFootCountsThePages) {
     EXPECT_TRUE(styles.contains("Seite <text:page-number>1</text:page-number> von "
                                 "<text:page-count>1</text:page-count>"))
         << styles.toStdString();
-    EXPECT_TRUE(styles.contains("Hala &lt;B> &amp; C") || styles.contains("Hala &lt;B&gt; &amp; C"));
+    EXPECT_TRUE(styles.contains("Hala &lt;B> &amp; C")
+                || styles.contains("Hala &lt;B&gt; &amp; C"));
 }
 
 TEST_F(SheetOdt, HeadingsAreHeadings) {

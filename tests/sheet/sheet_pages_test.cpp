@@ -112,15 +112,16 @@ TEST(SheetPages, EachPageCountsThePagesInTheLanguageOfTheSheet) {
     const Sheet sheet = batch::sheetOf(computed(base(3)));
     const QList<QStringList> pages = linesOf(Pages(sheet).pdf());
     for (qsizetype i = 0; i < pages.size(); ++i)
-        EXPECT_TRUE(pages[i].last().endsWith(
-            QStringLiteral("Page %1 sur %2").arg(i + 1).arg(pages.size())))
+        EXPECT_TRUE(
+            pages[i].last().endsWith(QStringLiteral("Page %1 sur %2").arg(i + 1).arg(pages.size())))
             << pages[i].last().toStdString();
 }
 
 TEST(SheetPages, TheWordsOverThePressuresAreWhole) {
-    for (const auto& [language, words] :
-         {std::pair{Integer{0}, "Docisk, MPa"}, {Integer{2}, "Pressure, MPa"},
-          {Integer{3}, "Pression, MPa"}, {Integer{4}, "Pressung, MPa"}}) {
+    for (const auto& [language, words] : {std::pair{Integer{0}, "Docisk, MPa"},
+                                          {Integer{2}, "Pressure, MPa"},
+                                          {Integer{3}, "Pression, MPa"},
+                                          {Integer{4}, "Pressung, MPa"}}) {
         const Sheet sheet = batch::sheetOf(computed(base(language)));
         QString text;
         for (const QStringList& lines : linesOf(Pages(sheet).pdf()))

@@ -77,8 +77,8 @@ TEST(SheetAnchor, WithoutAnAnchorInTensionNoneWasChosenAndThatIsSaid) {
     for (const Integer language : languages) {
         task["Nr_jezyka"] = language;
         const QString html = page(task);
-        EXPECT_TRUE(html.contains(Texts(language)(QStringLiteral("anchor.noTension"),
-                                                  {QStringLiteral("F-0-50")})))
+        EXPECT_TRUE(html.contains(
+            Texts(language)(QStringLiteral("anchor.noTension"), {QStringLiteral("F-0-50")})))
             << language;
         EXPECT_FALSE(html.contains(QStringLiteral("data-symbol=\"k_d\""))) << language;
     }
@@ -115,10 +115,9 @@ TEST(SheetPlate, ACoefficientIsReadFromThePieceOfItsCurve) {
     for (const auto& [check, b, a, c] :
          {std::tuple{7, 150, 130, 80}, {7, 170, 330, 140}, {8, 120, 65, 50}, {8, 210, 333, 60}}) {
         SCOPED_TRACE(b);
-        const Sheet sheet = batch::sheetOf(computed(withPlate(
-            {{std::to_string(check), {{"b", b}, {"a", a}, {"c", c}, {"S", 20}}}})));
-        const ChartReading read =
-            Interpoluj_wykres(check, CInt(b), CInt(a), CInt(c));
+        const Sheet sheet = batch::sheetOf(computed(
+            withPlate({{std::to_string(check), {{"b", b}, {"a", a}, {"c", c}, {"S", 20}}}})));
+        const ChartReading read = Interpoluj_wykres(check, CInt(b), CInt(a), CInt(c));
         const auto number = [&](const char* name) {
             return sheet.byName.at({0, QStringLiteral("p%1_").arg(check) + QLatin1String(name)});
         };
@@ -140,9 +139,9 @@ TEST(SheetPlate, ACoefficientIsReadFromThePieceOfItsCurve) {
 TEST(SheetPlate, ARefusedCheckIsToldWithItsMessage) {
     const QString html = page(withPlate({{"1", {{"bs", 120}, {"ca", 60}, {"S", 100}}},
                                          {"3", {{"l", 300}, {"b", 100}, {"sigma", 9}}}}));
-    EXPECT_TRUE(html.contains(
-        QString::fromUtf8("Sprawdzenie (3.1) odrzucone, bez wyniku. Komunikat programu: „Zbyt długi "
-                          "fragment balchy (l/b&gt;2)!”")));
+    EXPECT_TRUE(html.contains(QString::fromUtf8(
+        "Sprawdzenie (3.1) odrzucone, bez wyniku. Komunikat programu: „Zbyt długi "
+        "fragment balchy (l/b&gt;2)!”")));
     const QString thick = page(withPlate({{"1", {{"bs", 20}, {"ca", 200}, {"S", 300}}}}, 1));
     EXPECT_TRUE(thick.contains(QString::fromUtf8("Sprawdzenie (1) odrzucone")));
     EXPECT_TRUE(thick.contains(QString::fromUtf8("Dla stali St0 max. grubość")));
