@@ -4,12 +4,14 @@
 #include "app/document_entries.h"
 #include "app/editing_entries.h"
 #include "app/sheet_entry.h"
+#include "app/unsolved_sheet_entry.h"
 #include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "plate/forms/Grub_bla.h"
 #include "protocol/renderer_files.h"
 #include "report/forms/renderer_wait.h"
+#include "report/report_words.h"
 #include "selection/forms/Dobor_fer.h"
 #include "widgets/hourglass.h"
 
@@ -34,6 +36,7 @@ Program::Program(Stan& stan, QString folder)
              },
          .answered = [this] { reserve_.capacity().renewSoon(); }});
     view_ = addLiveView(input_, stan_, dialogs_);
+    new UnsolvedSheetEntry(input_, stan_, dialogs_); // the form owns it
 }
 
 int Program::run(const QString& taskFile) {
@@ -70,7 +73,7 @@ RendererReport Program::render(const QStringList& options) {
     RendererWait wait(results_.get());
     return runRenderer(
         folder_, options, [&wait](const RendererState& state) { return wait.goOn(state); },
-        results_->winId());
+        {.window = results_->winId(), .language = reportWords(stan_.opcje.Nr_jezyka).tag});
 }
 
 FernaWyn::Links Program::links() {

@@ -74,7 +74,7 @@ void enter(const Design& design, const DesignRange& range, Stan& stan, InputFiel
         storeAnchorAt(plate, plate.Liczba_srub, static_cast<int>(place.x),
                       static_cast<int>(place.y), design.diameter);
     }
-    Lista_srub(stan);
+    fillAnchorLines(stan);
 }
 
 Confirmation confirm(const Design& design, const DesignRange& range, const Stan& stan,
