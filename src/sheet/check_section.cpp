@@ -68,8 +68,11 @@ private:
             concreteRemark());
     }
 
+    /// By the larger of the two ratios.
     Rich concreteRemark() const {
-        const double ratio = of("omega", sides_.back())->value;
+        double ratio = 0;
+        for (const Side side : sides_)
+            ratio = std::max(ratio, of("omega", side)->value);
         if (ratio > 2)
             return maker_.text()(QStringLiteral("check.concreteNot"));
         if (ratio < 1)

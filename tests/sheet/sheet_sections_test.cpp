@@ -70,6 +70,27 @@ TEST(SheetChecks, AVerdictIsThatOfTheNumberBesideIt) {
     EXPECT_GT(not_, 4);
 }
 
+TEST(SheetChecks, TheBearingFactorNeededIsTheLargerOfTheTwo) {
+    nlohmann::json task = base();
+    task["Nr_betonu"] = 2; // B17.5
+    task["Dlug_plyty_mm"] = 600;
+    int needed = 0;
+    for (const double M1 : {70, 80, 90, 100}) {
+        task["Przypadki"] = {{{"N", 320}, {"M1", M1}, {"M2", 0}, {"Vx", 0}, {"Vy", 0}}};
+        const Sheet sheet = batch::sheetOf(computed(task));
+        const double search = sheet.byName.at({1, QStringLiteral("omega_s")})->value;
+        const double exact = sheet.byName.at({1, QStringLiteral("omega_e")})->value;
+        const double larger = std::max(search, exact);
+        const QString remark = remarkOf(sheet, "u_b_s");
+        if (larger < 1 || larger > 2)
+            continue;
+        ++needed;
+        EXPECT_TRUE(remark.endsWith(QString::fromUtf8("≥ %1").arg(larger, 0, 'f', 3)))
+            << remark.toStdString() << ' ' << search << ' ' << exact;
+    }
+    EXPECT_GT(needed, 1);
+}
+
 TEST(SheetAnchor, WithoutAnAnchorInTensionNoneWasChosenAndThatIsSaid) {
     nlohmann::json task = base();
     task["Przypadki"] = {{{"N", 900}, {"M1", 10}, {"M2", 8}, {"Vx", 0}, {"Vy", 0}}};
