@@ -80,7 +80,9 @@ protected:
                 return one;
         throw std::runtime_error("no button");
     }
-    QStringList notes() const { return window().findChild<NoteBand*>()->notes(); }
+    QStringList notes() const {
+        return window().findChild<NoteBand*>(QStringLiteral("uwagi"))->notes();
+    }
     QStringList governing() const {
         const auto* const all = window().findChild<GoverningView*>();
         QStringList lines;

@@ -171,6 +171,18 @@ TEST_F(Layout, ABlockWithoutAPictureIsNotHeldByTheOneAbove) {
     EXPECT_EQ(at(report, "Blok 4").page, 1);
 }
 
+TEST_F(Layout, TheAnchorSectionStaysWhole) {
+    sample.line(185, QStringLiteral("przed"));
+    EXPECT_GT(sample.anchorSection(190), 225) << "its sketch would fit, its last lines would not";
+    const pages::Report report = laidOut();
+    ASSERT_EQ(report.pages.size(), 2U);
+    EXPECT_EQ(at(report, "przed").page, 0);
+    EXPECT_EQ(at(report, "Dobrana kotwa").page, 1);
+    EXPECT_EQ(at(report, "Długość całkowita: 700").page, 1);
+    EXPECT_EQ(report.pages[1].pictures.size(), 1U);
+    expectGoodPages(report);
+}
+
 TEST_F(Layout, AWholeReportKeepsTheRulesOnEveryPage) {
     for (const int anchors : {1, 7, 13, 20})
         for (const int cases : {1, 3, 6}) {

@@ -173,6 +173,25 @@ TEST_F(Print, APausedQueueIsToldWithTheNumberOfTheJobThatWaits) {
     EXPECT_TRUE(waiting.startsWith(QStringLiteral("Raport-1 "))) << waiting.toStdString();
 }
 
+TEST_F(Print, AnUnreachablePrinterIsToldWithTheNumberOfTheJobThatWaits) {
+    // Nobody listens on this port; the server goes on trying.
+    ASSERT_EQ(runProgram(QStringLiteral("/usr/sbin/lpadmin"),
+                         {QStringLiteral("-p"), QStringLiteral("Raport"), QStringLiteral("-v"),
+                          QStringLiteral("socket://127.0.0.1:1"), QStringLiteral("-o"),
+                          QStringLiteral("printer-error-policy=retry-job")},
+                         server.environment())
+                  .exitCode,
+              0);
+    const Outcome run = runRenderer({job}, server.environment());
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains(QStringLiteral(
+        "drukarka Raport: drukarka jest nieosiągalna, wydruk czeka w niej jako zadanie nr 1")))
+        << run.errors.toStdString();
+    const QString waiting =
+        runProgram(QStringLiteral("lpstat"), {QStringLiteral("-o")}, server.environment()).output;
+    EXPECT_TRUE(waiting.startsWith(QStringLiteral("Raport-1 "))) << waiting.toStdString();
+}
+
 TEST(PrintWithoutAPrinter, SaysSo) {
     QTemporaryDir folder;
     SampleReport sample(folder.path());
