@@ -202,6 +202,21 @@ TEST(SheetCase, WithoutPressureThereAreNoTablesOfTheCompressedZone) {
     EXPECT_TRUE(html.contains(text(QStringLiteral("balance.caption"))));
 }
 
+TEST(SheetCase, BothLinesHaveTheirEndsInTheSameOrder) {
+    for (const auto& [M1, M2] :
+         {std::pair{40, 10}, {-40, 10}, {40, -10}, {60, 0}, {0, 45}, {-60, -20}}) {
+        nlohmann::json task = base();
+        task["Przypadki"][0] = {{"N", 200}, {"M1", M1}, {"M2", M2}, {"Vx", 0}, {"Vy", 0}};
+        const Sheet sheet = batch::sheetOf(computed(task));
+        for (const char* end : {"xA", "yA", "xB", "yB"}) {
+            const auto of = [&](const char* side) {
+                return sheet.byName.at({1, QLatin1String(end) + QLatin1String(side)})->value;
+            };
+            EXPECT_NEAR(of("_s"), of("_e"), 15) << end << ' ' << M1 << ' ' << M2;
+        }
+    }
+}
+
 TEST(SheetCase, WhereNoAnchorIsInTensionTheCheckSaysSo) {
     nlohmann::json task = base();
     task["Przypadki"][0] = {{"N", 900}, {"M1", 10}, {"M2", 8}, {"Vx", 0}, {"Vy", 0}};
