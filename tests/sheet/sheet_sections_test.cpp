@@ -137,8 +137,8 @@ TEST(SheetPlate, ACoefficientIsReadFromThePieceOfItsCurve) {
         const Sheet sheet = batch::sheetOf(computed(
             withPlate({{std::to_string(check), {{"b", b}, {"a", a}, {"c", c}, {"S", 20}}}})));
         const ChartReading read = Interpoluj_wykres(check, CInt(b), CInt(a), CInt(c));
-        const auto number = [&](const char* name) {
-            return sheet.byName.at({0, QStringLiteral("p%1_").arg(check) + QLatin1String(name)});
+        const auto number = [&, which = check](const char* name) {
+            return sheet.byName.at({0, QStringLiteral("p%1_").arg(which) + QLatin1String(name)});
         };
         EXPECT_NEAR(number("y1")->value, read.y1, 1e-5);
         EXPECT_NEAR(number("y2")->value, read.y2, 1e-5);
