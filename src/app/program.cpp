@@ -4,6 +4,7 @@
 #include "app/document_entries.h"
 #include "app/editing_entries.h"
 #include "app/sheet_entry.h"
+#include "app/unsolved_sheet_entry.h"
 #include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
@@ -35,6 +36,7 @@ Program::Program(Stan& stan, QString folder)
              },
          .answered = [this] { reserve_.capacity().renewSoon(); }});
     view_ = addLiveView(input_, stan_, dialogs_);
+    new UnsolvedSheetEntry(input_, stan_, dialogs_); // the form owns it
 }
 
 int Program::run(const QString& taskFile) {

@@ -10,6 +10,7 @@
 #include "widgets/hourglass.h"
 
 #include <QAction>
+#include <QFileInfo>
 #include <QMenu>
 
 namespace ferna {
@@ -30,31 +31,41 @@ QString withSheetEnding(const QString& file) {
     return sheet::isSheetFile(file) ? file : file + sheetQuestion().extension;
 }
 
-const QString& programName() {
-    static const QString name = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION);
-    return name;
+/// Where to save a sheet; none where the question was cancelled.
+std::optional<QString> askForFile(Dialogs& dialogs) {
+    const std::optional<QString> path = dialogs.saveFile(sheetQuestion());
+    if (!path)
+        return std::nullopt;
+    const QString file = withSheetEnding(*path);
+    if (file != *path && QFileInfo::exists(file)
+        && !dialogs.confirm(QStringLiteral("Zastąpić istniejące pliki: %1?").arg(file),
+                            sheetQuestion().title))
+        return std::nullopt; // the question has asked about another name
+    return file;
+}
+
+/// Fills program and time in and saves the sheet.
+void write(sheet::SheetInput input, const QString& file) {
+    const Hourglass hourglass;
+    input.program = QStringLiteral("Ferna 2005 Pr " FERNA_VERSION);
+    input.now = QDateTime::currentDateTime();
+    sheet::saveSheet(sheet::makeSheet(input), file);
 }
 
 void saveSheet(FernaWyn& results, const Stan& stan, notes::Record& record, Dialogs& dialogs,
                const DigestOfCases& digestOf) {
-    const std::optional<QString> path = dialogs.saveFile(sheetQuestion());
-    if (!path)
+    const std::optional<QString> file = askForFile(dialogs);
+    if (!file)
         return;
-    const QString file = withSheetEnding(*path);
     record.labelled(results.session().typedLabel());
     const auto digest = digestOf ? digestOf() : std::nullopt;
-    {
-        const Hourglass hourglass;
-        sheet::saveSheet(sheet::makeSheet({.stan = stan,
-                                           .record = record,
-                                           .hasResults = true,
-                                           .project = stan.opcje.Nazwa_projektu,
-                                           .program = programName(),
-                                           .now = QDateTime::currentDateTime(),
-                                           .combinations = digest ? &*digest : nullptr}),
-                         file);
-    }
-    results.tellWritten({file});
+    write({.stan = stan,
+           .record = record,
+           .hasResults = true,
+           .project = stan.opcje.Nazwa_projektu,
+           .combinations = digest ? &*digest : nullptr},
+          *file);
+    results.tellWritten({*file});
 }
 
 /// Takes a calculation down that shows nothing.
@@ -86,10 +97,17 @@ InputFields fieldsOf(const combinations::Digest& digest, InputFields fields) {
 
 } // namespace
 
+std::optional<QString> askAndSaveSheet(const sheet::SheetInput& input, Dialogs& dialogs) {
+    const std::optional<QString> file = askForFile(dialogs);
+    if (file)
+        write(input, *file);
+    return file;
+}
+
 std::optional<QString> saveSheetOf(const combinations::Digest& digest, const Stan& stan,
                                    const InputFields& entered, Dialogs& dialogs) {
-    const std::optional<QString> path = dialogs.saveFile(sheetQuestion());
-    if (!path)
+    const std::optional<QString> file = askForFile(dialogs);
+    if (!file)
         return std::nullopt;
     const Hourglass hourglass;
     const InputFields fields = fieldsOf(digest, entered);
@@ -112,16 +130,13 @@ std::optional<QString> saveSheetOf(const combinations::Digest& digest, const Sta
     }
     for (const ScriptedDialogs::Box& box : told.messages)
         messages += box.text;
-    const QString file = withSheetEnding(*path);
-    sheet::saveSheet(sheet::makeSheet({.stan = fresh,
-                                       .record = record,
-                                       .hasResults = hasResults,
-                                       .messages = messages,
-                                       .project = fields.txtNaz_proj,
-                                       .program = programName(),
-                                       .now = QDateTime::currentDateTime(),
-                                       .combinations = &digest}),
-                     file);
+    write({.stan = fresh,
+           .record = record,
+           .hasResults = hasResults,
+           .messages = messages,
+           .project = fields.txtNaz_proj,
+           .combinations = &digest},
+          *file);
     return file;
 }
 

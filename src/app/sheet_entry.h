@@ -3,6 +3,7 @@
 #include "combinations/digest.h"
 #include "notes/record.h"
 #include "report/forms/FernaWyn.h"
+#include "sheet/sheet_input.h"
 
 #include <functional>
 #include <optional>
@@ -23,5 +24,9 @@ void addSheetEntry(FernaWyn& results, const Stan& stan, notes::Record& record, D
 /// as it is. The file's name; none where that was cancelled.
 std::optional<QString> saveSheetOf(const combinations::Digest& digest, const Stan& stan,
                                    const InputFields& fields, Dialogs& dialogs);
+
+/// Asks for a file and saves the sheet there in the format of its ending; the program and the time
+/// are filled in. The file written; none where the question was cancelled.
+std::optional<QString> askAndSaveSheet(const sheet::SheetInput& input, Dialogs& dialogs);
 
 } // namespace ferna

@@ -11,7 +11,7 @@ namespace {
 QStringList messagesOf(const ComputedTask& done) {
     QStringList messages;
     for (const ScriptedDialogs::Box& box : done.dialogs.messages)
-        messages += box.title + QStringLiteral(": ") + box.text;
+        messages += lineOf(box);
     if (done.failure.is_object() && done.failure.contains("tekst"))
         messages += QString::fromStdString(done.failure["tekst"].get<std::string>());
     return messages;

@@ -33,4 +33,26 @@ std::optional<QString> ScriptedDialogs::nextAnswer() {
     return answer;
 }
 
+QString lineOf(const ScriptedDialogs::Box& box) {
+    return box.title + QStringLiteral(": ") + box.text;
+}
+
+void HeardDialogs::message(const QString& text, const QString& title, MessageStyle style) {
+    heard += lineOf({text, title, style});
+    shown_.message(text, title, style);
+}
+
+bool HeardDialogs::confirm(const QString& text, const QString& title) {
+    return shown_.confirm(text, title);
+}
+
+QString HeardDialogs::input(const QString& prompt, const QString& title, const QString& preset,
+                            std::optional<QPoint> position, const NoteOf& noteOf) {
+    return shown_.input(prompt, title, preset, position, noteOf);
+}
+
+std::optional<QString> HeardDialogs::saveFile(const SaveQuestion& question) {
+    return shown_.saveFile(question);
+}
+
 } // namespace ferna

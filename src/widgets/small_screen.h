@@ -20,7 +20,7 @@ void letPagesScroll(QTabWidget* tabs);
 void letContentsScroll(QWidget* form);
 
 /// Makes a window of a changeable size as large as wanted, as far as it has room on its screen; one
-/// that needs more than there is can be scrolled. Once, when all stands on it.
+/// that needs more than there is can be scrolled. In the middle. Once, when all stands on it.
 void fitToScreen(QWidget* window, QSize wanted);
 
 } // namespace ferna

@@ -80,6 +80,27 @@ TEST_F(SheetEntry, ANameWithAnotherEndingBecomesAPdf) {
     EXPECT_TRUE(written(QStringLiteral("Hala 1.2.pdf")).startsWith("%PDF"));
 }
 
+TEST_F(SheetEntry, AFileWhoseNameGetsTheEndingIsReplacedOnlyOnceItIsAskedFor) {
+    folder.write(QStringLiteral("Hala 1.2.pdf"), "of yesterday");
+    dialogs.answers = {folder.path(QStringLiteral("Hala 1.2")), QStringLiteral("nie")};
+    entry()->trigger();
+    EXPECT_EQ(written(QStringLiteral("Hala 1.2.pdf")), "of yesterday");
+    EXPECT_TRUE(dialogs.questions.back().text.contains(QStringLiteral("Hala 1.2.pdf")));
+    dialogs.answers = {folder.path(QStringLiteral("Hala 1.2")), QStringLiteral("tak")};
+    entry()->trigger();
+    EXPECT_TRUE(written(QStringLiteral("Hala 1.2.pdf")).startsWith("%PDF"));
+}
+
+TEST_F(SheetEntry, TheSheetHasTheProjectTheProgramAndTheResultsOfTheForm) {
+    dialogs.answers = {folder.path(QStringLiteral("a.html"))};
+    entry()->trigger();
+    const QString html = QString::fromUtf8(written(QStringLiteral("a.html")));
+    EXPECT_TRUE(html.contains(QStringLiteral(">Hala A<")));
+    EXPECT_TRUE(html.contains(QStringLiteral(">Ferna 2005 Pr ")));
+    EXPECT_TRUE(html.contains(QDate::currentDate().toString(Qt::ISODate)));
+    EXPECT_TRUE(html.contains(QStringLiteral("Poszukiwanie: znaleziono oś obojętną.")));
+}
+
 TEST_F(SheetEntry, TellsOfTheTableWhoseRowsTheCasesAre) {
     dialogs.answers = {folder.path(QStringLiteral("a.html")),
                        folder.path(QStringLiteral("b.html"))};

@@ -80,6 +80,7 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
     auto* const page = new QVBoxLayout(this);
     page->addWidget(topRow());
     notes_ = new NoteBand;
+    notes_->setObjectName(QStringLiteral("uwagi"));
     page->addWidget(notes_);
     auto* const halves = new QSplitter;
     halves->addWidget(tableSide());

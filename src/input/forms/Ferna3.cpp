@@ -475,10 +475,18 @@ void Ferna3::calculate() {
     Q_EMIT calculating();
     uwagi_->calculationBegins();
     CalculationEnd end = CalculationEnd::Refused;
-    shownAfterwards([&] { end = Oblicz(stan_, przypadek_, fields(), dialogs_, *this); },
-                    [this] { uwagi_->calculationEnded(); });
+    HeardDialogs dialogs(dialogs_);
+    try {
+        shownAfterwards([&] { end = Oblicz(stan_, przypadek_, fields(), dialogs, *this); },
+                        [this] { uwagi_->calculationEnded(); });
+    } catch (const RunTimeError& failure) {
+        Q_EMIT endedWithoutResults(dialogs.heard + QStringList(failure.text()));
+        throw;
+    }
     if (end == CalculationEnd::Computed)
         openResults_();
+    else
+        Q_EMIT endedWithoutResults(dialogs.heard);
 }
 
 void Ferna3::leaveProgram() {

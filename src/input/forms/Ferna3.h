@@ -95,6 +95,9 @@ Q_SIGNALS:
     void columnSaved(const Stan_statyki& loads, int loadCase);
     /// "Oblicz" was given and nothing of it has run yet.
     void calculating();
+    /// "Oblicz" has ended and no results are shown; these are the messages that it has shown, and
+    /// the text of the run-time error where one has ended it.
+    void endedWithoutResults(const QStringList& told);
     /// The list of the anchors or their drawing is shown anew.
     void anchorsShown();
 
