@@ -6,6 +6,7 @@
 #include <QBoxLayout>
 #include <QFileInfo>
 #include <QMenu>
+#include <QPushButton>
 
 namespace ferna {
 
@@ -16,6 +17,9 @@ UnsolvedSheetEntry::UnsolvedSheetEntry(Ferna3& form, const Stan& stan, Dialogs& 
     form.menus().task->setToolTipsVisible(true);
     if (auto* const layout = qobject_cast<QBoxLayout*>(form.layout()))
         layout->addWidget(written_);
+    // The letter of the button is that of Oblicz here.
+    auto* const folder = written_->findChild<QPushButton*>(QStringLiteral("cmdOtworz_folder"));
+    folder->setText(folder->text().remove(u'&'));
     connectGuarded(entry_, &QAction::triggered, &form, [this] { save(); });
     connect(&form, &Ferna3::calculating, this, [this] {
         ended_.reset();

@@ -68,13 +68,18 @@ private:
             concreteRemark());
     }
 
+    /// By the larger of the two ratios.
     Rich concreteRemark() const {
-        const double ratio = of("omega", sides_.back())->value;
+        const Quantity* factor = of("omega", sides_.front());
+        for (const Side side : sides_)
+            if (of("omega", side)->value > factor->value)
+                factor = of("omega", side);
+        const double ratio = factor->value;
         if (ratio > 2)
             return maker_.text()(QStringLiteral("check.concreteNot"));
         if (ratio < 1)
             return maker_.text()(QStringLiteral("check.concreteYes"));
-        return maker_.text()(QStringLiteral("check.concreteFactor"), {fixed(ratio, 3)});
+        return maker_.text()(QStringLiteral("check.concreteFactor"), {factor->text});
     }
 
     /// The stresses of the anchors on one side; none where the whole plate is compressed.

@@ -83,6 +83,18 @@ TEST_F(UnsolvedSheet, CanBeChosenWhileTheTaskIsTheOneThatWasCalculated) {
     EXPECT_TRUE(entry()->isEnabled());
 }
 
+TEST_F(UnsolvedSheet, TheLineOfTheSavedFileLeavesOtherLettersAloneAndGoesWithTheNextCalculation) {
+    enter(QStringLiteral("-50"));
+    refuse();
+    EXPECT_FALSE(saved().isEmpty());
+    EXPECT_TRUE(the<WrittenFiles>("zapisano")->isVisible());
+    answers.box(QStringLiteral("Schemat nr 1"),
+                QStringLiteral("Program nie wykonuje obliczeń dla zakotwień rozciąganych"));
+    key(Qt::Key_O, Qt::AltModifier);
+    EXPECT_TRUE(answers.done()) << "Alt+O calculates";
+    EXPECT_FALSE(the<WrittenFiles>("zapisano")->isVisible());
+}
+
 TEST_F(UnsolvedSheet, SpeaksTheLanguageThatIsChosenNow) {
     enter(QStringLiteral("-50"));
     refuse();

@@ -8,6 +8,7 @@
 #include "desktop/forms/help_key.h"
 #include "editing/forms/load_table_keys.h"
 #include "input/anchor_layout.h"
+#include "runtime/format.h"
 #include "support/keyboard_order.h"
 #include "support/main_form.h"
 #include "task/forms/task_desk.h"
@@ -507,7 +508,11 @@ TEST_F(CombinationsWindowTest, ExportsEveryRowWithItsAnswer) {
     const QStringList lines = QString::fromUtf8(bytes).split(QStringLiteral("\r\n"));
     ASSERT_EQ(lines.size(), 7);
     EXPECT_TRUE(lines[0].startsWith(u"wiersz;nazwa;N [kN];M1 [kNm]"));
-    EXPECT_TRUE(lines[2].startsWith(u"2;KO-2;100;60;10;5;0;0,"));
+    const auto& answer = window().work().table().answer(2);
+    EXPECT_EQ(lines[2],
+              QStringLiteral("2;KO-2;100;60;10;5;0;%1;%2;0,0000;0,0000;%3;")
+                  .arg(Format(answer->concrete, u"0.0000"), Format(answer->tension, u"0.0000"))
+                  .arg(answer->anchor));
     EXPECT_EQ(lines[3], QStringLiteral("3;KO-3;;;;;;;;;;;\"odrzucony: kolumna M1 (My): \"\"x\"\" "
                                        "nie jest liczbą\""));
 }

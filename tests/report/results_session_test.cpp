@@ -276,15 +276,15 @@ TEST_F(RendererStart, TellsItsWindowsAndTheFilesItHasWrittenAndLearnsForWhom) {
              "printf 'zapisano /tmp/%%C5%%81/rap'; sleep 0.2; printf -- '-2.emf\\n'; sleep 0.3");
     std::vector<bool> windows;
     std::chrono::milliseconds worked{0};
-    const RendererReport report = runRenderer(
-        folder.path(QStringLiteral(".")), {},
-        [&](const RendererState& state) {
-            if (windows.empty() || windows.back() != state.showsWindow)
-                windows.push_back(state.showsWindow);
-            worked = state.worked;
-            return true;
-        },
-        {.window = 77, .language = QStringLiteral("de-DE")});
+    const RendererReport report =
+        runRenderer(folder.path(QStringLiteral(".")), {},
+                    [&](const RendererState& state) {
+                        if (windows.empty() || windows.back() != state.showsWindow)
+                            windows.push_back(state.showsWindow);
+                        worked = state.worked;
+                        return true;
+                    },
+                    {.window = 77, .language = QStringLiteral("de-DE")});
     EXPECT_EQ(folder.read(QStringLiteral("window")).trimmed(), "77 de-DE");
     EXPECT_EQ(windows, (std::vector<bool>{true, false}));
     EXPECT_GE(worked.count(), 350);

@@ -70,6 +70,25 @@ TEST(SheetChecks, AVerdictIsThatOfTheNumberBesideIt) {
     EXPECT_GT(not_, 4);
 }
 
+TEST(SheetChecks, TheBearingFactorNeededIsTheLargerOfTheTwo) {
+    nlohmann::json task = base();
+    int needed = 0;
+    for (const double M1 : {100, 120, 140, 160}) {
+        task["Przypadki"] = {{{"N", 320}, {"M1", M1}, {"M2", 0}, {"Vx", 0}, {"Vy", 0}}};
+        const Sheet sheet = batch::sheetOf(computed(task));
+        const double search = sheet.byName.at({1, QStringLiteral("omega_s")})->value;
+        const double exact = sheet.byName.at({1, QStringLiteral("omega_e")})->value;
+        const double larger = std::max(search, exact);
+        const QString remark = remarkOf(sheet, "u_b_s");
+        if (larger < 1 || larger > 2)
+            continue;
+        ++needed;
+        EXPECT_TRUE(remark.endsWith(QString::fromUtf8("≥ %1").arg(larger, 0, 'f', 3)))
+            << remark.toStdString() << ' ' << search << ' ' << exact;
+    }
+    EXPECT_GT(needed, 1);
+}
+
 TEST(SheetAnchor, WithoutAnAnchorInTensionNoneWasChosenAndThatIsSaid) {
     nlohmann::json task = base();
     task["Przypadki"] = {{{"N", 900}, {"M1", 10}, {"M2", 8}, {"Vx", 0}, {"Vy", 0}}};
@@ -118,8 +137,8 @@ TEST(SheetPlate, ACoefficientIsReadFromThePieceOfItsCurve) {
         const Sheet sheet = batch::sheetOf(computed(
             withPlate({{std::to_string(check), {{"b", b}, {"a", a}, {"c", c}, {"S", 20}}}})));
         const ChartReading read = Interpoluj_wykres(check, CInt(b), CInt(a), CInt(c));
-        const auto number = [&](const char* name) {
-            return sheet.byName.at({0, QStringLiteral("p%1_").arg(check) + QLatin1String(name)});
+        const auto number = [&, which = check](const char* name) {
+            return sheet.byName.at({0, QStringLiteral("p%1_").arg(which) + QLatin1String(name)});
         };
         EXPECT_NEAR(number("y1")->value, read.y1, 1e-5);
         EXPECT_NEAR(number("y2")->value, read.y2, 1e-5);
@@ -181,6 +200,21 @@ TEST(SheetCase, WithoutPressureThereAreNoTablesOfTheCompressedZone) {
     EXPECT_FALSE(html.contains(text(QStringLiteral("zone.caption"))));
     EXPECT_FALSE(html.contains(text(QStringLiteral("triangles.caption"))));
     EXPECT_TRUE(html.contains(text(QStringLiteral("balance.caption"))));
+}
+
+TEST(SheetCase, BothLinesHaveTheirEndsInTheSameOrder) {
+    for (const auto& [M1, M2] :
+         {std::pair{40, 10}, {-40, 10}, {40, -10}, {60, 0}, {0, 45}, {-60, -20}}) {
+        nlohmann::json task = base();
+        task["Przypadki"][0] = {{"N", 200}, {"M1", M1}, {"M2", M2}, {"Vx", 0}, {"Vy", 0}};
+        const Sheet sheet = batch::sheetOf(computed(task));
+        for (const char* end : {"xA", "yA", "xB", "yB"}) {
+            const auto of = [&](const char* side) {
+                return sheet.byName.at({1, QLatin1String(end) + QLatin1String(side)})->value;
+            };
+            EXPECT_NEAR(of("_s"), of("_e"), 15) << end << ' ' << M1 << ' ' << M2;
+        }
+    }
 }
 
 TEST(SheetCase, WhereNoAnchorIsInTensionTheCheckSaysSo) {

@@ -1,4 +1,5 @@
 #include "analysis/clauses.h"
+#include "sheet/pages.h"
 #include "sheet/sheet_tasks.h"
 #include "sheet/texts.h"
 #include "utilisation/utilisation.h"

@@ -181,6 +181,7 @@ TEST_F(Desk, AnOpenedTaskStandsInItsFieldsAndCanBeUndone) {
     EXPECT_TRUE(checked("Option1_1"));
     EXPECT_EQ(anchorList().size(), 4);
     EXPECT_EQ(undoEntry(), QStringLiteral("&Cofnij: otwarcie a.ferna"));
+    EXPECT_EQ(form->windowTitle(), caption + QStringLiteral(" - a.ferna")) << "without the mark";
     desk->undo();
     EXPECT_EQ(text("Text3"), QStringLiteral("1300"));
     EXPECT_EQ(desk->file(), QString()) << "the task before belongs to no file";
