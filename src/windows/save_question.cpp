@@ -63,21 +63,6 @@ QString endingOf(const QString& nameFilter) {
     return files.match(nameFilter).captured(1);
 }
 
-/// The name in the question with the ending of the format that was chosen; one that was typed with
-/// an ending of none of the formats is left alone.
-void followFilter(QFileDialog& dialog, const QString& chosen) {
-    const QString ending = endingOf(chosen);
-    if (ending.isEmpty() || dialog.selectedFiles().isEmpty())
-        return;
-    dialog.setDefaultSuffix(ending);
-    const QString name = dialog.selectedFiles().constFirst();
-    for (const QString& filter : dialog.nameFilters()) {
-        const QString other = endingOf(filter);
-        if (!other.isEmpty() && name.endsWith(other, Qt::CaseInsensitive))
-            dialog.selectFile(name.chopped(other.size()) + ending);
-    }
-}
-
 } // namespace
 
 bool hasEnding(const QString& name) {
@@ -95,7 +80,11 @@ std::optional<QString> askWhereToSave(const SaveQuestion& question,
     dialog.setDefaultSuffix(question.extension);
     dialog.selectFile(question.preset);
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
-                     [&dialog](const QString& chosen) { followFilter(dialog, chosen); });
+                     [&dialog](const QString& chosen) {
+                         // The dialog changes an ending that is there, and adds this one to none.
+                         if (const QString ending = endingOf(chosen); !ending.isEmpty())
+                             dialog.setDefaultSuffix(ending);
+                     });
     QString name;
     do {
         if (runBox(surroundings, dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
