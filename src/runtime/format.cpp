@@ -127,6 +127,12 @@ Decimal digitsWithPlaces(std::int64_t digits, int places) {
     return result;
 }
 
+/// The nearest whole number of a magnitude that one of 64 bits holds, half up.
+std::int64_t nearestWhole(Double magnitude) {
+    const auto whole = static_cast<std::int64_t>(magnitude);
+    return magnitude - static_cast<Double>(whole) >= 0.5 ? whole + 1 : whole;
+}
+
 /// The digits of a Single that is no whole number, rounded to those that it has; empty for a tiny
 /// one.
 std::optional<Decimal> roundedSingle(Double magnitude) {
@@ -140,9 +146,7 @@ std::optional<Decimal> roundedSingle(Double magnitude) {
             return std::nullopt;
         scaled *= 10;
     }
-    const auto digits = static_cast<std::int64_t>(scaled);
-    const bool up = scaled - static_cast<Double>(digits) >= 0.5;
-    return digitsWithPlaces(digits + (up ? 1 : 0), places);
+    return digitsWithPlaces(nearestWhole(scaled), places);
 }
 
 /// The decimal of a few places that reads back to the magnitude, where there is one. It has no more
@@ -153,7 +157,7 @@ std::optional<Decimal> typedDecimal(Double magnitude) {
     int places = 0;
     for (Double scale = 10; scale <= mostScale && magnitude * scale < tooLarge; scale *= 10) {
         ++places;
-        const auto digits = static_cast<std::int64_t>(magnitude * scale + 0.5);
+        const std::int64_t digits = nearestWhole(magnitude * scale);
         if (static_cast<Double>(digits) / scale == magnitude)
             return digitsWithPlaces(digits, places);
     }

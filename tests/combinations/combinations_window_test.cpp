@@ -8,6 +8,7 @@
 #include "desktop/forms/help_key.h"
 #include "editing/forms/load_table_keys.h"
 #include "input/anchor_layout.h"
+#include "runtime/format.h"
 #include "support/keyboard_order.h"
 #include "support/main_form.h"
 #include "task/forms/task_desk.h"
@@ -321,6 +322,21 @@ TEST_F(CombinationsWindowTest, TheDigestOfTheCalculatedRowsIsThatOfTheTable) {
     EXPECT_FALSE(entries->calculatedDigest());
 }
 
+TEST_F(CombinationsWindowTest, ABaseChangedWhileTheWindowWasClosedIsTheOneThatIsCompared) {
+    read(table);
+    QTest::mouseClick(button(QStringLiteral("&Wstaw do tabeli")), Qt::LeftButton);
+    window().close();
+    form->fieldOf({Value::PlateLength})->setText(QStringLiteral("750"));
+    calculate();
+    ASSERT_EQ(comparison().rowCount(), 4);
+    for (int r = 0; r < 4; ++r)
+        EXPECT_EQ(compared(r, 5), QStringLiteral("zgodne"));
+    EXPECT_FALSE(entries->calculatedDigest()) << "the table has the answers of another base";
+    entries->open();
+    waitForWork();
+    EXPECT_TRUE(entries->calculatedDigest());
+}
+
 TEST_F(CombinationsWindowTest, ChartAndSheetAreOfferedOnceThereAreAnswersToShow) {
     int charts = 0;
     std::optional<combinations::Digest> written;
@@ -507,7 +523,11 @@ TEST_F(CombinationsWindowTest, ExportsEveryRowWithItsAnswer) {
     const QStringList lines = QString::fromUtf8(bytes).split(QStringLiteral("\r\n"));
     ASSERT_EQ(lines.size(), 7);
     EXPECT_TRUE(lines[0].startsWith(u"wiersz;nazwa;N [kN];M1 [kNm]"));
-    EXPECT_TRUE(lines[2].startsWith(u"2;KO-2;100;60;10;5;0;0,"));
+    const auto& answer = window().work().table().answer(2);
+    EXPECT_EQ(lines[2],
+              QStringLiteral("2;KO-2;100;60;10;5;0;%1;%2;0,0000;0,0000;%3;")
+                  .arg(Format(answer->concrete, u"0.0000"), Format(answer->tension, u"0.0000"))
+                  .arg(answer->anchor));
     EXPECT_EQ(lines[3], QStringLiteral("3;KO-3;;;;;;;;;;;\"odrzucony: kolumna M1 (My): \"\"x\"\" "
                                        "nie jest liczbą\""));
 }

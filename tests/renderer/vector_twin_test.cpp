@@ -108,6 +108,18 @@ TEST_F(VectorTwin, LooksLikeItsBitmap) {
     EXPECT_GT(difference(blank(), asBitmap), 2000) << "the picture is not empty";
 }
 
+TEST_F(VectorTwin, FillsAPlaceOfAnotherProportionAsItsBitmapDoes) {
+    const auto widthOf = [this](QSizeF size) {
+        QRectF drawn;
+        for (const pages::Outline& outline : vectorsOf(bitmap, QRectF(QPointF(), size)))
+            drawn |= outline.path.boundingRect();
+        return drawn.width();
+    };
+    const double narrow = widthOf({50, 25});
+    ASSERT_GT(narrow, 20);
+    EXPECT_NEAR(widthOf({100, 25}), 2 * narrow, 0.5);
+}
+
 TEST_F(VectorTwin, IsDrawnInAMetafileWithoutABitmap) {
     const pages::Report report = pageWith(outlinesOf(twinOfFile(bitmap), place));
     const QByteArray emf = emfOfPage(report, report.pages.front());

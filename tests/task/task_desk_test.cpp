@@ -181,6 +181,7 @@ TEST_F(Desk, AnOpenedTaskStandsInItsFieldsAndCanBeUndone) {
     EXPECT_TRUE(checked("Option1_1"));
     EXPECT_EQ(anchorList().size(), 4);
     EXPECT_EQ(undoEntry(), QStringLiteral("&Cofnij: otwarcie a.ferna"));
+    EXPECT_EQ(form->windowTitle(), caption + QStringLiteral(" - a.ferna")) << "without the mark";
     desk->undo();
     EXPECT_EQ(text("Text3"), QStringLiteral("1300"));
     EXPECT_EQ(desk->file(), QString()) << "the task before belongs to no file";
@@ -358,6 +359,21 @@ TEST_F(Desk, TheLoadsOnTheColumnComeBackInTheirCase) {
     ASSERT_TRUE(saved.column.has_value());
     EXPECT_EQ(saved.column->inCase, 2);
     EXPECT_EQ(saved.stan.obciazenia.Liczba_przyp, 2);
+}
+
+TEST_F(Desk, LoadsDeclaredOnTheColumnGoIntoTheTask) {
+    Stan declaring = stan;
+    InputFields fields = form->fields();
+    const DeclaredLoads done = declareLoads(
+        readColumnTask(parsed(R"([{"kierunek": "ZY", "rodzaj": "sila", "H": 12, "h": 4}])")),
+        declaring, fields);
+    Q_EMIT form->columnSaved(done.loads, 1);
+    const Task saved = readTask(parsed(desk->history().text()));
+    ASSERT_TRUE(saved.column.has_value());
+    EXPECT_EQ(saved.column->inCase, 1);
+    ASSERT_EQ(saved.column->loads.size(), 1U);
+    EXPECT_EQ(saved.column->loads[0].load, QStringLiteral("12"));
+    EXPECT_TRUE(form->windowTitle().endsWith(u'*'));
 }
 
 /// The text report of a computed state, at one moment.
