@@ -11,8 +11,10 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <cmath>
 #include <ctime>
 #include <iostream>
+#include <numeric>
 
 using namespace ferna;
 using namespace ferna::testing;
@@ -177,7 +179,12 @@ void spreadOfCases() {
     const auto at = [](const std::vector<Double>& sorted, Double share) {
         return sorted[static_cast<std::size_t>(share * static_cast<Double>(sorted.size() - 1))];
     };
-    std::cout << microseconds.size() << " cases outside the kern:\n";
+    const auto mean = [](const std::vector<Double>& values) {
+        return std::accumulate(values.begin(), values.end(), Double{0})
+               / static_cast<Double>(values.size());
+    };
+    std::cout << microseconds.size() << " cases outside the kern:\n  mean: " << mean(microseconds)
+              << " us, " << std::llround(mean(evaluations)) << " evaluations of the last attempt\n";
     for (const Double share : {0.5, 0.9, 0.95, 0.99, 1.0})
         std::cout << "  " << share * 100 << " %: " << at(microseconds, share) << " us, "
                   << at(evaluations, share) << " evaluations of the last attempt\n";

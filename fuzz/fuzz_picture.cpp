@@ -1,36 +1,13 @@
 #include "fuzzing.h"
 #include "live/checks_table.h"
 #include "live/picture.h"
+#include "support/picture_margin.h"
 #include "task/task.h"
-
-#include <QPainter>
 
 using namespace ferna;
 using namespace ferna::fuzzing;
 using namespace ferna::live;
-
-namespace {
-
-constexpr int margin = 40;
-const QRgb untouched = qRgb(255, 0, 255);
-
-/// Draws a picture in the middle of a larger image, whose margin it has to leave alone.
-void draw(const PictureValues& values, const PictureOptions& options) {
-    const QSize size = options.size.toSize();
-    QImage image(size + QSize(2 * margin, 2 * margin), QImage::Format_RGB32);
-    image.fill(untouched);
-    QPainter painter(&image);
-    painter.translate(margin, margin);
-    drawPicture(painter, values, options);
-    painter.end();
-    const QRect inside(QPoint(margin, margin), size);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            require(inside.contains(x, y) || image.pixel(x, y) == untouched,
-                    "nothing is drawn outside a picture");
-}
-
-} // namespace
+using ferna::testing::staysInside;
 
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     startQt();
@@ -53,7 +30,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         for (const int which : {0, 1}) {
             const PictureValues picture = pictureOf(values, which);
             require(!values.valid() || picture.drawable(), "valid values can be drawn");
-            draw(picture, options);
+            require(staysInside(picture, options), "nothing is drawn outside a picture");
         }
         for (const CheckRow& row : checksTable(values, {}))
             for (const CheckCell& cell : row)

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """Takes the pictures of the user guide from the running program: works through the delivered sample
-column base as the guide tells it, and pictures each window on the way.
+column base as the guide tells it, then through the day with 300 combinations, and pictures each window
+on the way.
 
 Usage: guide_pictures.py FOLDER_OF_THE_PROGRAMS SAMPLE_TASK.json FOLDER_FOR_THE_PICTURES
 """
@@ -16,8 +17,10 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "e2e"))
 from desktop import Desktop, wait_for
-from program import ANCHOR, FOUR, MAIN, PLATE, RESULTS, TITLE, Program
+from program import (ANCHOR, CAPACITY, COMBINATIONS, FOUR, MAIN, PLATE, READING, RESULTS, SMALLEST,
+                     TITLE, Program)
 
+EXAMPLES = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "docs", "examples")
 SCREEN = "1280x1024x24"  # the results window takes nine tenths of it
 SAVE_TEXT = "Podaj .* pliku tekstowego"
 
@@ -153,6 +156,72 @@ class Guide(Program):
         self.leave()
 
 
+class CombinationsDay(Program):
+    """The column of the examples with its 300 combinations."""
+
+    def __init__(self, desktop, folder, examples, camera):
+        super().__init__(desktop, folder, os.path.join(examples, "column.json"))
+        self.table = os.path.join(examples, "combinations.csv")
+        self.take = camera.take
+        self.ready()
+
+    def read(self):
+        self.desktop.keys("ctrl+k")
+        self.desktop.window(COMBINATIONS)
+        self.desktop.keys("alt+p")
+        self.desktop.window("Tabela kombinacji")
+        self.desktop.type(self.table)
+        self.desktop.keys("Return")
+        self.take("combinations-reading", READING)
+        self.desktop.keys("Return")
+        self.desktop.gone(READING)
+        self.take("combinations", COMBINATIONS, colours=256)
+
+    def chart(self):
+        self.desktop.keys("alt+y")
+        self.take("capacity", CAPACITY, colours=128)
+        self.desktop.keys("Escape")
+        self.desktop.gone(CAPACITY)
+
+    def compare(self, label):
+        self.desktop.window(COMBINATIONS)
+        self.desktop.keys("alt+w")
+        self.desktop.window(MAIN)
+        self.desktop.keys("alt+o")
+        self.desktop.window(TITLE)
+        self.desktop.type(label)
+        self.desktop.keys("Return")
+        self.desktop.window(RESULTS, 60)
+        self.take("combinations-compared", COMBINATIONS, colours=128)
+        self.desktop.keys("Escape")
+        self.desktop.gone(COMBINATIONS)
+        self.desktop.window(RESULTS)
+        self.desktop.keys("alt+F4")
+        self.desktop.gone(RESULTS)
+
+    def smallest(self):
+        self.desktop.window(MAIN)
+        self.desktop.keys("alt+z")
+        time.sleep(0.5)
+        self.desktop.keys("d")
+        self.desktop.window(SMALLEST)
+        self.desktop.keys("Return")
+        time.sleep(3)  # the search and its ten calculations
+        self.take("smallest", SMALLEST)
+        self.desktop.keys("Escape")
+        self.desktop.gone(SMALLEST)
+        self.desktop.window(MAIN)
+        self.leave()
+
+
+def day_of_combinations(desktop, folder, examples, pictures):
+    day = CombinationsDay(desktop, folder, examples, Camera(desktop, pictures))
+    day.read()
+    day.chart()
+    day.compare("F-3")
+    day.smallest()
+
+
 def run(desktop, folder, task, pictures):
     guide = Guide(desktop, folder, Camera(desktop, pictures))
     guide.describe(task)
@@ -187,8 +256,9 @@ def main():
         task = json.load(file)
     os.makedirs(pictures, exist_ok=True)
     with tempfile.TemporaryDirectory(prefix="ferna-guide-") as work:
-        folder = os.path.join(work, "bin")
-        shutil.copytree(programs, folder)
+        folder, another = os.path.join(work, "bin"), os.path.join(work, "other")
+        for copy in (folder, another):
+            shutil.copytree(programs, copy)
         picture_of_the_sheet(programs, sample, work, pictures)
         desktop = Desktop(os.path.join(work, "home"), SCREEN)
         try:
@@ -196,6 +266,7 @@ def main():
             desktop.env.pop("LC_ALL")
             desktop.env |= {"LANG": "C.UTF-8", "LC_NUMERIC": "pl_PL.UTF-8"}
             run(desktop, folder, task, pictures)
+            day_of_combinations(desktop, another, EXAMPLES, pictures)
         except Exception:
             desktop.screenshot(os.path.join(pictures, "failure.png"))
             raise

@@ -16,7 +16,7 @@ run_packages=(
 package_packages=(libreoffice-dev dpkg-dev file)
 test_packages=(
     git clang libclang-rt-14-dev clang-format-14 clang-tidy-14 shellcheck libgtest-dev
-    libbenchmark-dev python3 python3-jsonschema
+    libbenchmark-dev libcminpack-dev python3 python3-jsonschema
     xvfb xdotool xauth x11-utils x11-apps x11-xkb-utils openbox icewm imagemagick
     poppler-utils unzip cups cups-client cups-filters time parallel
     libreoffice-writer-nogui locales

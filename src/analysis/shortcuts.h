@@ -79,7 +79,7 @@ public:
     void lookBack() {
         if (const State now = state(); now == known_) {
             const int round = s_.Liczba_ocen - evaluations_;
-            if (round > 0 && s_.Liczba_ocen < evaluationLimit)
+            if (round > 0) // the evaluations never pass their limit
                 s_.Liczba_ocen += (evaluationLimit - s_.Liczba_ocen) / round * round;
         } else if (++turns_ == power_) { // remembers the state ever more rarely, so that a round of
             known_ = now;                // any length is seen

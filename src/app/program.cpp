@@ -1,14 +1,17 @@
 #include "app/program.h"
 
+#include "app/combination_points.h"
 #include "app/document_entries.h"
 #include "app/editing_entries.h"
 #include "app/sheet_entry.h"
+#include "app/unsolved_sheet_entry.h"
 #include "combinations/forms/combination_entries.h"
 #include "design/configuration.h"
 #include "desktop/forms/Help_window.h"
 #include "plate/forms/Grub_bla.h"
 #include "protocol/renderer_files.h"
 #include "report/forms/renderer_wait.h"
+#include "report/report_words.h"
 #include "selection/forms/Dobor_fer.h"
 #include "widgets/hourglass.h"
 
@@ -20,11 +23,20 @@ namespace ferna {
 Program::Program(Stan& stan, QString folder)
     : stan_(stan), folder_(std::move(folder)),
       input_(stan_, folder_, dialogs_, [this] { openResults(); }),
-      task_(input_, stan_, dialogs_, folder_, keptTasksFolder()), reserve_(input_, stan_) {
+      task_(input_, stan_, dialogs_, folder_, keptTasksFolder()),
+      reserve_(input_, stan_, [this] { return loadsOf(combinations_); }) {
     addMenus();
     addEditing(input_, stan_);
-    combinations_ = new CombinationEntries(stan_, input_, dialogs_); // the form owns it
+    combinations_ = new CombinationEntries( // the form owns it
+        stan_, input_, dialogs_,
+        {.showInChart = [this] { reserve_.showOtherLoads(); },
+         .saveSheet =
+             [this](const combinations::Digest& digest) {
+                 return saveSheetOf(digest, stan_, input_.fields(), dialogs_);
+             },
+         .answered = [this] { reserve_.capacity().renewSoon(); }});
     view_ = addLiveView(input_, stan_, dialogs_);
+    new UnsolvedSheetEntry(input_, stan_, dialogs_); // the form owns it
 }
 
 int Program::run(const QString& taskFile) {
@@ -50,7 +62,8 @@ void Program::openResults() {
     addDocumentEntries(*results_, {folder_, dialogs_,
                                    [this](const QStringList& options) { return render(options); }});
     task_.resultsMade(*results_);
-    addSheetEntry(*results_, stan_, input_.record(), dialogs_);
+    addSheetEntry(*results_, stan_, input_.record(), dialogs_,
+                  [this] { return combinations_->calculatedDigest(); });
     input_.hide();
     results_->open();
 }
@@ -60,7 +73,7 @@ RendererReport Program::render(const QStringList& options) {
     RendererWait wait(results_.get());
     return runRenderer(
         folder_, options, [&wait](const RendererState& state) { return wait.goOn(state); },
-        results_->winId());
+        {.window = results_->winId(), .language = reportWords(stan_.opcje.Nr_jezyka).tag});
 }
 
 FernaWyn::Links Program::links() {

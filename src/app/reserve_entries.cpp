@@ -18,8 +18,10 @@ void bringToFront(QDialog& window) {
 
 } // namespace
 
-ReserveEntries::ReserveEntries(Ferna3& form, Stan& stan)
-    : form_(form), stan_(stan), capacity_({stan, [&form] { return form.fields(); }}, nullptr),
+ReserveEntries::ReserveEntries(Ferna3& form, Stan& stan,
+                               std::function<CapacityWindow::OtherLoads()> others)
+    : form_(form), stan_(stan),
+      capacity_({stan, [&form] { return form.fields(); }, std::move(others)}, nullptr),
       smallest_({stan, [&form] { return form.fields(); },
                  [this](const smallest::Design& design, const smallest::DesignRange& range) {
                      take(design, range);
@@ -32,6 +34,11 @@ ReserveEntries::ReserveEntries(Ferna3& form, Stan& stan)
     QObject::connect(&form, &Ferna3::entered, &capacity_, &CapacityWindow::renewSoon);
     QObject::connect(&form, &Ferna3::anchorsShown, &capacity_, &CapacityWindow::renewSoon);
     QObject::connect(&form, &Ferna3::entered, &smallest_, &SmallestWindow::loadsChanged);
+}
+
+void ReserveEntries::showOtherLoads() {
+    bringToFront(capacity_);
+    capacity_.showOthers();
 }
 
 // One change of the task, told once it is whole: one step to undo.

@@ -11,7 +11,12 @@ class Ferna3;
 /// form. To be made before the form is shown first.
 class ReserveEntries {
 public:
-    ReserveEntries(Ferna3& form, Stan& stan);
+    /// `others`: loads that the chart of the capacity can show beside those of the load table.
+    ReserveEntries(Ferna3& form, Stan& stan,
+                   std::function<CapacityWindow::OtherLoads()> others = {});
+
+    /// Opens the chart of the capacity with the other loads in it.
+    void showOtherLoads();
 
     CapacityWindow& capacity() { return capacity_; }
     SmallestWindow& smallest() { return smallest_; }

@@ -2,18 +2,27 @@
 
 namespace ferna::batch {
 
-SectionResult runAnchorTask(const AnchorTask& task, Stan& stan, ScriptedDialogs& dialogs) {
+AnchorSectionResult runAnchorTask(const AnchorTask& task, Stan& stan, ScriptedDialogs& dialogs) {
     const std::optional<SelectionForm> form = selectAnchor(task, stan, dialogs);
-    if (!form)
-        return {};
-    Json lines = Json::array();
+    return {{}, form ? std::optional(form->Nosnosc) : std::nullopt};
+}
+
+void writeSection(JsonWriter& json, const Stan& stan, const AnchorSectionResult& result) {
+    if (!result.Nosnosc) {
+        json.null();
+        return;
+    }
+    json.beginObject();
+    json.key("Wiersze_kotwy");
+    json.beginArray();
     for (int i = 1; i <= stan.raport.Liczba_wierszy_kotwy; ++i)
-        lines.push_back(stan.raport.Wiersze_kotwy(i).toStdString());
-    SectionResult result;
-    result.value["Wiersze_kotwy"] = std::move(lines);
-    result.value["Typ_szkicu_kotwy"] = stan.raport.Typ_szkicu_kotwy;
-    result.value["Nosnosc"] = Double{form->Nosnosc};
-    return result;
+        json.text(stan.raport.Wiersze_kotwy(i));
+    json.endArray();
+    json.key("Typ_szkicu_kotwy");
+    json.whole(stan.raport.Typ_szkicu_kotwy);
+    json.key("Nosnosc");
+    json.number(*result.Nosnosc);
+    json.endObject();
 }
 
 } // namespace ferna::batch

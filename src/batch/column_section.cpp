@@ -2,27 +2,30 @@
 
 namespace ferna::batch {
 
-namespace {
-
-Json resultJson(const StaticsForm& form) {
-    Json list = Json::array();
-    for (const QString& line : form.lstObciazen)
-        list.push_back(line.toStdString());
-    Json result;
-    result["N"] = form.totals.N.toStdString();
-    result["M1"] = form.totals.M1.toStdString();
-    result["M2"] = form.totals.M2.toStdString();
-    result["Vx"] = form.totals.Vx.toStdString();
-    result["Vy"] = form.totals.Vy.toStdString();
-    result["lista"] = std::move(list);
-    return result;
+ColumnSectionResult runColumnTask(const ColumnTask& task, Stan& stan, InputFields& fields) {
+    DeclaredLoads done = declareLoads(task, stan, fields);
+    return {{done.failure ? errorJson(*done.failure) : Json()},
+            std::move(done.form.totals),
+            std::move(done.form.lstObciazen)};
 }
 
-} // namespace
-
-SectionResult runColumnTask(const ColumnTask& task, Stan& stan, InputFields& fields) {
-    const DeclaredLoads done = declareLoads(task, stan, fields);
-    return {resultJson(done.form), done.failure ? errorJson(*done.failure) : Json()};
+void writeSection(JsonWriter& json, const ColumnSectionResult& result) {
+    const auto total = [&json](std::string_view key, const QString& text) {
+        json.key(key);
+        json.text(text);
+    };
+    json.beginObject();
+    total("N", result.totals.N);
+    total("M1", result.totals.M1);
+    total("M2", result.totals.M2);
+    total("Vx", result.totals.Vx);
+    total("Vy", result.totals.Vy);
+    json.key("lista");
+    json.beginArray();
+    for (const QString& line : result.lstObciazen)
+        json.text(line);
+    json.endArray();
+    json.endObject();
 }
 
 } // namespace ferna::batch

@@ -13,9 +13,63 @@ namespace {
 
 constexpr int numberLength = 64; // letters that no number exceeds
 
+constexpr std::size_t longestLetter = 6; // bytes that a unit of a text becomes: "\u0001"
+constexpr std::ptrdiff_t blockLength = 16;
+
 /// A letter that stands for itself in one byte.
 bool isPlain(char16_t letter) {
     return letter >= 0x20 && letter < 0x80 && letter != u'"' && letter != u'\\';
+}
+
+/// True for so many letters of which all are plain; the compiler looks at them side by side.
+bool arePlain(const char16_t* letters) {
+    int others = 0;
+    for (std::ptrdiff_t i = 0; i < blockLength; ++i)
+        others += isPlain(letters[i]) ? 0 : 1;
+    return others == 0;
+}
+
+char narrow(char16_t letter) {
+    return static_cast<char>(letter);
+}
+
+/// Writes a letter below U+0080; returns its end.
+char* ascii(char16_t letter, char* at) {
+    constexpr std::string_view digits = "0123456789abcdef";
+    constexpr std::string_view named = "\"\\\b\f\n\r\t";
+    constexpr std::string_view names = "\"\\bfnrt";
+    if (isPlain(letter)) {
+        *at++ = narrow(letter);
+    } else if (const std::size_t i = named.find(narrow(letter)); i != std::string_view::npos) {
+        *at++ = '\\';
+        *at++ = names[i];
+    } else {
+        constexpr std::string_view mark = "\\u00";
+        at = std::copy(mark.begin(), mark.end(), at);
+        *at++ = digits[letter >> 4U];
+        *at++ = digits[letter & 15U];
+    }
+    return at;
+}
+
+/// Writes the first letter of a text, of any kind, and moves `at` behind it; returns where the next
+/// one begins.
+const char16_t* encode(const char16_t* letter, const char16_t* end, char*& at) {
+    if (*letter < 0x80) {
+        at = ascii(*letter, at);
+        return letter + 1;
+    }
+    if (*letter < 0x800) {
+        *at++ = static_cast<char>(0xC0 | *letter >> 6U);
+        *at++ = static_cast<char>(0x80 | (*letter & 0x3FU));
+        return letter + 1;
+    }
+    const bool isPair =
+        QChar::isHighSurrogate(letter[0]) && end - letter > 1 && QChar::isLowSurrogate(letter[1]);
+    const char16_t* const next = letter + (isPair ? 2 : 1);
+    const QByteArray bytes = QStringView(letter, next).toUtf8();
+    at = std::copy(bytes.begin(), bytes.end(), at);
+    return next;
 }
 
 /// The double nearest to the shortest decimal that reads back to the same Single, which is no whole
@@ -138,76 +192,36 @@ void JsonWriter::single(Single value) {
     number(shortestOf(value));
 }
 
-/// A letter below U+0080.
-void JsonWriter::escaped(char16_t letter) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    constexpr std::string_view named = "\"\\\b\f\n\r\t";
-    constexpr std::string_view names = "\"\\bfnrt";
-    constexpr unsigned firstPlain = 0x20;
-    const auto byte = static_cast<char>(letter);
-    if (const std::size_t at = named.find(byte); at != std::string_view::npos) {
-        bytes_ += '\\';
-        bytes_ += names[at];
-    } else if (letter < firstPlain) {
-        bytes_ += "\\u00";
-        bytes_ += digits[letter >> 4U];
-        bytes_ += digits[letter & 15U];
-    } else {
-        bytes_ += byte;
-    }
-}
-
-void JsonWriter::text(const QString& value) {
+void JsonWriter::text(QStringView value) {
     part();
-    bytes_ += '"';
-    std::array<char, 128> piece;
-    std::size_t filled = 0;
-    const auto flush = [&] {
-        bytes_ += {piece.data(), filled};
-        filled = 0;
-    };
-    for (qsizetype i = 0; i < value.size(); ++i) {
-        const char16_t letter = value[i].unicode();
-        if (filled + 2 > piece.size())
-            flush();
-        if (isPlain(letter)) {
-            piece[filled++] = static_cast<char>(letter);
-        } else if (letter >= 0x80 && letter < 0x800) {
-            piece[filled++] = static_cast<char>(0xC0 | letter >> 6U);
-            piece[filled++] = static_cast<char>(0x80 | (letter & 0x3FU));
-        } else {
-            flush();
-            i += other(QStringView(value).mid(i));
+    char* at = bytes_.room(static_cast<std::size_t>(value.size()) * longestLetter + 2);
+    *at++ = '"';
+    const char16_t* letter = value.utf16();
+    const char16_t* const end = letter + value.size();
+    while (letter != end) {
+        const char16_t* const next = letter + std::min<std::ptrdiff_t>(blockLength, end - letter);
+        if (next - letter == blockLength && arePlain(letter)) {
+            at = std::transform(letter, next, at, narrow);
+            letter = next;
         }
+        while (letter < next)
+            letter = encode(letter, end, at);
     }
-    flush();
-    bytes_ += '"';
+    *at++ = '"';
+    bytes_.take(at);
 }
 
-/// The first letter of a text, of any kind; returns how many more units it has taken.
-int JsonWriter::other(QStringView text) {
-    if (text[0].unicode() < 0x80) {
-        escaped(text[0].unicode());
-        return 0;
-    }
-    const bool isPair = text[0].isHighSurrogate() && text.size() > 1 && text[1].isLowSurrogate();
-    const QByteArray bytes = text.left(isPair ? 2 : 1).toUtf8();
-    bytes_ += {bytes.constData(), static_cast<std::size_t>(bytes.size())};
-    return isPair ? 1 : 0;
-}
-
-/// A text in UTF-8, which is sound: it comes from the program's own.
-void JsonWriter::utf8(std::string_view text) {
+void JsonWriter::utf8(std::string_view value) {
     part();
-    bytes_ += '"';
-    for (const char byte : text) {
-        const auto letter = static_cast<unsigned char>(byte);
-        if (letter >= 0x80 || isPlain(letter))
-            bytes_ += byte;
+    char* at = bytes_.room(value.size() * longestLetter + 2);
+    *at++ = '"';
+    for (const char byte : value)
+        if (const auto letter = static_cast<unsigned char>(byte); letter >= 0x80)
+            *at++ = byte;
         else
-            escaped(letter);
-    }
-    bytes_ += '"';
+            at = ascii(letter, at);
+    *at++ = '"';
+    bytes_.take(at);
 }
 
 void JsonWriter::value(const Json& value) {
@@ -227,8 +241,12 @@ void JsonWriter::value(const Json& value) {
         utf8(value.get_ref<const std::string&>());
     } else if (value.is_number_float()) {
         number(value.get<Double>());
+    } else if (value.is_number()) {
+        whole(value.get<std::int64_t>());
+    } else if (value.is_boolean()) {
+        boolean(value.get<bool>());
     } else {
-        word(value.dump(-1, ' ', false, Json::error_handler_t::replace));
+        null();
     }
 }
 

@@ -37,7 +37,12 @@ public:
         return *this;
     }
 
-    std::string text() const { return {bytes_.get(), size_}; }
+    /// With room for the line end that mostly follows.
+    std::string text() const {
+        std::string all;
+        all.reserve(size_ + 1);
+        return all.append(bytes_.get(), size_);
+    }
 
 private:
     void grow(std::size_t more) {
@@ -73,7 +78,9 @@ public:
     void number(Double value);
     /// The shortest decimal that reads back to the same Single.
     void single(Single value);
-    void text(const QString& value);
+    void text(QStringView value);
+    /// A text in UTF-8, which is sound: it comes from the program's own.
+    void utf8(std::string_view value);
     /// A value that is there already; its texts are UTF-8.
     void value(const Json& value);
 
@@ -86,10 +93,7 @@ private:
     void word(std::string_view letters);
     void part();
     void lineOfLevel();
-    void utf8(std::string_view text);
     void wholeNumber(Double value);
-    void escaped(char16_t letter);
-    int other(QStringView text);
 
     static constexpr std::size_t usual = 16'384; // bytes of a result
     GrowingBytes bytes_{usual};

@@ -241,8 +241,9 @@ int runProgram(const Options& options) {
     const QString dataFolder = deliveredDataFolder();
     const std::unique_ptr<Pictures> pictures =
         anyNeedsPictures(options) ? std::make_unique<Pictures>(dataFolder) : nullptr;
-    const RunOptions runOptions{options.catalogue, dataFolder, reportTime(),
-                                pictures ? pictures->path() : QString()};
+    RunOptions runOptions{options.catalogue, dataFolder, reportTime(),
+                          pictures ? pictures->path() : QString()};
+    runOptions.reports = !options.lines;
     return options.lines ? runLines(options, runOptions) : runOne(options, runOptions);
 }
 

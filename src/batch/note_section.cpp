@@ -2,21 +2,26 @@
 
 namespace ferna::batch {
 
-Json notesJson(const notes::Notes& notes) {
-    Json list = Json::array();
+void writeNotes(JsonWriter& json, const notes::Notes& notes) {
+    const auto number = [&json](std::string_view key, int value) {
+        if (value == 0)
+            return;
+        json.key(key);
+        json.whole(value);
+    };
+    json.beginArray();
     for (const notes::Note& note : notes) {
-        Json& one = list.emplace_back(Json::object());
-        one["kod"] = notes::codeName(note.code);
-        const auto number = [&one](const char* key, int value) {
-            if (value != 0)
-                one[key] = value;
-        };
+        json.beginObject();
+        json.key("kod");
+        json.utf8(notes::codeName(note.code));
         number("przypadek", note.caseNumber);
         number("kotwa", note.anchor);
         number("sprawdzenie", note.check);
-        one["tekst"] = note.text.toStdString();
+        json.key("tekst");
+        json.text(note.text);
+        json.endObject();
     }
-    return list;
+    json.endArray();
 }
 
 } // namespace ferna::batch

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "batch/json_writer.h"
 #include "notes/note.h"
-#include "task/object_reader.h"
 
 namespace ferna::batch {
 
 /// The key "Uwagi" of a result. Keys that do not apply to a note are left out.
-Json notesJson(const notes::Notes& notes);
+void writeNotes(JsonWriter& json, const notes::Notes& notes);
 
 } // namespace ferna::batch

@@ -2,16 +2,6 @@
 
 namespace ferna::batch {
 
-namespace {
-
-/// True where the section wrote lines into the report, which stand in its result under that key.
-bool wrote(const Json& sections, const char* section, const char* lines) {
-    const auto found = sections.find(section);
-    return found != sections.end() && found->is_object() && !found->at(lines).empty();
-}
-
-} // namespace
-
 QStringList remarksOf(const ComputedTask& done) {
     QStringList remarks;
     for (const ScriptedDialogs::Box& box : done.dialogs.messages)
@@ -22,12 +12,13 @@ QStringList remarksOf(const ComputedTask& done) {
                        .arg(QString::fromStdString(done.failure.at("tekst").get<std::string>()));
     if (!done.reportReady)
         return remarks;
-    if (done.task.plate && !wrote(done.sections, "Blacha", "Wiersze_blachy"))
+    const Stan_raportu& report = done.task.stan.raport;
+    if (done.task.plate && report.Liczba_wierszy_blachy <= 0)
         remarks += QStringLiteral("Blacha: nothing of the plate section stands in the report");
     if (done.task.anchor && done.task.stan.wyniki.Kotwy_OK == False)
         remarks += QStringLiteral("Kotwa: not selected, as the stress of an anchor is above its "
                                   "strength; nothing of it stands in the report");
-    else if (done.task.anchor && !wrote(done.sections, "Kotwa", "Wiersze_kotwy"))
+    else if (done.task.anchor && report.Liczba_wierszy_kotwy <= 0)
         remarks += QStringLiteral("Kotwa: nothing of the anchor section stands in the report");
     return remarks;
 }

@@ -5,10 +5,9 @@
 
 namespace ferna::batch {
 
-/// The result part of a section, and the run-time error that stopped it: null, or number and text.
+/// How a section of a task ended.
 struct SectionResult {
-    Json value;
-    Json Blad;
+    Json Blad; ///< the run-time error that stopped it: null, or number and text
 };
 
 /// {"numer", "tekst"} with the English text; where they are known also "klucz": the key of the

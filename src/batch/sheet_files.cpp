@@ -11,7 +11,7 @@ namespace {
 QStringList messagesOf(const ComputedTask& done) {
     QStringList messages;
     for (const ScriptedDialogs::Box& box : done.dialogs.messages)
-        messages += box.title + QStringLiteral(": ") + box.text;
+        messages += lineOf(box);
     if (done.failure.is_object() && done.failure.contains("tekst"))
         messages += QString::fromStdString(done.failure["tekst"].get<std::string>());
     return messages;
@@ -27,14 +27,15 @@ bool isSheetFile(const QString& file) {
     return sheet::isSheetFile(file);
 }
 
-sheet::Sheet sheetOf(const ComputedTask& done) {
+sheet::Sheet sheetOf(const ComputedTask& done, const combinations::Digest* table) {
     return sheet::makeSheet({.stan = done.task.stan,
                              .record = done.record,
                              .hasResults = done.reportReady,
                              .messages = messagesOf(done),
                              .project = done.task.fields.txtNaz_proj,
                              .program = QStringLiteral("ferna-wsad " FERNA_VERSION),
-                             .now = done.now});
+                             .now = done.now,
+                             .combinations = table});
 }
 
 void writeSheet(const ComputedTask& done, const QString& file) {

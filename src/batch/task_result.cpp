@@ -127,6 +127,23 @@ void writeResults(JsonWriter& json, const ComputedTask& done) {
     json.endArray();
 }
 
+/// In the order in which they were worked.
+void writeSections(JsonWriter& json, const ComputedTask& done) {
+    const Stan& stan = done.task.stan;
+    if (done.column) {
+        json.key("Slup");
+        writeSection(json, *done.column);
+    }
+    if (done.plate) {
+        json.key("Blacha");
+        writeSection(json, stan, *done.plate);
+    }
+    if (done.anchor) {
+        json.key("Kotwa");
+        writeSection(json, stan, *done.anchor);
+    }
+}
+
 void writeMessages(JsonWriter& json, const ScriptedDialogs& dialogs) {
     json.key("Komunikaty");
     json.beginArray();
@@ -151,16 +168,11 @@ std::string resultText(const ComputedTask& done, JsonWriter::Layout layout) {
     boolean(json, "Przerwij_obliczenia", done.solver.Przerwij_obliczenia);
     if (done.computed)
         writeResults(json, done);
-    if (done.sections.is_object()) {
-        for (const auto& [key, section] : done.sections.get_ref<const Json::object_t&>()) {
-            json.key(key);
-            json.value(section);
-        }
-    }
+    writeSections(json, done);
     json.key("Rownowaga");
     writeEquilibria(json, done.equilibria);
     json.key("Uwagi");
-    json.value(notesJson(notes::notesOf(done.record)));
+    writeNotes(json, notes::notesOf(done.record));
     json.endObject();
     return json.written();
 }

@@ -1,12 +1,9 @@
 #include "batch/task_run.h"
 
-#include "batch/anchor_section.h"
-#include "batch/column_section.h"
-#include "batch/plate_section.h"
 #include "command/calculation.h"
+#include "input/anchor_layout.h"
 #include "input/plate_drawing.h"
 #include "pages/sketch_files.h"
-#include "report/title_lines.h"
 #include "report/zone_sketch.h"
 #include "task/field_keys.h"
 
@@ -66,10 +63,9 @@ std::optional<int> caseOf(const RunTimeError& failure, int ended, const Stan& st
     return ended + 1;
 }
 
-/// Keeps the result of a section. False where a run-time error stopped it.
-bool keep(ComputedTask& done, const char* key, SectionResult&& result) {
-    done.sections[key] = std::move(result.value);
-    done.failure = std::move(result.Blad);
+/// Keeps how a section ended. False where a run-time error stopped it.
+bool keep(ComputedTask& done, const SectionResult& result) {
+    done.failure = result.Blad;
     return done.failure.is_null();
 }
 
@@ -77,21 +73,22 @@ bool keep(ComputedTask& done, const char* key, SectionResult&& result) {
 void runSections(ComputedTask& done, const RunOptions& options) {
     Stan& stan = done.task.stan;
     if (done.task.plate) {
-        PlateSectionResult result = runPlateTask(*done.task.plate, stan, done.dialogs);
-        done.record.plateWorked(result.facts);
-        if (result.section && !options.pictures.isEmpty())
-            for (const PlateSketch& sketch : result.section->sketches)
+        done.plate = runPlateTask(*done.task.plate, stan, done.dialogs);
+        done.record.plateWorked(done.plate->facts);
+        if (done.plate->section && !options.pictures.isEmpty())
+            for (const PlateSketch& sketch : done.plate->section->sketches)
                 savePlateSketch(options.pictures, sketch.image, QString::fromLatin1(sketch.file));
-        if (!keep(done, "Blacha", std::move(result)))
+        if (!keep(done, *done.plate))
             return;
     }
-    if (done.task.anchor)
-        keep(done, "Kotwa", runAnchorTask(*done.task.anchor, stan, done.dialogs));
+    if (done.task.anchor) {
+        done.anchor = runAnchorTask(*done.task.anchor, stan, done.dialogs);
+        keep(done, *done.anchor);
+    }
 }
 
 void prepareReport(ComputedTask& done, const RunOptions& options) {
     Stan& stan = done.task.stan;
-    Wypelnij_wiersze(done.raport, stan);
     for (int c = 1; c <= stan.obciazenia.Liczba_przyp; ++c) {
         if (wholePlate(stan, c))
             continue;
@@ -100,9 +97,13 @@ void prepareReport(ComputedTask& done, const RunOptions& options) {
         else
             Rysuj_strefe(done.raport, stan, c, options.pictures + u'/' + zoneSketchFile(c));
     }
-    done.dialogs.answers.push_back(done.task.Nazwa_stopy);
-    done.raport.titleLines = titleLines(options.dataFolder, stan.opcje.Nr_jezyka);
-    Naglowek(done.raport, stan, stan.opcje.Nr_normy == 0, options.now, done.dialogs);
+    done.raport.titleLines = options.titleLines->lines(stan.opcje.Nr_jezyka);
+    if (options.reports) {
+        fillAnchorLines(stan);
+        Wypelnij_wiersze(done.raport, stan);
+        done.dialogs.answers.push_back(done.task.Nazwa_stopy);
+        Naglowek(done.raport, stan, stan.opcje.Nr_normy == 0, options.now, done.dialogs);
+    }
     done.reportReady = true;
 }
 
@@ -112,9 +113,9 @@ ComputedTask run(Task task, const RunOptions& options) {
     ComputedTask done(std::move(task), options.now);
     Stan& stan = done.task.stan;
     stan.Teksty = options.catalogues->texts(stan.opcje.Nr_jezyka);
-    const bool columnKept =
-        !done.task.column
-        || keep(done, "Slup", runColumnTask(*done.task.column, stan, done.task.fields));
+    if (done.task.column)
+        done.column = runColumnTask(*done.task.column, stan, done.task.fields);
+    const bool columnKept = !done.column || keep(done, *done.column);
     done.equilibria = enteredEquilibria(stan, done.task.fields);
     done.record.begin(notes::entered(stan, done.task.fields, done.equilibria));
     done.record.labelled(done.task.Nazwa_stopy);

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "analysis/stan_przypadku.h"
-#include "batch/json_writer.h"
+#include "batch/anchor_section.h"
+#include "batch/column_section.h"
+#include "batch/plate_section.h"
 #include "command/entered_equilibria.h"
 #include "design/language.h"
 #include "notes/notes.h"
 #include "report/report_lines.h"
+#include "report/title_lines.h"
 #include "task/task.h"
 
 #include <QDateTime>
@@ -23,6 +26,9 @@ struct RunOptions {
     QString pictures = {}; ///< folder for the pictures of the report; empty: none are made
     std::shared_ptr<CatalogueStock> catalogues =
         std::make_shared<CatalogueStock>(dataFolder, catalogue); ///< as read for all tasks
+    std::shared_ptr<TitleLinesStock> titleLines =
+        std::make_shared<TitleLinesStock>(dataFolder); ///< the same
+    bool reports = true;                               ///< false: none will be asked for
 };
 
 /// What the solver leaves behind a case and the next case overwrites.
@@ -48,12 +54,16 @@ struct ComputedTask {
     notes::Record record;         ///< what the notes go by
     Json failure;          ///< the run-time error that stopped the run, null where there was none
     bool computed = false; ///< false where a validation ended the command
-    bool reportReady = false;                   ///< the lines of the report stand
+    bool reportReady = false; ///< the lines of the report stand, where reports may be asked for
     std::array<CaseTrace, MaxCases + 1> traces; ///< by case
-    Json sections;                              ///< results of "Slup", "Blacha", "Kotwa"
+    // The sections, as far as the run has come to them.
+    std::optional<ColumnSectionResult> column;
+    std::optional<PlateSectionResult> plate;
+    std::optional<AnchorSectionResult> anchor;
 };
 
-/// Computes a task as "Oblicz" would and prepares the lines of its report.
+/// Computes a task as "Oblicz" would and prepares the lines of its report: without reports only
+/// those that the result has too.
 /// Throws RunTimeError where the catalogue cannot be read; a run-time error of the calculation goes
 /// into the result.
 ComputedTask run(Task task, const RunOptions& options);

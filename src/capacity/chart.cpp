@@ -19,6 +19,12 @@ constexpr double nothing = 0.01; // kN, no horizontal force
 
 } // namespace
 
+ChartPoint pointOf(const Strength& strength, const NamedLoad& one) {
+    const std::optional<Utilisation> used = strength.used(one.load, one.shear);
+    return {one.load, one.name, used ? used->worst() : HUGE_VAL,
+            loadFactor(strength, one.load, one.shear)};
+}
+
 Chart chartOf(const Strength& strength, ChartPlane plane, double N, const Shear& shear,
               std::span<const ChartPoint> points) {
     Chart chart{plane, N, shear, strength.limits().tensionSideAlone, {}, {}};
@@ -44,10 +50,10 @@ bool liesInPlane(const Chart& chart, const equilibrium::Load& load) {
 }
 
 int nearestToLine(const Chart& chart) {
-    const auto most = std::max_element(
+    const auto least = std::min_element(
         chart.points.begin(), chart.points.end(),
-        [](const ChartPoint& one, const ChartPoint& other) { return one.used < other.used; });
-    return most == chart.points.end() ? -1 : static_cast<int>(most - chart.points.begin());
+        [](const ChartPoint& one, const ChartPoint& other) { return one.factor < other.factor; });
+    return least == chart.points.end() ? -1 : static_cast<int>(least - chart.points.begin());
 }
 
 QString titleOf(const Chart& chart) {
@@ -77,6 +83,11 @@ QString shearWords(const Chart& chart) {
 QString usedWords(double used) {
     return std::isfinite(used) ? general(std::round(1000 * used) / 10) + QStringLiteral("\u00a0%")
                                : QStringLiteral("brak równowagi");
+}
+
+QString factorWords(double factor) {
+    return std::isfinite(factor) ? general(std::round(100 * factor) / 100)
+                                 : QStringLiteral("dowolnie wiele");
 }
 
 int pointAt(const QRectF& place, const Chart& chart, qreal letter, QPointF at) {

@@ -18,15 +18,24 @@ enum class ChartPlane {
     NM2   ///< N upwards, M1 = 0
 };
 
-/// A load of a chart and how far its checks are used: `Utilisation::worst`, infinite where the
-/// column tips over.
+/// A load with what it is called, kN and kNm.
+struct NamedLoad {
+    QString name;
+    equilibrium::Load load;
+    Shear shear;
+};
+
+/// A load of a chart, how far its checks are used, and how far it may grow.
 struct ChartPoint {
     equilibrium::Load load;
     QString name;
-    double used = 0;
+    double used = 0;   ///< `Utilisation::worst`, infinite where the column tips over
+    double factor = 0; ///< `loadFactor`
 
     bool operator==(const ChartPoint&) const = default;
 };
+
+ChartPoint pointOf(const Strength& strength, const NamedLoad& one);
 
 /// What a chart shows.
 struct Chart {
@@ -45,7 +54,8 @@ Chart chartOf(const Strength& strength, ChartPlane plane, double N, const Shear&
 /// True where a load lies in the plane of the chart, and not only in its projection.
 bool liesInPlane(const Chart& chart, const equilibrium::Load& load);
 
-/// The point whose load can grow least: the most used one; of equal ones the first. -1 for none.
+/// The point whose load can grow least; of equal ones the first. -1 for none. Where the interaction
+/// governs, whose terms are squares, it need not be the most used one.
 int nearestToLine(const Chart& chart);
 
 /// The title over a chart: which plane, at which N.
@@ -54,6 +64,8 @@ QString titleOf(const Chart& chart);
 QString shearWords(const Chart& chart);
 /// How far a point is used: "62 %", or that the column tips over.
 QString usedWords(double used);
+/// A load factor with two decimals: "1,17".
+QString factorWords(double factor);
 
 /// Draws a chart on light paper. `letter` is the height of its letters in the painter's units; its
 /// texts keep their size in every size of the chart.

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <unordered_set>
 
 namespace ferna {
 
@@ -209,22 +210,42 @@ private:
         }
     }
 
+    /// The most used ones last, so that none of them is covered.
     void drawPoints() {
-        // The most used ones last, so that none of them is covered.
         std::vector<const ChartPoint*> order;
         for (const ChartPoint& point : chart_.points)
             order.push_back(&point);
         std::stable_sort(order.begin(), order.end(), [](const ChartPoint* a, const ChartPoint* b) {
             return a->used < b->used;
         });
+        constexpr std::size_t many = 2000;
+        if (order.size() > many)
+            order = uncovered(order);
         for (const ChartPoint* point : order)
             drawMark(frame_.atPoint(*point), point->used, liesInPlane(chart_, point->load));
+    }
+
+    /// Those whose mark no later one covers by more than a sliver, in their order: a hundred
+    /// thousand points are drawn in the time of the field's area.
+    std::vector<const ChartPoint*> uncovered(const std::vector<const ChartPoint*>& order) const {
+        const qreal cell = 0.2 * letter_;
+        std::unordered_set<std::int64_t> taken;
+        std::vector<const ChartPoint*> seen;
+        for (auto point = order.rbegin(); point != order.rend(); ++point) {
+            const QPointF at = frame_.atPoint(**point) / cell;
+            constexpr std::int64_t row = 1 << 20;
+            if (taken.insert(row * qRound64(at.y()) + qRound64(at.x())).second)
+                seen.push_back(*point);
+        }
+        std::reverse(seen.begin(), seen.end());
+        return seen;
     }
 
     QString nameOf(const ChartPoint& point, bool isNearest) const {
         QString words = point.name;
         if (isNearest)
-            words += QStringLiteral(": ") + usedWords(point.used);
+            words += QStringLiteral(": ") + usedWords(point.used) + QStringLiteral(", mnożnik ")
+                     + factorWords(point.factor);
         if (frame_.isOutside(point))
             words += QStringLiteral(" (poza rysunkiem)");
         return words;
@@ -234,9 +255,10 @@ private:
     void drawNames() {
         constexpr std::size_t few = 8;
         const int nearest = nearestToLine(chart_);
+        constexpr std::size_t weighed = 2000; // whose marks a name is to leave free
         std::vector<QRectF> taken;
         for (const ChartPoint& point : chart_.points)
-            if (chart_.points.size() <= few)
+            if (taken.size() < weighed)
                 taken.push_back(around(frame_.atPoint(point), QSizeF(letter_, letter_)));
         const auto name = [&](int i) {
             const ChartPoint& point = chart_.points[static_cast<std::size_t>(i)];
@@ -261,9 +283,11 @@ private:
         const qreal y = 1.2 * letter_;
         QRectF best;
         qreal least = HUGE_VAL;
-        for (const QPointF& shift : {QPointF(x, 0), QPointF(-x, 0), QPointF(0, -y), QPointF(0, y),
-                                     QPointF(x, -y), QPointF(-x, -y), QPointF(x, y), QPointF(-x, y),
-                                     QPointF(x, 2 * y), QPointF(x, -2 * y)}) {
+        for (const QPointF& shift :
+             {QPointF(x, 0), QPointF(-x, 0), QPointF(0, -y), QPointF(0, y), QPointF(x, -y),
+              QPointF(-x, -y), QPointF(x, y), QPointF(-x, y), QPointF(x, 2 * y), QPointF(x, -2 * y),
+              QPointF(-x, 3 * y), QPointF(-x, -3 * y), QPointF(0, 4 * y), QPointF(0, -4 * y),
+              QPointF(-x, 6 * y), QPointF(-x, -6 * y)}) {
             const QRectF place = around(at + shift, size);
             const QRectF cut = place & frame_.field();
             qreal covered = size.width() * size.height() - cut.width() * cut.height()
@@ -278,6 +302,11 @@ private:
                 least = covered;
                 best = place;
             }
+        }
+        if (!best.adjusted(-letter_, -letter_, letter_, letter_).contains(at)) { // far away
+            pen(quiet, 0.08);
+            painter_.drawLine(at, QPointF(std::clamp(at.x(), best.left(), best.right()),
+                                          std::clamp(at.y(), best.top(), best.bottom())));
         }
         painter_.fillRect(best, QColor(255, 255, 255, 200));
         pen(ink, 0.1);

@@ -19,21 +19,6 @@ bool isOfCase(const Obciazenia& loads, int c, const Combination& put) {
            && isSame(loads.Sila_Vy(c), put.shear.Vy);
 }
 
-bool hasStresses(CaseOutcome outcome) {
-    return outcome == CaseOutcome::WholePlate || outcome == CaseOutcome::Found
-           || outcome == CaseOutcome::FoundWithRaisedMoment
-           || outcome == CaseOutcome::FoundWithMovedAnchor || outcome == CaseOutcome::OneMoment;
-}
-
-/// The anchors of a whole plate keep what an earlier calculation left for them.
-Double largestTension(const Stan& stan, int c) {
-    Double largest = 0;
-    if (stan.wyniki.outcomes(c) != CaseOutcome::WholePlate)
-        for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
-            largest = std::max<Double>(largest, -stan.wyniki.Sigma_kotwy(i)(c));
-    return largest;
-}
-
 bool farApart(Double told, Double exact) {
     constexpr Double share = 0.02;
     constexpr Double visible = 0.01;
@@ -45,25 +30,36 @@ bool farApart(Double told, Double exact) {
 
 } // namespace
 
-bool Compared::differs() const {
-    if (!isComputed || !exact)
-        return isComputed != exact.has_value();
-    return farApart(concrete, exact->concrete) || farApart(tension, exact->tension);
+std::vector<Check> Compared::differing() const {
+    std::vector<Check> checks;
+    if (state == State::Compared && told && exact)
+        for (const Check check : allChecks)
+            if (farApart(told->of(check), exact->of(check)))
+                checks.push_back(check);
+    return checks;
 }
 
-std::vector<Compared> compared(const Stan& stan, const Evaluator& evaluator,
+bool Compared::differs() const {
+    return state == State::Compared
+           && (told.has_value() != exact.has_value() || !differing().empty());
+}
+
+std::vector<Compared> compared(const Stan& stan, const ToldUses& told, const Evaluator& evaluator,
                                const std::vector<std::pair<RowNumber, Combination>>& put) {
     std::vector<Compared> all;
-    const int cases = std::min<int>(stan.obciazenia.Liczba_przyp, static_cast<int>(put.size()));
-    for (int c = 1; c <= cases; ++c) {
-        const auto& [row, combination] = put.at(static_cast<std::size_t>(c - 1));
-        const CaseOutcome outcome = stan.wyniki.outcomes(c);
-        if (outcome == CaseOutcome::NotComputed || !isOfCase(stan.obciazenia, c, combination))
-            continue;
-        Compared one{c, row, hasStresses(outcome), 0, 0, evaluator.answer(combination)};
-        if (one.isComputed) {
-            one.concrete = stan.wyniki.Sigma_b(c) / (2 * evaluator.limits().Rb);
-            one.tension = largestTension(stan, c) / evaluator.limits().fd;
+    int c = 0;
+    for (const auto& [row, combination] : put) {
+        ++c;
+        Compared one;
+        one.caseNumber = c;
+        one.row = row;
+        if (c > stan.obciazenia.Liczba_przyp || !isOfCase(stan.obciazenia, c, combination)) {
+            one.state = Compared::State::OtherLoads;
+        } else if (stan.wyniki.outcomes(c) == CaseOutcome::NotComputed) {
+            one.state = Compared::State::NotReached;
+        } else {
+            one.told = told.at(static_cast<std::size_t>(c - 1));
+            one.exact = evaluator.answer(combination);
         }
         all.push_back(one);
     }

@@ -26,18 +26,27 @@ Double millimetres(Single cm) {
     return static_cast<Single>(whole / 10.0) == cm ? whole : mm;
 }
 
-} // namespace
-
-std::optional<std::vector<equilibrium::Anchor>> enteredAnchors(const Plyta_i_kotwy& plate) {
-    std::vector<equilibrium::Anchor> anchors;
+/// The anchors, in that room; empty where a diameter is off the series.
+std::optional<std::span<const equilibrium::Anchor>>
+anchorsIn(std::span<equilibrium::Anchor, MaxAnchors> room, const Plyta_i_kotwy& plate) {
+    std::size_t count = 0;
     for (int i = 1; i <= plate.Liczba_srub; ++i) {
         const std::optional<Double> area = coreArea(plate.Fi_kotwy(i));
         if (!area)
             return std::nullopt;
-        anchors.push_back(
-            {millimetres(plate.X_kotwy(i)), millimetres(plate.Y_kotwy(i)), *area * 100});
+        room[count++] = {millimetres(plate.X_kotwy(i)), millimetres(plate.Y_kotwy(i)), *area * 100};
     }
-    return anchors;
+    return room.first(count);
+}
+
+} // namespace
+
+std::optional<std::vector<equilibrium::Anchor>> enteredAnchors(const Plyta_i_kotwy& plate) {
+    std::array<equilibrium::Anchor, MaxAnchors> room;
+    const auto anchors = anchorsIn(room, plate);
+    return anchors ? std::optional<std::vector<equilibrium::Anchor>>(
+               std::in_place, anchors->begin(), anchors->end())
+                   : std::nullopt;
 }
 
 std::optional<equilibrium::Base> enteredBase(const Stan& stan, const InputFields& fields) {
@@ -46,7 +55,8 @@ std::optional<equilibrium::Base> enteredBase(const Stan& stan, const InputFields
     const std::optional<Double> n = number(fields.Text2);
     if (!length || !width || !n)
         return std::nullopt;
-    const auto anchors = enteredAnchors(stan.plyta);
+    std::array<equilibrium::Anchor, MaxAnchors> room;
+    const auto anchors = anchorsIn(room, stan.plyta);
     if (!anchors)
         return std::nullopt;
     const equilibrium::Base base(*length, *width, *n, *anchors);

@@ -1,10 +1,12 @@
 #include "editable/docx_parts.h"
 #include "editable/editable_report.h"
-#include "editable/package.h"
+#include "package/package.h"
 
 #include <cmath>
 
 namespace ferna::editable {
+
+using namespace package;
 
 namespace {
 

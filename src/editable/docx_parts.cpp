@@ -1,10 +1,12 @@
 #include "editable/docx_parts.h"
 
-#include "editable/package.h"
+#include "package/package.h"
 
 #include <cmath>
 
 namespace ferna::editable::docx {
+
+using namespace package;
 
 namespace {
 

@@ -1,10 +1,12 @@
 #include "editable/editable_report.h"
 #include "editable/odt_styles.h"
-#include "editable/package.h"
+#include "package/package.h"
 
 #include <QRegularExpression>
 
 namespace ferna::editable {
+
+using namespace package;
 
 namespace {
 

@@ -1,8 +1,10 @@
 #include "editable/odt_styles.h"
 
-#include "editable/package.h"
+#include "package/package.h"
 
 namespace ferna::editable::odt {
+
+using namespace package;
 
 namespace {
 

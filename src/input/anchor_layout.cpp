@@ -81,24 +81,27 @@ void addAnchors(Stan& stan, Adding way, const std::function<NewAnchor()>& ask) {
         throw RunTimeError(error::Subscript,
                            QStringLiteral("program przyjmuje najwyżej %1 śrub").arg(MaxAnchors));
     }
-    Lista_srub(stan);
+    fillAnchorLines(stan);
+}
+
+void fillAnchorLines(Stan& stan) {
+    for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
+        stan.raport.Wiersze_srub(i) = LineOfText()
+                                          .general(i)
+                                          .add(u".   M")
+                                          .general(int{stan.plyta.Fi_kotwy(i)})
+                                          .add(u"  x=")
+                                          .general(stan.plyta.X_kotwy_mm(i))
+                                          .add(u" mm  y=")
+                                          .general(stan.plyta.Y_kotwy_mm(i))
+                                          .add(u" mm");
 }
 
 QString Lista_srub(Stan& stan) {
-    LineOfText list;
-    for (int i = 1; i <= stan.plyta.Liczba_srub; ++i) {
-        QString& line = stan.raport.Wiersze_srub(i);
-        line = LineOfText()
-                   .general(i)
-                   .add(u".   M")
-                   .general(int{stan.plyta.Fi_kotwy(i)})
-                   .add(u"  x=")
-                   .general(stan.plyta.X_kotwy_mm(i))
-                   .add(u" mm  y=")
-                   .general(stan.plyta.Y_kotwy_mm(i))
-                   .add(u" mm");
-        list.add(line).add(u"\n");
-    }
+    fillAnchorLines(stan);
+    QString list;
+    for (int i = 1; i <= stan.plyta.Liczba_srub; ++i)
+        list += stan.raport.Wiersze_srub(i) + u'\n';
     return list;
 }
 

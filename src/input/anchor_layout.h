@@ -32,7 +32,10 @@ void addAnchors(Stan& stan, Adding way, const std::function<NewAnchor()>& ask);
 /// Stores one anchor in a slot: coordinates in mm as typed and in cm.
 void storeAnchorAt(Plyta_i_kotwy& plate, int slot, int x, int y, Integer fi);
 
-/// Rebuilds the line of every anchor in `Wiersze_srub`; returns them as the text of the list.
+/// Rebuilds the line of every anchor in `Wiersze_srub`.
+void fillAnchorLines(Stan& stan);
+
+/// The same; returns the lines as the text of the list.
 QString Lista_srub(Stan& stan);
 
 /// True where the listed millimetres are those that the calculation and the drawing take.

@@ -157,7 +157,7 @@ qreal drawVerdictAtTheRight(const Strokes& to, const PictureValues& values) {
             return 0;
         verdict = verdictOf(most.utilisation);
         words = to.options.words.checks.at(static_cast<std::size_t>(most.check))
-                + QStringLiteral(": ") + utilisationText(most.utilisation);
+                + QStringLiteral(": ") + utilisationText(most.utilisation, to.options.words.above);
         if (values.cases.size() > 1)
             words += QStringLiteral(" (%1)").arg(to.options.words.inCase.arg(most.caseNumber));
     }

@@ -24,7 +24,8 @@ struct PictureWords {
     /// In the order of `Check`.
     std::array<QString, 4> checks{QStringLiteral("beton"), QStringLiteral("rozciąganie"),
                                   QStringLiteral("ścinanie"), QStringLiteral("interakcja")};
-    QString inCase = QStringLiteral("przyp. %1"); ///< where a value of an envelope comes from
+    QString inCase = QStringLiteral("przyp. %1");  ///< where a value of an envelope comes from
+    QString above = QStringLiteral("ponad 999 %"); ///< a utilisation beyond what anyone compares
     /// At the foot; empty: no line there.
     QString view = QStringLiteral("Podgląd według dokładnej równowagi. Raport tworzy Oblicz.");
 };

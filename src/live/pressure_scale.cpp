@@ -47,6 +47,16 @@ void drawNumbers(const Strokes& to, const QRectF& bar, Double top) {
             number(i * step, withDecimalsOf(i * step, step));
 }
 
+/// Above the scale. Words longer than the scale is wide reach over the drawing, where nothing
+/// stands so high up.
+QRectF headingOf(const Strokes& to, const QString& words) {
+    const QRectF& room = to.frame.pressures();
+    const qreal width = 1.02 * QFontMetricsF(to.painter.font()).horizontalAdvance(words) + 1;
+    const qreal left =
+        std::max(to.frame.room().left(), std::min(room.left(), room.right() - width));
+    return {left, room.top(), room.right() - left, 1.6 * to.options.letter};
+}
+
 } // namespace
 
 void drawPressureScale(const Strokes& to, const PictureValues& values) {
@@ -58,12 +68,12 @@ void drawPressureScale(const Strokes& to, const PictureValues& values) {
     if (!most) {
         if (std::any_of(values.cases.begin(), values.cases.end(),
                         [](const PictureCase& one) { return one.found.exists; }))
-            to.fittingText({room.left(), room.top(), room.width(), 1.6 * h},
+            to.fittingText(headingOf(to, to.options.words.noPressure),
                            Qt::AlignRight | Qt::AlignVCenter, to.options.words.noPressure);
         return;
     }
-    to.fittingText({room.left(), room.top(), room.width(), 1.6 * h},
-                   Qt::AlignLeft | Qt::AlignVCenter, to.options.words.pressure);
+    to.fittingText(headingOf(to, to.options.words.pressure), Qt::AlignLeft | Qt::AlignVCenter,
+                   to.options.words.pressure);
     const QRectF bar(room.left(), room.top() + 2.4 * h, 1.3 * h,
                      std::max(room.height() - 4 * h, h));
     QLinearGradient gradient(bar.bottomLeft(), bar.topLeft());

@@ -84,9 +84,9 @@ void drawVerdict(QPainter& painter, const QRectF& in, Verdict verdict, const QCo
     painter.restore();
 }
 
-QString utilisationText(Double utilisation) {
+QString utilisationText(Double utilisation, const QString& above) {
     constexpr Double most = 9.995;
-    return utilisation < most ? notes::percent(utilisation) : QStringLiteral("ponad 999 %");
+    return utilisation < most ? notes::percent(utilisation) : above;
 }
 
 } // namespace ferna::live

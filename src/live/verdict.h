@@ -26,7 +26,7 @@ QColor verdictColour(Verdict verdict, Theme theme);
 /// triangle with a stroke, a cross in a square.
 void drawVerdict(QPainter& painter, const QRectF& in, Verdict verdict, const QColor& colour);
 
-/// A utilisation as "93,1 %"; "ponad 999 %" beyond what anyone compares.
-QString utilisationText(Double utilisation);
+/// A utilisation as "93,1 %"; `above` beyond what anyone compares.
+QString utilisationText(Double utilisation, const QString& above = QStringLiteral("ponad 999 %"));
 
 } // namespace ferna::live

@@ -160,8 +160,10 @@ Double working(Double moment, Double other) {
 }
 
 void momentRaised(const Record& record, int c, Notes& notes) {
+    if (record.told(c).outcome != CaseOutcome::FoundWithRaisedMoment)
+        return;
     const std::optional<equilibrium::Load> load = enteredLoad(record.given().fields, c);
-    if (record.told(c).outcome != CaseOutcome::FoundWithRaisedMoment || !load)
+    if (!load)
         return;
     const bool second = working(load->M2, load->M1) < working(load->M1, load->M2);
     const Double typed = second ? load->M2 : load->M1;

@@ -12,9 +12,9 @@ const QString mm = QStringLiteral(" mm");
 
 /// An anchor as entered: its place in mm as it is computed.
 struct Place {
-    Double x;
-    Double y;
-    Integer fi;
+    Double x = 0;
+    Double y = 0;
+    Integer fi = 0;
 };
 
 Place placeOf(const Plyta_i_kotwy& plate, int i) {
@@ -24,20 +24,33 @@ Place placeOf(const Plyta_i_kotwy& plate, int i) {
     return {millimetres(plate.X_kotwy(i)), millimetres(plate.Y_kotwy(i)), plate.Fi_kotwy(i)};
 }
 
+using Places = ByAnchor<Place>;
+Places placesOf(const Plyta_i_kotwy& plate) {
+    Places places;
+    for (int i = 1; i <= plate.Liczba_srub; ++i)
+        places(i) = placeOf(plate, i);
+    return places;
+}
+
+/// True where two places are nearer to one another than the larger of their diameters.
+bool coincide(const Place& a, const Place& b) {
+    const Double x = a.x - b.x;
+    const Double y = a.y - b.y;
+    const Double larger = std::max(a.fi, b.fi);
+    return std::fabs(x) < larger && std::fabs(y) < larger && std::hypot(x, y) < larger;
+}
+
 QString sizeOf(Integer fi) {
     return u'M' + general(fi);
 }
 
 /// Each anchor that stands in the place of an earlier one, with the first such.
-void coincidingAnchors(const Entered& entered, Notes& notes) {
-    const Plyta_i_kotwy& plate = entered.plate;
-    for (int j = 2; j <= plate.Liczba_srub; ++j) {
-        const Place second = placeOf(plate, j);
+void coincidingAnchors(const Entered& entered, const Places& places, Notes& notes) {
+    for (int j = 2; j <= entered.plate.Liczba_srub; ++j) {
+        const Place& second = places(j);
         for (int i = 1; i < j; ++i) {
-            const Place first = placeOf(plate, i);
-            const Double apart = std::hypot(first.x - second.x, first.y - second.y);
-            const Integer larger = std::max(first.fi, second.fi);
-            if (!(apart < larger))
+            const Place& first = places(i);
+            if (!coincide(first, second))
                 continue;
             notes.push_back(
                 {Code::KotwyWJednymMiejscu, 0, j, 0,
@@ -48,8 +61,8 @@ void coincidingAnchors(const Entered& entered, Notes& notes) {
                      .arg(sizeOf(first.fi))
                      .arg(j)
                      .arg(sizeOf(second.fi))
-                     .arg(number(apart))
-                     .arg(larger)});
+                     .arg(number(std::hypot(first.x - second.x, first.y - second.y)))
+                     .arg(std::max(first.fi, second.fi))});
             break;
         }
     }
@@ -64,13 +77,13 @@ std::optional<Double> sizeFrom(const QString& field) {
     }
 }
 
-void anchorsOffThePlate(const Entered& entered, Notes& notes) {
+void anchorsOffThePlate(const Entered& entered, const Places& places, Notes& notes) {
     const std::optional<Double> length = sizeFrom(entered.fields.Text3);
     const std::optional<Double> width = sizeFrom(entered.fields.Text4);
     if (!length || !width)
         return;
     for (int i = 1; i <= entered.plate.Liczba_srub; ++i) {
-        const Place anchor = placeOf(entered.plate, i);
+        const Place& anchor = places(i);
         const Double toEdge =
             std::min(*length / 2 - std::fabs(anchor.x), *width / 2 - std::fabs(anchor.y));
         const Double radius = std::max<Double>(anchor.fi, 0) / 2;
@@ -109,14 +122,14 @@ void diametersOffTheSeries(const Entered& entered, Notes& notes) {
     }
 }
 
-void listedElsewhere(const Entered& entered, Notes& notes) {
+void listedElsewhere(const Entered& entered, const Places& places, Notes& notes) {
     const Plyta_i_kotwy& plate = entered.plate;
     const auto same = [](Single listed, Single cm) { return CSng(listed / 10.0) == cm; };
     for (int i = 1; i <= plate.Liczba_srub; ++i) {
         if (same(plate.X_kotwy_mm(i), plate.X_kotwy(i))
             && same(plate.Y_kotwy_mm(i), plate.Y_kotwy(i)))
             continue;
-        const Place computed = placeOf(plate, i);
+        const Place& computed = places(i);
         notes.push_back(
             {Code::WspolrzedneListy, 0, i, 0,
              QStringLiteral("Kotwa %1: lista i wydruk podają miejsce %2 mm, a program liczy i "
@@ -159,11 +172,12 @@ void withoutEquilibrium(const Entered& entered, Notes& notes) {
 
 Notes inputNotes(const Entered& entered) {
     Notes notes;
+    const Places places = placesOf(entered.plate);
     withoutEquilibrium(entered, notes);
-    coincidingAnchors(entered, notes);
-    anchorsOffThePlate(entered, notes);
+    coincidingAnchors(entered, places, notes);
+    anchorsOffThePlate(entered, places, notes);
     diametersOffTheSeries(entered, notes);
-    listedElsewhere(entered, notes);
+    listedElsewhere(entered, places, notes);
     noCases(entered, notes);
     return notes;
 }

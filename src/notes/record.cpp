@@ -49,6 +49,8 @@ bool solved(const ToldCase& told) {
 PlateFacts plateFacts(const Stan& stan, const PlateForm& form, bool written) {
     PlateFacts facts;
     facts.refused = form.refused;
+    facts.why = form.why;
+    facts.withdrawn = form.withdrawn;
     for (int n = 1; n <= PlateChecks; ++n)
         facts.required.at(static_cast<std::size_t>(n - 1)) = stan.raport.Spr_blachy(n);
     facts.inputs = form.inputs;

@@ -45,7 +45,9 @@ bool solved(const ToldCase& told);
 
 /// What the checks of a plate section were given and have given; entries of check n at n - 1.
 struct PlateFacts {
-    std::array<bool, PlateChecks> refused{}; ///< asked for, and nothing came of it
+    std::array<bool, PlateChecks> refused{};   ///< asked for, and nothing came of it
+    std::array<QString, PlateChecks> why{};    ///< what the refusal has told; empty where nothing
+    std::array<bool, PlateChecks> withdrawn{}; ///< had a result or a refusal, and was withdrawn
     std::array<Integer, PlateChecks>
         required{};                 ///< thickness, mm; 0 where the check does not stand
     PlateInputs inputs;             ///< of the checks that stand

@@ -30,8 +30,16 @@ bool isCutShort(const QByteArray& bytes) {
     return isBitmap(bytes) && bytes.size() < at<quint32>(bytes, 2);
 }
 
-/// A bitmap of 24 bits a pixel, its rows from below, not compressed; empty for another kind.
-std::optional<QImage> plainBitmap(const QByteArray& bytes) {
+/// What the headers of a bitmap of 24 bits a pixel tell, its rows from below, not compressed.
+struct PlainBitmap {
+    qint32 width;
+    qint32 height;
+    qsizetype begin; // of the rows
+    qsizetype stride;
+};
+
+/// Empty for another kind.
+std::optional<PlainBitmap> plainBitmap(const QByteArray& bytes) {
     constexpr qint32 largest = 20'000; // pixels of a side
     if (!isBitmap(bytes) || bytes.size() < headers || at<quint16>(bytes, 26) != 1
         || at<quint16>(bytes, 28) != 24 || at<quint32>(bytes, 30) != 0)
@@ -44,14 +52,19 @@ std::optional<QImage> plainBitmap(const QByteArray& bytes) {
     const qsizetype stride = (qsizetype{width} * 3 + 3) / 4 * 4;
     if (bytes.size() - begin < stride * height)
         return std::nullopt;
-    QImage image(width, height, QImage::Format_RGB32);
+    return PlainBitmap{width, height, begin, stride};
+}
+
+/// Null where there is no memory for it.
+QImage imageOf(const PlainBitmap& bitmap, const QByteArray& bytes) {
+    QImage image(bitmap.width, bitmap.height, QImage::Format_RGB32);
     if (image.isNull())
-        return std::nullopt;
-    for (int y = 0; y < height; ++y) {
-        const auto* from = reinterpret_cast<const std::uint8_t*>(bytes.constData()) + begin
-                           + stride * (height - 1 - y);
+        return image;
+    for (int y = 0; y < bitmap.height; ++y) {
+        const auto* from = reinterpret_cast<const std::uint8_t*>(bytes.constData()) + bitmap.begin
+                           + bitmap.stride * (bitmap.height - 1 - y);
         auto* to = reinterpret_cast<QRgb*>(image.scanLine(y));
-        const int last = width - 1; // of the others a byte of the next pixel may be read too
+        const int last = bitmap.width - 1; // of the others a byte of the next pixel may be read too
         for (int x = 0; x < last; ++x, from += 3)
             to[x] = 0xFF000000U | qFromLittleEndian<quint32>(from);
         to[last] = qRgb(from[2], from[1], from[0]);
@@ -69,21 +82,31 @@ QImage opaque(const QImage& image) {
     return sheet;
 }
 
+QImage imageOf(const QByteArray& bytes) {
+    if (isCutShort(bytes))
+        return {};
+    if (const std::optional<PlainBitmap> bitmap = plainBitmap(bytes))
+        if (const QImage image = imageOf(*bitmap, bytes); !image.isNull())
+            return image;
+    const QImage image = QImage::fromData(bytes);
+    return image.isNull() ? image : opaque(image);
+}
+
 } // namespace
 
 QImage readPicture(const QString& path) {
-    QByteArray bytes;
     try {
-        bytes = readFileWhole(path);
+        return imageOf(readFileWhole(path));
     } catch (const RunTimeError&) {
         return {};
     }
-    if (isCutShort(bytes))
-        return {};
-    if (const std::optional<QImage> image = plainBitmap(bytes))
-        return *image;
-    const QImage image = QImage::fromData(bytes);
-    return image.isNull() ? image : opaque(image);
+}
+
+QSize pictureSize(const QByteArray& bytes) {
+    if (!isCutShort(bytes))
+        if (const std::optional<PlainBitmap> bitmap = plainBitmap(bytes))
+            return {bitmap->width, bitmap->height};
+    return imageOf(bytes).size();
 }
 
 } // namespace ferna

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QImage>
 #include <QString>
 
@@ -10,5 +11,9 @@ namespace ferna {
 /// Null where the file cannot be read, is no plain file, or is shorter than its header says, of
 /// which only the lower rows would be drawn.
 QImage readPicture(const QString& path);
+
+/// The size in pixels of the picture of a file with these bytes, as `readPicture` would read it;
+/// empty where it would read none. Of a bitmap as this program saves them the headers tell it.
+QSize pictureSize(const QByteArray& bytes);
 
 } // namespace ferna

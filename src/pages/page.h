@@ -46,12 +46,13 @@ struct Outline {
     QColor colour;
 };
 
-/// A picture, as outlines where it has them, else as its bitmap.
+/// A picture: outlines, or a bitmap. Where it has both, the outlines are drawn.
 struct Picture {
     QRectF rect;
     QImage image;
     std::vector<Outline> outlines = {};
 
+    bool isEmpty() const { return image.isNull() && outlines.empty(); }
     /// The part of an outline that lies on the picture, mm on the page.
     QPainterPath placed(const Outline& outline) const;
     /// Made smaller or larger about its corner.

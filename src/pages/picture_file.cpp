@@ -82,6 +82,12 @@ QByteArray bytesOf(const Picture& picture, const QString& ending) {
     return bytes;
 }
 
+bool isPictureFile(const QString& path) {
+    static const QStringList endings{QStringLiteral("png"), QStringLiteral("svg"),
+                                     QStringLiteral("pdf")};
+    return endings.contains(QFileInfo(path).suffix().toLower());
+}
+
 void savePicture(const Picture& picture, const QString& path) {
     writeFileWhole(path, bytesOf(picture, QFileInfo(path).suffix().toLower()));
 }

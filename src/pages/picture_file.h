@@ -22,6 +22,9 @@ struct Picture {
 /// ending, 57 where it cannot be drawn.
 QByteArray bytesOf(const Picture& picture, const QString& ending);
 
+/// True where the file's ending is one of these.
+bool isPictureFile(const QString& path);
+
 /// Writes a picture in the format of the file's ending. Errors as above and of `writeFileWhole`.
 void savePicture(const Picture& picture, const QString& path);
 

@@ -53,6 +53,11 @@ Single chartRatio(Integer dimension, Integer c) {
     return CSng(divided(dimension, c));
 }
 
+Single curveCoefficient(Single x0, Single y0, Single y1, Single w, Single q) {
+    return storedSingle(Extended{y0}
+                        + (Extended{q} - x0) * (Extended{y1} - Extended{y0}) / Extended{w});
+}
+
 Single chartCoefficient(Single y1, Single y2, Single p, Single L, Double d) {
     return storedSingle((Extended{y2} - Extended{y1}) * (Extended{p} - Extended{L}) / Extended{d}
                         + Extended{y1});

@@ -93,6 +93,24 @@ inline constexpr Clause chartPlaceClause{{.standard = standard::basePlates, .ann
                                          u"{a} / {c}",
                                          {{{u"a", u"mm"}, {u"c", u"mm"}}}};
 
+/// Coefficient on one curve of a chart at the ratio `q`: on a straight piece that begins at (x0,
+/// y0) and rises by y1 - y0 over the width w. Computed in the 80-bit format.
+Single curveCoefficient(Single x0, Single y0, Single y1, Single w, Single q);
+inline constexpr std::array<Symbol, mostSymbols> curveSymbols{
+    {{u"x0", u""}, {u"y0", u""}, {u"y1", u""}, {u"w", u""}, {u"q", u""}}};
+/// Fragment fixed on three edges.
+inline constexpr Clause threeEdgesCurveClause{
+    {.standard = standard::basePlates, .annex = u"B", .figure = u"B.2"},
+    {u"y", u""},
+    u"{y0} + ({q} - {x0}) · ({y1} - {y0}) / {w}",
+    curveSymbols};
+/// Fragment fixed on two edges.
+inline constexpr Clause twoEdgesCurveClause{
+    {.standard = standard::basePlates, .annex = u"B", .figure = u"B.3"},
+    {u"y", u""},
+    u"{y0} + ({q} - {x0}) · ({y1} - {y0}) / {w}",
+    curveSymbols};
+
 /// Coefficient between the neighbouring curves of a chart: `y1` on the curve of the ratio `L`, `y2`
 /// on the curve `d` further, at the ratio `p`. Computed in the 80-bit format.
 Single chartCoefficient(Single y1, Single y2, Single p, Single L, Double d);

@@ -16,10 +16,7 @@ struct Segment {
     Single y1;
     Single w;
 
-    Single at(Single x) const {
-        return storedSingle(Extended{y0}
-                            + (Extended{x} - x0) * (Extended{y1} - Extended{y0}) / Extended{w});
-    }
+    Single at(Single x) const { return curveCoefficient(x0, y0, y1, w, x); }
 };
 
 /// The width as a decimal: the nodes have two places.
@@ -50,29 +47,38 @@ bool ownsItsEnd(const ChartCurve& curve, std::size_t i) {
     return curve.nodeOnItsLeft && curve.nodes[i + 1].x == *curve.nodeOnItsLeft;
 }
 
-void readCurve(const Chart& chart, Integer krzywa, Single x, Single& y, bool& ok) {
-    ok = true;
-    const ChartCurve* curve = nullptr;
+const ChartCurve* curveOf(const Chart& chart, Integer krzywa) {
     for (const ChartCurve& one : chart.curves)
         if (one.krzywa == krzywa)
-            curve = &one;
-    if (!curve) {
-        y = 0;
-        return;
+            return &one;
+    return nullptr;
+}
+
+bool isOutside(const ChartCurve& curve, Single x) {
+    const bool belowFirst =
+        curve.krzywa != curveWithoutLowerLimit && x < CSng(curve.nodes.front().x);
+    return belowFirst || x > CSng(curve.nodes.back().x);
+}
+
+/// The segment that x belongs to; none at the end of a curve whose last segment is open.
+std::optional<Segment> segmentAt(const Chart& chart, const ChartCurve& curve, Single x) {
+    for (std::size_t i = 0; i + 1 < curve.nodes.size(); ++i) {
+        const Segment segment = segmentOf(chart, curve, i);
+        if (x < segment.to || (x == segment.to && ownsItsEnd(curve, i)))
+            return segment;
     }
-    const bool belowFirst = krzywa != curveWithoutLowerLimit && x < CSng(curve->nodes.front().x);
-    if (belowFirst || x > CSng(curve->nodes.back().x)) {
+    return std::nullopt;
+}
+
+void readCurve(const Chart& chart, Integer krzywa, Single x, Single& y, bool& ok) {
+    ok = true;
+    const ChartCurve* const curve = curveOf(chart, krzywa);
+    if (curve != nullptr && isOutside(*curve, x)) {
         ok = false;
         return;
     }
-    for (std::size_t i = 0; i + 1 < curve->nodes.size(); ++i) {
-        const Segment segment = segmentOf(chart, *curve, i);
-        if (x < segment.to || (x == segment.to && ownsItsEnd(*curve, i))) {
-            y = segment.at(x);
-            return;
-        }
-    }
-    y = 0; // x is the end of a curve whose last segment is open
+    const auto segment = curve != nullptr ? segmentAt(chart, *curve, x) : std::nullopt;
+    y = segment ? segment->at(x) : 0;
 }
 
 constexpr Single fineLimit = 3; // b/c from which the curves of figure B.3 stand 0.5 apart
@@ -124,6 +130,16 @@ void Wsp_rysB2(Integer krzywa, Single x, Single& y, bool& ok) {
 
 void Wsp_rysB3(Integer krzywa, Single x, Single& y, bool& ok) {
     readCurve(chartB3(), krzywa, x, y, ok);
+}
+
+std::optional<ChartPiece> chartPiece(int check, Integer krzywa, Single x) {
+    const Chart& chart = check == 7 ? chartB2() : chartB3();
+    const ChartCurve* const curve = curveOf(chart, krzywa);
+    if (curve == nullptr || isOutside(*curve, x))
+        return std::nullopt;
+    const auto segment = segmentAt(chart, *curve, x);
+    return segment ? std::optional(ChartPiece{segment->x0, segment->y0, segment->y1, segment->w})
+                   : std::nullopt;
 }
 
 ChartRow chartRow(int check, Single p) {

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <optional>
+
 namespace ferna {
 
 /// Reads one curve of figure B.2 (`Wsp_rysB3`: B.3) of PN-B-03215:1998, Annex B. `krzywa` is ten
@@ -22,6 +24,20 @@ struct ChartRow {
 
 /// `check` is 7 (figure B.2) or 8 (figure B.3).
 ChartRow chartRow(int check, Single p);
+
+/// The piece of a curve that a coefficient was read from: a straight line from (x0, y0), rising by
+/// y1 - y0 over the width w. Not everywhere the ends of the piece, where the table departs from
+/// them.
+struct ChartPiece {
+    Single x0;
+    Single y0;
+    Single y1;
+    Single w;
+};
+
+/// The piece that serves a/c = `x` on a curve of figure B.2 (check 7) or B.3 (check 8); none where
+/// the coefficient is not read from one.
+std::optional<ChartPiece> chartPiece(int check, Integer krzywa, Single x);
 
 /// Coefficient y between the curves, with the values on the way to it.
 struct ChartReading {

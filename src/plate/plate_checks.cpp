@@ -297,6 +297,7 @@ void Sprawdz_grubosc(const PlateWork& work, Single& t, Single& Fd, Integer n, In
             correctForThickness(work, t, Fd, g);
     } catch (const TooThick& refusal) {
         show(work.dialogs, refusal.message);
+        work.form.why.at(at(n + 1)) = refusal.message;
         Grub_wyn = 0;
         work.form.face.Label8_visible[at(n + 1)] = false;
         ok = False;
@@ -309,6 +310,9 @@ void Sprawdz_grubosc(const PlateWork& work, Single& t, Single& Fd, Integer n, In
 void computePlateCheck(const PlateWork& work, int check) {
     bool& refused = work.form.refused.at(at(check));
     refused = true; // until it has a result
+    QString& why = work.form.why.at(at(check));
+    why.clear();
+    work.form.withdrawn.at(at(check)) = false;
     if (!work.form.face.cmdOblicz_enabled.at(at(check)))
         return;
     Integer& result = work.stan.raport.Spr_blachy(check);
@@ -319,8 +323,10 @@ void computePlateCheck(const PlateWork& work, int check) {
         commands[at(check)](work);
     } catch (const Refusal& refusal) {
         show(work.dialogs, refusal.text);
+        why = refusal.text;
     } catch (const RunTimeError& failure) {
         result = 0;
+        why = failure.text();
         work.form.face.Label8_visible[at(check)] = false;
         if (check > lastWithHandler)
             throw;

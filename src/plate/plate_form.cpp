@@ -56,6 +56,16 @@ void giveBackExcluded(const Stan& stan, PlateFace& face, int check) {
     }
 }
 
+void withdraw(Stan& stan, PlateForm& form, int n) {
+    const auto at = static_cast<std::size_t>(n - 1);
+    bool& refused = form.refused.at(at);
+    if (stan.raport.Spr_blachy(n) > 0 || refused)
+        form.withdrawn.at(at) = true;
+    stan.raport.Spr_blachy(n) = 0;
+    form.face.Label8_visible.at(at) = false;
+    refused = false;
+}
+
 } // namespace
 
 const PlateTab& plateTab(int tab) {
@@ -93,15 +103,11 @@ void leaveGradeList(Stan& stan, PlateForm& form, Dialogs& dialogs, PlateSteelHos
     }
     form.Nr_stali_blachy = CInt(form.fields.cmbStalb + 1);
     for (int n = 1; n <= PlateChecks; ++n)
-        stan.raport.Spr_blachy(n) = 0;
-    form.face.Label8_visible.fill(false);
-    form.refused.fill(false);
+        withdraw(stan, form, n);
 }
 
 void cmdAnulujto(Stan& stan, PlateForm& form, int i) {
-    stan.raport.Spr_blachy(i + 1) = 0;
-    form.face.Label8_visible.at(static_cast<std::size_t>(i)) = false;
-    form.refused.at(static_cast<std::size_t>(i)) = false;
+    withdraw(stan, form, i + 1);
     Integer m = 0;
     for (int n = 1; n <= PlateChecks; ++n)
         m = std::max(m, stan.raport.Spr_blachy(n));

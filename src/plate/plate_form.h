@@ -81,8 +81,10 @@ struct PlateForm {
     PlateFields fields;
     PlateFace face;
     PlateInputs inputs;
-    std::array<bool, PlateChecks> refused{}; ///< check n at n - 1: pressed last without a result
-    Integer Nr_stali_blachy = 0;             ///< item of cmbStalb plus 1, as last taken
+    std::array<bool, PlateChecks> refused{};   ///< check n at n - 1: pressed last without a result
+    std::array<QString, PlateChecks> why{};    ///< what its refusal has told; empty where nothing
+    std::array<bool, PlateChecks> withdrawn{}; ///< pressed, and withdrawn since
+    Integer Nr_stali_blachy = 0;               ///< item of cmbStalb plus 1, as last taken
 };
 
 /// A tab of the form, in the order on the screen.

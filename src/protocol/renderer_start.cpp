@@ -60,7 +60,7 @@ QString rendererPath(const QString& folder) {
 }
 
 RendererReport runRenderer(const QString& folder, const QStringList& options, const WaitOn& waitOn,
-                           quintptr window) {
+                           const RendererClient& client) {
     const QString renderer = rendererPath(folder);
     if (!QFileInfo::exists(renderer))
         throw RunTimeError(error::FileNotFound,
@@ -69,7 +69,8 @@ RendererReport runRenderer(const QString& folder, const QStringList& options, co
     QProcess process;
     process.setWorkingDirectory(folder);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QLatin1String(news::variable), QString::number(window));
+    environment.insert(QLatin1String(news::variable), QString::number(client.window));
+    environment.insert(QLatin1String(languageVariable), client.language);
     process.setProcessEnvironment(environment);
     process.setChildProcessModifier(
         [parent = QCoreApplication::applicationPid()] { endWithParent(parent); });

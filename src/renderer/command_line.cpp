@@ -89,7 +89,7 @@ QString explanations() {
                "  --emf PLIK     zapisuje strony jako EMF\n"
                "  --dpi N        rozdzielczość PNG, od %1 do %2 (bez opcji %3)\n"
                "  --tytul TEKST, --temat TEKST, --autor TEKST, --jezyk ZNACZNIK\n"
-               "                 własności dokumentu PDF; język np. pl-PL\n"
+               "                 własności dokumentu PDF; język raportu np. pl-PL\n"
                "  -h, --help     pokazuje tę pomoc\n"
                "  -v, --version  pokazuje wersję\n"
                "\n"

@@ -4,7 +4,6 @@
 #include "pages/drawing.h"
 #include "pages/text_measure.h"
 #include "protocol/renderer_files.h"
-#include "renderer/vector_twin.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
 
@@ -39,6 +38,19 @@ std::size_t segmentEnd(const std::vector<wyd::Record>& records, std::size_t firs
     return first;
 }
 
+QString fileOf(const wyd::PictureRecord& picture, const QString& commandFile) {
+    return wyd::pathOfLine(QFileInfo(commandFile).absolutePath(), picture.path);
+}
+
+/// What stands in place of a picture that cannot be read, before its name.
+QString missingPicture(const QString& language) {
+    static const QHash<QString, QString> words{
+        {QStringLiteral("en"), QStringLiteral("picture missing: ")},
+        {QStringLiteral("fr"), QStringLiteral("image manquante : ")},
+        {QStringLiteral("de"), QStringLiteral("Bild fehlt: ")}};
+    return words.value(language.section(u'-', 0, 0).toLower(), QStringLiteral("brak rysunku "));
+}
+
 /// The box of both; other than Qt's, one without width or height counts too.
 QRectF united(const QRectF& a, const QRectF& b) {
     return {QPointF(qMin(a.left(), b.left()), qMin(a.top(), b.top())),
@@ -46,6 +58,14 @@ QRectF united(const QRectF& a, const QRectF& b) {
 }
 
 } // namespace
+
+QStringList pictureFiles(const QString& path, const std::vector<wyd::Record>& records) {
+    QStringList files;
+    for (const wyd::Record& record : records)
+        if (const auto* picture = std::get_if<wyd::PictureRecord>(&record.content))
+            files += fileOf(*picture, path);
+    return files;
+}
 
 QRectF Chain::box() const {
     QRectF all;
@@ -179,37 +199,36 @@ void RecordInterpreter::picture(const wyd::PictureRecord& record, int line) {
     }
     Block block;
     block.rect = {*pictureX_, *pictureY_, *pictureWidth_, *pictureHeight_};
-    block.picture = {block.rect, image(record.path, line)};
-    if (!block.picture.image.isNull())
-        block.picture.outlines = vectorsOf(fileOf(record.path), block.rect);
-    pictureBytes_ += block.picture.image.sizeInBytes();
+    const QString file = fileOf(record, path_);
+    const Twin twin = twins_.of(file);
+    block.picture = {block.rect, {}, outlinesOf(twin, block.rect)};
+    if (block.picture.isEmpty())
+        block.picture.image = image(file, line);
+    constexpr qsizetype bytesOfAPixel = 4;
+    const QSize pixels = block.picture.outlines.empty() ? block.picture.image.size() : twin.pixels;
+    pictureBytes_ += bytesOfAPixel * pixels.width() * pixels.height();
     if (pictureBytes_ > wyd::mostPictureBytes)
         throw RunTimeError(error::DeviceIO, QStringLiteral("%1, wiersz %2: rysunki mają razem "
                                                            "ponad %3 MB")
                                                 .arg(QDir::toNativeSeparators(path_))
                                                 .arg(line)
                                                 .arg(wyd::mostPictureBytes / megabyte));
-    if (block.picture.image.isNull())
+    if (block.picture.isEmpty())
         standIn(block, QFileInfo(QDir::fromNativeSeparators(record.path)).fileName());
     segment_.blocks.push_back(std::move(block));
 }
 
-QString RecordInterpreter::fileOf(const QString& path) const {
-    return wyd::pathOfLine(QFileInfo(path_).absolutePath(), path);
-}
-
-QImage RecordInterpreter::image(const QString& path, int line) {
-    const QString full = fileOf(path);
-    const auto known = images_.constFind(full);
+QImage RecordInterpreter::image(const QString& file, int line) {
+    const auto known = images_.constFind(file);
     if (known != images_.constEnd())
         return *known;
-    const QImage image = readPicture(full);
+    const QImage image = readPicture(file);
     if (image.isNull())
         complaints_.add(path_, line,
-                        (QFileInfo::exists(full) ? QStringLiteral("nie można wczytać rysunku %1")
+                        (QFileInfo::exists(file) ? QStringLiteral("nie można wczytać rysunku %1")
                                                  : QStringLiteral("brak pliku rysunku %1"))
-                            .arg(QDir::toNativeSeparators(full)));
-    images_.insert(full, image);
+                            .arg(QDir::toNativeSeparators(file)));
+    images_.insert(file, image);
     return image;
 }
 
@@ -219,7 +238,7 @@ void RecordInterpreter::standIn(Block& block, const QString& file) {
     for (std::size_t i = 0; i < 4; ++i)
         block.lines.push_back({QLineF(corners[i], corners[(i + 1) % 4]), lineWidthMm_});
     pages::Text text;
-    text.text = QStringLiteral("brak rysunku ") + file;
+    text.text = missingPicture(language_) + file;
     text.height = 280;
     measure(text);
     const double room = r.width() - 2;

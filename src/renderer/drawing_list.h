@@ -2,6 +2,7 @@
 
 #include "pages/page.h"
 #include "protocol/commands.h"
+#include "renderer/vector_twin.h"
 
 #include <QHash>
 
@@ -32,7 +33,7 @@ struct TextLine {
 /// A picture, or straight lines drawn in one go.
 struct Block {
     QRectF rect;
-    pages::Picture picture; ///< its image is null for straight lines
+    pages::Picture picture; ///< empty for straight lines
     std::vector<pages::Line> lines;
     std::vector<pages::Text> texts; ///< the name in place of a missing picture
 
@@ -47,12 +48,18 @@ struct Segment {
     std::vector<Block> blocks;
 };
 
+/// The files of the pictures of a command file with these records.
+QStringList pictureFiles(const QString& path, const std::vector<wyd::Record>& records);
+
 /// Turns records into positioned primitives. `lineWidthMm` is that of drawn lines. A picture that
-/// cannot be read is named in `complaints` and an outline with its name stands in its place.
+/// cannot be read is named in `complaints` and an outline with its name stands in its place, with
+/// words in `language` (BCP 47), Polish where it is another one or none.
 class RecordInterpreter {
 public:
-    RecordInterpreter(QString path, double lineWidthMm, wyd::Complaints& complaints)
-        : path_(std::move(path)), lineWidthMm_(lineWidthMm), complaints_(complaints) {}
+    RecordInterpreter(QString path, double lineWidthMm, const Twins& twins,
+                      wyd::Complaints& complaints, QString language = {})
+        : path_(std::move(path)), lineWidthMm_(lineWidthMm), twins_(twins), complaints_(complaints),
+          language_(std::move(language)) {}
 
     /// The frame file: one segment.
     Segment frame(const std::vector<wyd::Record>& records);
@@ -67,12 +74,13 @@ private:
     void picture(const wyd::PictureRecord& record, int line);
     void pen(const wyd::PenRecord& record);
     void standIn(Block& block, const QString& file);
-    QString fileOf(const QString& path) const;
-    QImage image(const QString& path, int line);
+    QImage image(const QString& file, int line);
 
     QString path_;
     double lineWidthMm_;
+    const Twins& twins_;
     wyd::Complaints& complaints_;
+    QString language_;
     Segment segment_;
     QHash<QString, QImage> images_;
     qsizetype pictureBytes_ = 0; ///< as drawn: a picture that is placed twice counts twice

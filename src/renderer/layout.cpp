@@ -53,6 +53,14 @@ QString projectOf(const Segment& frame) {
     return {};
 }
 
+std::vector<wyd::Record> frameOf(const Job& job, wyd::Complaints& complaints) {
+    std::vector<wyd::Record> frame = wyd::readRecordFile(job.framePath, complaints);
+    if (frame.empty())
+        throw RunTimeError(error::DeviceIO, QDir::toNativeSeparators(job.framePath)
+                                                + QStringLiteral(": brak poleceń ramki strony"));
+    return frame;
+}
+
 } // namespace
 
 std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int firstPage) {
@@ -65,17 +73,24 @@ std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int fi
     return flow.takePages();
 }
 
-pages::Report compose(const Job& job, wyd::Complaints& complaints) {
-    const std::vector<wyd::Record> frameRecords = wyd::readRecordFile(job.framePath, complaints);
-    if (frameRecords.empty())
-        throw RunTimeError(error::DeviceIO, QDir::toNativeSeparators(job.framePath)
-                                                + QStringLiteral(": brak poleceń ramki strony"));
-    const std::vector<wyd::Record> bodyRecords = wyd::readRecordFile(job.bodyPath, complaints);
+Commands::Commands(const Job& job, wyd::Complaints& complaints)
+    : frame_(frameOf(job, complaints)), body_(wyd::readRecordFile(job.bodyPath, complaints)),
+      twins_(pictureFiles(job.framePath, frame_) + pictureFiles(job.bodyPath, body_)) {}
+
+pages::Report compose(const Job& job, wyd::Complaints& complaints, const QString& language) {
+    return compose(job, Commands(job, complaints), complaints, language);
+}
+
+pages::Report compose(const Job& job, const Commands& commands, wyd::Complaints& complaints,
+                      const QString& language) {
     const double width = job.lineWidthPt * mmPerPoint;
-    Segment frame = RecordInterpreter(job.framePath, width, complaints).frame(frameRecords);
-    std::vector<Segment> body =
-        RecordInterpreter(job.bodyPath, width, complaints).body(bodyRecords, frameRecords);
+    const auto interpreter = [&](const QString& path) {
+        return RecordInterpreter(path, width, commands.twins(), complaints, language);
+    };
+    Segment frame = interpreter(job.framePath).frame(commands.frame());
+    std::vector<Segment> body = interpreter(job.bodyPath).body(commands.body(), commands.frame());
     pages::Report report;
+    report.language = language;
     report.title = titleOf(frame);
     report.project = projectOf(frame);
     report.pages = layOut(std::move(frame), std::move(body), job.firstPage);

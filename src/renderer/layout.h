@@ -16,8 +16,28 @@ inline constexpr double bodyTop = 40;        ///< the body of a following page s
 /// rule of the frame or off the sheet is set in smaller letters.
 std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int firstPage);
 
-/// Reads both command files of a job and lays them out. Errors of `readLines`, 57 where the frame
-/// file holds no record at all.
-pages::Report compose(const Job& job, wyd::Complaints& complaints);
+/// The command files of a job as read; the twins of their pictures are being looked for. Needs no
+/// Qt that has been started.
+class Commands {
+public:
+    /// Errors of `readLines`, 57 where the frame file holds no record at all.
+    Commands(const Job& job, wyd::Complaints& complaints);
+
+    const std::vector<wyd::Record>& frame() const { return frame_; }
+    const std::vector<wyd::Record>& body() const { return body_; }
+    const Twins& twins() const { return twins_; }
+
+private:
+    std::vector<wyd::Record> frame_;
+    std::vector<wyd::Record> body_;
+    Twins twins_;
+};
+
+/// Lays the command files of a job out. `language` (BCP 47) is that of the words which are not the
+/// files' own, and of the report.
+pages::Report compose(const Job& job, const Commands& commands, wyd::Complaints& complaints,
+                      const QString& language = {});
+/// The same with the reading.
+pages::Report compose(const Job& job, wyd::Complaints& complaints, const QString& language = {});
 
 } // namespace ferna::renderer

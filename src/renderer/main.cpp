@@ -1,5 +1,6 @@
 #include "pages/drawing.h"
 #include "protocol/renderer_files.h"
+#include "protocol/renderer_start.h"
 #include "protocol/reply.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
@@ -32,30 +33,34 @@ void quiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
 
 /// Starts Qt: with widgets on the user's screen, or without either.
 std::unique_ptr<QGuiApplication> startQt(int& argc, char** argv, bool screen) {
-    qInstallMessageHandler(quiet);
     if (!screen) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
         return std::make_unique<QGuiApplication>(argc, argv);
     }
-    if (!hasScreen())
-        throw RunTimeError(error::DeviceIO, QStringLiteral("ten tryb zlecenia wymaga ekranu"));
     auto application = std::make_unique<QApplication>(argc, argv);
     dressApplication(*application);
     return application;
 }
 
+QString languageOf(const Call& call) {
+    return call.language.isEmpty() ? qEnvironmentVariable(languageVariable) : call.language;
+}
+
 void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage) {
-    const std::unique_ptr<QGuiApplication> application =
-        startQt(argc, argv, needsScreen(call, job));
+    qInstallMessageHandler(quiet);
+    const bool screen = needsScreen(call, job);
+    if (screen && !hasScreen())
+        throw RunTimeError(error::DeviceIO, QStringLiteral("ten tryb zlecenia wymaga ekranu"));
+    wyd::Complaints complaints;
+    const Commands commands(job, complaints); // on a thread of theirs, too, while Qt starts
+    const std::unique_ptr<QGuiApplication> application = startQt(argc, argv, screen);
     const QString face = QFontInfo(drawing::fontOf(1)).family();
     if (face != drawing::textFace)
         say(QStringLiteral("brak czcionki %1, zamiast niej %2").arg(drawing::textFace, face));
-    wyd::Complaints complaints;
-    pages::Report report = compose(job, complaints);
+    pages::Report report = compose(job, commands, complaints, languageOf(call));
     report.documentTitle = call.title;
     report.subject = call.subject;
     report.author = call.author;
-    report.language = call.language;
     for (const QString& line : complaints.lines())
         say(line);
     deliver(report, call, job);

@@ -63,7 +63,7 @@ void addTo(pages::Page& page, const TextLine& line) {
 }
 
 void addTo(pages::Page& page, const Block& block) {
-    if (!block.picture.image.isNull())
+    if (!block.picture.isEmpty())
         page.pictures.push_back(block.picture);
     page.lines.insert(page.lines.end(), block.lines.begin(), block.lines.end());
     page.texts.insert(page.texts.end(), block.texts.begin(), block.texts.end());

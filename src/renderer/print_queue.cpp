@@ -2,8 +2,12 @@
 
 #ifdef FERNA_CUPS
 #include <cups/cups.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <optional>
+#include <string_view>
 #endif
 
 namespace ferna::renderer {
@@ -34,6 +38,35 @@ private:
     cups_dest_t* queue_;
 };
 
+const QString unreachable = QStringLiteral("drukarka jest nieosiągalna");
+
+struct NetworkDevice {
+    QByteArray host;
+    int port;
+};
+
+/// The place in the network of a printer with that address; empty for one of another kind.
+std::optional<NetworkDevice> networkDevice(const QByteArray& address) {
+    std::array<char, 32> scheme;
+    std::array<char, 256> user;
+    std::array<char, 256> host;
+    std::array<char, 1024> resource;
+    int port = 0;
+    const auto lengthOf = [](const auto& text) { return static_cast<int>(text.size()); };
+    if (httpSeparateURI(HTTP_URI_CODING_ALL, address.constData(), scheme.data(), lengthOf(scheme),
+                        user.data(), lengthOf(user), host.data(), lengthOf(host), &port,
+                        resource.data(), lengthOf(resource))
+        < HTTP_URI_STATUS_OK)
+        return std::nullopt;
+    constexpr std::array<std::string_view, 6> kinds{"socket", "lpd",  "ipp",
+                                                    "ipps",   "http", "https"};
+    constexpr int ofSockets = 9100; // where the address says none
+    const bool isKnown = std::find(kinds.begin(), kinds.end(), scheme.data()) != kinds.end();
+    if (!isKnown || host.front() == '\0')
+        return std::nullopt;
+    return NetworkDevice{host.data(), port > 0 ? port : ofSockets};
+}
+
 /// True where no server answers; the queue may be there all the same.
 bool isServerSilent() {
     http_t* const server = httpConnect2(cupsServer(), ippPort(), nullptr, AF_UNSPEC,
@@ -63,8 +96,27 @@ QString queueObstacle(const QString& name) {
         return QStringLiteral("kolejka jest wstrzymana");
     if (reasons.contains("offline") || reasons.contains("connecting-to-device")
         || reasons.contains("timed-out"))
-        return QStringLiteral("drukarka jest nieosiągalna");
+        return unreachable;
     return {};
+}
+
+QString deviceObstacle(const QString& name) {
+    constexpr int patience = 2000; // ms
+    const QByteArray server = cupsServer();
+    if (!server.startsWith('/') && server != "localhost")
+        return {};
+    const std::optional<NetworkDevice> device = networkDevice(Queue(name).option("device-uri"));
+    if (!device)
+        return {};
+    http_addrlist_t* const places = httpAddrGetList(device->host.constData(), AF_UNSPEC,
+                                                    QByteArray::number(device->port).constData());
+    int connection = -1;
+    const bool answers =
+        places != nullptr && httpAddrConnect2(places, &connection, patience, nullptr) != nullptr;
+    if (answers)
+        ::close(connection);
+    httpAddrFreeList(places);
+    return answers ? QString() : unreachable;
 }
 
 int lastJobOf(const QString& name) {
@@ -94,6 +146,9 @@ QString queueRefusal(const QString&) {
     return {};
 }
 QString queueObstacle(const QString&) {
+    return {};
+}
+QString deviceObstacle(const QString&) {
     return {};
 }
 int lastJobOf(const QString&) {

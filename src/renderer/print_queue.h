@@ -11,6 +11,10 @@ QString queueRefusal(const QString& name);
 /// cannot be reached. Empty where it is on its way or cannot be told.
 QString queueObstacle(const QString& name);
 
+/// The same of a queue that does not know it yet: its printer stands in the network and takes no
+/// connection, where the server of the queue is this machine's. Waits two seconds at most.
+QString deviceObstacle(const QString& name);
+
 /// Number of the newest job of the queue; 0 where it has none, -1 where it cannot be asked.
 int lastJobOf(const QString& name);
 

@@ -41,7 +41,8 @@ void setUp(QPrinter& printer, const pages::Report& report) {
 namespace {
 
 /// The engineer would look for the sheets in vain: a job that waits is told. A queue finds out
-/// about its printer only once it sends to it.
+/// about its printer only once it sends to it, and that may be some seconds later: the printer of a
+/// job that still waits is asked itself.
 void tellObstacle(const QString& name, int job) {
     constexpr int looks = 4;
     constexpr unsigned long between = 250; // ms
@@ -50,6 +51,8 @@ void tellObstacle(const QString& name, int job) {
         QThread::msleep(between);
         obstacle = queueObstacle(name);
     }
+    if (obstacle.isEmpty() && isWaiting(name, job))
+        obstacle = deviceObstacle(name);
     if (!obstacle.isEmpty() && isWaiting(name, job))
         cannotPrint(QStringLiteral("drukarka %1: %2, wydruk czeka w niej jako zadanie nr %3")
                         .arg(name, obstacle)

@@ -10,10 +10,12 @@ namespace ferna::renderer {
 namespace {
 
 constexpr double level = 0.05;          // mm between a title and the top of its sketch
+constexpr double shifted = 2;           // mm that a sketch may have made room for a wide heading
 constexpr std::size_t linesOfTitle = 5; // that stay with a case's title, the title included
 constexpr std::size_t lastLines = 3;    // of a case that stay together
 constexpr std::size_t fewLines = 2;     // of a paragraph that do not stand alone
 constexpr std::size_t shortRun = 6;     // lines that are not divided at all
+constexpr std::size_t shortRest = 4;    // lines of the report's end that go with their sketch
 
 QString wordsOf(const Group& group) {
     return group.lines.empty() ? QString() : group.lines.front().words();
@@ -25,6 +27,14 @@ bool isLine(const Group& group) {
 
 bool isHeading(const Group& group) {
     return !group.lines.empty() && group.lines.front().underlined();
+}
+
+/// A heading that the sketch of its group stands beside, as that of the anchor section does.
+bool headsItsSketch(const Group& group) {
+    if (!isHeading(group) || group.blocks.empty())
+        return false;
+    const double below = group.blocks.front().rect.top() - group.lines.front().y;
+    return below > -level && below < shifted;
 }
 
 /// A line of an anchor in tension begins with the anchor's number.
@@ -172,8 +182,16 @@ private:
         sections_.push_back(std::move(section));
     }
 
+    /// True where the few last lines of the report, up to `end`, belong to a sketch that is level
+    /// with its heading.
+    bool isRestOfSketch(std::size_t end) const {
+        return inSection_ && end == groups_.size() && linesOf(groups_, next_, end) <= shortRest
+               && groups_[next_].blocks.empty() && !isHeading(groups_[next_])
+               && headsItsSketch(sections_.back().groups.front());
+    }
+
     /// A block of the plate or anchor section: what stands beside its sketch, or a run of lines. A
-    /// single line goes with what stands above it.
+    /// single line goes with what stands above it, and the anchor section stays whole.
     void takeOfSection() {
         std::size_t end = next_ + 1;
         if (isHeading(groups_[next_]))
@@ -184,10 +202,12 @@ private:
                 ++end;
         const bool single =
             end - next_ == 1 && isLine(groups_[next_]) && inSection_ && !isHeading(groups_[next_]);
+        const bool joins = single || isRestOfSketch(end);
         inSection_ = true;
         Section section = take(end);
-        if (single)
-            sections_.back().groups.push_back(std::move(section.groups.front()));
+        if (joins)
+            std::move(section.groups.begin(), section.groups.end(),
+                      std::back_inserter(sections_.back().groups));
         else if (linesOf(section.groups, 0, section.groups.size()) <= shortRun)
             sections_.push_back(std::move(section));
         else

@@ -1,5 +1,6 @@
 #include "renderer/vector_twin.h"
 
+#include "pages/bitmap_file.h"
 #include "runtime/picture_twin.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
@@ -11,6 +12,9 @@
 #include <QSvgRenderer>
 
 #include <cmath>
+#include <exception>
+#include <system_error>
+#include <utility>
 
 namespace ferna::renderer {
 
@@ -123,20 +127,25 @@ private:
 
 } // namespace
 
-std::vector<pages::Outline> vectorsOf(const QString& bitmap, const QRectF& rect) {
-    constexpr double unitsPerMm = 100; // so that letters are of a size that fonts are made for
+Twin twinOfFile(const QString& bitmap) {
     const QString twin = twinPath(bitmap);
     if (!QFileInfo(twin).isFile())
         return {};
-    QByteArray svg;
     try {
-        svg = readFileWhole(twin);
-        if (!isTwinOf(svg, readFileWhole(bitmap)))
-            return {};
+        const QByteArray svg = readFileWhole(twin);
+        const QByteArray bytes = readFileWhole(bitmap);
+        const QSize pixels = isTwinOf(svg, bytes) ? pictureSize(bytes) : QSize();
+        return pixels.isEmpty() ? Twin() : Twin{svg, pixels};
     } catch (const RunTimeError&) {
-        return {}; // the bitmap is there
+        return {}; // the bitmap may be there
     }
-    QSvgRenderer sketch(svg);
+}
+
+std::vector<pages::Outline> outlinesOf(const Twin& twin, const QRectF& rect) {
+    constexpr double unitsPerMm = 100; // so that letters are of a size that fonts are made for
+    if (twin.svg.isEmpty())
+        return {};
+    QSvgRenderer sketch(twin.svg);
     if (!sketch.isValid())
         return {};
     sketch.setAspectRatioMode(Qt::IgnoreAspectRatio);
@@ -148,6 +157,37 @@ std::vector<pages::Outline> vectorsOf(const QString& bitmap, const QRectF& rect)
     for (pages::Outline& outline : outlines)
         outline.path = QTransform::fromScale(1 / unitsPerMm, 1 / unitsPerMm).map(outline.path);
     return outlines;
+}
+
+Twins::Twins(const QStringList& bitmaps) {
+    std::vector<std::pair<QString, std::promise<Twin>>> searches;
+    for (const QString& bitmap : bitmaps) {
+        if (found_.contains(bitmap))
+            continue;
+        searches.emplace_back(bitmap, std::promise<Twin>());
+        found_.emplace(bitmap, searches.back().second.get_future());
+    }
+    const auto search = [](const std::stop_token& stop, auto pending) {
+        for (auto& [bitmap, found] : pending) {
+            if (stop.stop_requested())
+                return;
+            try {
+                found.set_value(twinOfFile(bitmap));
+            } catch (...) {
+                found.set_exception(std::current_exception());
+            }
+        }
+    };
+    try {
+        searching_ = std::jthread(search, std::move(searches));
+    } catch (const std::system_error&) { // no more threads to be had
+        found_.clear();
+    }
+}
+
+Twin Twins::of(const QString& bitmap) const {
+    const auto found = found_.find(bitmap);
+    return found != found_.end() ? found->second.get() : twinOfFile(bitmap);
 }
 
 } // namespace ferna::renderer

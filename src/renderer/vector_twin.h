@@ -2,10 +2,40 @@
 
 #include "pages/page.h"
 
+#include <QStringList>
+
+#include <future>
+#include <map>
+#include <thread>
+
 namespace ferna::renderer {
 
-/// A bitmap's vector twin as filled outlines, in mm from the corner of `rect`, into which the whole
-/// picture is drawn. None where the bitmap has no twin, or one that is another picture's.
-std::vector<pages::Outline> vectorsOf(const QString& bitmap, const QRectF& rect);
+/// A bitmap's vector twin.
+struct Twin {
+    QByteArray svg; ///< empty where the bitmap has none, or one that is another picture's
+    QSize pixels;   ///< of the bitmap, where it has a twin
+};
+
+/// The twin of a file; none where the file is no picture.
+Twin twinOfFile(const QString& bitmap);
+
+/// A twin as filled outlines, in mm from the corner of `rect`, into which the whole picture is
+/// drawn. None of a twin that is damaged.
+std::vector<pages::Outline> outlinesOf(const Twin& twin, const QRectF& rect);
+
+/// The twins of a report's pictures. A mark of all its bytes ties a bitmap to its twin, so they are
+/// looked for on a thread of their own as soon as the report is read; meanwhile Qt may start.
+class Twins {
+public:
+    /// Begins to look for the twins of these files.
+    explicit Twins(const QStringList& bitmaps);
+
+    /// The twin of a file, of these or of another; waits until it has been looked for.
+    Twin of(const QString& bitmap) const;
+
+private:
+    std::map<QString, std::shared_future<Twin>> found_;
+    std::jthread searching_;
+};
 
 } // namespace ferna::renderer

@@ -63,4 +63,12 @@ std::array<QString, 2> titleLines(const QString& folder, Integer Nr_jezyka) {
     return lines;
 }
 
+const std::array<QString, 2>& TitleLinesStock::lines(Integer Nr_jezyka) {
+    const std::lock_guard lock(mutex_);
+    const auto known = read_.find(Nr_jezyka);
+    return known != read_.end()
+               ? known->second
+               : read_.emplace(Nr_jezyka, titleLines(folder_, Nr_jezyka)).first->second;
+}
+
 } // namespace ferna

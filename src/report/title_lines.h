@@ -5,6 +5,9 @@
 #include <QString>
 
 #include <array>
+#include <map>
+#include <mutex>
+#include <utility>
 
 namespace ferna {
 
@@ -18,5 +21,19 @@ inline const QString titleLinesFile = QStringLiteral("Naglowek.ini");
 /// not, 57 for a file that is no UTF-8 or has a line without a known key: the detail names file and
 /// line; those of `readFileWhole`.
 std::array<QString, 2> titleLines(const QString& folder, Integer Nr_jezyka);
+
+/// The same for many tasks: the file is read once for a language. May be used by several threads.
+class TitleLinesStock {
+public:
+    explicit TitleLinesStock(QString folder) : folder_(std::move(folder)) {}
+
+    /// Errors of `titleLines`; a file that failed is tried again.
+    const std::array<QString, 2>& lines(Integer Nr_jezyka);
+
+private:
+    QString folder_;
+    std::mutex mutex_;
+    std::map<Integer, std::array<QString, 2>> read_;
+};
 
 } // namespace ferna

@@ -1,5 +1,7 @@
 #include "runtime/dialogs.h"
 
+#include <utility>
+
 namespace ferna {
 
 void ScriptedDialogs::message(const QString& text, const QString& title, MessageStyle style) {
@@ -26,9 +28,31 @@ std::optional<QString> ScriptedDialogs::saveFile(const SaveQuestion& question) {
 std::optional<QString> ScriptedDialogs::nextAnswer() {
     if (answers.empty())
         return std::nullopt;
-    QString answer = answers.front();
-    answers.pop_front();
+    QString answer = std::move(answers.front());
+    answers.erase(answers.begin());
     return answer;
+}
+
+QString lineOf(const ScriptedDialogs::Box& box) {
+    return box.title + QStringLiteral(": ") + box.text;
+}
+
+void HeardDialogs::message(const QString& text, const QString& title, MessageStyle style) {
+    heard += lineOf({text, title, style});
+    shown_.message(text, title, style);
+}
+
+bool HeardDialogs::confirm(const QString& text, const QString& title) {
+    return shown_.confirm(text, title);
+}
+
+QString HeardDialogs::input(const QString& prompt, const QString& title, const QString& preset,
+                            std::optional<QPoint> position, const NoteOf& noteOf) {
+    return shown_.input(prompt, title, preset, position, noteOf);
+}
+
+std::optional<QString> HeardDialogs::saveFile(const SaveQuestion& question) {
+    return shown_.saveFile(question);
 }
 
 } // namespace ferna

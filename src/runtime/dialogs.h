@@ -4,7 +4,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <deque>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -64,12 +63,32 @@ public:
     /// The next answer; without one the question is cancelled.
     std::optional<QString> saveFile(const SaveQuestion& question) override;
 
-    std::vector<Box> messages;   ///< message boxes in their order
-    std::vector<Box> questions;  ///< questions and input boxes in their order
-    std::deque<QString> answers; ///< of the questions and input boxes to come
+    std::vector<Box> messages;    ///< message boxes in their order
+    std::vector<Box> questions;   ///< questions and input boxes in their order
+    std::vector<QString> answers; ///< of the questions and input boxes to come
 
 private:
     std::optional<QString> nextAnswer();
+};
+
+/// A message box as one line of text: "title: text".
+QString lineOf(const ScriptedDialogs::Box& box);
+
+/// Hands every box on and keeps what the message boxes have said.
+class HeardDialogs : public Dialogs {
+public:
+    explicit HeardDialogs(Dialogs& shown) : shown_(shown) {}
+
+    void message(const QString& text, const QString& title, MessageStyle style) override;
+    bool confirm(const QString& text, const QString& title) override;
+    QString input(const QString& prompt, const QString& title, const QString& preset,
+                  std::optional<QPoint> position, const NoteOf& noteOf) override;
+    std::optional<QString> saveFile(const SaveQuestion& question) override;
+
+    QStringList heard; ///< `lineOf` each message box, in their order
+
+private:
+    Dialogs& shown_;
 };
 
 } // namespace ferna

@@ -9,6 +9,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
+#include <optional>
 #include <string_view>
 
 namespace ferna {
@@ -119,50 +120,134 @@ bool endsInAHalf(const Digits& digits, int count) {
     return digits[count] == '5' && digits.onlyZerosFrom(count + 1);
 }
 
-/// The value at `count` significant digits, half away from zero.
-Decimal decimalOf(Double value, int count) {
+/// A decimal of so many places behind its decimal sign, without the sign.
+Decimal digitsWithPlaces(std::int64_t digits, int places) {
+    Decimal result = digitsOfWhole(digits);
+    result.point -= places;
+    return result;
+}
+
+/// The nearest whole number of a magnitude that one of 64 bits holds, half up.
+std::int64_t nearestWhole(Double magnitude) {
+    const auto whole = static_cast<std::int64_t>(magnitude);
+    return magnitude - static_cast<Double>(whole) >= 0.5 ? whole + 1 : whole;
+}
+
+/// The digits of a Single that is no whole number, rounded to those that it has; empty for a tiny
+/// one.
+std::optional<Decimal> roundedSingle(Double magnitude) {
+    // 24 bits times a power of five up to this one fit into a Double: every product here is exact.
+    constexpr int mostPlaces = 12;
+    constexpr Double least = 1e6; // has as many digits as a Single
+    Double scaled = magnitude;
+    int places = 0;
+    while (scaled < least) {
+        if (++places > mostPlaces)
+            return std::nullopt;
+        scaled *= 10;
+    }
+    return digitsWithPlaces(nearestWhole(scaled), places);
+}
+
+/// The decimal of a few places that reads back to the magnitude, where there is one. It has no more
+/// digits than a Double keeps, so it is also the magnitude rounded to these.
+std::optional<Decimal> typedDecimal(Double magnitude) {
+    constexpr Double mostScale = 1e6;
+    constexpr Double tooLarge = 1e15; // has more digits
+    int places = 0;
+    for (Double scale = 10; scale <= mostScale && magnitude * scale < tooLarge; scale *= 10) {
+        ++places;
+        const std::int64_t digits = nearestWhole(magnitude * scale);
+        if (static_cast<Double>(digits) / scale == magnitude)
+            return digitsWithPlaces(digits, places);
+    }
+    return std::nullopt;
+}
+
+/// The digits of any magnitude that is not 0, `count` of them, half away from zero.
+Decimal roundedDigits(Double magnitude, int count) {
+    constexpr int fewDigits = 17;
+    constexpr int further = 26; // digits enough to tell a half from what lies just below it
+    Decimal result = digitsOf(magnitude, fewDigits);
+    if (endsInAHalf(result.digits, count)) // as it may read only for having been rounded
+        result = digitsOf(magnitude, count + further);
+    return result;
+}
+
+/// The value at `count` significant digits, half away from zero. `quickly` gives those of most
+/// magnitudes that are no whole numbers.
+template <typename Quickly>
+Decimal decimalOf(Double value, int count, const Quickly& quickly) {
     if (!std::isfinite(value))
         throw RunTimeError(error::Overflow);
     if (value == 0)
         return {};
-    constexpr int fewDigits = 17;
-    constexpr int further = 26; // digits enough to tell a half from what lies just below it
     constexpr Double largestWhole = 1e15; // of exact doubles
     const Double magnitude = std::fabs(value);
-    const bool isWhole = magnitude < largestWhole && magnitude == std::floor(magnitude);
-    Decimal result = isWhole ? digitsOfWhole(static_cast<std::int64_t>(magnitude))
-                             : digitsOf(magnitude, fewDigits);
-    if (!isWhole
-        && endsInAHalf(result.digits, count)) // as it may read only for having been rounded
-        result = digitsOf(magnitude, count + further);
+    const std::int64_t whole =
+        magnitude < largestWhole ? static_cast<std::int64_t>(magnitude) : std::int64_t{0};
+    Decimal result;
+    if (static_cast<Double>(whole) == magnitude)
+        result = digitsOfWhole(whole);
+    else if (const std::optional<Decimal> known = quickly(magnitude))
+        result = *known;
+    else
+        result = roundedDigits(magnitude, count);
     result.negative = value < 0;
     keepDigits(result, count);
     return result;
+}
+
+Decimal decimalOf(Single value) {
+    return decimalOf(value, singleDigits, roundedSingle);
+}
+
+Decimal decimalOf(Double value) {
+    return decimalOf(value, doubleDigits, typedDecimal);
 }
 
 bool isPlaceholder(QChar c) {
     return c == u'#' || c == u'0';
 }
 
-int countPlaceholders(QStringView part) {
-    int count = 0;
-    for (const QChar c : part)
-        count += isPlaceholder(c);
-    return count;
-}
+/// A pattern taken apart at its decimal sign, in one pass over its letters.
+struct Pattern {
+    explicit Pattern(QStringView whole) : integerPart(whole) {
+        for (qsizetype i = 0; i < whole.size(); ++i) {
+            if (whole[i] == u'.' && !hasSign) {
+                hasSign = true;
+                integerPart = whole.first(i);
+                fraction = whole.sliced(i + 1);
+            } else if (isPlaceholder(whole[i])) {
+                ++(hasSign ? decimals : integers);
+                if (whole[i] == u'0')
+                    lastZero = i;
+            }
+        }
+        if (hasSign)
+            lastZero -= integerPart.size() + 1;
+    }
 
-/// The integer part of a pattern, filled from the left: `count` placeholders stand for the last
-/// `count` places in front of the decimal sign, and the first takes all places further left.
-void writeIntegerPart(Letters& out, const Decimal& number, QStringView part, int count) {
-    int remaining = count; // placeholders from here to the decimal sign
-    bool zeroSeen = false; // a "0" of the pattern forces all places behind it
-    for (const QChar c : part) {
+    QStringView integerPart;
+    QStringView fraction;
+    bool hasSign = false;
+    int integers = 0;        // placeholders in front of the sign
+    int decimals = 0;        // and behind it
+    qsizetype lastZero = -1; // of the fraction, below 0 for none
+};
+
+/// The integer part of a pattern, filled from the left: its placeholders stand for as many places
+/// in front of the decimal sign, and the first takes all places further left.
+void writeIntegerPart(Letters& out, const Decimal& number, const Pattern& pattern) {
+    int remaining = pattern.integers; // placeholders from here to the decimal sign
+    bool zeroSeen = false;            // a "0" of the pattern forces all places behind it
+    for (const QChar c : pattern.integerPart) {
         if (!isPlaceholder(c)) {
             out.append(c);
             continue;
         }
-        if (remaining == count)
-            for (int place = 0; place < number.point - count; ++place)
+        if (remaining == pattern.integers)
+            for (int place = 0; place < number.point - pattern.integers; ++place)
                 out.append(QLatin1Char(number.at(place)));
         zeroSeen = zeroSeen || c == u'0';
         if (remaining <= number.point || zeroSeen)
@@ -173,31 +258,28 @@ void writeIntegerPart(Letters& out, const Decimal& number, QStringView part, int
 
 /// The part behind the decimal sign: a "#" is written only while digits are left, and in front of
 /// a "0" that is still to come.
-void writeFraction(Letters& out, const Decimal& number, QStringView part) {
-    const qsizetype lastZero = part.lastIndexOf(u'0');
+void writeFraction(Letters& out, const Decimal& number, const Pattern& pattern) {
     int place = number.point;
-    for (qsizetype i = 0; i < part.size(); ++i) {
-        if (!isPlaceholder(part[i])) {
-            out.append(part[i]);
+    for (qsizetype i = 0; i < pattern.fraction.size(); ++i) {
+        if (!isPlaceholder(pattern.fraction[i])) {
+            out.append(pattern.fraction[i]);
             continue;
         }
-        if (i <= lastZero || place < number.digits.size())
+        if (i <= pattern.lastZero || place < number.digits.size())
             out.append(QLatin1Char(number.at(place)));
         ++place;
     }
 }
 
-void write(Letters& out, Decimal number, QStringView pattern) {
-    const qsizetype point = pattern.indexOf(u'.');
-    const QStringView integerPart = point < 0 ? pattern : pattern.left(point);
-    const QStringView fraction = point < 0 ? QStringView() : pattern.mid(point + 1);
-    keepDigits(number, number.point + countPlaceholders(fraction));
+void write(Letters& out, Decimal number, QStringView text) {
+    const Pattern pattern(text);
+    keepDigits(number, number.point + pattern.decimals);
     if (number.negative)
         out.append(u'-');
-    writeIntegerPart(out, number, integerPart, countPlaceholders(integerPart));
-    if (point >= 0) {
+    writeIntegerPart(out, number, pattern);
+    if (pattern.hasSign) {
         out.append(decimalSign());
-        writeFraction(out, number, fraction);
+        writeFraction(out, number, pattern);
     }
 }
 
@@ -209,8 +291,7 @@ void writeExponent(Letters& out, int exponent) {
     out.append(digits.constData(), digits.size());
 }
 
-void writeGeneral(Letters& out, Double value, int count) {
-    const Decimal number = decimalOf(value, count);
+void writeGeneral(Letters& out, const Decimal& number, int count) {
     if (number.digits.empty()) {
         out.append(u'0');
         return;
@@ -281,12 +362,12 @@ QString general(Double value) {
 }
 
 LineOfText& LineOfText::number(Single value, QStringView pattern) {
-    write(letters_, decimalOf(Double{value}, singleDigits), pattern);
+    write(letters_, decimalOf(value), pattern);
     return *this;
 }
 
 LineOfText& LineOfText::number(Double value, QStringView pattern) {
-    write(letters_, decimalOf(value, doubleDigits), pattern);
+    write(letters_, decimalOf(value), pattern);
     return *this;
 }
 
@@ -295,12 +376,12 @@ LineOfText& LineOfText::number(int value, QStringView pattern) {
 }
 
 LineOfText& LineOfText::general(Single value) {
-    writeGeneral(letters_, Double{value}, singleDigits);
+    writeGeneral(letters_, decimalOf(value), singleDigits);
     return *this;
 }
 
 LineOfText& LineOfText::general(Double value) {
-    writeGeneral(letters_, value, doubleDigits);
+    writeGeneral(letters_, decimalOf(value), doubleDigits);
     return *this;
 }
 

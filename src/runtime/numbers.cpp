@@ -21,14 +21,12 @@ constexpr long longestExponent = 1'000'000'000; // stands for every exponent bey
 std::size_t normalised(QStringView text, std::array<char, longestNumber>& out) {
     std::size_t length = 0;
     for (const QChar c : text.trimmed()) {
-        if (c.category() == QChar::Separator_Space) // also the no-break ones that group digits
-            continue;
-        if (length == out.size())
-            return 0;
         const char16_t u = c.unicode();
         const bool ofANumber = (u >= u'0' && u <= u'9') || u == u'+' || u == u'-' || u == u'.'
                                || u == u',' || u == u'e' || u == u'E';
-        if (!ofANumber)
+        if (!ofANumber && c.category() == QChar::Separator_Space)
+            continue; // also the no-break ones that group digits
+        if (!ofANumber || length == out.size())
             return 0;
         out[length++] = u == u',' ? '.' : static_cast<char>(u);
     }

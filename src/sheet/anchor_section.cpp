@@ -158,6 +158,13 @@ void addAnchor(Maker& maker) {
         maker.say(QStringLiteral("anchor.none"));
         return;
     }
+    if (stan.wyniki.Nr_kotwy_max == 0) {
+        const QString& line = stan.raport.Wiersze_kotwy(1);
+        maker.say(QStringLiteral("anchor.noTension"),
+                  {rich(line.mid(stan.Teksty(phrase::SelectedAnchor).size()).trimmed())},
+                  Tone::Warning);
+        return;
+    }
     Chosen chosen(maker, *g);
     Equations rows = chosen.all();
     maker.add(Paragraph{maker.text()(chosen.hooked() ? QStringLiteral("anchor.hooked")

@@ -1,6 +1,8 @@
 #include "sheet/descriptions.h"
 #include "sheet/sections.h"
 
+#include <algorithm>
+
 namespace ferna::sheet {
 
 namespace {
@@ -343,8 +345,14 @@ Blocks balanceTables(Maker& maker, const CaseSheet& one) {
             zones.emplace_back(side, Zone(maker, one, side));
     if (zones.empty())
         return {};
-    return {verticesTable(maker, zones), trianglesTable(maker, zones),
-            balanceTable(maker, one, zones)};
+    const bool pressed = std::any_of(zones.begin(), zones.end(), [](const auto& zone) {
+        return !zone.second.triangles().empty();
+    });
+    Blocks blocks;
+    if (pressed)
+        blocks = {verticesTable(maker, zones), trianglesTable(maker, zones)};
+    blocks.push_back(balanceTable(maker, one, zones));
+    return blocks;
 }
 
 } // namespace ferna::sheet

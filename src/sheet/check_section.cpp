@@ -2,6 +2,8 @@
 #include "sheet/numbers.h"
 #include "sheet/sections.h"
 
+#include <algorithm>
+
 namespace ferna::sheet {
 
 namespace {
@@ -66,13 +68,18 @@ private:
             concreteRemark());
     }
 
+    /// By the larger of the two ratios.
     Rich concreteRemark() const {
-        const double ratio = of("omega", sides_.back())->value;
+        const Quantity* factor = of("omega", sides_.front());
+        for (const Side side : sides_)
+            if (of("omega", side)->value > factor->value)
+                factor = of("omega", side);
+        const double ratio = factor->value;
         if (ratio > 2)
             return maker_.text()(QStringLiteral("check.concreteNot"));
         if (ratio < 1)
             return maker_.text()(QStringLiteral("check.concreteYes"));
-        return maker_.text()(QStringLiteral("check.concreteFactor"), {fixed(ratio, 3)});
+        return maker_.text()(QStringLiteral("check.concreteFactor"), {factor->text});
     }
 
     /// The stresses of the anchors on one side; none where the whole plate is compressed.
@@ -87,10 +94,12 @@ private:
     }
 
     const Quantity* largestTension(Side side) {
+        if (stresses(side).empty())
+            return maker_.given(c_, sided(QStringLiteral("sigma_t"), side),
+                                symbolOf(QStringLiteral("σ"), QStringLiteral("t"), side), 0,
+                                QStringLiteral("MPa"), places(2));
         std::vector<Expression> parts = references(stresses(side));
         parts.push_back(number(QStringLiteral("0")));
-        if (parts.size() == 1)
-            parts.push_back(number(QStringLiteral("0")));
         Shown shown = places(2);
         Expression least = functionOf(QStringLiteral("min"), std::move(parts));
         if (side == Side::Search)
@@ -101,21 +110,24 @@ private:
     }
 
     void addTension() {
+        const bool none = std::all_of(sides_.begin(), sides_.end(),
+                                      [&](Side side) { return stresses(side).empty(); });
         add([&](Side side) { return largestTension(side); },
-            maker_.text()(QStringLiteral("check.tension")));
-        add(
-            [&](Side side) {
-                return make("u_t", "η", "t", side, shareClause, {of("sigma_t", side), shared("fd")},
-                            places(3));
-            },
-            verdict("u_t", 1));
+            maker_.text()(none ? QStringLiteral("check.noTension")
+                               : QStringLiteral("check.tension")));
+        add([&](Side side) {
+            return make("u_t", "η", "t", side, shareClause, {of("sigma_t", side), shared("fd")},
+                        places(3));
+        });
+        rows_.rows.back().remark = verdict("u_t");
     }
 
-    Rich verdict(const char* id, double limit) const {
+    /// Of a utilisation that stands already.
+    Rich verdict(const char* id) const {
         bool kept = true;
         for (const Side side : sides_)
             if (const Quantity* const use = maker_.find(c_, sided(QString::fromLatin1(id), side)))
-                kept = kept && !(use->value > limit);
+                kept = kept && !(use->value > 1);
         return maker_.text()(kept ? QStringLiteral("check.kept") : QStringLiteral("check.not"));
     }
 
@@ -192,14 +204,14 @@ private:
                                          {of("tau", side), shared("fv")}, places(3))
                                   : nullptr;
             });
-            rows_.rows.back().remark = verdict("u_v", 1);
+            rows_.rows.back().remark = verdict("u_v");
             return;
         }
         add([&](Side side) {
             return make("u_i", "η", "i", side, interactionUtilisationClause,
                         {tensionOf(side), shared("fd2"), of("tau", side), shared("fv")}, places(3));
         });
-        rows_.rows.back().remark = verdict("u_i", 1);
+        rows_.rows.back().remark = verdict("u_i");
     }
 
     /// The tension of the interaction. A stress that an earlier calculation has left for an anchor

@@ -10,7 +10,7 @@ void addNotes(Maker& maker) {
         maker.say(QStringLiteral("notes.none"));
         return;
     }
-    maker.say(QStringLiteral("notes.about"), {}, Tone::Small);
+    maker.add(Paragraph{maker.text()(QStringLiteral("notes.about")), Tone::Small, true});
     for (const notes::Note& note : all)
         maker.add(Paragraph{QStringLiteral("<b>%1.</b> %2")
                                 .arg(maker.text()(QStringLiteral("note.")

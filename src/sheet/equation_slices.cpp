@@ -59,10 +59,16 @@ MathBox equals() {
     return wordBox(QStringLiteral(" = "), mathSize);
 }
 
+/// The number of a standard is not divided at its hyphens.
+Rich unbroken(Rich source) {
+    constexpr char16_t wordJoiner = 0x2060;
+    return source.replace(u'-', QStringLiteral("-") + QChar(wordJoiner));
+}
+
 Rich remarkOf(const Equation& equation, const Quantity& told) {
     if (told.source.isEmpty())
         return equation.remark;
-    const Rich source = QStringLiteral("[%1]").arg(rich(told.source));
+    const Rich source = QStringLiteral("[%1]").arg(unbroken(rich(told.source)));
     return equation.remark.isEmpty() ? source : equation.remark + u' ' + source;
 }
 
@@ -201,7 +207,8 @@ Slices equationSlices(const Equations& equations, double width, const ColumnName
     if (!slices.empty())
         slices.front().before = blank;
     for (std::size_t i = 0; i + 1 < slices.size(); ++i)
-        slices[i].withNext = slices[i].withNext || i == 0 || slices.size() <= few;
+        slices[i].withNext =
+            slices[i].withNext || i == 0 || i + 2 == slices.size() || slices.size() <= few;
     return slices;
 }
 

@@ -34,20 +34,6 @@ class HtmlWriter {
 public:
     HtmlWriter(const Sheet& sheet, HtmlPictures pictures) : sheet_(sheet), pictures_(pictures) {}
 
-    /// For a rich text of the toolkit.
-    HtmlWriter(const Sheet& sheet, std::vector<const Picture*>& taken)
-        : sheet_(sheet), pictures_(HtmlPictures::Inside), taken_(&taken) {}
-
-    QString flat() {
-        html_ =
-            QStringLiteral(
-                "<html><body style=\"font-family:'Liberation Sans'; font-size:9pt\"><h1>%1</h1>")
-                .arg(sheet_.title);
-        write(sheet_.blocks);
-        html_ += QStringLiteral("<p>%1</p></body></html>").arg(sheet_.made);
-        return html_;
-    }
-
     QByteArray all() {
         QFile style(QStringLiteral(":/arkusz/styl.css"));
         const QString css =
@@ -90,12 +76,6 @@ private:
     }
 
     void write(const SignatureFields& fields) {
-        if (taken_ != nullptr) {
-            for (const QString& name : fields.names)
-                html_ += QStringLiteral("<p>%1: ........................................</p>")
-                             .arg(rich(name));
-            return;
-        }
         html_ += QStringLiteral("<div class=\"sign\">");
         for (const QString& name : fields.names)
             html_ += QStringLiteral("<div>%1</div>").arg(rich(name));
@@ -105,15 +85,6 @@ private:
     void write(const Picture& picture) {
         if (!picture.painting || pictures_ == HtmlPictures::LeftOut)
             return;
-        if (taken_ != nullptr) {
-            constexpr double dotsPerMm = 96 / 25.4; // of a rich text
-            html_ += QStringLiteral("<p><img src=\"%1\" width=\"%2\" height=\"%3\"></p>")
-                         .arg(taken_->size())
-                         .arg(picture.width * dotsPerMm)
-                         .arg(picture.height * dotsPerMm);
-            taken_->push_back(&picture);
-            return;
-        }
         html_ +=
             QStringLiteral("<img alt=\"\" style=\"width:%1mm\" src=\"data:image/png;base64,%2\">\n")
                 .arg(picture.width)
@@ -121,11 +92,6 @@ private:
     }
 
     void write(const std::shared_ptr<const Beside>& beside) {
-        if (taken_ != nullptr) {
-            write(beside->left);
-            write(beside->right);
-            return;
-        }
         const int share = static_cast<int>(100 * beside->leftShare);
         html_ += QStringLiteral("<div class=\"beside\">\n<div style=\"flex:%1\">\n").arg(share);
         write(beside->left);
@@ -135,11 +101,8 @@ private:
     }
 
     void write(const Equations& equations) {
-        html_ += tableTag("equations");
-        if (equations.twoResults && taken_ != nullptr)
-            html_ += QStringLiteral("<tr><td></td><td></td><td>%1</td><td>%2</td><td></td></tr>\n")
-                         .arg(sheet_.search, sheet_.exact);
-        else if (equations.twoResults)
+        html_ += QStringLiteral("<table class=\"equations\">\n");
+        if (equations.twoResults)
             html_ += QStringLiteral("<thead><tr><th></th><th></th><th>%1</th><th>%2</th><th></th>"
                                     "<th></th></tr></thead>\n")
                          .arg(sheet_.search, sheet_.exact);
@@ -155,12 +118,8 @@ private:
         QString way;
         if (told->formula && isWorthPrinting(*told->formula))
             way = QStringLiteral("= %1 = %2")
-                      .arg(formula(*told->formula, Show::Symbols),
-                           formula(*told->formula, Show::Values));
-        if (taken_ != nullptr) {
-            writeFlatRow(row, *told, way, twoResults);
-            return;
-        }
+                      .arg(htmlFormula(*told->formula, Show::Symbols),
+                           htmlFormula(*told->formula, Show::Values));
         html_ +=
             QStringLiteral("<tr><td>%1</td><td class=\"way\">%2</td><td class=\"result\">%3</td>")
                 .arg(richSymbol(told->symbol), way,
@@ -172,33 +131,9 @@ private:
                      .arg(row.remark, rich(told->source));
     }
 
-    /// With the widths that a rich text would not find by itself.
-    void writeFlatRow(const Equation& row, const Quantity& told, const QString& way,
-                      bool twoResults) {
-        const auto add = [&](int share, const QString& text) {
-            html_ += QStringLiteral("<td width=\"%1%\">%2</td>").arg(share).arg(text);
-        };
-        const auto result = [&](const Quantity* number) {
-            add(15,
-                number != nullptr ? QStringLiteral("<b>%1</b>").arg(withUnit(*number)) : QString());
-        };
-        html_ += QStringLiteral("<tr>");
-        add(9, richSymbol(told.symbol));
-        add(twoResults ? 33 : 40, way);
-        result(row.result);
-        if (twoResults)
-            result(row.exact);
-        add(twoResults ? 28 : 36,
-            told.source.isEmpty() ? row.remark
-                                  : row.remark + QStringLiteral(" [%1]").arg(rich(told.source)));
-        html_ += QStringLiteral("</tr>\n");
-    }
-
     void write(const Table& table) {
-        if (taken_ != nullptr && !table.caption.isEmpty())
-            html_ += QStringLiteral("<p><b>%1</b></p>").arg(table.caption);
-        html_ += tableTag("");
-        if (taken_ == nullptr && !table.caption.isEmpty())
+        html_ += QStringLiteral("<table>\n");
+        if (!table.caption.isEmpty())
             html_ += QStringLiteral("<caption>%1</caption>\n").arg(table.caption);
         if (!table.head.empty()) {
             html_ += QStringLiteral("<thead>\n");
@@ -227,16 +162,6 @@ private:
             column += static_cast<std::size_t>(cell.span);
         }
         html_ += QStringLiteral("</tr>\n");
-    }
-
-    QString formula(const Expression& expression, Show show) const {
-        return taken_ != nullptr ? lineFormula(expression, show) : htmlFormula(expression, show);
-    }
-
-    QString tableTag(const char* name) const {
-        if (taken_ == nullptr)
-            return QStringLiteral("<table class=\"%1\">\n").arg(QLatin1String(name));
-        return QStringLiteral("<table width=\"100%\" cellspacing=\"0\" cellpadding=\"2\">\n");
     }
 
     QString contents(const Cell& cell) {
@@ -279,16 +204,11 @@ private:
 
     const Sheet& sheet_;
     HtmlPictures pictures_;
-    std::vector<const Picture*>* taken_ = nullptr; ///< for a rich text: where its pictures go
     QString html_;
     std::set<const Quantity*> written_;
 };
 
 } // namespace
-
-QString flatHtmlOf(const Sheet& sheet, std::vector<const Picture*>& pictures) {
-    return HtmlWriter(sheet, pictures).flat();
-}
 
 QImage imageOf(const Picture& picture) {
     constexpr double dotsPerMm = 12;

@@ -15,11 +15,6 @@ enum class HtmlPictures { Inside, LeftOut };
 /// `data-ref`. Pictures need a QGuiApplication.
 QByteArray htmlOf(const Sheet& sheet, HtmlPictures pictures = HtmlPictures::Inside);
 
-/// The same in the HTML that a rich text of the toolkit reads: formulas in one line, columns below
-/// one another, and instead of pictures the names "0", "1" ... of those that are appended to
-/// `pictures`.
-QString flatHtmlOf(const Sheet& sheet, std::vector<const Picture*>& pictures);
-
 /// A picture as an image on white, with 300 dots to the inch.
 QImage imageOf(const Picture& picture);
 

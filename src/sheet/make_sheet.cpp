@@ -17,6 +17,8 @@ Sheet makeSheet(const SheetInput& input) {
     addAnchor(maker);
     addNotes(maker);
     addModel(maker);
+    if (input.combinations != nullptr)
+        addCombinations(maker, *input.combinations);
     return std::move(maker.sheet());
 }
 

@@ -111,20 +111,56 @@ Slices signatureSlices(const SignatureFields& fields, double width) {
     return {made};
 }
 
+/// The same further to the right.
+Slice shifted(Slice slice, double right) {
+    slice.draw = [draw = std::move(slice.draw), right](QPainter& painter, QPointF at) {
+        draw(painter, at + QPointF(right, 0));
+    };
+    if (slice.head)
+        slice.head = std::make_shared<const Slice>(shifted(*slice.head, right));
+    return slice;
+}
+
+/// A column beside another: its slices and where it stands.
+struct SetColumn {
+    Slices slices;
+    double x;
+};
+
+/// The shorter column and as much of the longer one as stands beside it make one slice. What is
+/// left of the longer one follows slice by slice, so that a page may end there.
+Slices besideOneAnother(SetColumn shorter, SetColumn longer) {
+    const double needed = heightOf(shorter.slices);
+    Slices first;
+    std::size_t taken = 0;
+    while (taken < longer.slices.size()
+           && (first.empty() || first.back().withNext || heightOf(first) < needed))
+        first.push_back(longer.slices[taken++]);
+    const bool withNext = !first.empty() && first.back().withNext;
+    const Slice one = shifted(stacked(std::move(shorter.slices)), shorter.x);
+    const Slice other = shifted(stacked(std::move(first)), longer.x);
+    Slice made;
+    made.height = std::max(one.height, other.height);
+    made.before = 1 * perMm;
+    made.withNext = withNext;
+    made.draw = [one, other](QPainter& painter, QPointF at) {
+        one.draw(painter, at);
+        other.draw(painter, at);
+    };
+    Slices all{std::move(made)};
+    for (; taken < longer.slices.size(); ++taken)
+        all.push_back(shifted(std::move(longer.slices[taken]), longer.x));
+    return all;
+}
+
 Slices besideSlices(const Beside& beside, double width, const ColumnNames& names) {
     constexpr double gap = 5 * perMm;
-    const double left = (width - gap) * beside.leftShare;
-    Slice first = stacked(slicesOf(beside.left, left, names));
-    Slice second = stacked(slicesOf(beside.right, width - gap - left, names));
-    Slice made;
-    made.height = std::max(first.height, second.height);
-    made.before = 1 * perMm;
-    made.draw = [first = std::move(first), second = std::move(second),
-                 right = left + gap](QPainter& painter, QPointF at) {
-        first.draw(painter, at);
-        second.draw(painter, at + QPointF(right, 0));
-    };
-    return {made};
+    const double leftWidth = (width - gap) * beside.leftShare;
+    SetColumn left{slicesOf(beside.left, leftWidth, names), 0};
+    SetColumn right{slicesOf(beside.right, width - gap - leftWidth, names), leftWidth + gap};
+    if (heightOf(left.slices) > heightOf(right.slices))
+        std::swap(left, right);
+    return besideOneAnother(std::move(left), std::move(right));
 }
 
 } // namespace

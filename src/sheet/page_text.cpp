@@ -1,5 +1,7 @@
 #include "sheet/page_text.h"
 
+#include "sheet/rich_runs.h"
+
 #include <QPainter>
 #include <QTextLayout>
 
@@ -15,91 +17,32 @@ struct Marked {
     QList<QTextLayout::FormatRange> ranges;
 };
 
-/// What is switched on at a place of the text.
-struct Switches {
-    int italic = 0;
-    int bold = 0;
-    int sub = 0;
-    int super = 0;
-
-    bool any() const { return italic > 0 || bold > 0 || sub > 0 || super > 0; }
-    void turn(QStringView name, int step) {
-        if (name == u"i")
-            italic += step;
-        else if (name == u"b")
-            bold += step;
-        else if (name == u"sub")
-            sub += step;
-        else if (name == u"sup")
-            super += step;
+/// Symbols stand in the letters of formulas.
+QTextCharFormat formatOf(const RichRun& run, const QFont& base) {
+    QTextCharFormat made;
+    QFont font = base;
+    if (run.bold)
+        font.setBold(true);
+    if (run.italic) {
+        font.setFamilies({QStringLiteral("Liberation Serif")});
+        font.setItalic(true);
     }
-    /// Symbols stand in the letters of formulas.
-    QTextCharFormat format(const QFont& base) const {
-        QTextCharFormat made;
-        QFont font = base;
-        if (bold > 0)
-            font.setBold(true);
-        if (italic > 0) {
-            font.setFamilies({QStringLiteral("Liberation Serif")});
-            font.setItalic(true);
-        }
-        if (sub > 0 || super > 0) {
-            // Vertical alignment of the toolkit scales the letters itself.
-            made.setVerticalAlignment(sub > 0 ? QTextCharFormat::AlignSubScript
-                                              : QTextCharFormat::AlignSuperScript);
-        }
-        made.setFont(font);
-        if (sub > 0 || super > 0)
-            made.setVerticalAlignment(sub > 0 ? QTextCharFormat::AlignSubScript
-                                              : QTextCharFormat::AlignSuperScript);
-        return made;
-    }
-};
-
-QString withoutEntities(QString text) {
-    return text.replace(QStringLiteral("&lt;"), QStringLiteral("<"))
-        .replace(QStringLiteral("&gt;"), QStringLiteral(">"))
-        .replace(QStringLiteral("&quot;"), QStringLiteral("\""))
-        .replace(QStringLiteral("&amp;"), QStringLiteral("&"));
-}
-
-/// The tags that the sheet's texts use; a "<" that begins none of them is a letter.
-bool isTag(QStringView name) {
-    static const std::array<QStringView, 9> known{u"i",    u"/i",  u"b",    u"/b", u"sub",
-                                                  u"/sub", u"sup", u"/sup", u"br/"};
-    return std::find(known.begin(), known.end(), name) != known.end();
+    made.setFont(font);
+    // Vertical alignment of the toolkit scales the letters itself.
+    if (run.below || run.above)
+        made.setVerticalAlignment(run.below ? QTextCharFormat::AlignSubScript
+                                            : QTextCharFormat::AlignSuperScript);
+    return made;
 }
 
 Marked parsedText(const Rich& text, const QFont& base) {
     Marked made;
-    Switches on;
-    QString run;
-    const auto flush = [&] {
-        const QString plain = withoutEntities(run);
-        if (on.any() && !plain.isEmpty())
+    for (const RichRun& run : runsOf(text)) {
+        if (!run.plain())
             made.ranges.push_back({static_cast<int>(made.text.size()),
-                                   static_cast<int>(plain.size()), on.format(base)});
-        made.text += plain;
-        run.clear();
-    };
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const qsizetype end = text[i] == u'<' ? text.indexOf(u'>', i) : -1;
-        const QStringView name =
-            end > 0 ? QStringView(text).sliced(i + 1, end - i - 1) : QStringView();
-        if (end < 0 || !isTag(name)) {
-            run += text[i];
-            continue;
-        }
-        flush();
-        if (name == u"br/")
-            made.text += QChar(QChar::LineSeparator);
-        else if (name.startsWith(u'/'))
-            on.turn(name.sliced(1), -1);
-        else
-            on.turn(name, 1);
-        i = end;
+                                   static_cast<int>(run.text.size()), formatOf(run, base)});
+        made.text += run.text;
     }
-    flush();
     return made;
 }
 

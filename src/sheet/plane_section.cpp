@@ -4,6 +4,8 @@
 #include "sheet/sections.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace ferna::sheet {
 
@@ -67,6 +69,22 @@ void makeToldPlane(Maker& maker, const CaseSheet& one) {
                    {sx, sy, ofLine("xA"), ofLine("yA")}, digits(6));
 }
 
+/// The exact line with its ends in the order of the search's, so that they can be compared.
+equilibrium::Segment inOrderOfTheTold(const Maker& maker, const CaseSheet& one) {
+    equilibrium::Segment ends = *one.exact->neutralLine;
+    if (!one.hasLine())
+        return ends;
+    const auto told = [&](const char* id) {
+        return maker.at(one.number, sided(QString::fromLatin1(id), Side::Search))->value;
+    };
+    const auto away = [&](const equilibrium::Point& end) {
+        return std::hypot(end.x - told("xA"), end.y - told("yA"));
+    };
+    if (away(ends[1]) < away(ends[0]))
+        std::swap(ends[0], ends[1]);
+    return ends;
+}
+
 void makeExactPlane(Maker& maker, const CaseSheet& one) {
     const int c = one.number;
     const equilibrium::Plane& plane = one.exact->plane;
@@ -86,7 +104,7 @@ void makeExactPlane(Maker& maker, const CaseSheet& one) {
                    {s0, sx, sy, maker.at(0, QStringLiteral("L")), maker.at(0, QStringLiteral("B"))},
                    places(2));
     if (one.exact->neutralLine)
-        makeLine(maker, c, Side::Exact, *one.exact->neutralLine,
+        makeLine(maker, c, Side::Exact, inOrderOfTheTold(maker, one),
                  {places(1), places(1), places(1), places(1)});
 }
 

@@ -21,6 +21,7 @@ live::PictureWords wordsOf(const Texts& text) {
                     text(QStringLiteral("summary.tension")), text(QStringLiteral("summary.shear")),
                     text(QStringLiteral("summary.interaction"))};
     words.inCase = text(QStringLiteral("picture.inCase"));
+    words.above = text(QStringLiteral("picture.above"));
     words.view = QString();
     return words;
 }

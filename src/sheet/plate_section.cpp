@@ -37,7 +37,7 @@ public:
     Blocks all() {
         const Quantity* const t = thickness();
         whole(corrected(t));
-        return {std::move(values_), std::move(rows_)};
+        return {std::move(values_), std::move(givens_), std::move(rows_)};
     }
 
 private:
@@ -51,7 +51,7 @@ private:
         if (remark.isEmpty())
             values_.numbers.push_back(made);
         else
-            rows_.rows.push_back({made, nullptr, remark});
+            givens_.rows.push_back({made, nullptr, remark});
         return made;
     }
     const Quantity* computed(const char* name, const char* symbol, const Clause& clause,
@@ -71,11 +71,17 @@ private:
     const Quantity* pressure(const char* name, const char* symbol, double typed) {
         return given(name, symbol, typed, "MPa", compared(typed, facts_.pressure, "MPa"));
     }
+    /// How a typed value stands to the largest one that was computed. The form offers it with one
+    /// decimal.
     Rich compared(double typed, double found, const char* unit) const {
         constexpr double slack = 0.02;
-        const bool less = typed < (1 - slack) * found;
-        return maker_.text()(less ? QStringLiteral("plate.less") : QStringLiteral("plate.enough"),
-                             {fixed(found, 2), QString::fromLatin1(unit)});
+        constexpr double rounding = 0.0501;
+        const char* const key = std::fabs(typed - found) <= rounding ? "plate.same"
+                                : typed > found                      ? "plate.more"
+                                : typed < (1 - slack) * found        ? "plate.less"
+                                                                     : "plate.little";
+        return maker_.text()(QString::fromLatin1(key), {fixed(found, 2), QString::fromLatin1(unit),
+                                                        percentText(1 - typed / found)});
     }
 
     const Quantity* thickness() {
@@ -94,9 +100,9 @@ private:
         case 6:
             return fragment(in.check6);
         case 7:
-            return anchorFragment(in.check7, threeEdgesCoefficientClause);
+            return anchorFragment(in.check7, threeEdgesCurveClause, threeEdgesCoefficientClause);
         default:
-            return anchorFragment(in.check8, twoEdgesCoefficientClause);
+            return anchorFragment(in.check8, twoEdgesCurveClause, twoEdgesCoefficientClause);
         }
     }
 
@@ -149,28 +155,44 @@ private:
         return computed("t", "t", columnBaseThicknessClause, {sigma, h, s, k, fd()});
     }
 
-    /// A curve that the chart does not have, or that has ended, counts as 0.
-    Rich readAt(Single y, Integer curve) const {
-        if (y != 0)
-            return {};
-        return maker_.text()(QStringLiteral("plate.noCurve"), {significant(curve / 10.0, 3)});
+    /// The coefficient on one curve, from the straight piece of it that serves a/c. A curve that
+    /// the chart does not have, or that has ended, counts as 0.
+    const Quantity* readCurve(int number, Integer curve, const ChartReading& read,
+                              const Clause& clause, const Quantity* q) {
+        const QString n = QString::number(number);
+        const QString ratio = significant(curve / 10.0, 3);
+        const auto name = [&](const char* base) { return QByteArray(base) + n.toUtf8(); };
+        const auto piece = chartPiece(check_, curve, read.q);
+        if (!piece)
+            return given(name("y").constData(), name("y_").constData(), 0, "",
+                         maker_.text()(QStringLiteral("plate.noCurve"), {ratio}));
+        const auto of = [&](const char* base, const char* symbol, Single value) {
+            return given(name(base).constData(), name(symbol).constData(), value, "");
+        };
+        const Quantity* const x0 = of("x0", "q_0,", piece->x0);
+        const Quantity* const y0 = of("y0", "y_0,", piece->y0);
+        const Quantity* const yr = of("yr", "y_r,", piece->y1);
+        const Quantity* const w = of("w", "w_", piece->w);
+        return computed(name("y").constData(), name("y_").constData(), clause, {x0, y0, yr, w, q},
+                        digits(5), maker_.text()(QStringLiteral("plate.onCurve"), {ratio}));
     }
 
-    const Quantity* anchorFragment(const PlateInputs::AnchorFragment& in, const Clause& chart) {
+    const Quantity* anchorFragment(const PlateInputs::AnchorFragment& in, const Clause& curve,
+                                   const Clause& chart) {
         const Quantity* const S = force(in.S);
         const Quantity* const b = given("b", "b", in.b, "mm");
         const Quantity* const a = given("a", "a", in.a, "mm");
         const Quantity* const c = given("c", "c", in.c, "mm");
         const Quantity* const p = computed("p", "p", chartWidthClause, {b, c});
-        computed("q", "q", chartPlaceClause, {a, c});
+        const Quantity* const q = computed("q", "q", chartPlaceClause, {a, c});
         const ChartReading read = Interpoluj_wykres(check_, in.b, in.a, in.c);
         const double step = check_ == 8 && read.row.k2 >= 30 ? 0.5 : 0.2;
         const Quantity* const L = given(
             "L", "L", read.row.L, "",
             maker_.text()(QStringLiteral("plate.curves"), {significant(read.row.k1 / 10.0, 3),
                                                            significant(read.row.k2 / 10.0, 3)}));
-        const Quantity* const y1 = given("y1", "y_1", read.y1, "", readAt(read.y1, read.row.k1));
-        const Quantity* const y2 = given("y2", "y_2", read.y2, "", readAt(read.y2, read.row.k2));
+        const Quantity* const y1 = readCurve(1, read.row.k1, read, curve, q);
+        const Quantity* const y2 = readCurve(2, read.row.k2, read, curve, q);
         const Quantity* const d = given("d", "d", step, "");
         const Quantity* const y = computed("y", "y", chart, {y1, y2, p, L, d});
         return computed("t", "t", anchorFragmentThicknessClause, {S, y, fd()});
@@ -198,15 +220,35 @@ private:
         if (valueOf(formula) == told)
             computed("g", "g", wholeThicknessClause, {t}, places(0), remark);
         else
-            given("g", "g", told, "mm", remark);
+            rows_.rows.push_back(
+                {maker_.given(0, id("g"), QStringLiteral("g"), told, QStringLiteral("mm")), nullptr,
+                 remark});
     }
 
     Maker& maker_;
     const notes::PlateFacts& facts_;
     int check_;
     Values values_;
+    Equations givens_; ///< with a remark each
     Equations rows_;
 };
+
+/// False for a result that an earlier opening of the form has left: nothing was typed for it in
+/// this one.
+bool wasEntered(const PlateInputs& in, int check) {
+    switch (check) {
+    case 5:
+        return in.check5.l != 0;
+    case 6:
+        return in.check6.l != 0;
+    case 7:
+        return in.check7.S != 0;
+    case 8:
+        return in.check8.S != 0;
+    default:
+        return true; // the form clears these when it opens
+    }
+}
 
 void addCheck(Maker& maker, const notes::PlateFacts& facts, int check) {
     const Texts& text = maker.text();
@@ -214,6 +256,12 @@ void addCheck(Maker& maker, const notes::PlateFacts& facts, int check) {
     maker.heading(3, text(QStringLiteral("plate.check"),
                           {QString::fromLatin1(name.name),
                            text(QStringLiteral("plate.fragment%1").arg(check))}));
+    if (!wasEntered(facts.inputs, check)) {
+        maker.say(QStringLiteral("plate.left"),
+                  {QString::number(facts.required.at(static_cast<std::size_t>(check - 1)))},
+                  Tone::Warning);
+        return;
+    }
     Blocks blocks = PlateCheck(maker, facts, check).all();
     if (*name.sketch == '\0') {
         for (Block& block : blocks)
@@ -233,13 +281,20 @@ QString gradeName(const notes::PlateFacts& facts) {
 }
 
 void tellRefused(Maker& maker, const notes::PlateFacts& facts) {
-    QStringList refused;
-    for (int check = 1; check <= PlateChecks; ++check)
-        if (facts.refused.at(static_cast<std::size_t>(check - 1)))
-            refused += QString::fromLatin1(nameOf(check).name);
-    if (!refused.isEmpty())
-        maker.say(QStringLiteral("plate.refused"), {refused.join(QStringLiteral(", "))},
-                  Tone::Warning);
+    QStringList withdrawn;
+    for (int check = 1; check <= PlateChecks; ++check) {
+        const auto at = static_cast<std::size_t>(check - 1);
+        const QString name = QString::fromLatin1(nameOf(check).name);
+        if (facts.refused.at(at) && facts.why.at(at).isEmpty())
+            maker.say(QStringLiteral("plate.excluded"), {name}, Tone::Warning);
+        else if (facts.refused.at(at))
+            maker.say(QStringLiteral("plate.refused"),
+                      {name, rich(QString(facts.why.at(at)).replace(u'\n', u' '))}, Tone::Warning);
+        else if (facts.withdrawn.at(at))
+            withdrawn += name;
+    }
+    if (!withdrawn.isEmpty())
+        maker.say(QStringLiteral("plate.withdrawn"), {withdrawn.join(QStringLiteral(", "))});
 }
 
 } // namespace
@@ -258,16 +313,14 @@ void addPlate(Maker& maker) {
                                      maker.input().stan.materialy.Fd_blachy, QStringLiteral("MPa")),
                          nullptr,
                          maker.text()(QStringLiteral("plate.steel"), {rich(gradeName(*facts))})});
+    rows.rows.push_back({maker.given(0, QStringLiteral("g_accepted"), QStringLiteral("g"),
+                                     *facts->accepted, QStringLiteral("mm")),
+                         nullptr, maker.text()(QStringLiteral("plate.accepted"))});
     maker.add(std::move(rows));
     for (int check = 1; check <= PlateChecks; ++check)
         if (facts->required.at(static_cast<std::size_t>(check - 1)) > 0)
             addCheck(maker, *facts, check);
     tellRefused(maker, *facts);
-    Equations accepted;
-    accepted.rows.push_back({maker.given(0, QStringLiteral("g_accepted"), QStringLiteral("g"),
-                                         *facts->accepted, QStringLiteral("mm")),
-                             nullptr, maker.text()(QStringLiteral("plate.accepted"))});
-    maker.add(std::move(accepted));
 }
 
 } // namespace ferna::sheet

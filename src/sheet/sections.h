@@ -25,6 +25,8 @@ void addAnchor(Maker& maker);
 void addNotes(Maker& maker);
 /// What is assumed and what is not checked.
 void addModel(Maker& maker);
+/// The table of combinations of which the load cases are rows.
+void addCombinations(Maker& maker, const combinations::Digest& digest);
 
 // Of a load case
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "combinations/digest.h"
 #include "design/stan.h"
 #include "notes/record.h"
 
@@ -19,6 +20,8 @@ struct SheetInput {
     QString project = {};        ///< the project's name, as typed
     QString program = {};        ///< name and version
     QDateTime now = {};          ///< date and time of the sheet
+    /// The table whose rows the load cases are; null where they are none.
+    const combinations::Digest* combinations = nullptr;
 };
 
 } // namespace ferna::sheet

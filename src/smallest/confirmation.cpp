@@ -1,9 +1,8 @@
 #include "smallest/confirmation.h"
 
 #include "analysis/stan_przypadku.h"
-#include "command/calculation.h"
+#include "command/quiet_host.h"
 #include "design/catalogue.h"
-#include "design/user_steels.h"
 #include "input/anchor_layout.h"
 #include "runtime/format.h"
 #include "runtime/run_time_error.h"
@@ -12,32 +11,13 @@ namespace ferna::smallest {
 
 namespace {
 
-/// The surroundings of a calculation that shows and draws nothing; the user's steel is the one that
-/// is remembered.
-class QuietHost : public CalculationHost {
-public:
-    explicit QuietHost(Dialogs& dialogs) : dialogs_(dialogs) {}
-
-    void KGM8(Stan& stan) override {
-        if (acceptAnchorSteel(stan, rememberedAnchorSteel(stan.materialy), dialogs_))
-            cancelSteel(stan);
-    }
-    void drawPlate(Stan& /*stan*/, const InputFields& /*fields*/) override {}
-
-private:
-    Dialogs& dialogs_;
-};
-
 /// A catalogue whose lines can be told from one another, so that verdicts can be read.
 QString lineOf(int number) {
     return QStringLiteral("\t%1\t").arg(number);
 }
 
-Stan freshState(const Stan& entered) {
-    Stan fresh;
-    fresh.opcje = entered.opcje;
-    fresh.obciazenia.Liczba_przyp = entered.obciazenia.Liczba_przyp;
-    fresh.materialy = entered.materialy;
+Stan stateOf(const Stan& entered) {
+    Stan fresh = freshState(entered);
     for (int line = 1; line <= CatalogueLines; ++line)
         fresh.Teksty(line) = lineOf(line);
     return fresh;
@@ -94,12 +74,12 @@ void enter(const Design& design, const DesignRange& range, Stan& stan, InputFiel
         storeAnchorAt(plate, plate.Liczba_srub, static_cast<int>(place.x),
                       static_cast<int>(place.y), design.diameter);
     }
-    Lista_srub(stan);
+    fillAnchorLines(stan);
 }
 
 Confirmation confirm(const Design& design, const DesignRange& range, const Stan& stan,
                      const InputFields& fields) {
-    Stan fresh = freshState(stan);
+    Stan fresh = stateOf(stan);
     InputFields entered = fields;
     enter(design, range, fresh, entered);
     entered.txtNr_strony = QStringLiteral("1");

@@ -59,7 +59,7 @@ Stan openedState(const Stan& before, const Task& task) {
     stan.plyta = task.stan.plyta;
     stan.obciazenia = before.obciazenia;
     stan.obciazenia.Liczba_przyp = task.stan.obciazenia.Liczba_przyp;
-    Lista_srub(stan);
+    fillAnchorLines(stan);
     return stan;
 }
 

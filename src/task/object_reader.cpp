@@ -21,13 +21,13 @@ Complaint expected(const std::string& english, const std::string& polish, const 
 } // namespace
 
 ObjectReader::ObjectReader(const TaskValue& value, std::string path)
-    : value_(objectOf(value, path)), path_(std::move(path)) {}
+    : value_(objectOf(value, path)), next_(value_.parts().begin()), path_(std::move(path)) {}
 
 ObjectReader::ObjectReader(const TaskValue& value, std::string path,
                            std::initializer_list<const char*> keys)
     : ObjectReader(value, std::move(path)) {
     for (const char* key : keys)
-        known_.at(knownKeys_++) = key;
+        known_.append(key);
     finish();
 }
 
@@ -44,8 +44,17 @@ std::string ObjectReader::pathOf(std::string_view key) const {
 
 /// The value of a key, which is known from now on; null where the object lacks it.
 const TaskValue* ObjectReader::ask(std::string_view key) {
-    known_.at(knownKeys_++) = key;
-    return value_.find(key);
+    known_.append(key);
+    const TaskValue::Parts parts = value_.parts();
+    const auto hasKey = [key](const TaskValue& part) { return part.key == key; };
+    auto found = std::find_if(next_, parts.end(), hasKey);
+    if (found == parts.end()) {
+        found = std::find_if(parts.begin(), next_, hasKey);
+        if (found == next_)
+            return nullptr;
+    }
+    next_ = std::next(found);
+    return &*found;
 }
 
 const TaskValue& ObjectReader::at(std::string_view key) {
@@ -126,11 +135,17 @@ std::optional<int> ObjectReader::listNumber(std::string_view key, int first, int
 }
 
 void ObjectReader::finish() const {
-    const auto end = known_.begin() + knownKeys_;
-    for (const TaskValue& part : value_.parts())
-        if (std::find(known_.begin(), end, part.key) == end)
-            throw TaskError(pathOf(part.key),
-                            {"unknown key", "nieznany klucz (plik nowszej wersji programu?)"});
+    const auto* known = known_.begin();
+    for (const TaskValue& part : value_.parts()) {
+        const auto* found = std::find(known, known_.end(), part.key);
+        if (found == known_.end()) {
+            found = std::find(known_.begin(), known, part.key);
+            if (found == known)
+                throw TaskError(pathOf(part.key),
+                                {"unknown key", "nieznany klucz (plik nowszej wersji programu?)"});
+        }
+        known = found;
+    }
 }
 
 Integer integerOf(const TaskValue& value, const Place& place, Integer least, Integer most) {

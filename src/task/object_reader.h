@@ -5,10 +5,10 @@
 #include "task/task_value.h"
 
 #include <QString>
+#include <QVarLengthArray>
 
 #include <nlohmann/json.hpp>
 
-#include <array>
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -62,11 +62,11 @@ private:
 
     const TaskValue* ask(std::string_view key);
 
-    static constexpr std::size_t mostKeys = 48; // that are told and asked for
+    static constexpr qsizetype mostKeys = 48; // that are told and asked for; more are no error
     const TaskValue& value_;
+    TaskValue::Parts::Iterator next_; // keys mostly stand in the order in which they are asked for
     std::string path_;
-    std::array<std::string_view, mostKeys> known_;
-    std::size_t knownKeys_ = 0;
+    QVarLengthArray<std::string_view, mostKeys> known_;
 };
 
 /// Where a value stands: its key in an object or array of that path.

@@ -2,7 +2,9 @@
 
 #include <QByteArrayView>
 
+#include <array>
 #include <charconv>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -104,10 +106,11 @@ private:
         return tell(letters);
     }
 
-    bool digits() {
+    /// Reads digits behind those of `value`, which runs over where there are too many.
+    bool digits(std::uint64_t& value) {
         const char* const begin = at_;
-        while (at_ != end_ && *at_ >= '0' && *at_ <= '9')
-            ++at_;
+        for (; at_ != end_ && *at_ >= '0' && *at_ <= '9'; ++at_)
+            value = 10 * value + static_cast<std::uint64_t>(*at_ - '0');
         return at_ != begin;
     }
 
@@ -116,24 +119,36 @@ private:
         if (at_ != end_ && *at_ == '-')
             ++at_;
         const char* const first = at_;
-        if (!digits() || (*first == '0' && at_ - first > 1))
+        std::uint64_t value = 0;
+        if (!digits(value) || (*first == '0' && at_ - first > 1))
             return false;
-        bool isWhole = true;
+        const char* const point = at_;
         if (at_ != end_ && *at_ == '.') {
-            isWhole = false;
             ++at_;
-            if (!digits())
+            if (!digits(value))
                 return false;
         }
-        if (at_ != end_ && (*at_ == 'e' || *at_ == 'E')) {
-            isWhole = false;
+        const bool isWhole = at_ == point;
+        if (at_ != end_ && (*at_ == 'e' || *at_ == 'E'))
+            return exponent() && fraction(begin);
+        const bool isShort = at_ - first < static_cast<std::ptrdiff_t>(powersOfTen.size());
+        if (!isShort)
+            return isWhole ? wholeNumber(begin) : fraction(begin);
+        const auto magnitude = static_cast<std::int64_t>(value);
+        if (isWhole)
+            return events_.number_integer(first != begin ? -magnitude : magnitude);
+        // Two exact doubles: the quotient is the double that is nearest to the decimal.
+        const double decimal =
+            static_cast<double>(magnitude) / powersOfTen[static_cast<std::size_t>(at_ - point - 1)];
+        return events_.number_float(first != begin ? -decimal : decimal, {});
+    }
+
+    bool exponent() {
+        ++at_;
+        if (at_ != end_ && (*at_ == '+' || *at_ == '-'))
             ++at_;
-            if (at_ != end_ && (*at_ == '+' || *at_ == '-'))
-                ++at_;
-            if (!digits())
-                return false;
-        }
-        return isWhole ? wholeNumber(begin) : fraction(begin);
+        std::uint64_t unused = 0;
+        return digits(unused);
     }
 
     bool wholeNumber(const char* begin) {
@@ -147,6 +162,10 @@ private:
         return std::from_chars(begin, at_, value).ec == std::errc()
                && events_.number_float(value, {});
     }
+
+    /// Up to the power that, like every whole number with fewer digits, a double holds exactly.
+    static constexpr std::array powersOfTen{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                            1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
     const char* at_;
     const char* end_;

@@ -101,7 +101,6 @@ void readAnchors(ObjectReader& task, Task& out) {
         storeAnchorAt(plate, plate.Liczba_srub, x, y, anchor.requiredInteger("fi"));
         anchor.finish();
     }
-    Lista_srub(out.stan);
 }
 
 void readCases(ObjectReader& task, Task& out) {

@@ -49,7 +49,12 @@ Json jsonOf(const TaskValue& value) {
 /// Keeps what the parser tells; refuses a key that stands twice, and what is too deep.
 class Keeper {
 public:
-    Keeper(TaskDocument& document, std::size_t length) : document_(document) {
+    /// Where the letters of the texts that the parser tells stand.
+    enum class Letters { InTheDocument, Elsewhere };
+
+    /// `length`: of the whole text.
+    Keeper(TaskDocument& document, std::size_t length, Letters letters)
+        : document_(document), letters_(letters) {
         constexpr std::size_t bytesOfAValue = 8; // about, of a task
         document_.values.reserve(length / bytesOfAValue + 1);
         document_.letters.reserve(length); // a letter is never longer than what stood for it
@@ -101,8 +106,11 @@ private:
     struct Level {
         std::size_t begin = 0;     // of the object or array among the values
         std::string_view key = {}; // the last one
+        std::uint64_t marks = 0;   // of the keys so far
     };
     std::string_view lettersOf(std::string_view text) {
+        if (letters_ == Letters::InTheDocument)
+            return text;
         const std::size_t begin = document_.letters.size();
         document_.letters.insert(document_.letters.end(), text.begin(), text.end());
         return {document_.letters.data() + begin, text.size()};
@@ -132,7 +140,7 @@ private:
             throw TaskError(pathOfNext(), tooDeep(deepest));
         const std::size_t begin = document_.values.size();
         keep(kind);
-        levels_[depth_++] = {begin, {}};
+        levels_[depth_++] = {begin, {}, 0};
         return true;
     }
 
@@ -142,9 +150,22 @@ private:
         return true;
     }
 
+    /// One of 64 marks; keys that are alike have the same.
+    static std::uint64_t markOf(std::string_view key) {
+        const auto letter = [](char c) { return static_cast<unsigned char>(c); };
+        const std::size_t sum =
+            key.empty() ? 0 : letter(key.front()) + 7U * letter(key.back()) + 5 * key.size();
+        return std::uint64_t{1} << sum % 64;
+    }
+
     /// True where the present key of the object that is being read stands before.
-    bool isKnown(const Level& level, const TaskValue& object) {
+    bool isKnown(Level& level, const TaskValue& object) {
         constexpr std::uint32_t few = 32;
+        const std::uint64_t mark = markOf(level.key);
+        const bool isNew = (level.marks & mark) == 0;
+        level.marks |= mark;
+        if (isNew && object.count < few)
+            return false;
         if (object.count < few) {
             const TaskValue* part = &object + 1;
             for (std::uint32_t i = 0; i < object.count; ++i, part += part->span)
@@ -176,6 +197,7 @@ private:
     std::string pathOfNext() const { return pathOf(depth_); }
 
     TaskDocument& document_;
+    Letters letters_;
     std::array<Level, deepest> levels_;
     std::size_t depth_ = 0;
     std::map<std::size_t, std::set<std::string_view>> manyKeys_; // of objects with many
@@ -197,14 +219,15 @@ std::string TaskValue::written() const {
 
 TaskDocument parsed(std::string_view text) {
     TaskDocument document;
-    Keeper keeper(document, text.size());
-    if (PlainJson(text, keeper).read())
+    document.letters.assign(text.begin(), text.end());
+    Keeper keeper(document, text.size(), Keeper::Letters::InTheDocument);
+    if (PlainJson({document.letters.data(), text.size()}, keeper).read())
         return document;
     // The library takes it for the end and would not see what stands behind it.
     if (text.find('\0') != std::string_view::npos)
         throw noJson("a zero byte stands in it");
     TaskDocument again;
-    Keeper other(again, text.size());
+    Keeper other(again, text.size(), Keeper::Letters::Elsewhere);
     Json::sax_parse(text, &other);
     return again;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,8 +28,14 @@ public:
     public:
         class Iterator {
         public:
+            using iterator_category = std::forward_iterator_tag;
+            using difference_type = std::ptrdiff_t;
+            using value_type = TaskValue;
+            using pointer = const TaskValue*;
+            using reference = const TaskValue&;
+
             explicit Iterator(const TaskValue* at) : at_(at) {}
-            const TaskValue& operator*() const { return *at_; }
+            reference operator*() const { return *at_; }
             Iterator& operator++() {
                 at_ += at_->span;
                 return *this;

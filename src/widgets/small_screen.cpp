@@ -96,4 +96,15 @@ void letContentsScroll(QWidget* form) {
     outer->activate();
 }
 
+void fitToScreen(QWidget* window, QSize wanted) {
+    const QSize room = roomOnScreen(window);
+    if (needsMoreThan(window, room))
+        letContentsScroll(window);
+    window->resize(wanted.boundedTo(room));
+    // In the middle, its title in sight: the toolkit leaves no room for the frame.
+    const QPoint margin((room.width() - window->width()) / 2,
+                        (room.height() - window->height()) / 2);
+    window->move(window->screen()->availableGeometry().topLeft() + margin);
+}
+
 } // namespace ferna

@@ -19,4 +19,8 @@ void letPagesScroll(QTabWidget* tabs);
 /// Lets all that stands on a form be scrolled; a menu bar stays in its place.
 void letContentsScroll(QWidget* form);
 
+/// Makes a window of a changeable size as large as wanted, as far as it has room on its screen; one
+/// that needs more than there is can be scrolled. In the middle. Once, when all stands on it.
+void fitToScreen(QWidget* window, QSize wanted);
+
 } // namespace ferna

@@ -56,6 +56,28 @@ QStringList nameFilters(const QString& filter) {
     return filters;
 }
 
+/// The ending of a filter's files, with its point; empty where it stands for several or for all.
+QString endingOf(const QString& nameFilter) {
+    static const QRegularExpression files(
+        QStringLiteral("\\(\\*(\\.[A-Za-z][A-Za-z0-9]{0,7})\\)$"));
+    return files.match(nameFilter).captured(1);
+}
+
+/// The name in the question with the ending of the format that was chosen; one that was typed with
+/// an ending of none of the formats is left alone.
+void followFilter(QFileDialog& dialog, const QString& chosen) {
+    const QString ending = endingOf(chosen);
+    if (ending.isEmpty() || dialog.selectedFiles().isEmpty())
+        return;
+    dialog.setDefaultSuffix(ending);
+    const QString name = dialog.selectedFiles().constFirst();
+    for (const QString& filter : dialog.nameFilters()) {
+        const QString other = endingOf(filter);
+        if (!other.isEmpty() && name.endsWith(other, Qt::CaseInsensitive))
+            dialog.selectFile(name.chopped(other.size()) + ending);
+    }
+}
+
 } // namespace
 
 bool hasEnding(const QString& name) {
@@ -72,13 +94,17 @@ std::optional<QString> askWhereToSave(const SaveQuestion& question,
     dialog.setNameFilters(nameFilters(question.filter));
     dialog.setDefaultSuffix(question.extension);
     dialog.selectFile(question.preset);
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog,
+                     [&dialog](const QString& chosen) { followFilter(dialog, chosen); });
     QString name;
     do {
         if (runBox(surroundings, dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
             return std::nullopt;
         name = dialog.selectedFiles().constFirst();
-        if (!hasEnding(name))
-            name += question.extension;
+        if (!hasEnding(name)) {
+            const QString ending = endingOf(dialog.selectedNameFilter());
+            name += ending.isEmpty() ? question.extension : ending;
+        }
     } while (!mayReplace(surroundings.files(name), question.title, surroundings));
     settings::rememberSaveFolder(QFileInfo(name).path());
     return name;

@@ -22,7 +22,8 @@ struct SaveSurroundings {
 };
 
 /// Asks where to save. The question opens in the folder that was used last, at first in the user's
-/// documents; a name without an ending gets the question's own; existing files are named and asked
+/// documents; a name without an ending gets that of the format chosen, else the question's own;
+/// choosing another format changes the ending of the name; existing files are named and asked
 /// about. The path chosen; none where the question was cancelled.
 std::optional<QString> askWhereToSave(const SaveQuestion& question,
                                       const SaveSurroundings& surroundings = {});

@@ -2,11 +2,9 @@
 #include "app/document_entries.h"
 #include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
-#include "runtime/picture_box.h"
 #include "support/column_base.h"
-#include "support/folder.h"
-#include "support/places.h"
 #include "support/printing.h"
+#include "support/results_folder.h"
 
 #include <QAction>
 #include <QMenu>
@@ -22,14 +20,8 @@ namespace {
 class DocumentEntriesOfTheResults : public ::testing::Test {
 protected:
     void SetUp() override {
-        const QDir programs(places::bin());
-        for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
-            QFile::copy(programs.filePath(picture), folder.path(picture));
-        QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
-                    folder.path(QStringLiteral("Wyd_drk")));
         base.fourAnchors(250, 150).loads(320, 60, 5);
         ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
-        PictureBox(QSize(265, 176)).saveBitmap(folder.path(QStringLiteral("Ferrob.bmp")));
         auto session = std::make_unique<ResultsSession>(
             base.stan, base.dialogs, path(), true,
             [] { return QDateTime(QDate(2024, 3, 9), QTime(14, 5)); },
@@ -54,7 +46,7 @@ protected:
     }
 
     ColumnBase base;
-    Folder folder;
+    ResultsFolder folder;
     std::unique_ptr<FernaWyn> form;
 };
 

@@ -1,11 +1,18 @@
 #include "app/reserve_entries.h"
 #include "capacity/forms/chart_view.h"
+#include "desktop/forms/Help_window.h"
+#include "desktop/forms/help_key.h"
+#include "runtime/format.h"
+#include "support/keyboard_order.h"
 #include "support/main_form.h"
 #include "task/forms/task_desk.h"
+#include "widgets/small_screen.h"
 
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QMenu>
 #include <QProgressBar>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QSpinBox>
 #include <QTableView>
@@ -38,7 +45,9 @@ protected:
         settle();
     }
 
-    void prepare() override { entries = std::make_unique<ReserveEntries>(*form, stan); }
+    void prepare() override {
+        entries = std::make_unique<ReserveEntries>(*form, stan, [this] { return others; });
+    }
     void TearDown() override { entries.reset(); }
 
     void put(int r, const std::array<const char*, 5>& texts) {
@@ -91,6 +100,7 @@ protected:
     }
     QString cell(int row, int column) const { return table().index(row, column).data().toString(); }
 
+    CapacityWindow::OtherLoads others; ///< none at first
     std::unique_ptr<ReserveEntries> entries;
 };
 
@@ -149,6 +159,138 @@ TEST_F(ReserveWindows, TheCapacityTakesATypedForceAndSaysWhatItMisses) {
     }));
 }
 
+TEST_F(ReserveWindows, TypedForcesStayWhateverIsEnteredUntilACaseIsChosen) {
+    openCapacity();
+    auto* const N = in<QLineEdit>(entries->capacity(), "txtN");
+    auto* const list = in<QComboBox>(entries->capacity(), "cmbPrzypadek");
+    N->selectAll();
+    QTest::keyClicks(N, QStringLiteral("150"));
+    EXPECT_EQ(list->currentIndex(), -1);
+    EXPECT_EQ(list->placeholderText(), QStringLiteral("wpisane"));
+    const double before = chart().line.points[0].load.M1;
+    type("Text3", QStringLiteral("700"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chart().line.points[0].load.M1 > before; }));
+    EXPECT_EQ(chart().N, 150);
+    list->setCurrentIndex(1);
+    EXPECT_EQ(chart().N, 120);
+}
+
+TEST_F(ReserveWindows, OtherLoadsStandInTheChartInPlaceOfTheCases) {
+    openCapacity();
+    auto* const points = in<QComboBox>(entries->capacity(), "cmbPunkty");
+    EXPECT_FALSE(points->isVisible()) << "there are none";
+    for (int i = 0; i < 60; ++i)
+        others.loads.push_back({QStringLiteral("KO-%1").arg(i + 1), {400, 10.0 + i, 5}, {10, 0}});
+    others.loads[7] = {QStringLiteral("KO-8"), {150, 62, 5}, {60, 5}}; // friction does not take it
+    others.loads[9].load.M1 = 900;
+    others.source = QStringLiteral("hala.csv");
+    entries->showOtherLoads();
+    ASSERT_TRUE(points->isVisible());
+    EXPECT_EQ(points->currentText(), QStringLiteral("kombinacje: hala.csv (60)"));
+    ASSERT_EQ(chart().points.size(), 60U);
+    const auto strength = enteredStrength(stan, form->fields());
+    EXPECT_EQ(chart().points[7].used, strength->used({150, 62, 5}, {60, 5})->worst());
+    EXPECT_EQ(chart().points[7].factor, loadFactor(*strength, {150, 62, 5}, {60, 5}));
+    EXPECT_EQ(nearestToLine(chart()), 9);
+    EXPECT_EQ(reserve(),
+              QStringLiteral("Najbliżej granicy: KO-10, wytężenie %1. Wszystkie jej "
+                             "siły będą przeniesione pomnożone przez %2. Kombinacji: "
+                             "60, niespełnionych: 1.")
+                  .arg(usedWords(chart().points[9].used), factorWords(chart().points[9].factor)));
+    // The line is at the N of the nearest one; the list holds those that come next.
+    auto* const list = in<QComboBox>(entries->capacity(), "cmbPrzypadek");
+    EXPECT_EQ(in<QLabel>(entries->capacity(), "lblPrzypadek")->text(),
+              QStringLiteral("Siły z kombinac&ji:"));
+    EXPECT_EQ(list->count(), 50);
+    EXPECT_EQ(list->itemText(0), QStringLiteral("KO-10"));
+    EXPECT_EQ(chart().N, 400);
+    list->setCurrentIndex(list->findText(QStringLiteral("KO-8")));
+    EXPECT_EQ(chart().N, 150);
+    EXPECT_EQ(in<QLineEdit>(entries->capacity(), "txtV")->text(), QStringLiteral("60,208"));
+    // The base changes: the points with it.
+    const double before = chart().points[7].used;
+    type("Text3", QStringLiteral("800"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return chart().points[7].used != before; }));
+    EXPECT_EQ(list->currentText(), QStringLiteral("KO-8")) << "the chosen one stays chosen";
+    points->setCurrentIndex(0);
+    EXPECT_EQ(chart().points.size(), 2U);
+    EXPECT_EQ(list->itemText(0), QStringLiteral("Przypadek 1"));
+    points->setCurrentIndex(1);
+    others.loads.clear();
+    entries->capacity().renew();
+    EXPECT_FALSE(points->isVisible());
+    EXPECT_EQ(chart().points.size(), 2U) << "the table has gone";
+}
+
+TEST_F(ReserveWindows, FitOnTheirScreenWithTheirTitle) {
+    for (const QWidget* window : {static_cast<QWidget*>(&entries->capacity()),
+                                  static_cast<QWidget*>(&entries->smallest())}) {
+        const QSize room = roomOnScreen(window);
+        EXPECT_LE(window->width(), room.width());
+        EXPECT_LE(window->height(), room.height());
+        EXPECT_LT(room.height(), window->screen()->availableSize().height());
+    }
+}
+
+TEST_F(ReserveWindows, F1OpensTheirPagesOfTheHelp) {
+    openCapacity();
+    openSmallest();
+    for (const QWidget* part : entries->capacity().findChildren<QWidget*>())
+        EXPECT_EQ(helpContextOf(part), help::Capacity);
+    for (const QWidget* part : entries->smallest().findChildren<QWidget*>())
+        EXPECT_EQ(helpContextOf(part), help::SmallestBase);
+}
+
+TEST_F(ReserveWindows, TheKeyboardReachesEverythingInTheOrderOfReading) {
+    others = {QStringLiteral("hala.csv"), {{QStringLiteral("KO-1"), {400, 10, 5}, {}}}};
+    openCapacity();
+    EXPECT_EQ(entries->capacity().focusWidget(),
+              in<QComboBox>(entries->capacity(), "cmbPlaszczyzna"));
+    expectUniqueMnemonics(entries->capacity());
+    expectTabsInReadingOrder(entries->capacity());
+    entries->showOtherLoads();
+    expectUniqueMnemonics(entries->capacity());
+    QTest::keyClick(in<QLineEdit>(entries->capacity(), "txtV"), Qt::Key_Return);
+    EXPECT_TRUE(entries->capacity().isVisible()) << "Enter in a field closes and saves nothing";
+    QTest::keyClick(&entries->capacity(), Qt::Key_Escape);
+    EXPECT_FALSE(entries->capacity().isVisible());
+    openSmallest();
+    EXPECT_EQ(entries->smallest().focusWidget(), in<QSpinBox>(entries->smallest(), "spnSlupH"));
+    expectUniqueMnemonics(entries->smallest());
+    QTest::keyClick(in<QSpinBox>(entries->smallest(), "spnDlDo"), Qt::Key_Return);
+    EXPECT_GT(table().rowCount(), 0) << "Enter searches";
+    expectUniqueMnemonics(entries->smallest());
+    QTest::keyClick(&entries->smallest(), Qt::Key_Escape);
+    EXPECT_FALSE(entries->smallest().isVisible());
+}
+
+TEST_F(ReserveWindows, TheEndingOfTheSavedChartFollowsTheFormatChosen) {
+    openCapacity();
+    QString offered;
+    answers.dialog(QStringLiteral("saveQuestion"), [&](QWidget& modal) {
+        auto& dialog = static_cast<QFileDialog&>(modal);
+        dialog.setDirectory(folder.path());
+        auto* const field = modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        EXPECT_EQ(field->text(), QStringLiteral("nosnosc.png"));
+        auto* const formats = modal.findChild<QComboBox*>(QStringLiteral("fileTypeCombo"));
+        formats->setFocus();
+        QTest::keyClick(formats, Qt::Key_Down); // SVG
+        offered = field->text();
+        field->setText(QStringLiteral("hala")); // the format gives the ending
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    QTest::mouseClick(in<QPushButton>(entries->capacity(), "cmdZapisz"), Qt::LeftButton);
+    EXPECT_EQ(offered, QStringLiteral("nosnosc.svg"));
+    EXPECT_TRUE(contents(QStringLiteral("hala.svg")).contains("<svg"));
+    answers.dialog(QStringLiteral("saveQuestion"), [&](QWidget& modal) {
+        auto* const field = modal.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        field->setText(path(QStringLiteral("hala.bmp")));
+        QTest::keyClick(field, Qt::Key_Return);
+    });
+    QTest::mouseClick(in<QPushButton>(entries->capacity(), "cmdZapisz"), Qt::LeftButton);
+    EXPECT_TRUE(contents(QStringLiteral("hala.bmp.png")).startsWith("\x89PNG"));
+}
+
 TEST_F(ReserveWindows, TheMouseOverAPointOfTheCapacityTellsItsLoad) {
     openCapacity();
     const auto* const view = in<ChartView>(entries->capacity(), "wykres");
@@ -158,6 +300,7 @@ TEST_F(ReserveWindows, TheMouseOverAPointOfTheCapacityTellsItsLoad) {
             found = view->wordsAt(QPointF(x, y));
     EXPECT_TRUE(found.startsWith(QStringLiteral("Przypadek "))) << found.toStdString();
     EXPECT_TRUE(found.contains(QStringLiteral(" kNm\nwytężenie: ")));
+    EXPECT_TRUE(found.contains(QStringLiteral("mnożnik wszystkich sił: ")));
     EXPECT_EQ(view->wordsAt(QPointF(1, 1)), QString());
 }
 

@@ -4,6 +4,7 @@
 #include "support/golden.h"
 #include "support/printing.h"
 #include "support/task_document.h"
+#include "support/written_section.h"
 
 using namespace ferna;
 using namespace ferna::batch;
@@ -24,7 +25,7 @@ TEST_F(AnchorSectionOfATask, EveryReferenceTaskAgrees) {
         ScriptedDialogs dialogs;
         const auto result =
             runAnchorTask(readAnchorTask(documentOf(golden.task.at("Kotwa"))), stan, dialogs);
-        expectSame(golden.expected.at("Kotwa"), result.value,
+        expectSame(golden.expected.at("Kotwa"), written(stan, result),
                    "task " + std::to_string(golden.line));
         EXPECT_TRUE(dialogs.messages.empty());
         ++count;
@@ -55,7 +56,8 @@ TEST_F(AnchorSectionOfATask, WithAnExceededAnchorItIsNull) {
     Stan stan;
     stan.wyniki.Kotwy_OK = False;
     ScriptedDialogs dialogs;
-    EXPECT_TRUE(runAnchorTask({0, QStringLiteral("50")}, stan, dialogs).value.is_null());
+    const auto result = runAnchorTask({0, QStringLiteral("50")}, stan, dialogs);
+    EXPECT_TRUE(written(stan, result).is_null());
 }
 
 TEST_F(AnchorSectionOfATask, AfterAFailedLoadingThereAreNoLines) {
@@ -65,7 +67,7 @@ TEST_F(AnchorSectionOfATask, AfterAFailedLoadingThereAreNoLines) {
     ScriptedDialogs dialogs;
     const auto result =
         runAnchorTask(readAnchorTask(parsed(R"({"rodzaj": "F", "g": 32000})")), stan, dialogs);
-    EXPECT_TRUE(result.value.at("Wiersze_kotwy").empty());
+    EXPECT_TRUE(written(stan, result).at("Wiersze_kotwy").empty());
     ASSERT_EQ(dialogs.messages.size(), 1U);
     EXPECT_EQ(dialogs.messages[0].text, QStringLiteral("6!!!!"));
     EXPECT_EQ(stan.raport.Liczba_wierszy_kotwy, 0);

@@ -3,6 +3,7 @@
 #include "support/golden.h"
 #include "support/printing.h"
 #include "support/task_document.h"
+#include "support/written_section.h"
 
 using namespace ferna;
 using namespace ferna::batch;
@@ -24,7 +25,7 @@ TEST_F(ColumnSectionOfATask, EveryReferenceTaskAgrees) {
         const auto result =
             runColumnTask(readColumnTask(documentOf(golden.task.at("Slup"))), stan, fields);
         const GoldenJson& expected = golden.expected.at("Slup");
-        EXPECT_EQ(expected.dump(), result.value.dump()) << "task " << golden.line;
+        EXPECT_EQ(expected.dump(), written(result).dump()) << "task " << golden.line;
         EXPECT_TRUE(result.Blad.is_null());
         EXPECT_EQ(static_cast<std::size_t>(stan.obciazenia.Liczba_przyp), before + 1);
         EXPECT_EQ(fields.loads.at(before).N.toStdString(), expected.at("N").get<std::string>());
@@ -69,8 +70,8 @@ TEST_F(ColumnSectionOfATask, ValuesLeftOutKeepTheFirstTextsOfTheDialog) {
     const auto result = runColumnTask(
         readColumnTask(parsed(R"([{"kierunek": "pionowe", "rodzaj": "sila", "ex": 500}])")), stan,
         fields);
-    EXPECT_EQ(result.value.at("N"), " 1,0");
-    EXPECT_EQ(result.value.at("M1"), " 0,5");
+    EXPECT_EQ(written(result).at("N"), " 1,0");
+    EXPECT_EQ(written(result).at("M1"), " 0,5");
 }
 
 TEST_F(ColumnSectionOfATask, AnEmptyListWritesItsRow) {
@@ -87,7 +88,7 @@ TEST_F(ColumnSectionOfATask, ASixteenthLoadIsTheErrorOfTheRun) {
     task.loads.resize(16);
     const auto result = runColumnTask(task, stan, fields);
     EXPECT_EQ(result.Blad.dump(), R"({"numer":9,"tekst":"Subscript out of range","klucz":"[15]"})");
-    EXPECT_EQ(result.value.at("lista").size(), 15U);
+    EXPECT_EQ(written(result).at("lista").size(), 15U);
     EXPECT_EQ(stan.obciazenia.Liczba_przyp, 1);
 }
 

@@ -3,6 +3,7 @@
 #include "support/golden.h"
 #include "support/printing.h"
 #include "support/task_document.h"
+#include "support/written_section.h"
 
 using namespace ferna;
 using namespace ferna::batch;
@@ -24,7 +25,7 @@ TEST_F(PlateSectionOfATask, EveryReferenceTaskAgrees) {
         const auto result =
             runPlateTask(readPlateTask(documentOf(golden.task.at("Blacha"))), stan, dialogs);
         const std::string where = "task " + std::to_string(golden.line);
-        expectSame(golden.expected.at("Blacha"), result.value, where);
+        expectSame(golden.expected.at("Blacha"), written(stan, result), where);
         expectSame(golden.expected.at("Blad"), result.Blad, where);
         expectLastMessages(golden.expected.at("Komunikaty"), dialogs, where);
         ++count;
@@ -71,8 +72,8 @@ TEST_F(PlateSectionOfATask, FieldsLeftOutKeepTheFirstTextOfTheForm) {
     const auto result =
         runPlateTask(readPlateTask(parsed(R"({"Nr_stali_blachy": 2, "Sprawdzenia": {"1": {}}})")),
                      stan, dialogs);
-    EXPECT_EQ(result.value.at("Wiersze_blachy").at(4), "<38>100 kN<39>60 mm");
-    EXPECT_EQ(result.value.at("Wiersze_blachy").at(5), "<40>120 mm");
+    EXPECT_EQ(written(stan, result).at("Wiersze_blachy").at(4), "<38>100 kN<39>60 mm");
+    EXPECT_EQ(written(stan, result).at("Wiersze_blachy").at(5), "<40>120 mm");
     EXPECT_TRUE(result.Blad.is_null());
     ASSERT_TRUE(result.section);
     EXPECT_STREQ(result.section->sketches.at(0).file, "Szkic1.bmp");
@@ -88,8 +89,8 @@ TEST_F(PlateSectionOfATask, AnUnreadableFieldOfTheLaterChecksStopsTheRun) {
     EXPECT_EQ(
         result.Blad.dump(),
         R"({"numer":13,"tekst":"Type mismatch","klucz":"Blacha.Sprawdzenia.7","szczegol":"\" \""})");
-    EXPECT_EQ(result.value.at("Grubosc"), "0");
-    EXPECT_TRUE(result.value.at("Wiersze_blachy").empty());
+    EXPECT_EQ(written(stan, result).at("Grubosc"), "0");
+    EXPECT_TRUE(written(stan, result).at("Wiersze_blachy").empty());
     EXPECT_FALSE(result.section);
 }
 
@@ -103,7 +104,7 @@ TEST_F(PlateSectionOfATask, ARefusedPlateSteelCountsAsCancelled) {
     ASSERT_GE(dialogs.messages.size(), 2U);
     EXPECT_EQ(dialogs.messages[0].text, QStringLiteral("Podaj nazwę materiału"));
     EXPECT_EQ(dialogs.messages[1].text, QStringLiteral("Musisz okreslić stal dla blachy"));
-    EXPECT_EQ(result.value.at("Fd_blachy"), 300.0);
+    EXPECT_EQ(written(stan, result).at("Fd_blachy"), 300.0);
 }
 
 TEST_F(PlateSectionOfATask, WithoutAGradeTheCheckAsksForIt) {

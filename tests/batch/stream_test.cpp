@@ -213,6 +213,23 @@ TEST(Options, ABadCallLeavesWithTwo) {
     }
 }
 
+TEST(Options, ABadCallSaysWhatIsWrong) {
+    for (const auto& [line, why] :
+         {std::pair{"--nic a.json", "Unknown option 'nic'."},
+          {"--dziesietny ; a.json", "--dziesietny: expected , or . and not \";\""},
+          {"--arkusz a.xyz a.json",
+           "--arkusz a.xyz: expected a file ending in .pdf, .html, .odt, .docx"},
+          {"--podglad a.xyz a.json", "--podglad a.xyz: expected a file ending in .svg, .png, .pdf"},
+          {"--dobierz= a.json", "--dobierz: expected the name of a file"},
+          {"--kombinacje= a.json", "--kombinacje: expected the name of a file"},
+          {"--linie --watki x", "--watki: expected a whole number from 1 to 256 and not \"x\""},
+          {"--watki 2 a.json", "--watki goes with --linie"},
+          {"--kombinacje - -", "standard input cannot be both the task and the table"},
+          {"", "expected one task file (see --help)"}})
+        EXPECT_EQ(std::get<Leave>(readOptions(words(line))).text,
+                  std::string("ferna-wsad: ") + why + '\n');
+}
+
 TEST(Options, HelpAndVersionLeaveWithNothing) {
     const auto help = readOptions(words("--help"));
     EXPECT_EQ(std::get<Leave>(help).exitCode, 0);

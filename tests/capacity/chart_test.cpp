@@ -3,6 +3,7 @@
 #include "runtime/format.h"
 #include "runtime/run_time_error.h"
 
+#include <QElapsedTimer>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -27,14 +28,43 @@ Strength base(bool tensionSideAlone = false) {
             {.Rb = 9, .fd = 205, .fd2 = 191, .fv = 168, .tensionSideAlone = tensionSideAlone}};
 }
 
-ChartPoint pointOf(const equilibrium::Load& load, const char16_t* name) {
-    const auto used = base().used(load, {});
-    return {load, QString::fromUtf16(name), used ? used->worst() : HUGE_VAL};
+ChartPoint point(const equilibrium::Load& load, const char16_t* name, const Shear& shear = {}) {
+    return pointOf(base(), {QString::fromUtf16(name), load, shear});
 }
 
-const std::vector<ChartPoint> points{pointOf({300, 60, 20}, u"KO-1"),
-                                     pointOf({300, -90, 0}, u"KO-2"),
-                                     pointOf({500, 20, 5}, u"KO-3")};
+const std::vector<ChartPoint> points{point({300, 60, 20}, u"KO-1"), point({300, -90, 0}, u"KO-2"),
+                                     point({500, 20, 5}, u"KO-3")};
+
+TEST(ChartPoint, IsUsedAsFarAsItsWorstCheckAndMayGrowByItsLoadFactor) {
+    const Strength strength = base();
+    const ChartPoint one = point({100, 60, 10}, u"KO-1", {60, 0});
+    EXPECT_EQ(one.used, strength.used({100, 60, 10}, {60, 0})->worst());
+    EXPECT_EQ(one.factor, loadFactor(strength, {100, 60, 10}, {60, 0}));
+    const double k = one.factor;
+    EXPECT_NEAR(strength.used({100 * k, 60 * k, 10 * k}, {60 * k, 0})->worst(), 1, 1e-9);
+    setDecimalSign(u',');
+    EXPECT_EQ(factorWords(1.2345), QStringLiteral("1,23"));
+    EXPECT_EQ(factorWords(HUGE_VAL), QStringLiteral("dowolnie wiele"));
+    // A column that tips over.
+    const ChartPoint over =
+        pointOf({600, 400, 6.5, {}, {.Rb = 9, .fd = 205, .fd2 = 191, .fv = 168}},
+                {QStringLiteral("KO-2"), {10, 60, 0}, {}});
+    EXPECT_TRUE(std::isinf(over.used));
+    EXPECT_EQ(over.factor, 0);
+}
+
+// The interaction is a sum of squares: used by 0.80 it lets the load grow by 1.12, the pressure
+// used by 0.85 by 1.18.
+TEST(Chart, TheNearestIsTheOneThatCanGrowLeastAndNotTheMostUsed) {
+    std::vector<ChartPoint> two{point({0, 1, 0}, u"KO-1"), point({0, 1, 0}, u"KO-2")};
+    two[0].used = 0.85;
+    two[0].factor = 1 / 0.85;
+    two[1].used = 0.80;
+    two[1].factor = 1 / std::sqrt(0.80);
+    EXPECT_EQ(nearestToLine(chartOf(base(), ChartPlane::M1M2, 300, {}, two)), 1);
+    two[1].factor = two[0].factor;
+    EXPECT_EQ(nearestToLine(chartOf(base(), ChartPlane::M1M2, 300, {}, two)), 0) << "the first";
+}
 
 TEST(Chart, NamesItsPlaneAndTheHorizontalForceBesideTheLine) {
     setDecimalSign(u',');
@@ -99,7 +129,7 @@ TEST(ChartFrame, LaysTheFieldBetweenTitleAndLegend) {
 
 TEST(ChartFrame, KeepsAFarPointFromMakingTheLineSmall) {
     std::vector<ChartPoint> far = points;
-    far.push_back({{300, 9000, 0}, QStringLiteral("KO-4"), 50});
+    far.push_back({{300, 9000, 0}, QStringLiteral("KO-4"), 50, 0.02});
     const Chart chart = chartOf(base(), ChartPlane::M1M2, 300, {}, far);
     const ChartFrame frame(sheet, chart, letter);
     EXPECT_LT(frame.across().most, 500);
@@ -139,6 +169,30 @@ TEST(Chart, DrawsTheLineWhereItsLoadsLieAndPointsInTheirColours) {
         << "used below a half";
     EXPECT_EQ(image.pixelColor(frame.at(points[2].load).toPoint()), QColor(Qt::white))
         << "a ring: its N is another one";
+}
+
+TEST(Chart, OfThousandsOfPointsTheMostUsedOnesAreSeen) {
+    std::vector<ChartPoint> many;
+    for (int i = 0; i < 40'000; ++i) {
+        const double part = (i % 200) / 200.0;
+        many.push_back({{300, 60 * part, 20.0 * (i / 200) / 200}, QStringLiteral("KO"), 0.3, 3});
+    }
+    const ChartPoint worst{{300, 30, 10}, QStringLiteral("KO-X"), 1.4, 0.7};
+    many.insert(many.begin() + 17, worst); // drawn long before its neighbours, were it by order
+    Chart chart = chartOf(base(), ChartPlane::M1M2, 300, {}, many);
+    const ChartFrame frame(QRectF(0, 0, 1600, 1300), chart, 26);
+    const QImage image = drawn(chart);
+    // Beside the cross of a load that is used above its limits, its own red.
+    const QPoint at = frame.at(worst.load).toPoint() + QPoint(8, 0);
+    EXPECT_EQ(image.pixelColor(at), QColor(0xc0, 0x00, 0x20));
+    // As many as the area of the field, and not as many as there are.
+    QElapsedTimer clock;
+    clock.start();
+    drawn(chart);
+    const qint64 thousands = clock.restart();
+    chart.points.resize(1000);
+    drawn(chart);
+    EXPECT_LT(thousands, 20 * std::max<qint64>(clock.elapsed(), 10));
 }
 
 TEST(Chart, WithoutALineSaysWhy) {

@@ -4,8 +4,12 @@
 #include "combinations/forms/comparison_view.h"
 #include "combinations/forms/governing_view.h"
 #include "combinations/forms/histogram.h"
+#include "desktop/forms/Help_window.h"
+#include "desktop/forms/help_key.h"
 #include "editing/forms/load_table_keys.h"
 #include "input/anchor_layout.h"
+#include "runtime/format.h"
+#include "support/keyboard_order.h"
 #include "support/main_form.h"
 #include "task/forms/task_desk.h"
 #include "widgets/note_band.h"
@@ -44,7 +48,8 @@ protected:
     }
     void prepare() override {
         new LoadTableKeys(form.get());
-        entries = new CombinationEntries(stan, *form, dialogs);
+        around.answered = [this] { ++told; };
+        entries = new CombinationEntries(stan, *form, dialogs, around);
     }
 
     static void accept(QWidget& modal) {
@@ -76,7 +81,9 @@ protected:
                 return one;
         throw std::runtime_error("no button");
     }
-    QStringList notes() const { return window().findChild<NoteBand*>()->notes(); }
+    QStringList notes() const {
+        return window().findChild<NoteBand*>(QStringLiteral("uwagi"))->notes();
+    }
     QStringList governing() const {
         const auto* const all = window().findChild<GoverningView*>();
         QStringList lines;
@@ -90,7 +97,28 @@ protected:
         return QStringList({texts.N, texts.M1, texts.M2, texts.Vx, texts.Vy}).join(u' ');
     }
 
+    QTableWidget& comparison() const {
+        return *window().findChild<ComparisonView*>()->findChild<QTableWidget*>();
+    }
+    QString aboutComparison() const {
+        return window().findChild<ComparisonView*>()->findChild<QLabel*>()->text();
+    }
+    QString compared(int row, int column) const { return comparison().item(row, column)->text(); }
+    void calculate() {
+        activate();
+        click("cmdOblicz");
+        ASSERT_EQ(resultsOpened, 1);
+        entries->calculated();
+    }
+    void putAndCalculate(const QString& rows) {
+        read(rows);
+        QTest::mouseClick(button(QStringLiteral("&Wstaw do tabeli")), Qt::LeftButton);
+        calculate();
+    }
+
+    AroundCombinations around;
     CombinationEntries* entries = nullptr;
+    int told = 0; ///< how often answers became others
 };
 
 TEST_F(CombinationsWindowTest, StandsInTheMenuAndIsClosedAtFirst) {
@@ -198,22 +226,201 @@ TEST_F(CombinationsWindowTest, WstawFillsTheLoadTableWithTheGoverningRowsAndObli
                            "Wstawiono do tabeli obciążeń wierszy: 4. Oblicz policzy je i utworzy "
                            "raport; porównanie pokaże się tutaj.")));
 
-    auto* const comparison = window().findChild<ComparisonView*>();
-    EXPECT_EQ(comparison->rowCount(), 0);
-    activate();
-    click("cmdOblicz");
-    ASSERT_EQ(resultsOpened, 1);
-    entries->calculated();
-    ASSERT_EQ(comparison->rowCount(), 4);
+    EXPECT_EQ(comparison().rowCount(), 0);
+    EXPECT_EQ(aboutComparison(), QStringLiteral("Wstawionych wierszy jeszcze nie obliczono."));
+    calculate();
+    EXPECT_EQ(aboutComparison(),
+              QStringLiteral("Wytężenie według Oblicz / z dokładnej równowagi."));
+    ASSERT_EQ(comparison().rowCount(), 4);
     for (int r = 0; r < 4; ++r) {
-        EXPECT_EQ(comparison->item(r, 6)->text(), QStringLiteral("zgodne"));
-        EXPECT_EQ(comparison->item(r, 4)->text(), comparison->item(r, 5)->text());
+        EXPECT_EQ(compared(r, 5), QStringLiteral("zgodne"));
+        for (int check = 2; check < 5; ++check) {
+            const QStringList both = compared(r, check).split(QStringLiteral(" / "));
+            ASSERT_EQ(both.size(), 2);
+            EXPECT_EQ(both[0], both[1]);
+        }
     }
     EXPECT_EQ(notes(), QStringList(QStringLiteral("Oblicz potwierdza wstawione wiersze.")));
-    stan.wyniki.Sigma_b(2) *= 0.9F;
+    stan.wyniki.Sigma_b(4) *= 0.9F;
+    form->record().caseEnded(stan, 4);
     entries->calculated();
-    EXPECT_EQ(comparison->item(1, 6)->text(), QStringLiteral("różnią się"));
+    EXPECT_EQ(compared(3, 5), QStringLiteral("różnią się: beton"));
     EXPECT_TRUE(notes().front().contains(u"się różnią: 1"));
+}
+
+TEST_F(CombinationsWindowTest, ADifferenceInTheInteractionIsNamed) {
+    putAndCalculate(QStringLiteral("KO;N;M1;M2;Vx;Vy\nA;100;60;10;60;0\nB;150;40;0;70;0\n"));
+    ASSERT_EQ(comparison().rowCount(), 2);
+    EXPECT_EQ(comparison().horizontalHeaderItem(4)->text(), QStringLiteral("Interakcja"));
+    EXPECT_EQ(compared(0, 5), QStringLiteral("zgodne"));
+    EXPECT_NE(compared(0, 4).section(QStringLiteral(" / "), 0, 0), QStringLiteral("0,00"));
+    // An earlier calculation has left a stress for an anchor that is not in tension now.
+    stan.wyniki.Sigma_kotwy(1)(1) = -500;
+    entries->calculated();
+    EXPECT_EQ(compared(0, 5), QStringLiteral("różnią się: interakcja"));
+}
+
+TEST_F(CombinationsWindowTest, ADifferenceInTheShearOfTheTensionSideIsNamed) {
+    stan.opcje.Hsily_wszystkie = 1;
+    show(Konfiguracja);
+    click("optHsruby_1");
+    putAndCalculate(QStringLiteral("KO;N;M1;M2;Vx;Vy\nA;100;60;10;60;0\nB;150;40;0;70;0\n"));
+    EXPECT_EQ(comparison().horizontalHeaderItem(4)->text(), QStringLiteral("Ścinanie"));
+    EXPECT_EQ(compared(0, 5), QStringLiteral("zgodne"));
+    EXPECT_NE(compared(0, 4).section(QStringLiteral(" / "), 0, 0), QStringLiteral("0,00"));
+    stan.materialy.Fv_kotwy /= 2;
+    entries->calculated();
+    EXPECT_EQ(compared(0, 5), QStringLiteral("różnią się: ścinanie"));
+}
+
+TEST_F(CombinationsWindowTest, WhatCannotBeComparedIsSaid) {
+    read(table);
+    QTest::mouseClick(button(QStringLiteral("&Wstaw do tabeli")), Qt::LeftButton);
+    form->fieldOf({Value::N, 1})->setText(QStringLiteral("120"));
+    calculate();
+    ASSERT_EQ(comparison().rowCount(), 4);
+    EXPECT_EQ(compared(1, 5),
+              QStringLiteral("nie porównano: w tabeli obciążeń stoją tu inne siły"));
+    EXPECT_EQ(compared(1, 3), QString());
+    EXPECT_EQ(compared(2, 5), QStringLiteral("zgodne"));
+    EXPECT_EQ(notes(),
+              QStringList(QStringLiteral("Oblicz potwierdza wstawione wiersze. Wierszy, których "
+                                         "nie porównano: 1.")));
+    EXPECT_FALSE(entries->calculatedDigest()) << "a case is no row of the table";
+    stan.wyniki.outcomes(4) = CaseOutcome::NotComputed;
+    entries->calculated();
+    EXPECT_EQ(compared(3, 5), QStringLiteral("nie porównano: Oblicz nie doszło do tego przypadku"));
+    show(Sruby);
+    type("Text3", QStringLiteral("650"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return comparison().rowCount() == 0; }, 5000))
+        << "the base is another one now";
+    EXPECT_EQ(aboutComparison(), QStringLiteral("Zadanie zmieniło się od obliczenia: porównanie "
+                                                "będzie tu po następnym Oblicz."));
+}
+
+TEST_F(CombinationsWindowTest, TheDigestOfTheCalculatedRowsIsThatOfTheTable) {
+    read(table);
+    EXPECT_FALSE(entries->calculatedDigest()) << "nothing is put";
+    QTest::mouseClick(button(QStringLiteral("&Wstaw do tabeli")), Qt::LeftButton);
+    calculate();
+    const auto digest = entries->calculatedDigest();
+    ASSERT_TRUE(digest);
+    EXPECT_EQ(digest->source, QStringLiteral("schowek"));
+    EXPECT_EQ(digest->rows, 5);
+    EXPECT_EQ(digest->refused, 1);
+    ASSERT_EQ(digest->governing.size(), 2U) << "no shear in any row";
+    EXPECT_EQ(digest->governing[0].check, Check::Concrete);
+    EXPECT_EQ(digest->governing[0].name, QStringLiteral("KO-4"));
+    EXPECT_EQ(digest->governing[1].rows, (std::vector<combinations::RowNumber>{2, 5}))
+        << "ties included";
+    ASSERT_EQ(digest->taken.size(), 4U);
+    EXPECT_EQ(digest->taken[1].row, 2);
+    EXPECT_EQ(digest->taken[1].combination.load.M1, 60);
+    EXPECT_EQ(combinations::useOf(digest->taken[1].used, Check::Tension),
+              digest->governing[1].envelope);
+    read(table); // another one, of which nothing was put
+    EXPECT_FALSE(entries->calculatedDigest());
+}
+
+TEST_F(CombinationsWindowTest, ChartAndSheetAreOfferedOnceThereAreAnswersToShow) {
+    int charts = 0;
+    std::optional<combinations::Digest> written;
+    around.showInChart = [&] { ++charts; };
+    around.saveSheet = [&](const combinations::Digest& digest) {
+        written = digest;
+        return std::optional(QStringLiteral("a.pdf"));
+    };
+    SetUp();
+    entries->open();
+    auto* const chart = button(QStringLiteral("Na w&ykres nośności"));
+    auto* const sheet = button(QStringLiteral("&Do arkusza..."));
+    EXPECT_FALSE(chart->isEnabled());
+    EXPECT_FALSE(sheet->isEnabled());
+    const int before = told;
+    read(table);
+    EXPECT_GT(told, before);
+    QTest::mouseClick(chart, Qt::LeftButton);
+    EXPECT_EQ(charts, 1);
+    QTest::mouseClick(sheet, Qt::LeftButton);
+    ASSERT_TRUE(written);
+    EXPECT_EQ(written->taken.front().row, 4);
+    EXPECT_EQ(notes(), QStringList(QStringLiteral("Zapisano a.pdf.")));
+}
+
+TEST_F(CombinationsWindowTest, F1OpensItsPageOfTheHelpAlsoInTheDialogOfTheReading) {
+    answers.dialog(QStringLiteral("Wczytanie_kombinacji"), [](QWidget& modal) {
+        EXPECT_EQ(helpContextOf(modal.focusWidget()), help::Combinations);
+        accept(modal);
+    });
+    entries->openWith(table);
+    waitForWork();
+    for (const QWidget* part : window().findChildren<QWidget*>())
+        EXPECT_EQ(helpContextOf(part), help::Combinations) << part->objectName().toStdString();
+}
+
+TEST_F(CombinationsWindowTest, TheKeyboardReachesEverythingInTheOrderOfReading) {
+    around.showInChart = [] {};
+    around.saveSheet = [](const combinations::Digest&) { return std::optional<QString>(); };
+    SetUp();
+    entries->open();
+    EXPECT_EQ(window().focusWidget(), button(QStringLiteral("Wczytaj &plik...")))
+        << "without a table";
+    read(table);
+    expectUniqueMnemonics(window());
+    window().close();
+    entries->open();
+    waitForWork();
+    EXPECT_EQ(window().focusWidget(), &view());
+    expectTabsInReadingOrder(window());
+}
+
+TEST_F(CombinationsWindowTest, TheDialogOfTheReadingIsWorkedByTheKeyboard) {
+    answers.dialog(QStringLiteral("Wczytanie_kombinacji"), [](QWidget& modal) {
+        auto* const buttons = modal.findChild<QDialogButtonBox*>();
+        EXPECT_EQ(modal.focusWidget(), buttons->button(QDialogButtonBox::Ok));
+        expectUniqueMnemonics(modal);
+        QStringList order;
+        for (QWidget* at = modal.nextInFocusChain(); at != &modal; at = at->nextInFocusChain())
+            if (qobject_cast<QComboBox*>(at) || qobject_cast<QCheckBox*>(at)
+                || qobject_cast<QPushButton*>(at))
+                order += QString::fromLatin1(at->metaObject()->className());
+        ASSERT_EQ(order.size(), 18);
+        EXPECT_EQ(order.front(), QStringLiteral("QComboBox"));
+        EXPECT_EQ(order[3], QStringLiteral("QCheckBox")) << "name, column, unit, sign";
+        EXPECT_EQ(order.mid(16),
+                  (QStringList{QStringLiteral("QPushButton"), QStringLiteral("QPushButton")}));
+        QTest::keyClick(modal.focusWidget(), Qt::Key_Return);
+    });
+    entries->openWith(table);
+    waitForWork();
+    EXPECT_EQ(window().work().table().size(), 5U);
+    answers.dialog(QStringLiteral("Wczytanie_kombinacji"), [](QWidget& modal) {
+        EXPECT_EQ(modal.focusWidget(), modal.findChildren<QComboBox*>()[1])
+            << "what the engineer has to choose";
+        QTest::keyClick(&modal, Qt::Key_Escape);
+    });
+    window().readText(QStringLiteral("H1;H2;H3\na;20;-300000\n"));
+}
+
+TEST_F(CombinationsWindowTest, EnterInTheFilterGoesToTheTableAndEscEndsTheWorkFirst) {
+    read(table);
+    auto* const filter = window().findChild<QLineEdit*>();
+    filter->setFocus();
+    QTest::keyClick(filter, Qt::Key_Return);
+    EXPECT_EQ(window().focusWidget(), &view());
+    EXPECT_TRUE(window().isVisible());
+    QString large;
+    for (int i = 0; i < 200'000; ++i)
+        large += QStringLiteral("KO-%1;300;20;0;1;0\n").arg(i);
+    answers.dialog(QStringLiteral("Wczytanie_kombinacji"), accept);
+    window().readText(large);
+    ASSERT_TRUE(window().work().isWorking());
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    EXPECT_FALSE(window().work().isReading());
+    EXPECT_TRUE(window().isVisible());
+    waitForWork();
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    EXPECT_FALSE(window().isVisible());
 }
 
 TEST_F(CombinationsWindowTest, WhatWstawPutIsTakenBackInOneStep) {
@@ -301,7 +508,11 @@ TEST_F(CombinationsWindowTest, ExportsEveryRowWithItsAnswer) {
     const QStringList lines = QString::fromUtf8(bytes).split(QStringLiteral("\r\n"));
     ASSERT_EQ(lines.size(), 7);
     EXPECT_TRUE(lines[0].startsWith(u"wiersz;nazwa;N [kN];M1 [kNm]"));
-    EXPECT_TRUE(lines[2].startsWith(u"2;KO-2;100;60;10;5;0;0,"));
+    const auto& answer = window().work().table().answer(2);
+    EXPECT_EQ(lines[2],
+              QStringLiteral("2;KO-2;100;60;10;5;0;%1;%2;0,0000;0,0000;%3;")
+                  .arg(Format(answer->concrete, u"0.0000"), Format(answer->tension, u"0.0000"))
+                  .arg(answer->anchor));
     EXPECT_EQ(lines[3], QStringLiteral("3;KO-3;;;;;;;;;;;\"odrzucony: kolumna M1 (My): \"\"x\"\" "
                                        "nie jest liczbą\""));
 }

@@ -115,6 +115,22 @@ TEST(TableReader, GivesAHundredThousandRowsAsTheyStandWhereverTheBlocksEnd) {
     }
 }
 
+TEST(TableReader, ACellOfTwoLinesStaysWholeWhereverTheBlocksEnd) {
+    QByteArray table = "Nazwa;N;M1;M2;Vx;Vy\n";
+    constexpr int rows = 20'000; // many blocks, whose ends fall anywhere
+    for (int i = 1; i <= rows; ++i)
+        table += "\"KO " + QByteArray::number(i) + "\nwiatr; parcie\";1;2;3;4;5\n";
+    const QStringList lines = read(table);
+    ASSERT_EQ(lines.size(), rows);
+    for (int i = 1; i <= rows; ++i)
+        ASSERT_EQ(lines.at(i - 1), QStringLiteral("KO %1\nwiatr; parcie: 1 2 3 4 5").arg(i));
+}
+
+TEST(TableReader, AMarkOfUtf8StandsInNoNameAlsoWhereTheRestIsOfTheCodePage) {
+    EXPECT_EQ(read("\xEF\xBB\xBFN;M1;M2;Vx;Vy;Nazwa\n1;2;3;4;5;S\xB3up\n"),
+              QStringList(QStringLiteral("Słup: 1 2 3 4 5")));
+}
+
 TEST(TableReader, ALineWithoutAnEndTakesNoMoreThanItsRoom) {
     const QByteArray endless = QByteArray("1;2;3;4;") + QByteArray(5'000'000, '7');
     for (const QString& line : read(endless))

@@ -5,15 +5,12 @@ adds four anchors, calculates, leaves, and finds the task back at the next start
 Usage: column_base.py FOLDER_OF_THE_PROGRAMS SAMPLE_TASK.json
 """
 
-import json
 import os
-import shutil
 import sys
-import tempfile
 
-from desktop import Desktop
 from program import TITLE, Program, expect, read
 from reports import companion_reports
+from stage import stage
 
 
 def as_task(configuration, task):
@@ -120,26 +117,12 @@ def run(desktop, folder, work, task):
 
 
 def main():
-    programs, sample = sys.argv[1:]
-    with open(sample, encoding="utf-8") as file:
-        task = json.load(file)
+    programs = sys.argv[1]
     before = sorted((entry.name, entry.stat().st_mtime_ns) for entry in os.scandir(programs))
-    work = tempfile.mkdtemp(prefix="ferna-e2e-")
-    folder = os.path.join(work, "bin")
-    shutil.copytree(programs, folder)
-    desktop = Desktop(os.path.join(work, "home"))
-    try:
-        run(desktop, folder, work, task)
-    except Exception:
-        desktop.screenshot(os.path.join(work, "failure.png"))
-        print(f"files and screenshot in {work}", file=sys.stderr)
-        raise
-    finally:
-        desktop.close()
+    with stage("e2e") as scene:
+        run(*scene)
     after = sorted((entry.name, entry.stat().st_mtime_ns) for entry in os.scandir(programs))
     expect(before == after, "the test changed the folder of the programs")
-    if not os.environ.get("FERNA_E2E_KEEP"):
-        shutil.rmtree(work)
 
 
 main()

@@ -5,16 +5,12 @@ comes of it is that of the same task as the companion has it.
 Usage: mouse_and_tables.py FOLDER_OF_THE_PROGRAMS SAMPLE_TASK.json
 """
 
-import json
 import os
-import shutil
-import sys
-import tempfile
 import time
 
-from desktop import Desktop
 from program import MAIN, Program, expect, read
 from reports import companion_reports, lines_of
+from stage import stage
 
 TABLE = "320;55,5;1 250,5e-3;35;-4"  # one row: what a field of names can hold
 CASES = [{"N": 320, "M1": 55.5, "M2": 1.2505, "Vx": 35, "Vy": -4}]
@@ -82,23 +78,8 @@ def run(desktop, folder, work, task):
 
 
 def main():
-    programs, sample = sys.argv[1:]
-    with open(sample, encoding="utf-8") as file:
-        task = json.load(file)
-    work = tempfile.mkdtemp(prefix="ferna-e2e-")
-    folder = os.path.join(work, "bin")
-    shutil.copytree(programs, folder)
-    desktop = Desktop(os.path.join(work, "home"))
-    try:
-        run(desktop, folder, work, task)
-    except Exception:
-        desktop.screenshot(os.path.join(work, "failure.png"))
-        print(f"files and screenshot in {work}", file=sys.stderr)
-        raise
-    finally:
-        desktop.close()
-    if not os.environ.get("FERNA_E2E_KEEP"):
-        shutil.rmtree(work)
+    with stage("mouse") as scene:
+        run(*scene)
 
 
 main()

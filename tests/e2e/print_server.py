@@ -4,6 +4,7 @@ import getpass
 import os
 import shutil
 import subprocess
+import sys
 import tempfile
 
 from desktop import Failure, wait_for
@@ -81,6 +82,16 @@ class PrintServer:
             self.close()
             raise
 
+    def __enter__(self):
+        return self
+
+    def __exit__(self, failure, *_):
+        self.close()
+        if failure:
+            print(f"the printer's files are in {self.folder}", file=sys.stderr)
+        elif not os.environ.get("FERNA_E2E_KEEP"):
+            shutil.rmtree(self.folder)
+
     def file(self, name):
         return os.path.join(self.folder, name)
 
@@ -108,7 +119,3 @@ class PrintServer:
         except subprocess.TimeoutExpired:
             self.process.kill()
             self.process.wait()
-
-    def remove(self):
-        self.close()
-        shutil.rmtree(self.folder)

@@ -15,6 +15,10 @@ SCHEME = "Zapis obci.*"
 PLATE = "Grubo.* blachy.*"
 PRINT = "(Print|Drukuj|Drukowanie)"
 ANCHOR = "Dob.* kotwy"
+COMBINATIONS = "Ferna 2005 Pr - Kombinacje"
+READING = "Wczytywanie kombinacji.*"
+CAPACITY = "No.* podstawy"
+SMALLEST = "Dob.* najmniejszej podstawy"
 
 VERTICAL, PLANE_ZX, PLANE_ZY = range(3)  # directions of a load
 FORCE, DISTRIBUTED, MOMENT = range(3)  # kinds of a load
@@ -33,10 +37,10 @@ def read(*path):
 class Program:
     """The running program; it begins on its main form."""
 
-    def __init__(self, desktop, folder):
+    def __init__(self, desktop, folder, *arguments):
         self.desktop = desktop
         self.folder = folder
-        self.process = desktop.start([os.path.join(folder, "ferna")], folder)
+        self.process = desktop.start([os.path.join(folder, "ferna"), *arguments], folder)
 
     def ready(self):
         self.desktop.window(MAIN)

@@ -6,15 +6,12 @@ and the files that are saved are asked about, told, and shown in their folder.
 Usage: renderer_windows.py FOLDER_OF_THE_PROGRAMS SAMPLE_TASK.json
 """
 
-import json
 import os
-import shutil
-import sys
-import tempfile
 import time
 
-from desktop import Desktop, wait_for
+from desktop import wait_for
 from program import PRINT, RESULTS, TITLE, Program, expect, read
+from stage import stage
 
 LABEL = "F-3"
 EMF = "Zapisz jako EMF"
@@ -132,26 +129,10 @@ def file_manager(work):
 
 
 def main():
-    programs, sample = sys.argv[1:]
-    with open(sample, encoding="utf-8") as file:
-        task = json.load(file)
     for manager in ("openbox", "icewm"):
-        work = tempfile.mkdtemp(prefix="ferna-windows-")
-        folder = os.path.join(work, "bin")
-        shutil.copytree(programs, folder)
-        desktop = Desktop(os.path.join(work, "home"), environment=file_manager(work),
-                          manager=manager)
-        try:
-            Day(desktop, folder, work, task).run()
-            print(f"{manager}: done", flush=True)
-        except BaseException:
-            desktop.screenshot(os.path.join(work, "failure.png"))
-            print(f"files and screenshot in {work}", file=sys.stderr)
-            raise
-        finally:
-            desktop.close()
-        if not os.environ.get("FERNA_E2E_KEEP"):
-            shutil.rmtree(work)
+        with stage("windows", manager, file_manager) as scene:
+            Day(*scene).run()
+        print(f"{manager}: done", flush=True)
 
 
 main()

@@ -12,17 +12,15 @@ Usage: working_day.py FOLDER_OF_THE_PROGRAMS SAMPLE_TASK.json
 
 import json
 import os
-import shutil
-import sys
-import tempfile
 import time
 
-from desktop import Desktop, wait_for
+from desktop import wait_for
 from print_server import PrintServer
 from program import (DISTRIBUTED, FORCE, MAIN, PLANE_ZX, PLANE_ZY, RESULTS, TITLE, VERTICAL, Program,
                      Results, expect, read)
 from reports import (companion_reports, has_word_processor, lines_of, pages_of_pdf,
                      text_of_document, texts_of_emf, without_date)
+from stage import stage
 
 FIRST_PAGE = 7
 LABEL = "F-7"
@@ -38,7 +36,7 @@ PLATE = {"Nr_stali_blachy": 2,
 
 
 class Day:
-    def __init__(self, desktop, printer, folder, work, sample):
+    def __init__(self, printer, desktop, folder, work, sample):
         self.desktop = desktop
         self.printer = printer
         self.folder = folder
@@ -300,31 +298,9 @@ class Day:
 
 
 def main():
-    programs, sample = sys.argv[1:]
-    with open(sample, encoding="utf-8") as file:
-        task = json.load(file)
-    work = tempfile.mkdtemp(prefix="ferna-day-")
-    folder = os.path.join(work, "bin")
-    shutil.copytree(programs, folder)
-    os.makedirs(os.path.join(work, "saved"))
-    printer = PrintServer()
-    desktop = None
-    try:
-        desktop = Desktop(os.path.join(work, "home"), environment=printer.environment)
-        Day(desktop, printer, folder, work, task).run()
-    except BaseException:
-        if desktop:
-            desktop.screenshot(os.path.join(work, "failure.png"))
-        print(f"files and screenshot in {work}, the printer's in {printer.folder}",
-              file=sys.stderr)
-        raise
-    finally:
-        if desktop:
-            desktop.close()
-        printer.close()
-    if not os.environ.get("FERNA_E2E_KEEP"):
-        shutil.rmtree(work)
-        printer.remove()
+    with PrintServer() as printer, stage("day", environment=lambda _: printer.environment) as scene:
+        os.makedirs(os.path.join(scene.work, "saved"))
+        Day(printer, *scene).run()
 
 
 main()

@@ -69,6 +69,9 @@ TEST_F(AnchorEdits, MoveNothingWhereOneWouldLeaveTheRange) {
     EXPECT_FALSE(moveAnchors(plate, {1, 2}, -1, 0));
     EXPECT_EQ(computed(), before);
     EXPECT_TRUE(moveAnchors(plate, {1, 2}, 1, 0));
+    storeAnchorAt(plate, 3, 0, 32767, 24);
+    EXPECT_FALSE(moveAnchors(plate, {1, 3}, 0, 1));
+    EXPECT_TRUE(moveAnchors(plate, {1, 3}, 0, -1));
 }
 
 TEST_F(AnchorEdits, RemoveTheChosenOnesAndTheOthersMoveUpWithTheirMillimetres) {

@@ -193,6 +193,21 @@ TEST_F(LiveView, TheTableTellsEachCheckWithASignAndInWords) {
     EXPECT_TRUE(checks()->item(0, 1)->toolTip().contains(u"%, przekroczony;"));
 }
 
+TEST_F(LiveView, TheSignOfAChosenCellIsSeenOnItsColour) {
+    key(Qt::Key_F9);
+    const QImage sign =
+        checks()->item(0, 1)->icon().pixmap(QSize(16, 16), QIcon::Selected).toImage();
+    const QColor wanted = checks()->palette().color(QPalette::HighlightedText);
+    int drawn = 0;
+    for (int y = 0; y < sign.height(); ++y)
+        for (int x = 0; x < sign.width(); ++x)
+            if (const QColor colour = sign.pixelColor(x, y); colour.alpha() == 255) {
+                EXPECT_EQ(colour.name(), wanted.name()) << x << ' ' << y;
+                ++drawn;
+            }
+    EXPECT_GT(drawn, 10);
+}
+
 TEST_F(LiveView, ToldValuesStandBesideOnceTheyAreCalculatedAndGoWithTheNextEntry) {
     key(Qt::Key_F9);
     EXPECT_FALSE(cell(0, 1).contains(u"Oblicz"));

@@ -6,6 +6,7 @@
 #include "live/picture_files.h"
 #include "live/sample_pictures.h"
 #include "support/decimal_comma.h"
+#include "support/picture_margin.h"
 #include "support/places.h"
 #include "support/random_tasks.h"
 
@@ -92,25 +93,6 @@ INSTANTIATE_TEST_SUITE_P(
                       Golden{"falls", Theme::Light, 100}, Golden{"falls", Theme::Dark, 100}));
 
 // ----- what is drawn -----
-
-/// True where a picture that is drawn in the middle of a larger image leaves its margin alone.
-bool staysInside(const PictureValues& values, PictureOptions options) {
-    constexpr int margin = 60;
-    const QRgb untouched = qRgb(255, 0, 255);
-    const QSize size = options.size.toSize();
-    QImage image(size + QSize(2 * margin, 2 * margin), QImage::Format_RGB32);
-    image.fill(untouched);
-    QPainter painter(&image);
-    painter.translate(margin, margin);
-    drawPicture(painter, values, options);
-    painter.end();
-    const QRect inside(QPoint(margin, margin), size);
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (!inside.contains(x, y) && image.pixel(x, y) != untouched)
-                return false;
-    return true;
-}
 
 TEST(Picture, NothingIsDrawnOutsideIt) {
     PictureOptions options;

@@ -28,6 +28,10 @@ TEST(PlateClauses, TheirTextsSayWhatTheFunctionsCompute) {
               CSng(computed(columnBaseThicknessClause, {4.7F, 360, 300, 7.1, 205})));
     EXPECT_EQ(chartRatio(150, 70), CSng(computed(chartWidthClause, {150, 70})));
     EXPECT_EQ(chartRatio(90, 70), CSng(computed(chartPlaceClause, {90, 70})));
+    EXPECT_FLOAT_EQ(curveCoefficient(2.5F, 8.6F, 9.1F, 0.7F, 2.9F),
+                    CSng(computed(threeEdgesCurveClause, {2.5F, 8.6F, 9.1F, 0.7F, 2.9F})));
+    EXPECT_FLOAT_EQ(curveCoefficient(2.5F, 8.6F, 9.1F, 0.7F, 2.9F),
+                    CSng(computed(twoEdgesCurveClause, {2.5F, 8.6F, 9.1F, 0.7F, 2.9F})));
     EXPECT_FLOAT_EQ(chartCoefficient(8.6F, 9.1F, 1.53F, 1.4F, 0.2),
                     CSng(computed(threeEdgesCoefficientClause, {8.6F, 9.1F, 1.53F, 1.4F, 0.2})));
     EXPECT_FLOAT_EQ(chartCoefficient(8.6F, 9.1F, 3.7F, 3.5F, 0.5),

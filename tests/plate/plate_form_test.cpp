@@ -250,4 +250,43 @@ TEST(PlateTables, NothingStandsOutsideThem) {
     EXPECT_EQ(errorNumberOf([] { plateTab(PlateChecks); }), error::Subscript);
 }
 
+TEST_F(PlateDesk, ARefusalIsKeptWithWhatItHasToldUntilTheCheckIsMadeAgain) {
+    strip(u"0", u"60", u"50");
+    compute(1);
+    EXPECT_TRUE(form.refused[0]);
+    EXPECT_EQ(form.why[0], QStringLiteral("Musisz okreslić szerokość pasa blachy (bs)!"));
+    strip(u"5", u"300", u"500");
+    compute(1);
+    EXPECT_EQ(form.why[0], QStringLiteral("Dla stali St3.. max. grubość elementu wynosi 100 mm"));
+    strip(u"x", u"60", u"50");
+    compute(1);
+    EXPECT_EQ(form.why[0].left(4), errorText(error::TypeMismatch).left(4));
+    strip(u"120", u"60", u"50");
+    compute(1);
+    EXPECT_FALSE(form.refused[0]);
+    EXPECT_EQ(form.why[0], QString());
+}
+
+TEST_F(PlateDesk, AnExcludedCheckHasNothingToTell) {
+    fragment(3, 300, 200, u"5");
+    compute(3);
+    compute(4);
+    EXPECT_TRUE(form.refused[3]);
+    EXPECT_EQ(form.why[3], QString());
+}
+
+TEST_F(PlateDesk, AWithdrawnCheckIsKnownAsSuchUntilItIsMadeAgain) {
+    cmdAnulujto(stan, form, 0);
+    EXPECT_FALSE(form.withdrawn[0]) << "it never was";
+    strip(u"120", u"60", u"50");
+    compute(1);
+    EXPECT_FALSE(form.withdrawn[0]);
+    cmdAnulujto(stan, form, 0);
+    EXPECT_TRUE(form.withdrawn[0]);
+    compute(1);
+    EXPECT_FALSE(form.withdrawn[0]);
+    leaveGradeList(stan, form, dialogs, steel);
+    EXPECT_TRUE(form.withdrawn[0]) << "another grade withdraws all of them";
+}
+
 } // namespace

@@ -17,10 +17,10 @@ namespace {
 
 class Layout : public ::testing::Test {
 protected:
-    pages::Report laidOut(int firstPage = 1) {
+    pages::Report laidOut(int firstPage = 1, const QString& language = {}) {
         wyd::Complaints complaints;
         pages::Report report =
-            compose(readJob(sample.write(QStringLiteral("-2"), firstPage)), complaints);
+            compose(readJob(sample.write(QStringLiteral("-2"), firstPage)), complaints, language);
         complained = complaints.lines();
         return report;
     }
@@ -171,6 +171,18 @@ TEST_F(Layout, ABlockWithoutAPictureIsNotHeldByTheOneAbove) {
     EXPECT_EQ(at(report, "Blok 4").page, 1);
 }
 
+TEST_F(Layout, TheAnchorSectionStaysWhole) {
+    sample.line(185, QStringLiteral("przed"));
+    EXPECT_GT(sample.anchorSection(190), 225) << "its sketch would fit, its last lines would not";
+    const pages::Report report = laidOut();
+    ASSERT_EQ(report.pages.size(), 2U);
+    EXPECT_EQ(at(report, "przed").page, 0);
+    EXPECT_EQ(at(report, "Dobrana kotwa").page, 1);
+    EXPECT_EQ(at(report, "Długość całkowita: 700").page, 1);
+    EXPECT_EQ(report.pages[1].pictures.size(), 1U);
+    expectGoodPages(report);
+}
+
 TEST_F(Layout, AWholeReportKeepsTheRulesOnEveryPage) {
     for (const int anchors : {1, 7, 13, 20})
         for (const int cases : {1, 3, 6}) {
@@ -296,6 +308,17 @@ TEST_F(Layout, AMissingPictureLeavesAnOutlineWithItsName) {
     EXPECT_EQ(find(report, QStringLiteral("brak rysunku Ferogo2.bmp")).page, 0);
     EXPECT_EQ(find(report, QStringLiteral("dalej")).page, 0);
     EXPECT_EQ(report.pages[0].lines.size(), 7U + 4U);
+}
+
+TEST_F(Layout, TheOutlineOfAMissingPictureSpeaksTheLanguageOfTheReport) {
+    sample.picture(10, 35, 52.9, 34.7, QStringLiteral("Ferogo2.bmp"));
+    ASSERT_TRUE(QFile::remove(sample.path(QStringLiteral("Ferogo2.bmp"))));
+    for (const auto& [language, words] : {std::pair{"pl-PL", "brak rysunku Ferogo2.bmp"},
+                                          {"en-GB", "picture missing: Ferogo2.bmp"},
+                                          {"fr-FR", "image manquante : Ferogo2.bmp"},
+                                          {"de-DE", "Bild fehlt: Ferogo2.bmp"},
+                                          {"", "brak rysunku Ferogo2.bmp"}})
+        EXPECT_EQ(at(laidOut(1, QString::fromLatin1(language)), words).page, 0) << language;
 }
 
 TEST_F(Layout, APictureTallerThanThePageIsMadeSmaller) {

@@ -12,6 +12,8 @@
 #include <QStandardPaths>
 #include <QThread>
 
+#include <netinet/in.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 using namespace ferna;
@@ -126,6 +128,17 @@ protected:
         job = sample.write(QStringLiteral("-1"), 12);
     }
 
+    /// Gives the queue another printer; its server goes on trying to reach it.
+    void movePrinter(const QString& address) const {
+        ASSERT_EQ(runProgram(QStringLiteral("/usr/sbin/lpadmin"),
+                             {QStringLiteral("-p"), QStringLiteral("Raport"), QStringLiteral("-v"),
+                              address, QStringLiteral("-o"),
+                              QStringLiteral("printer-error-policy=retry-job")},
+                             server.environment())
+                      .exitCode,
+                  0);
+    }
+
     QString reply() const { return readLines(sample.path(QStringLiteral("W_X.txt"))).value(0); }
 
     QTemporaryDir folder;
@@ -171,6 +184,34 @@ TEST_F(Print, APausedQueueIsToldWithTheNumberOfTheJobThatWaits) {
     const QString waiting =
         runProgram(QStringLiteral("lpstat"), {QStringLiteral("-o")}, server.environment()).output;
     EXPECT_TRUE(waiting.startsWith(QStringLiteral("Raport-1 "))) << waiting.toStdString();
+}
+
+TEST_F(Print, AnUnreachablePrinterIsToldWithTheNumberOfTheJobThatWaits) {
+    movePrinter(QStringLiteral("socket://127.0.0.1:1")); // nobody listens there
+    const Outcome run = runRenderer({job}, server.environment());
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(run.errors.contains(QStringLiteral(
+        "drukarka Raport: drukarka jest nieosiągalna, wydruk czeka w niej jako zadanie nr 1")))
+        << run.errors.toStdString();
+    const QString waiting =
+        runProgram(QStringLiteral("lpstat"), {QStringLiteral("-o")}, server.environment()).output;
+    EXPECT_TRUE(waiting.startsWith(QStringLiteral("Raport-1 "))) << waiting.toStdString();
+}
+
+TEST_F(Print, APrinterThatListensIsNotTakenForAnUnreachableOne) {
+    const int printer = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_in place{};
+    place.sin_family = AF_INET;
+    place.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t length = sizeof place;
+    ASSERT_EQ(::bind(printer, reinterpret_cast<sockaddr*>(&place), length), 0);
+    ASSERT_EQ(::listen(printer, 5), 0);
+    ASSERT_EQ(::getsockname(printer, reinterpret_cast<sockaddr*>(&place), &length), 0);
+    movePrinter(QStringLiteral("socket://127.0.0.1:%1").arg(ntohs(place.sin_port)));
+    const Outcome run = runRenderer({job}, server.environment());
+    EXPECT_EQ(run.exitCode, 0) << run.errors.toStdString();
+    EXPECT_EQ(run.errors, QString());
+    ::close(printer);
 }
 
 TEST(PrintWithoutAPrinter, SaysSo) {

@@ -101,6 +101,19 @@ TEST_F(Renderer, WritesAPdfWithItsTextOnTheRightPages) {
     EXPECT_TRUE(fonts[2].simplified().contains(QStringLiteral("yes"))) << "embedded";
 }
 
+TEST_F(Renderer, LearnsTheLanguageOfTheReportByTheCallOrByItsEnvironment) {
+    const QString file = job();
+    ASSERT_TRUE(QFile::remove(path("Ferogo2.bmp")));
+    QProcessEnvironment german = QProcessEnvironment::systemEnvironment();
+    german.insert(QStringLiteral("WYD_DRK_JEZYK"), QStringLiteral("de-DE"));
+    const QStringList pdf{QStringLiteral("--pdf"), path("raport.pdf")};
+    EXPECT_EQ(runRenderer(pdf + QStringList{file}, german).exitCode, 0);
+    EXPECT_TRUE(pdfText(path("raport.pdf"), 1).contains(u"Bild fehlt: Ferogo2.bmp"));
+    const QStringList english{QStringLiteral("--jezyk"), QStringLiteral("en-GB")};
+    EXPECT_EQ(runRenderer(pdf + english + QStringList{file}, german).exitCode, 0);
+    EXPECT_TRUE(pdfText(path("raport.pdf"), 1).contains(u"picture missing: Ferogo2.bmp"));
+}
+
 TEST_F(Renderer, WritesOneFileAPageOfTheOtherFormats) {
     const QString file = job();
     for (const char* format : {"svg", "png", "emf"}) {

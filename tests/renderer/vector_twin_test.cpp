@@ -100,7 +100,7 @@ protected:
 };
 
 TEST_F(VectorTwin, LooksLikeItsBitmap) {
-    const std::vector<pages::Outline> outlines = vectorsOf(bitmap, place);
+    const std::vector<pages::Outline> outlines = outlinesOf(twinOfFile(bitmap), place);
     ASSERT_EQ(outlines.size(), 6U)
         << "line, disc and its edge, the letter's rim and ground, the letter";
     const QImage asBitmap = painted(pageWith({}));
@@ -108,8 +108,20 @@ TEST_F(VectorTwin, LooksLikeItsBitmap) {
     EXPECT_GT(difference(blank(), asBitmap), 2000) << "the picture is not empty";
 }
 
+TEST_F(VectorTwin, FillsAPlaceOfAnotherProportionAsItsBitmapDoes) {
+    const auto widthOf = [this](QSizeF size) {
+        QRectF drawn;
+        for (const pages::Outline& outline : vectorsOf(bitmap, QRectF(QPointF(), size)))
+            drawn |= outline.path.boundingRect();
+        return drawn.width();
+    };
+    const double narrow = widthOf({50, 25});
+    ASSERT_GT(narrow, 20);
+    EXPECT_NEAR(widthOf({100, 25}), 2 * narrow, 0.5);
+}
+
 TEST_F(VectorTwin, IsDrawnInAMetafileWithoutABitmap) {
-    const pages::Report report = pageWith(vectorsOf(bitmap, place));
+    const pages::Report report = pageWith(outlinesOf(twinOfFile(bitmap), place));
     const QByteArray emf = emfOfPage(report, report.pages.front());
     EXPECT_EQ(records(emf, emf::StretchDiBits), 0);
     EXPECT_GT(records(emf, emf::PolyPolygon), 3);
@@ -117,7 +129,7 @@ TEST_F(VectorTwin, IsDrawnInAMetafileWithoutABitmap) {
 }
 
 TEST_F(VectorTwin, IsDrawnInPdfAndSvgWithoutABitmap) {
-    const pages::Report report = pageWith(vectorsOf(bitmap, place));
+    const pages::Report report = pageWith(outlinesOf(twinOfFile(bitmap), place));
     const QByteArray svg = outputFormat(QStringLiteral("svg"))->bytes(report, 0, 150);
     EXPECT_FALSE(svg.contains("<image"));
     EXPECT_TRUE(
@@ -129,21 +141,41 @@ TEST_F(VectorTwin, IsDrawnInPdfAndSvgWithoutABitmap) {
                     .contains("/Subtype /Image"));
 }
 
+TEST_F(VectorTwin, IsFoundAheadForEachFileThatHasOne) {
+    const QString alone = folder.path(QStringLiteral("b.bmp"));
+    const QString missing = folder.path(QStringLiteral("brak.bmp"));
+    ASSERT_TRUE(QFile::copy(bitmap, alone));
+    const Twins twins({bitmap, alone, bitmap, missing});
+    for (int times = 0; times < 2; ++times) {
+        EXPECT_EQ(twins.of(bitmap).svg, folder.read(QStringLiteral("a.svg")));
+        EXPECT_EQ(twins.of(bitmap).pixels, QImage(bitmap).size());
+        EXPECT_TRUE(twins.of(alone).svg.isEmpty());
+        EXPECT_TRUE(twins.of(missing).svg.isEmpty());
+    }
+    EXPECT_EQ(Twins({}).of(bitmap).svg, twins.of(bitmap).svg) << "not asked for ahead";
+}
+
+TEST_F(VectorTwin, OfAFileThatIsNoPictureIsNone) {
+    folder.write(QStringLiteral("a.bmp"), "BM no picture");
+    folder.write(QStringLiteral("a.svg"), twinOf("<svg/>", "BM no picture"));
+    EXPECT_TRUE(twinOfFile(bitmap).svg.isEmpty());
+}
+
 TEST_F(VectorTwin, OfAnotherBitmapIsNotDrawn) {
     QByteArray other = folder.read(QStringLiteral("a.bmp"));
     other.back() = static_cast<char>(~other.back());
     folder.write(QStringLiteral("a.bmp"), other);
-    EXPECT_TRUE(vectorsOf(bitmap, place).empty());
+    EXPECT_TRUE(outlinesOf(twinOfFile(bitmap), place).empty());
 }
 
 TEST_F(VectorTwin, ThatIsDamagedLeavesTheBitmap) {
     const QByteArray bytes = folder.read(QStringLiteral("a.bmp"));
     for (const char* text : {"", "<svg", "no drawing"}) {
         folder.write(QStringLiteral("a.svg"), twinOf(text, bytes));
-        EXPECT_TRUE(vectorsOf(bitmap, place).empty()) << text;
+        EXPECT_TRUE(outlinesOf(twinOfFile(bitmap), place).empty()) << text;
     }
     QFile::remove(folder.path(QStringLiteral("a.svg")));
-    EXPECT_TRUE(vectorsOf(bitmap, place).empty());
+    EXPECT_TRUE(outlinesOf(twinOfFile(bitmap), place).empty());
 }
 
 TEST_F(VectorTwin, EndsAtThePicturesEdge) {

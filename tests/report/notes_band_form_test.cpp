@@ -1,13 +1,11 @@
 // The band of notes above the report.
 #include "report/forms/FernaWyn.h"
 #include "report/forms/renderer_wait.h"
-#include "runtime/picture_box.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
-#include "support/folder.h"
 #include "support/modal_answers.h"
-#include "support/places.h"
 #include "support/printing.h"
+#include "support/results_folder.h"
 #include "widgets/note_band.h"
 #include "widgets/qt_dialogs.h"
 
@@ -24,7 +22,7 @@ namespace {
 class NotesAboveTheReport : public ::testing::Test {
 protected:
     ColumnBase base;
-    Folder folder;
+    ResultsFolder folder;
     QtDialogs dialogs;
     ModalAnswers answers;
     WithDecimalSign comma{u','};
@@ -33,14 +31,8 @@ protected:
     std::unique_ptr<FernaWyn> form;
 
     void SetUp() override {
-        const QDir programs(places::bin());
-        for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
-            QFile::copy(programs.filePath(picture), folder.path(picture));
-        QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
-                    folder.path(QStringLiteral("Wyd_drk")));
         base.fourAnchors(250, 150).loads(900, 5, 0);
         ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
-        PictureBox(QSize(265, 176)).saveBitmap(folder.path(QStringLiteral("Ferrob.bmp")));
     }
 
     void open(const QString& label) {

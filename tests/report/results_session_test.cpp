@@ -270,22 +270,22 @@ TEST_F(RendererStart, ThatEndsInTimeIsAskedAboutAndNotGivenUp) {
     EXPECT_TRUE(folder.names().contains(QStringLiteral("done")));
 }
 
-TEST_F(RendererStart, IsToldOfItsWindowsAndOfTheFilesItHasWritten) {
-    renderer("echo \"$WYD_DRK_OKNO\" > window; echo okno otwarte; sleep 0.4;"
+TEST_F(RendererStart, TellsItsWindowsAndTheFilesItHasWrittenAndLearnsForWhom) {
+    renderer("echo \"$WYD_DRK_OKNO $WYD_DRK_JEZYK\" > window; echo okno otwarte; sleep 0.4;"
              "echo okno zamkniete; echo cos innego; echo 'zapisano /tmp/Hala A/rap-1.emf';"
              "printf 'zapisano /tmp/%%C5%%81/rap'; sleep 0.2; printf -- '-2.emf\\n'; sleep 0.3");
     std::vector<bool> windows;
     std::chrono::milliseconds worked{0};
-    const RendererReport report = runRenderer(
-        folder.path(QStringLiteral(".")), {},
-        [&](const RendererState& state) {
-            if (windows.empty() || windows.back() != state.showsWindow)
-                windows.push_back(state.showsWindow);
-            worked = state.worked;
-            return true;
-        },
-        77);
-    EXPECT_EQ(folder.read(QStringLiteral("window")).trimmed(), "77");
+    const RendererReport report =
+        runRenderer(folder.path(QStringLiteral(".")), {},
+                    [&](const RendererState& state) {
+                        if (windows.empty() || windows.back() != state.showsWindow)
+                            windows.push_back(state.showsWindow);
+                        worked = state.worked;
+                        return true;
+                    },
+                    {.window = 77, .language = QStringLiteral("de-DE")});
+    EXPECT_EQ(folder.read(QStringLiteral("window")).trimmed(), "77 de-DE");
     EXPECT_EQ(windows, (std::vector<bool>{true, false}));
     EXPECT_GE(worked.count(), 350);
     EXPECT_LT(worked.count(), 800) << "counted from the end of its window";

@@ -1,13 +1,11 @@
 // What a refresh of the report leaves alone, whom the menu calls, and where the keyboard is then.
 #include "protocol/renderer_files.h"
 #include "report/forms/FernaWyn.h"
-#include "runtime/picture_box.h"
 #include "support/column_base.h"
 #include "support/decimal_comma.h"
-#include "support/folder.h"
 #include "support/modal_answers.h"
-#include "support/places.h"
 #include "support/printing.h"
+#include "support/results_folder.h"
 #include "widgets/qt_dialogs.h"
 
 #include <QAction>
@@ -25,14 +23,8 @@ namespace {
 class ResultsWiring : public ::testing::Test {
 protected:
     void SetUp() override {
-        const QDir programs(places::bin());
-        for (const QString& picture : programs.entryList({QStringLiteral("*.bmp")}))
-            QFile::copy(programs.filePath(picture), folder.path(picture));
-        QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
-                    folder.path(QStringLiteral("Wyd_drk")));
         base.fourAnchors(250, 150).loads(320, 60, 5);
         ASSERT_EQ(base.calculate(), CalculationEnd::Computed);
-        PictureBox(QSize(265, 176)).saveBitmap(folder.path(QStringLiteral("Ferrob.bmp")));
         auto session = std::make_unique<ResultsSession>(
             base.stan, dialogs, path(), true, [this] { return now; },
             [this] { return runRenderer(path()); });
@@ -69,7 +61,7 @@ protected:
     }
 
     ColumnBase base;
-    Folder folder;
+    ResultsFolder folder;
     QtDialogs dialogs;
     ModalAnswers answers;
     WithDecimalSign comma{u','};

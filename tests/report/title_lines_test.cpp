@@ -44,6 +44,18 @@ TEST_F(TitleLines, AreTheStandardsInTheReportsLanguageAndTheOffice) {
         EXPECT_EQ(lines(language)[1], QStringLiteral("Biuro Ż"));
 }
 
+TEST_F(TitleLines, OfAStockAreReadOnceForALanguage) {
+    TitleLinesStock stock(folder.path(QString()));
+    folder.write(titleLinesFile, "nic = nic\n");
+    EXPECT_THROW(stock.lines(0), RunTimeError) << "and tried again:";
+    folder.write(titleLinesFile, "norma_pl = Stal\nnorma_gb = Steel\nbiuro = Biuro\n");
+    EXPECT_EQ(stock.lines(0)[0], QStringLiteral("Stal"));
+    EXPECT_EQ(stock.lines(2)[0], QStringLiteral("Steel"));
+    folder.write(titleLinesFile, "norma_pl = inaczej\n");
+    EXPECT_EQ(stock.lines(0)[0], QStringLiteral("Stal"));
+    EXPECT_EQ(stock.lines(0)[1], QStringLiteral("Biuro"));
+}
+
 TEST_F(TitleLines, OfAWrongFileAreRefusedWithTheLine) {
     EXPECT_TRUE(
         refusal("norma_pl = a\nnazwa = b\n").contains(QStringLiteral("wiersz 2: nieznany")));

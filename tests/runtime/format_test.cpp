@@ -3,15 +3,23 @@
 #include "support/decimal_comma.h"
 #include "support/places.h"
 #include "support/printing.h"
+#include "support/random_tasks.h"
 
 #include <QFile>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
+#include <string>
 
 using namespace ferna;
+using ferna::testing::Dice;
+using ferna::testing::typed;
 using ferna::testing::WithDecimalSign;
 
 namespace {
@@ -93,6 +101,67 @@ TEST_F(FormatWithComma, TheGeneralFormIsTheShortestThatReadsBack) {
     EXPECT_EQ(general(1e7), QStringLiteral("10000000"));
     EXPECT_EQ(general(1.25e-7F), QStringLiteral("1,25E-07"));
     EXPECT_EQ(general(0.1 + 0.2), QStringLiteral("0,3"));
+}
+
+/// What "0.####..." writes of a number from 1e-9 on: all digits of the exact binary value, by the C
+/// library, rounded to `count` half away from zero.
+QString roundedByHand(Double value, int count) {
+    char text[128];
+    std::snprintf(text, sizeof text, "%.70e", std::fabs(value));
+    std::string digits = text[0] + std::string(text + 2, 70);
+    int point = std::atoi(text + 73) + 1;
+    const bool up = digits[static_cast<std::size_t>(count)] >= '5';
+    digits.resize(static_cast<std::size_t>(count));
+    for (auto digit = digits.rbegin(); up && digit != digits.rend(); ++digit) {
+        if (*digit != '9') {
+            ++*digit;
+            break;
+        }
+        *digit = '0';
+        if (digit + 1 == digits.rend()) {
+            digits.insert(digits.begin(), '1');
+            ++point;
+            break;
+        }
+    }
+    if (point <= 0)
+        digits.insert(0, static_cast<std::size_t>(1 - point), '0');
+    const auto whole = static_cast<std::size_t>(std::max(point, 1));
+    digits.resize(std::max(digits.size(), whole), '0');
+    std::string fraction = digits.substr(whole);
+    fraction.erase(fraction.find_last_not_of('0') + 1);
+    return QString::fromStdString((value < 0 ? "-" : "") + digits.substr(0, whole) + ','
+                                  + fraction);
+}
+
+const QString allDigits = QStringLiteral("0.") + QString(30, u'#');
+
+TEST_F(FormatWithComma, ASingleHasItsSevenDigitsHalfAwayFromZero) {
+    Dice dice(1);
+    const Single halves[] = {1000000.5F, 4194303.5F, 999999.95F, 8388607.5F,
+                             0.5F,       1e-6F,      9.9999995F};
+    for (int i = 0; i < 200'000; ++i) {
+        const auto value = static_cast<Single>(
+            i < 7           ? halves[i]
+            : dice.oneIn(3) ? typed(dice.between(-3000, 3000), dice.whole(1, 4))
+                            : dice.between(-1, 1) * std::pow(10.0, dice.whole(-7, 8)));
+        if (std::fabs(value) < 1e-9F)
+            continue;
+        ASSERT_EQ(Format(value, allDigits), roundedByHand(Double{value}, 7)) << value;
+    }
+}
+
+TEST_F(FormatWithComma, ADoubleHasItsFifteenDigitsHalfAwayFromZero) {
+    Dice dice(2);
+    for (int i = 0; i < 200'000; ++i) {
+        const Double value =
+            dice.oneIn(2)
+                ? typed(dice.between(-1, 1) * std::pow(10.0, dice.whole(-3, 10)), dice.whole(1, 7))
+                : dice.between(-1, 1) * std::pow(10.0, dice.whole(-7, 12));
+        if (std::fabs(value) < 1e-9)
+            continue;
+        ASSERT_EQ(Format(value, allDigits), roundedByHand(value, 15)) << value;
+    }
 }
 
 TEST(Format, RefusesAValueThatIsNotFinite) {

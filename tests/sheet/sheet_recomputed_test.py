@@ -167,6 +167,20 @@ class Recomputed(unittest.TestCase):
                 if re.fullmatch(r'd(N|M1|M2)_e', symbol):
                     self.assertLess(abs(number.value), 1e-6, symbol)  # % of the load
 
+    def test_the_rows_of_the_table_are_used_as_the_cases_that_they_are(self):
+        compared = largest = 0
+        for _, numbers in self.pages:
+            for (case, symbol), number in numbers.items():
+                taken = re.fullmatch(r'k(\d)_([btvi])', symbol)
+                exact = taken and numbers.get((int(taken[1]), f'u_{taken[2]}_e'))
+                if exact:
+                    self.assertAlmostEqual(number.value / max(1.0, exact.value),
+                                           exact.value / max(1.0, exact.value), delta=1e-9)
+                    compared += 1
+                largest += symbol.startswith('k_max_') and number.formula.startswith('max(')
+        self.assertGreater(compared, 3 * TASKS)
+        self.assertGreater(largest, TASKS)
+
 
 if __name__ == '__main__':
     unittest.main(argv=sys.argv[:1], verbosity=2)

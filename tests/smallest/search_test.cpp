@@ -235,6 +235,21 @@ TEST(Lightest, TellsTheLargestUtilisationAndItsCase) {
     EXPECT_GT(judged(best.used, 1), 0.7) << "the lightest one is used well";
 }
 
+TEST(Lightest, TellsTheCaseThatUsesADesignMostWhereverItStands) {
+    Task task = hallTask();
+    ASSERT_EQ(task.cases.size(), 3U);
+    const LoadCase light{{50, 1, 1}, {}};
+    const LoadCase heavy = task.cases[0];
+    for (const int place : {1, 2, 3}) {
+        task.cases.assign(3, light);
+        task.cases[static_cast<std::size_t>(place - 1)] = heavy;
+        const Found found = lightest(hallRange(), task, 5);
+        ASSERT_FALSE(found.best.empty());
+        for (const Design& design : found.best)
+            EXPECT_EQ(design.worstCase, place);
+    }
+}
+
 TEST(Lightest, CountsWhatOnlyAPlateTooThickWouldBear) {
     DesignRange range = hallRange();
     range.plateSteel = 1; // up to 40 mm

@@ -64,6 +64,10 @@ TEST_F(Steps, ANewOneEndsWhatCouldBeDoneAgain) {
     history.record(task);
     EXPECT_FALSE(history.canRedo());
     EXPECT_EQ(history.undoName(), QStringLiteral("szerokość płyty"));
+    const Task before = history.undo();
+    EXPECT_EQ(before.fields.Text3, QStringLiteral("600")) << "not what was given up";
+    EXPECT_EQ(before.fields.Text4, QStringLiteral("400"));
+    EXPECT_FALSE(history.canUndo());
 }
 
 TEST_F(Steps, AHundredCanBeUndone) {

@@ -181,6 +181,7 @@ TEST_F(Desk, AnOpenedTaskStandsInItsFieldsAndCanBeUndone) {
     EXPECT_TRUE(checked("Option1_1"));
     EXPECT_EQ(anchorList().size(), 4);
     EXPECT_EQ(undoEntry(), QStringLiteral("&Cofnij: otwarcie a.ferna"));
+    EXPECT_EQ(form->windowTitle(), caption + QStringLiteral(" - a.ferna")) << "without the mark";
     desk->undo();
     EXPECT_EQ(text("Text3"), QStringLiteral("1300"));
     EXPECT_EQ(desk->file(), QString()) << "the task before belongs to no file";
@@ -211,6 +212,57 @@ TEST_F(Desk, AFileThatCannotBeOpenedIsToldWithLineAndKeyAndChangesNothing) {
     answers.box(openTitle,
                 cannotOpen(none) + QStringLiteral("Nie znaleziono pliku: ") + path(none));
     EXPECT_FALSE(desk->open(path(none)));
+}
+
+TEST_F(Desk, ANumberTypedAfterATaskIsOpenedOrAStepTakenBackReplacesTheFields) {
+    write(QStringLiteral("a.ferna"), sample("slup-narozny.json"));
+    type("Text3", QStringLiteral("700"));
+    ASSERT_TRUE(desk->open(path(QStringLiteral("a.ferna"))));
+    ASSERT_EQ(focused(), QStringLiteral("Text3"));
+    const QString opened = text("Text3");
+    key(Qt::Key_5);
+    EXPECT_EQ(text("Text3"), QStringLiteral("5"));
+    desk->undo();
+    EXPECT_EQ(text("Text3"), opened);
+    key(Qt::Key_6);
+    EXPECT_EQ(text("Text3"), QStringLiteral("6"));
+}
+
+/// The programs that a call finds while this stands.
+class ProgramsOf {
+public:
+    explicit ProgramsOf(const QString& folder) { qputenv("PATH", folder.toUtf8()); }
+    ~ProgramsOf() { qputenv("PATH", before_); }
+    Q_DISABLE_COPY_MOVE(ProgramsOf)
+
+private:
+    QByteArray before_ = qgetenv("PATH");
+};
+
+TEST_F(Desk, ShowsTheFileOfTheTaskInTheFileManager) {
+    write(QStringLiteral("Hala A, oś 1.ferna"), sample("slup-narozny.json"));
+    ASSERT_TRUE(desk->open(path(QStringLiteral("Hala A, oś 1.ferna"))));
+    write(QStringLiteral("dbus-send"),
+          "#!/bin/sh\nfor one; do echo \"$one\"; done > \"${0%/*}/x\"\n"
+          "/bin/mv \"${0%/*}/x\" \"${0%/*}/told\"\n");
+    QFile::setPermissions(path(QStringLiteral("dbus-send")),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    const ProgramsOf own(folder.path());
+    entry(QStringLiteral("Pokaż w folderze"))->trigger();
+    const QString told = path(QStringLiteral("told"));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(told); }));
+    EXPECT_TRUE(readFileWhole(told).contains("array:string:file://" + folder.path().toUtf8()
+                                             + "/Hala%20A%2C%20o%C5%9B%201.ferna\n"))
+        << readFileWhole(told).constData();
+}
+
+TEST_F(Desk, TellsWhereNothingCanShowTheFolderOfTheTask) {
+    write(QStringLiteral("a.ferna"), sample("slup-narozny.json"));
+    ASSERT_TRUE(desk->open(path(QStringLiteral("a.ferna"))));
+    const ProgramsOf none(path(QStringLiteral("no such folder")));
+    answers.stop(error::NoObject);
+    entry(QStringLiteral("Pokaż w folderze"))->trigger();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return answers.done(); }));
 }
 
 TEST_F(Desk, AFileThatCannotBeWrittenIsToldAndTheMarkStays) {

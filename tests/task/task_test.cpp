@@ -3,12 +3,14 @@
 #include "support/decimal_comma.h"
 #include "support/places.h"
 #include "support/printing.h"
+#include "support/random_tasks.h"
 #include "support/task_document.h"
 
 #include <gtest/gtest.h>
 
 using namespace ferna;
 using namespace ferna::batch;
+using ferna::testing::Dice;
 using ferna::testing::documentOf;
 using ferna::testing::WithDecimalSign;
 
@@ -62,6 +64,50 @@ TEST(TextOfATask, TheWholeNumbersOfSixtyFourBitsAreNumbers) {
     EXPECT_EQ(numberOfText("9007199254740993"), std::pair(9007199254740992.0, false));
 }
 
+TEST(TextOfATask, ANumberIsTheDoubleThatIsNearestToIt) {
+    Dice dice(3);
+    for (int i = 0; i < 100'000; ++i) {
+        std::string text = std::to_string(dice.bits() % std::uint64_t{1'000'000'000'000'000'000});
+        text.resize(1 + dice.bits() % text.size());
+        if (text.size() > 1 && text[0] == '0')
+            text.insert(1, 1, '.');
+        else if (text.size() > 1 && dice.oneIn(2))
+            text.insert(1 + dice.bits() % (text.size() - 1), 1, '.');
+        if (dice.oneIn(2))
+            text.insert(0, 1, '-');
+        if (dice.oneIn(5))
+            text += "e-" + std::to_string(dice.whole(0, 30));
+        const TaskDocument document = parsed('[' + text + ']');
+        const double expected = std::strtod(text.c_str(), nullptr);
+        ASSERT_EQ(document.values.at(1).number, expected) << text;
+        const bool isWhole = text.find_first_of(".e") == std::string::npos;
+        ASSERT_EQ(document.values.at(1).isWhole, isWhole && std::fabs(expected) <= 0x1p53) << text;
+    }
+}
+
+TEST(TextOfATask, AKeyThatStandsTwiceIsRefusedHoweverManyThereAre) {
+    for (const int many : {2, 5, 31, 32, 33, 100}) {
+        std::string keys = "{";
+        for (int i = 0; i < many; ++i)
+            keys += "\"k" + std::to_string(i) + "\": 0, ";
+        EXPECT_NO_THROW(parsed(keys + "\"other\": 0}"));
+        for (const int twice : {0, many / 2, many - 1})
+            EXPECT_THROW(parsed(keys + "\"k" + std::to_string(twice) + "\": 0}"), TaskError)
+                << twice << " of " << many;
+    }
+}
+
+TEST(TextOfATask, StaysWithItsDocument) {
+    // The quick reader takes the first one, the library the second.
+    for (std::string text : {R"({"a": "b", "c": ["de"]})", R"({"a": "b", "c": ["d\u0065"]})"}) {
+        TaskDocument read = parsed(text);
+        text.assign(text.size(), 'x');
+        const TaskDocument moved = std::move(read);
+        EXPECT_EQ(moved.root().find("a")->text, "b");
+        EXPECT_EQ((*moved.root().find("c")->parts().begin()).text, "de");
+    }
+}
+
 struct Tasks : ::testing::Test {
     WithDecimalSign comma{u','};
     Json task = smallestTask();
@@ -84,7 +130,6 @@ TEST_F(Tasks, KeysLeftOutTakeTheirDefaults) {
     EXPECT_EQ(read.fields.Text4, QStringLiteral("400"));
     EXPECT_EQ(read.stan.plyta.Liczba_srub, 1);
     EXPECT_EQ(read.stan.plyta.X_kotwy(1), 25);
-    EXPECT_EQ(read.stan.raport.Wiersze_srub(1), QStringLiteral("1.   M24  x=250 mm  y=150 mm"));
     EXPECT_EQ(read.fields.loads[0].M1, QStringLiteral("12,5"));
     EXPECT_EQ(read.stan.obciazenia.Liczba_przyp, 1);
 }
@@ -296,6 +341,20 @@ TEST_F(Runs, ARefusedUserSteelShowsBothMessages) {
     EXPECT_EQ(r["Komunikaty"][1]["tekst"], "Musisz określić stal dla śrub kotwiących");
     task["Stal"]["Stal_fd"] = 600;
     EXPECT_EQ(result()["Materialy"]["Fv_kotwy"], 360);
+}
+
+TEST_F(Runs, WithoutReportsHaveTheSameResultAndNoLinesOfOne) {
+    task["Przypadki"][0]["M1"] = 60;
+    const ComputedTask with = run(readTask(documentOf(task)), options);
+    options.reports = false;
+    const ComputedTask without = run(readTask(documentOf(task)), options);
+    EXPECT_EQ(resultText(with, JsonWriter::Layout::Indented),
+              resultText(without, JsonWriter::Layout::Indented));
+    EXPECT_TRUE(solved(without));
+    EXPECT_EQ(with.task.stan.raport.Wiersze_srub(1),
+              QStringLiteral("1.   M24  x=250 mm  y=150 mm"));
+    EXPECT_FALSE(with.raport.Wiersze_danych(1).isEmpty());
+    EXPECT_TRUE(without.raport.Wiersze_danych(1).isEmpty());
 }
 
 TEST_F(Runs, SinglesAreWrittenAsTheirShortestDecimal) {

@@ -37,9 +37,10 @@ QString ChartView::wordsAt(QPointF place) const {
     if (found < 0)
         return {};
     const ChartPoint& point = chart_.points[static_cast<std::size_t>(found)];
-    return QStringLiteral("%1: N = %2 kN, M1 = %3 kNm, M2 = %4 kNm\nwytężenie: %5")
+    return QStringLiteral("%1: N = %2 kN, M1 = %3 kNm, M2 = %4 kNm\nwytężenie: %5, "
+                          "mnożnik wszystkich sił: %6")
         .arg(point.name, general(point.load.N), general(point.load.M1), general(point.load.M2),
-             usedWords(point.used));
+             usedWords(point.used), factorWords(point.factor));
 }
 
 void ChartView::paintEvent(QPaintEvent* /*event*/) {

@@ -17,6 +17,7 @@ public:
     void showNothing(const QString& why);
 
     QSize sizeHint() const override { return {440, 380}; }
+    QSize minimumSizeHint() const override { return {300, 240}; } ///< where it can be read
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -1,6 +1,7 @@
 #include "combinations/forms/combination_entries.h"
 
 #include "input/forms/Ferna3.h"
+#include "live/told_checks.h"
 #include "runtime/dialogs.h"
 #include "runtime/format.h"
 #include "runtime/settings.h"
@@ -19,8 +20,9 @@ constexpr std::array columns{Value::N, Value::M1, Value::M2, Value::Vx, Value::V
 
 } // namespace
 
-CombinationEntries::CombinationEntries(const Stan& stan, Ferna3& form, Dialogs& dialogs)
-    : QObject(&form), stan_(stan), form_(form), dialogs_(dialogs) {
+CombinationEntries::CombinationEntries(const Stan& stan, Ferna3& form, Dialogs& dialogs,
+                                       AroundCombinations around)
+    : QObject(&form), stan_(stan), form_(form), dialogs_(dialogs), around_(std::move(around)) {
     QAction* const entry =
         form.menus().task->addAction(QStringLiteral("&Kombinacje..."), this, [this] { open(); });
     entry->setShortcut(QKeySequence(QStringLiteral("Ctrl+K")));
@@ -55,7 +57,11 @@ void CombinationEntries::open() {
                             settings::saveFolder(),
                             QStringLiteral("Tabele (*.csv *.tsv *.txt *.xlsx *.ods);;"
                                            "Wszystkie pliki (*)"));
-                    }},
+                    },
+                .told = [this] { return live::toldChecks(form_.record(), stan_); },
+                .showInChart = around_.showInChart,
+                .saveSheet = around_.saveSheet,
+                .answered = around_.answered},
             nullptr);
     window_->show();
     window_->raise();
@@ -80,6 +86,10 @@ bool CombinationEntries::offer(const QString& table) {
 void CombinationEntries::calculated() {
     if (window_)
         window_->calculated();
+}
+
+std::optional<combinations::Digest> CombinationEntries::calculatedDigest() const {
+    return window_ ? window_->calculatedDigest() : std::nullopt;
 }
 
 /// The load table takes the rows as if they were typed; rows behind them go.

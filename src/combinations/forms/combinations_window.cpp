@@ -11,6 +11,7 @@
 #include "runtime/run_time_error.h"
 #include "runtime/saved_file.h"
 #include "widgets/note_band.h"
+#include "widgets/small_screen.h"
 
 #include <QBuffer>
 #include <QComboBox>
@@ -21,7 +22,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTableView>
@@ -75,11 +75,12 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
     setObjectName(QStringLiteral("Kombinacje"));
     setWindowTitle(QStringLiteral("Ferna 2005 Pr - Kombinacje"));
     setWindowFlag(Qt::WindowMinMaxButtonsHint);
-    setAttribute(Qt::WA_QuitOnClose, false); // the main form is the program
+    setProperty("helpContext", 190);
     setAcceptDrops(true);
     auto* const page = new QVBoxLayout(this);
     page->addWidget(topRow());
     notes_ = new NoteBand;
+    notes_->setObjectName(QStringLiteral("uwagi"));
     page->addWidget(notes_);
     auto* const halves = new QSplitter;
     halves->addWidget(tableSide());
@@ -93,8 +94,8 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
     constexpr int pause = 200; // ms
     settle_.setInterval(pause);
     connect(&settle_, &QTimer::timeout, this, [this] { answerAnew(); });
-    resize(QSize(1280, 780).boundedTo(screen()->availableSize()));
     showTable();
+    fitToScreen(this, QSize(1280, 780));
 }
 
 CombinationsWindow::~CombinationsWindow() = default;
@@ -186,8 +187,10 @@ void CombinationsWindow::showProgress() {
 }
 
 void CombinationsWindow::showTable() {
-    if (!coming_.isEmpty() && !isStopped_)
+    if (!coming_.isEmpty() && !isStopped_) {
         source_ = coming_;
+        put_.clear(); // they are of the table of before
+    }
     coming_.clear();
     const RowNumber chosen = filter_->mapToSource(table_->currentIndex()).row() + 1;
     const combinations::AnsweredTable& table = work_.table();
@@ -203,12 +206,15 @@ void CombinationsWindow::showTable() {
     }
     showNotes();
     const bool any = !table.choice().six().empty();
-    putButton_->setEnabled(any);
+    for (QPushButton* button : {putButton_, chart_, sheet_})
+        button->setEnabled(any);
     export_->setEnabled(table.size() > 0);
-    compare();
+    showComparison();
     showProgress();
     showState();
     showChosen();
+    if (links_.answered)
+        links_.answered();
 }
 
 /// Of shear and interaction only one applies to a base; the other is 0 in all rows.
@@ -280,34 +286,82 @@ void CombinationsWindow::showChosen() {
 
 void CombinationsWindow::putSix() {
     put_.clear();
+    calculated_.reset();
     for (const RowNumber row : work_.table().choice().six())
         put_.emplace_back(row, *work_.table().combination(row));
     links_.putIntoTable(put_);
+    showComparison();
     say(QStringLiteral("Wstawiono do tabeli obciążeń wierszy: %1. Oblicz policzy je i "
                        "utworzy raport; porównanie pokaże się tutaj.")
             .arg(put_.size()));
 }
 
-std::vector<combinations::Compared> CombinationsWindow::compare() {
-    std::vector<combinations::Compared> all;
-    if (evaluator_)
-        all = combinations::compared(stan_, *evaluator_, put_);
-    comparison_->show(all);
-    tabs_->setTabEnabled(tabs_->indexOf(comparison_), !all.empty());
-    return all;
+/// True where the last calculation is of what is entered now.
+bool CombinationsWindow::isCalculated() const {
+    return calculated_ && notes::sameTask(*calculated_, notes::entered(stan_, links_.fields()));
+}
+
+/// None where there is nothing to compare.
+std::vector<combinations::Compared> CombinationsWindow::compare() const {
+    if (put_.empty() || !evaluator_ || !links_.told || !isCalculated())
+        return {};
+    return combinations::compared(stan_, links_.told(), *evaluator_, put_);
+}
+
+void CombinationsWindow::showComparison() {
+    const std::vector<combinations::Compared> all = compare();
+    if (!all.empty())
+        comparison_->show(all, evaluator_->limits().tensionSideAlone);
+    else if (put_.empty())
+        comparison_->showNothing(
+            QStringLiteral("Porównanie będzie tu po wstawieniu wierszy do tabeli i Oblicz."));
+    else if (!calculated_)
+        comparison_->showNothing(QStringLiteral("Wstawionych wierszy jeszcze nie obliczono."));
+    else
+        comparison_->showNothing(QStringLiteral("Zadanie zmieniło się od obliczenia: porównanie "
+                                                "będzie tu po następnym Oblicz."));
 }
 
 void CombinationsWindow::calculated() {
+    calculated_ = notes::entered(stan_, links_.fields());
+    showComparison();
     const std::vector<combinations::Compared> all = compare();
-    if (all.empty())
-        return;
+    const auto count = [&all](const auto& is) { return std::count_if(all.begin(), all.end(), is); };
+    const auto differing = count([](const auto& one) { return one.differs(); });
+    const auto left =
+        count([](const auto& one) { return one.state != combinations::Compared::State::Compared; });
+    if (left == std::ssize(all))
+        return; // another task
     tabs_->setCurrentWidget(comparison_);
-    const auto differing =
-        std::count_if(all.begin(), all.end(), [](const auto& one) { return one.differs(); });
-    say(differing == 0 ? QStringLiteral("Oblicz potwierdza wstawione wiersze.")
-                       : QStringLiteral("Wierszy, w których Oblicz i dokładna równowaga się "
-                                        "różnią: %1 - zob. Porównanie z Oblicz.")
-                             .arg(differing));
+    QString words = differing == 0
+                        ? QStringLiteral("Oblicz potwierdza wstawione wiersze.")
+                        : QStringLiteral("Wierszy, w których Oblicz i dokładna równowaga się "
+                                         "różnią: %1 - zob. Porównanie z Oblicz.")
+                              .arg(differing);
+    if (left > 0)
+        words += QStringLiteral(" Wierszy, których nie porównano: %1.").arg(left);
+    say(words);
+}
+
+std::optional<combinations::Digest> CombinationsWindow::calculatedDigest() const {
+    const std::vector<combinations::Compared> all = compare();
+    const bool areCases = std::ssize(all) == stan_.obciazenia.Liczba_przyp
+                          && std::all_of(all.begin(), all.end(), [](const auto& one) {
+                                 return one.state == combinations::Compared::State::Compared;
+                             });
+    if (all.empty() || !areCases || work_.isWorking())
+        return std::nullopt;
+    std::vector<RowNumber> rows;
+    for (const auto& [row, combination] : put_)
+        rows.push_back(row);
+    return digestOf(work_.table(), source_, rows);
+}
+
+void CombinationsWindow::saveSheet() {
+    const auto file =
+        links_.saveSheet(digestOf(work_.table(), source_, work_.table().choice().six()));
+    if (file)
+        say(QStringLiteral("Zapisano %1.").arg(*file));
 }
 
 void CombinationsWindow::exportCsv() {
@@ -339,8 +393,19 @@ void CombinationsWindow::dropEvent(QDropEvent* event) {
 
 void CombinationsWindow::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    if (!event->spontaneous() && work_.table().size() > 0)
+    if (event->spontaneous())
+        return;
+    if (work_.table().size() > 0)
         answerAnew();
+    (work_.table().size() > 0 ? static_cast<QWidget*>(table_) : open_)->setFocus();
+}
+
+// Esc ends what is going on first, and then the window.
+void CombinationsWindow::reject() {
+    if (work_.isWorking())
+        work_.stop();
+    else
+        QDialog::reject();
 }
 
 } // namespace ferna

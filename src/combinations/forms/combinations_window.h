@@ -1,9 +1,11 @@
 #pragma once
 
 #include "combinations/comparison.h"
+#include "combinations/digest.h"
 #include "combinations/forms/table_work.h"
 #include "design/input_fields.h"
 #include "live/picture_values.h"
+#include "notes/record.h"
 
 #include <QDialog>
 
@@ -42,6 +44,15 @@ public:
         std::function<std::optional<QString>(const QString& name)> saveName;
         /// The file to read; empty where that was cancelled.
         std::function<QString()> openName;
+        /// What the last calculation has told of its cases.
+        std::function<combinations::ToldUses()> told = {};
+        /// Shows the combinations in the chart of the capacity.
+        std::function<void()> showInChart = {};
+        /// Writes the calculation of the rows that go into the load table as a sheet, with the
+        /// table they are of. The file's name; none where that was cancelled.
+        std::function<std::optional<QString>(const combinations::Digest&)> saveSheet = {};
+        /// Told whenever the table or its answers have become others.
+        std::function<void()> answered = {};
     };
     CombinationsWindow(const Stan& stan, Links links, QWidget* parent = nullptr);
     ~CombinationsWindow() override;
@@ -56,11 +67,17 @@ public:
     void calculated();
 
     const TableWork& work() const { return work_; }
+    /// What the table was read from; empty without one.
+    const QString& source() const { return source_; }
+    /// The rows that went into the load table, where the cases of the last calculation are just
+    /// these and nothing was entered since; else none.
+    std::optional<combinations::Digest> calculatedDigest() const;
 
 protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void reject() override;
 
 private:
     QWidget* topRow();
@@ -79,9 +96,12 @@ private:
     void hideIdleColumns();
     void say(const QString& what);
     void showNotes();
-    std::vector<combinations::Compared> compare();
+    bool isCalculated() const;
+    std::vector<combinations::Compared> compare() const;
+    void showComparison();
     void putSix();
     void exportCsv();
+    void saveSheet();
     live::PictureValues pictureOf(combinations::RowNumber row) const;
 
     const Stan& stan_;
@@ -95,7 +115,9 @@ private:
     QString unready_;        ///< why no base can be made of what is entered
     QString said_;           ///< what has happened last
     Rows put_;
+    std::optional<notes::Entered> calculated_; ///< what stood in the form after a calculation
 
+    QPushButton* open_ = nullptr;
     QLabel* state_ = nullptr;
     QProgressBar* progress_ = nullptr;
     QPushButton* stop_ = nullptr;
@@ -111,7 +133,9 @@ private:
     Histogram* histogram_ = nullptr;
     ComparisonView* comparison_ = nullptr;
     QPushButton* putButton_ = nullptr;
+    QPushButton* chart_ = nullptr;
     QPushButton* export_ = nullptr;
+    QPushButton* sheet_ = nullptr;
 };
 
 } // namespace ferna

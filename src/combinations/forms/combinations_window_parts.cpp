@@ -7,6 +7,7 @@
 #include "combinations/forms/histogram.h"
 #include "combinations/forms/use_bar.h"
 #include "editing/forms/clipboard_table.h"
+#include "widgets/environment_stop.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -31,12 +32,12 @@ QWidget* CombinationsWindow::topRow() {
     auto* const row = new QWidget;
     auto* const layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
-    auto* const open = new QPushButton(QStringLiteral("Wczytaj &plik..."));
+    open_ = new QPushButton(QStringLiteral("Wczytaj &plik..."));
     auto* const paste = new QPushButton(QStringLiteral("W&klej"));
     paste->setToolTip(QStringLiteral("Wczytuje tabelę skopiowaną z arkusza lub programu"));
-    for (QPushButton* button : {open, paste})
+    for (QPushButton* button : {open_, paste})
         button->setAutoDefault(false);
-    connect(open, &QPushButton::clicked, this, [this] {
+    connect(open_, &QPushButton::clicked, this, [this] {
         if (const QString path = links_.openName(); !path.isEmpty())
             readFile(path);
     });
@@ -49,7 +50,7 @@ QWidget* CombinationsWindow::topRow() {
     stop_ = new QPushButton(QStringLiteral("P&rzerwij"));
     stop_->setAutoDefault(false);
     connect(stop_, &QPushButton::clicked, this, [this] { work_.stop(); });
-    layout->addWidget(open);
+    layout->addWidget(open_);
     layout->addWidget(paste);
     layout->addWidget(state_, 1);
     layout->addWidget(progress_);
@@ -79,6 +80,7 @@ QWidget* CombinationsWindow::tableSide() {
     row->addWidget(shownLabel);
     row->addWidget(shown_);
     layout->addLayout(row);
+    connect(filterText_, &QLineEdit::returnPressed, this, [this] { table_->setFocus(); });
     connect(filterText_, &QLineEdit::textChanged, this, [this](const QString& text) {
         filter_->setText(text);
         showState();
@@ -123,7 +125,6 @@ QWidget* CombinationsWindow::pictureSide() {
     tabs_->addTab(picture_, QStringLiteral("&Obraz"));
     tabs_->addTab(histogram_, QStringLiteral("&Histogram"));
     tabs_->addTab(comparison_, QStringLiteral("Porów&nanie z Oblicz"));
-    tabs_->setTabEnabled(tabs_->indexOf(comparison_), false);
     return tabs_;
 }
 
@@ -135,15 +136,26 @@ QWidget* CombinationsWindow::bottomRow() {
     putButton_->setToolTip(
         QStringLiteral("Wpisuje do tabeli obciążeń wiersze miarodajne i następne "
                        "najbardziej wytężone, razem do sześciu"));
+    chart_ = new QPushButton(QStringLiteral("Na w&ykres nośności"));
+    chart_->setToolTip(QStringLiteral("Pokazuje wszystkie kombinacje jako punkty na wykresie "
+                                      "obciążeń, do których podstawa wystarcza"));
     export_ = new QPushButton(QStringLiteral("&Eksportuj CSV..."));
+    export_->setToolTip(QStringLiteral("Zapisuje wszystkie wiersze z odpowiedziami"));
+    sheet_ = new QPushButton(QStringLiteral("&Do arkusza..."));
+    sheet_->setToolTip(QStringLiteral("Zapisuje arkusz obliczeniowy tych do sześciu wierszy z "
+                                      "podsumowaniem całej tabeli"));
     auto* const close = new QPushButton(QStringLiteral("&Zamknij"));
-    for (QPushButton* button : {putButton_, export_, close})
+    for (QPushButton* button : {putButton_, chart_, export_, sheet_, close})
         button->setAutoDefault(false);
+    chart_->setVisible(links_.showInChart != nullptr);
+    sheet_->setVisible(links_.saveSheet != nullptr);
     connect(putButton_, &QPushButton::clicked, this, [this] { putSix(); });
+    connect(chart_, &QPushButton::clicked, this, [this] { links_.showInChart(); });
     connect(export_, &QPushButton::clicked, this, [this] { exportCsv(); });
+    connectGuarded(sheet_, &QPushButton::clicked, this, [this] { saveSheet(); });
     connect(close, &QPushButton::clicked, this, &QDialog::close);
-    layout->addWidget(putButton_);
-    layout->addWidget(export_);
+    for (QPushButton* button : {putButton_, chart_, export_, sheet_})
+        layout->addWidget(button);
     layout->addStretch(1);
     layout->addWidget(close);
     return row;

@@ -9,7 +9,7 @@
 namespace ferna {
 
 /// How many combinations use their worst check how far: a bar for each tenth, the last for all
-/// beyond. A click chooses what the bar counts.
+/// beyond.
 class Histogram : public QWidget {
     Q_OBJECT
 

@@ -1,6 +1,7 @@
 #include "combinations/forms/reading_dialog.h"
 
 #include "runtime/format.h"
+#include "widgets/small_screen.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -80,9 +81,25 @@ ReadingDialog::ReadingDialog(const combinations::Layout& layout, QList<QStringLi
     connect(buttons_, &QDialogButtonBox::rejected, this, &QDialog::reject);
     page->addWidget(buttons_);
     addChoices(grid);
+    orderTabs();
     showFile();
     showRead();
-    resize(860, 640);
+    fitToScreen(this, QSize(860, 640));
+    QPushButton* const ok = buttons_->button(QDialogButtonBox::Ok);
+    (layout_.doubt.isEmpty() && ok->isEnabled() ? static_cast<QWidget*>(ok)
+                                                : choices_.front().column)
+        ->setFocus();
+}
+
+/// From the top down, a load after the other.
+void ReadingDialog::orderTabs() {
+    QList<QWidget*> order{file_, name_};
+    for (const Choice& choice : choices_)
+        order += {choice.column, choice.unit, choice.turned};
+    order +=
+        {read_, buttons_->button(QDialogButtonBox::Ok), buttons_->button(QDialogButtonBox::Cancel)};
+    for (qsizetype i = 1; i < order.size(); ++i)
+        setTabOrder(order.at(i - 1), order.at(i));
 }
 
 QComboBox* ReadingDialog::columnList(const QString& none, int chosen) {
@@ -102,7 +119,7 @@ void ReadingDialog::addChoices(QGridLayout* grid) {
                            QStringLiteral("Znak")};
     for (int r = 0; r < rows.size(); ++r)
         grid->addWidget(new QLabel(rows.at(r)), r + 1, 0);
-    auto* const label = new QLabel(QStringLiteral("N&azwa"));
+    auto* const label = new QLabel(QStringLiteral("Na&zwa"));
     name_ = columnList(QStringLiteral("(brak)"), layout_.columns.name);
     label->setBuddy(name_);
     grid->addWidget(label, 0, 1);

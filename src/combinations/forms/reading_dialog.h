@@ -34,6 +34,7 @@ private:
     };
 
     void addChoices(QGridLayout* grid);
+    void orderTabs();
     void addChoice(QGridLayout* grid, int place);
     QComboBox* columnList(const QString& none, int chosen);
     void showFile();

@@ -21,6 +21,7 @@ inline constexpr int General = 120;
 inline constexpr int Loads = 130;
 inline constexpr int Anchors = 140;
 inline constexpr int Statics = 150;
+inline constexpr int Combinations = 190;
 inline constexpr int Results = 200;
 inline constexpr int PlateThickness = 210;
 inline constexpr int AnchorSelection = 220;

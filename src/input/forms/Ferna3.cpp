@@ -9,6 +9,8 @@
 #include "input/forms/Fernafi.h"
 #include "input/forms/KGM8.h"
 #include "input/forms/Nowa_Sruba.h"
+#include "input/forms/left_fields.h"
+#include "input/forms/load_rows.h"
 #include "input/load_table.h"
 #include "input/material_fields.h"
 #include "input/plate_drawing.h"
@@ -27,7 +29,6 @@
 
 #include <QCloseEvent>
 #include <QGroupBox>
-#include <QTimer>
 
 namespace ferna {
 
@@ -41,7 +42,8 @@ constexpr int anchorTab = 3;
 Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
                std::function<void()> openResults)
     : stan_(stan), folder_(folder), dialogs_(dialogs), openResults_(std::move(openResults)),
-      ui_(std::make_unique<Ui::Ferna3>()) {
+      ui_(std::make_unique<Ui::Ferna3>()),
+      left_(new LeftFields(this, [this](QWidget* field) { leave(field); })) {
     ui_->setupUi(this);
     setWindowFlags(Qt::Window);
     collectFields();
@@ -55,7 +57,7 @@ Ferna3::Ferna3(Stan& stan, const QString& folder, Dialogs& dialogs,
     for (QWidget* field :
          {static_cast<QWidget*>(ui_->Text1), static_cast<QWidget*>(ui_->Text2),
           static_cast<QWidget*>(ui_->cmbBeton), static_cast<QWidget*>(ui_->cmbStal)})
-        field->installEventFilter(this);
+        left_->watch(field);
     addTabKeys(this, ui_->SSTab1);
     connectGuarded(ui_->SSTab1, &QTabWidget::currentChanged, this, [this] { tabChanged(); });
     connect(ui_->SSTab1, &QTabWidget::tabBarClicked, this, [this](int tab) {
@@ -77,18 +79,13 @@ Ferna3::~Ferna3() = default;
 
 void Ferna3::collectFields() {
     const Ui::Ferna3& u = *ui_;
-    loads_ = {{{u.Text6_0, u.Text7_0, u.Text8_0, u.Text5_0, u.Text10_0},
-               {u.Text6_1, u.Text7_1, u.Text8_1, u.Text5_1, u.Text10_1},
-               {u.Text6_2, u.Text7_2, u.Text8_2, u.Text5_2, u.Text10_2},
-               {u.Text6_3, u.Text7_3, u.Text8_3, u.Text5_3, u.Text10_3},
-               {u.Text6_4, u.Text7_4, u.Text8_4, u.Text5_4, u.Text10_4},
-               {u.Text6_5, u.Text7_5, u.Text8_5, u.Text5_5, u.Text10_5}}};
-    for (const auto& row : loads_)
-        for (QLineEdit* field : row) {
-            QSizePolicy policy = field->sizePolicy();
-            policy.setRetainSizeWhenHidden(true);
-            field->setSizePolicy(policy);
-        }
+    loads_ = std::make_unique<LoadRows>(
+        u.Text1, LoadRows::Fields{{{u.Text6_0, u.Text7_0, u.Text8_0, u.Text5_0, u.Text10_0},
+                                   {u.Text6_1, u.Text7_1, u.Text8_1, u.Text5_1, u.Text10_1},
+                                   {u.Text6_2, u.Text7_2, u.Text8_2, u.Text5_2, u.Text10_2},
+                                   {u.Text6_3, u.Text7_3, u.Text8_3, u.Text5_3, u.Text10_3},
+                                   {u.Text6_4, u.Text7_4, u.Text8_4, u.Text5_4, u.Text10_4},
+                                   {u.Text6_5, u.Text7_5, u.Text8_5, u.Text5_5, u.Text10_5}}});
     Jezyk_ = {u.Jezyk_0, u.Jezyk_1, u.Jezyk_2, u.Jezyk_3, u.Jezyk_4};
     optRTF_ = {u.optRTF_0, u.optRTF_1, u.optRTF_2};
     optHsruby_ = {u.optHsruby_0, u.optHsruby_1};
@@ -97,9 +94,6 @@ void Ferna3::collectFields() {
 }
 
 QLineEdit* Ferna3::fieldOf(const TypedValue& value) const {
-    const auto ofCase = [&](std::size_t column) {
-        return loads_.at(static_cast<std::size_t>(value.of)).at(column);
-    };
     switch (value.value) {
     case Value::PageNumber:
         return ui_->txtNr_strony;
@@ -111,18 +105,8 @@ QLineEdit* Ferna3::fieldOf(const TypedValue& value) const {
         return ui_->Text3;
     case Value::PlateWidth:
         return ui_->Text4;
-    case Value::N:
-        return ofCase(0);
-    case Value::M1:
-        return ofCase(1);
-    case Value::M2:
-        return ofCase(2);
-    case Value::Vx:
-        return ofCase(3);
-    case Value::Vy:
-        return ofCase(4);
     default:
-        return nullptr;
+        return loads_->fieldOf(value);
     }
 }
 
@@ -181,58 +165,9 @@ void Ferna3::connectAnchorCommands() {
 void Ferna3::connectCommand(QPushButton* button, const std::function<void()>& handler) {
     connectGuarded(button, &QPushButton::clicked, this, [this, button, handler] {
         button->setFocus(Qt::ShortcutFocusReason);
-        settleLeftFields();
+        left_->settle();
         handler();
     });
-}
-
-bool Ferna3::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut && !returning_) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        const bool staysInTheForm = reason != Qt::ActiveWindowFocusReason
-                                    && reason != Qt::PopupFocusReason
-                                    && reason != Qt::MenuBarFocusReason;
-        if (staysInTheForm) {
-            left_.removeAll(watched);
-            left_ += static_cast<QWidget*>(watched);
-            QTimer::singleShot(0, this, &Ferna3::settleWhenFree);
-        }
-    }
-    return QDialog::eventFilter(watched, event);
-}
-
-// Leaving a field may open a dialog. Opened in the middle of a click it would swallow the release
-// of the mouse button; while a button is down its command would run behind the dialog's back.
-void Ferna3::settleWhenFree() {
-    constexpr int lookAgain = 20; // ms
-    const auto* const button = qobject_cast<QAbstractButton*>(focusWidget());
-    if (QGuiApplication::mouseButtons() != Qt::NoButton || (button && button->isDown())
-        || QApplication::activePopupWidget() != nullptr)
-        QTimer::singleShot(lookAgain, this, &Ferna3::settleWhenFree);
-    else
-        guarded(this, [this] { settleLeftFields(); });
-}
-
-// A field that cannot be left keeps the focus: what is typed there has to be put right.
-void Ferna3::settleLeftFields() {
-    while (!left_.isEmpty()) {
-        QWidget* const field = left_.takeFirst();
-        if (field == focusWidget()) // back from its own list
-            continue;
-        try {
-            leave(field);
-        } catch (const RunTimeError&) {
-            left_.clear();
-            returnTo(field);
-            throw;
-        }
-    }
-}
-
-void Ferna3::returnTo(QWidget* field) {
-    returning_ = true;
-    field->setFocus(Qt::OtherFocusReason);
-    returning_ = false;
 }
 
 void Ferna3::leave(QWidget* field) {
@@ -280,8 +215,7 @@ void Ferna3::showFields(const InputFields& fields) {
     (fields.Option1_0 ? ui_->Option1_0 : ui_->Option1_1)->setChecked(true);
     ui_->txtNaz_proj->setText(fields.txtNaz_proj);
     ui_->Text2->setText(fields.Text2);
-    for (int r = 0; r < MaxCases; ++r)
-        setRow(r, fields.loads.at(static_cast<std::size_t>(r)));
+    loads_->setTexts(fields.loads);
     ui_->Text3->setText(fields.Text3);
     ui_->Text4->setText(fields.Text4);
 }
@@ -307,17 +241,19 @@ void Ferna3::takeTask(const Stan& task, const InputFields& fields) {
         const QSignalBlocker quiet(this);
         stan_ = std::move(taken);
         Jezyk_wczytany = stan_.opcje.Nr_jezyka;
-        left_.clear();
+        left_->forget();
         showOptions();
         showFields(fields);
         ui_->txtNr_strony->setText(fields.txtNr_strony);
         ui_->Text1->setText(general(stan_.obciazenia.Liczba_przyp));
-        showRows();
+        loads_->showRows(stan_.obciazenia.Liczba_przyp);
         showAnchorList();
         ScriptedDialogs unseen; // a text that is no number is told when it is used
         PictureBox picture(platePictureSize);
         showPlate(ferna::Rysuj_P3(picture, stan_, fields, unseen));
     }
+    if (auto* const field = qobject_cast<QLineEdit*>(focusWidget()))
+        field->selectAll(); // what is typed next takes the place of what has come
     Q_EMIT entered();
 }
 
@@ -328,7 +264,7 @@ void Ferna3::openTask(const Stan& task, const InputFields& fields) {
 }
 
 void Ferna3::declareColumn() {
-    if (StatykaS(stan_, statyka_, *this, dialogs_, this).exec() == QDialog::Accepted)
+    if (StatykaS(stan_, statyka_, *loads_, dialogs_, this).exec() == QDialog::Accepted)
         Q_EMIT columnSaved(statyka_, stan_.obciazenia.Liczba_przyp);
 }
 
@@ -342,34 +278,12 @@ InputFields Ferna3::fields() const {
     out.cmbStal = ui_->cmbStal->currentIndex();
     out.Option1_0 = ui_->Option1_0->isChecked();
     out.optHsruby_0 = ui_->optHsruby_0->isChecked();
-    for (std::size_t r = 0; r < MaxCases; ++r) {
-        const auto& row = loads_[r];
-        out.loads[r] = {row[0]->text(), row[1]->text(), row[2]->text(), row[3]->text(),
-                        row[4]->text()};
-    }
+    out.loads = loads_->texts();
     return out;
 }
 
 bool Ferna3::firstNorm() const {
     return ui_->Norma_0->isChecked();
-}
-
-void Ferna3::setCount(const QString& text) {
-    ui_->Text1->setText(text);
-}
-
-void Ferna3::setRow(int r, const LoadRow<QString>& texts) {
-    const auto& row = loads_.at(static_cast<std::size_t>(r));
-    row[0]->setText(texts.N);
-    row[1]->setText(texts.M1);
-    row[2]->setText(texts.M2);
-    row[3]->setText(texts.Vx);
-    row[4]->setText(texts.Vy);
-}
-
-void Ferna3::showRow(int r) {
-    for (QLineEdit* field : loads_.at(static_cast<std::size_t>(r)))
-        field->setVisible(true);
 }
 
 void Ferna3::takeLoads(int rows, const std::function<void()>& fill) {
@@ -413,25 +327,26 @@ void Ferna3::tabChanged() {
     QLineEdit* taken = ui_->Text1;
     try {
         for (QLineEdit* field : {ui_->Text1, ui_->Text2}) {
-            left_.removeAll(field); // taken here
+            left_->taken(field); // here
             taken = field;
             leave(field);
         }
     } catch (const RunTimeError&) {
         const QSignalBlocker quiet(ui_->SSTab1);
         ui_->SSTab1->setCurrentIndex(generalTab);
-        returnTo(taken);
-        left_.clear();
+        left_->returnTo(taken);
+        left_->forget();
         throw;
     }
-    guarded(this, [this] { settleLeftFields(); });
+    guarded(this, [this] { left_->settle(); });
     focusFirstField();
     if (ui_->SSTab1->currentIndex() == anchorTab)
         Rysuj_P3();
 }
 
 void Ferna3::focusFirstField() {
-    const std::array<QWidget*, 4> first{ui_->txtNaz_proj, ui_->Text1, loads_[0][0], ui_->cmdDodaj4};
+    const std::array<QWidget*, 4> first{ui_->txtNaz_proj, ui_->Text1, loads_->first(),
+                                        ui_->cmdDodaj4};
     goTo(first.at(static_cast<std::size_t>(ui_->SSTab1->currentIndex())));
 }
 
@@ -439,14 +354,8 @@ void Ferna3::leaveText1() {
     QString text = ui_->Text1->text();
     takeCaseCount(stan_, text);
     ui_->Text1->setText(text);
-    showRows();
+    loads_->showRows(stan_.obciazenia.Liczba_przyp);
     emit entered();
-}
-
-void Ferna3::showRows() {
-    for (int r = 0; r < MaxCases; ++r)
-        for (QLineEdit* field : loads_.at(static_cast<std::size_t>(r)))
-            field->setVisible(r < stan_.obciazenia.Liczba_przyp);
 }
 
 void Ferna3::fillConcretes() {
@@ -566,10 +475,18 @@ void Ferna3::calculate() {
     Q_EMIT calculating();
     uwagi_->calculationBegins();
     CalculationEnd end = CalculationEnd::Refused;
-    shownAfterwards([&] { end = Oblicz(stan_, przypadek_, fields(), dialogs_, *this); },
-                    [this] { uwagi_->calculationEnded(); });
+    HeardDialogs dialogs(dialogs_);
+    try {
+        shownAfterwards([&] { end = Oblicz(stan_, przypadek_, fields(), dialogs, *this); },
+                        [this] { uwagi_->calculationEnded(); });
+    } catch (const RunTimeError& failure) {
+        Q_EMIT endedWithoutResults(dialogs.heard + QStringList(failure.text()));
+        throw;
+    }
     if (end == CalculationEnd::Computed)
         openResults_();
+    else
+        Q_EMIT endedWithoutResults(dialogs.heard);
 }
 
 void Ferna3::leaveProgram() {

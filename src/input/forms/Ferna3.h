@@ -5,7 +5,6 @@
 #include "input/anchor_layout.h"
 #include "input/forms/input_notes_band.h"
 #include "statics/load_list.h"
-#include "statics/load_scheme.h"
 #include "widgets/added_menus.h"
 #include "widgets/field_place.h"
 
@@ -25,10 +24,12 @@ class Ferna3;
 
 namespace ferna {
 
+class LeftFields;
+class LoadRows;
 class Nowa_Sruba;
 
 /// The main form: the whole design case on four tabs, and the commands to calculate and to leave.
-class Ferna3 : public QDialog, public ValueFields, private CalculationHost, private LoadTable {
+class Ferna3 : public QDialog, public ValueFields, private CalculationHost {
     Q_OBJECT
 
 public:
@@ -94,22 +95,21 @@ Q_SIGNALS:
     void columnSaved(const Stan_statyki& loads, int loadCase);
     /// "Oblicz" was given and nothing of it has run yet.
     void calculating();
+    /// "Oblicz" has ended and no results are shown; these are the messages that it has shown, and
+    /// the text of the run-time error where one has ended it.
+    void endedWithoutResults(const QStringList& told);
     /// The list of the anchors or their drawing is shown anew.
     void anchorsShown();
 
 protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void KGM8(Stan& stan) override;
     void drawPlate(Stan& stan, const InputFields& fields) override;
     void caseEnded(int c) override { record().caseEnded(stan_, c); }
     void caseRefused(int c) override { record().caseRefused(stan_, c); }
-    void setCount(const QString& text) override;
-    void setRow(int r, const LoadRow<QString>& texts) override;
-    void showRow(int r) override;
 
     void collectFields();
     void showOptions();
@@ -121,16 +121,12 @@ private:
     void connectCommand(QPushButton* button, const std::function<void()>& handler);
     /// What happens on leaving a field, where something does.
     void leave(QWidget* field);
-    void settleWhenFree();
-    void settleLeftFields();
-    void returnTo(QWidget* field);
 
     void tabChanged();
     void focusFirstField();
     void leaveText1();
     void leaveConcrete();
     void leaveSteel();
-    void showRows();
     void fillConcretes();
     void showRatio();
     void chooseLanguage(Integer number);
@@ -156,17 +152,16 @@ private:
     std::unique_ptr<Ui::Ferna3> ui_;
     AddedMenus menus_;
     std::unique_ptr<InputNotesBand> uwagi_;
+    std::unique_ptr<LoadRows> loads_;
+    LeftFields* left_; ///< a child of the form
     std::optional<Plyta_i_kotwy> drawn_;
     std::unique_ptr<Nowa_Sruba> nowaSruba_; ///< hidden, not unloaded, between its uses
-    std::array<std::array<QLineEdit*, 5>, MaxCases> loads_{}; ///< by row: N, M1, M2, Vx, Vy
     std::array<QRadioButton*, 5> Jezyk_{};
     std::array<QRadioButton*, 3> optRTF_{};
     std::array<QRadioButton*, 2> optHsruby_{};
     std::array<QRadioButton*, 2> Norma_{};
     std::array<QRadioButton*, 2> Wsp_n_{};
     Integer Jezyk_wczytany = 0;
-    QList<QWidget*> left_;   ///< left, and what that brings has not run yet
-    bool returning_ = false; ///< the focus goes back to a field that could not be left
 };
 
 } // namespace ferna

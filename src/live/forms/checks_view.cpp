@@ -20,14 +20,18 @@ Theme themeOf(const QWidget* widget) {
 QIcon verdictIcon(Verdict verdict, const QWidget* of, bool greyed) {
     const int side = of->fontMetrics().height();
     const qreal ratio = of->devicePixelRatioF();
-    QPixmap pixmap((QSizeF(side, side) * ratio).toSize());
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    drawVerdict(painter, QRectF(0, 0, side, side), verdict,
-                greyed ? of->palette().color(QPalette::Disabled, QPalette::Text)
-                       : verdictColour(verdict, themeOf(of)));
-    return pixmap;
+    const auto sign = [&](const QColor& colour) {
+        QPixmap pixmap((QSizeF(side, side) * ratio).toSize());
+        pixmap.setDevicePixelRatio(ratio);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        drawVerdict(painter, QRectF(0, 0, side, side), verdict, colour);
+        return pixmap;
+    };
+    QIcon icon(sign(greyed ? of->palette().color(QPalette::Disabled, QPalette::Text)
+                           : verdictColour(verdict, themeOf(of))));
+    icon.addPixmap(sign(of->palette().color(QPalette::HighlightedText)), QIcon::Selected);
+    return icon;
 }
 
 ChecksView::ChecksView(QWidget* parent) : QTableWidget(parent) {

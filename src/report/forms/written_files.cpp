@@ -1,15 +1,13 @@
 #include "report/forms/written_files.h"
 
-#include "runtime/run_time_error.h"
 #include "widgets/environment_stop.h"
+#include "windows/file_folder.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QUrl>
 
 namespace ferna {
 
@@ -38,7 +36,7 @@ WrittenFiles::WrittenFiles(QWidget* parent)
     auto* const open = new QPushButton(QStringLiteral("&Otwórz folder"));
     open->setObjectName(QStringLiteral("cmdOtworz_folder"));
     open->setToolTip(QStringLiteral("Pokaż zapisany plik w jego folderze"));
-    connectGuarded(open, &QPushButton::clicked, this, [this] { openFolder(); });
+    connectGuarded(open, &QPushButton::clicked, this, [this] { openFolder(folder_, open_); });
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(8, 3, 8, 3);
     row->addWidget(words_, 1);
@@ -64,12 +62,6 @@ void WrittenFiles::resizeEvent(QResizeEvent* event) {
 // The whole text is the label's tool tip.
 void WrittenFiles::showText() {
     words_->setText(words_->fontMetrics().elidedText(text_, Qt::ElideMiddle, words_->width()));
-}
-
-void WrittenFiles::openFolder() {
-    if (!open_(QUrl::fromLocalFile(folder_)))
-        throw RunTimeError(error::NoObject, QStringLiteral("przeglądarka plików dla folderu %1")
-                                                .arg(QDir::toNativeSeparators(folder_)));
 }
 
 } // namespace ferna

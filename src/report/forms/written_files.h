@@ -27,7 +27,6 @@ protected:
 
 private:
     void showText();
-    void openFolder();
 
     QLabel* words_;
     QString text_;

@@ -5,6 +5,7 @@
 #include "smallest/words.h"
 #include "ui_SmallestWindow.h"
 #include "widgets/environment_stop.h"
+#include "widgets/small_screen.h"
 
 #include <QCoreApplication>
 #include <QHeaderView>
@@ -48,7 +49,7 @@ SmallestWindow::SmallestWindow(Links links, QWidget* parent)
     connect(ui_->optSzer, &QRadioButton::toggled, this, enableWidths);
     enableWidths();
     showSearching(false);
-    resize(sizeHint().expandedTo(QSize(1180, 760)));
+    fitToScreen(this, sizeHint().expandedTo(QSize(1180, 760)));
 }
 
 SmallestWindow::~SmallestWindow() = default;

@@ -1,9 +1,10 @@
 #include "task/forms/task_file_question.h"
 
 #include "runtime/settings.h"
+#include "widgets/environment_stop.h"
+#include "windows/file_folder.h"
 #include "windows/save_question.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -15,6 +16,13 @@ namespace ferna {
 namespace {
 
 const QString taskName = QStringLiteral("zadanie programu Ferna (*.ferna)");
+
+/// The address of a file as an element of an array, whose elements commas part.
+QString elementOfArray(const QString& file) {
+    return QUrl::fromLocalFile(file)
+        .toString(QUrl::FullyEncoded)
+        .replace(u',', QStringLiteral("%2C"));
+}
 
 } // namespace
 
@@ -40,28 +48,27 @@ std::optional<QString> askWhereToSaveTask(QWidget* parent, const QString& preset
                           surroundings);
 }
 
-void showInFileManager(const QString& file) {
+void showInFileManager(QWidget* form, const QString& file) {
     const QString folder = QFileInfo(file).path();
     const QStringList call{QStringLiteral("--session"),
                            QStringLiteral("--dest=org.freedesktop.FileManager1"),
                            QStringLiteral("--type=method_call"),
                            QStringLiteral("/org/freedesktop/FileManager1"),
                            QStringLiteral("org.freedesktop.FileManager1.ShowItems"),
-                           QStringLiteral("array:string:")
-                               + QUrl::fromLocalFile(file).toString(QUrl::FullyEncoded),
+                           QStringLiteral("array:string:") + elementOfArray(file),
                            QStringLiteral("string:")};
-    auto* const manager = new QProcess;
-    const auto openFolder = [folder] { QDesktopServices::openUrl(QUrl::fromLocalFile(folder)); };
-    QObject::connect(manager, &QProcess::finished, manager, [manager, openFolder](int code) {
+    auto* const manager = new QProcess(form);
+    const auto openIt = [form, folder] { guarded(form, [&] { openFolder(folder); }); };
+    QObject::connect(manager, &QProcess::finished, manager, [manager, openIt](int code) {
         if (code != 0)
-            openFolder();
+            openIt();
         manager->deleteLater();
     });
     QObject::connect(manager, &QProcess::errorOccurred, manager,
-                     [manager, openFolder](QProcess::ProcessError error) {
+                     [manager, openIt](QProcess::ProcessError error) {
                          if (error != QProcess::FailedToStart) // else it has finished too
                              return;
-                         openFolder();
+                         openIt();
                          manager->deleteLater();
                      });
     manager->start(QStringLiteral("dbus-send"),

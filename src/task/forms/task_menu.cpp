@@ -55,7 +55,7 @@ void TaskMenu::fill(QMenu* menu) {
     entry(menu, QStringLiteral("Zapisz &jako..."), QKeySequence(QStringLiteral("Ctrl+Shift+S")),
           [this] { desk_.saveAs(); });
     folder_ = entry(menu, QStringLiteral("&Pokaż w folderze"), {},
-                    [this] { showInFileManager(desk_.file()); });
+                    [this] { showInFileManager(&form_, desk_.file()); });
     menu->addSeparator();
     undo_ = entry(menu, {}, QKeySequence(QStringLiteral("Ctrl+Z")), [this] { desk_.undo(); });
     redo_ = entry(menu, {}, QKeySequence(QStringLiteral("Ctrl+Y")), [this] { desk_.redo(); });

@@ -1,4 +1,4 @@
-#include "editable/package.h"
+#include "package/package.h"
 
 #include "runtime/run_time_error.h"
 
@@ -8,7 +8,7 @@
 
 #include <memory>
 
-namespace ferna::editable {
+namespace ferna::package {
 
 namespace {
 
@@ -107,4 +107,4 @@ QString decimal(double value) {
     return QString::number(value, 'g', digits);
 }
 
-} // namespace ferna::editable
+} // namespace ferna::package

@@ -9,7 +9,7 @@
 
 class QXmlStreamWriter;
 
-namespace ferna::editable {
+namespace ferna::package {
 
 /// A file of a document's package.
 struct Part {
@@ -48,4 +48,4 @@ private:
 /// A number as XML takes it, with a point.
 QString decimal(double value);
 
-} // namespace ferna::editable
+} // namespace ferna::package
