@@ -322,6 +322,21 @@ TEST_F(CombinationsWindowTest, TheDigestOfTheCalculatedRowsIsThatOfTheTable) {
     EXPECT_FALSE(entries->calculatedDigest());
 }
 
+TEST_F(CombinationsWindowTest, ABaseChangedWhileTheWindowWasClosedIsTheOneThatIsCompared) {
+    read(table);
+    QTest::mouseClick(button(QStringLiteral("&Wstaw do tabeli")), Qt::LeftButton);
+    window().close();
+    form->fieldOf({Value::PlateLength})->setText(QStringLiteral("750"));
+    calculate();
+    ASSERT_EQ(comparison().rowCount(), 4);
+    for (int r = 0; r < 4; ++r)
+        EXPECT_EQ(compared(r, 5), QStringLiteral("zgodne"));
+    EXPECT_FALSE(entries->calculatedDigest()) << "the table has the answers of another base";
+    entries->open();
+    waitForWork();
+    EXPECT_TRUE(entries->calculatedDigest());
+}
+
 TEST_F(CombinationsWindowTest, ChartAndSheetAreOfferedOnceThereAreAnswersToShow) {
     int charts = 0;
     std::optional<combinations::Digest> written;

@@ -361,6 +361,21 @@ TEST_F(Desk, TheLoadsOnTheColumnComeBackInTheirCase) {
     EXPECT_EQ(saved.stan.obciazenia.Liczba_przyp, 2);
 }
 
+TEST_F(Desk, LoadsDeclaredOnTheColumnGoIntoTheTask) {
+    Stan declaring = stan;
+    InputFields fields = form->fields();
+    const DeclaredLoads done = declareLoads(
+        readColumnTask(parsed(R"([{"kierunek": "ZY", "rodzaj": "sila", "H": 12, "h": 4}])")),
+        declaring, fields);
+    Q_EMIT form->columnSaved(done.loads, 1);
+    const Task saved = readTask(parsed(desk->history().text()));
+    ASSERT_TRUE(saved.column.has_value());
+    EXPECT_EQ(saved.column->inCase, 1);
+    ASSERT_EQ(saved.column->loads.size(), 1U);
+    EXPECT_EQ(saved.column->loads[0].load, QStringLiteral("12"));
+    EXPECT_TRUE(form->windowTitle().endsWith(u'*'));
+}
+
 /// The text report of a computed state, at one moment.
 QByteArray reportOf(Stan& stan, const QString& label) {
     Raport raport;

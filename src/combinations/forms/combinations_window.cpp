@@ -206,8 +206,9 @@ void CombinationsWindow::showTable() {
     }
     showNotes();
     const bool any = !table.choice().six().empty();
-    for (QPushButton* button : {putButton_, chart_, sheet_})
+    for (QPushButton* button : {putButton_, chart_})
         button->setEnabled(any);
+    sheet_->setEnabled(any && isAnswered());
     export_->setEnabled(table.size() > 0);
     showComparison();
     showProgress();
@@ -323,6 +324,8 @@ void CombinationsWindow::showComparison() {
 }
 
 void CombinationsWindow::calculated() {
+    if (!put_.empty())
+        readBase(); // it may have changed a moment ago, or while the window was closed
     calculated_ = notes::entered(stan_, links_.fields());
     showComparison();
     const std::vector<combinations::Compared> all = compare();
@@ -349,15 +352,26 @@ std::optional<combinations::Digest> CombinationsWindow::calculatedDigest() const
                           && std::all_of(all.begin(), all.end(), [](const auto& one) {
                                  return one.state == combinations::Compared::State::Compared;
                              });
-    if (all.empty() || !areCases || work_.isWorking())
+    if (all.empty() || !areCases || !isAnswered())
         return std::nullopt;
     std::vector<RowNumber> rows;
-    for (const auto& [row, combination] : put_)
-        rows.push_back(row);
+    for (const combinations::Compared& one : all) {
+        if (work_.table().answer(one.row) != one.exact)
+            return std::nullopt; // the table was answered for another base
+        rows.push_back(one.row);
+    }
     return digestOf(work_.table(), source_, rows);
 }
 
+bool CombinationsWindow::isAnswered() const {
+    return !work_.isWorking() && work_.table().answered() == work_.table().size();
+}
+
 void CombinationsWindow::saveSheet() {
+    if (!isAnswered() || settle_.isActive()) {
+        say(QStringLiteral("Odpowiedzi są właśnie liczone; arkusz można zapisać za chwilę."));
+        return;
+    }
     const auto file =
         links_.saveSheet(digestOf(work_.table(), source_, work_.table().choice().six()));
     if (file)

@@ -97,6 +97,7 @@ private:
     void say(const QString& what);
     void showNotes();
     bool isCalculated() const;
+    bool isAnswered() const;
     std::vector<combinations::Compared> compare() const;
     void showComparison();
     void putSix();
