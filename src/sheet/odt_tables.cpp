@@ -4,6 +4,7 @@
 #include "sheet/page_slices.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ferna::sheet::odt {
 
@@ -106,7 +107,7 @@ QString NumberStyle::name() const {
 NumberStyle styleOf(const TablePlan& plan, std::size_t column, const Quantity& number, bool bold) {
     constexpr double tenthsPerMm = 10;
     const double free = plan.columns.at(column).behind - behindOf(plan, number, bold);
-    return {plan.narrow, static_cast<int>(tenthsPerMm * free + 0.5)};
+    return {plan.narrow, static_cast<int>(std::lround(tenthsPerMm * free))};
 }
 
 std::set<NumberStyle> stylesOf(const TablePlan& plan, const Table& table) {

@@ -111,7 +111,8 @@ TEST_F(VectorTwin, LooksLikeItsBitmap) {
 TEST_F(VectorTwin, FillsAPlaceOfAnotherProportionAsItsBitmapDoes) {
     const auto widthOf = [this](QSizeF size) {
         QRectF drawn;
-        for (const pages::Outline& outline : vectorsOf(bitmap, QRectF(QPointF(), size)))
+        for (const pages::Outline& outline :
+             outlinesOf(twinOfFile(bitmap), QRectF(QPointF(), size)))
             drawn |= outline.path.boundingRect();
         return drawn.width();
     };
