@@ -152,7 +152,9 @@ TEST_F(Lines, OfAMegabyteAreTheLongest) {
     LineInput lines(pipe_[0]);
     std::thread writer([this] {
         send(std::string(longestTask, 'x') + '\n');
-        send(std::string(3 * longestTask, 'y') + "\nz\n");
+        std::string tooLong(3 * longestTask, 'y');
+        tooLong += "\nz\n";
+        send(tooLong);
         end();
     });
     std::string line;

@@ -12,7 +12,10 @@ class Failure(Exception):
     pass
 
 
-def wait_for(what, condition, seconds=30):
+PATIENCE = 90  # seconds: as long as a busy machine may take
+
+
+def wait_for(what, condition, seconds=PATIENCE):
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         found = condition()
@@ -53,12 +56,12 @@ class Desktop:
         wait_for("the window manager", self.is_managed)
         # With a Polish keyboard xdotool presses the keys of the Polish letters; without, it would
         # change the keyboard for each of them, and a busy program would read the key of another.
-        subprocess.run(["setxkbmap", "pl"], env=self.env, check=True, timeout=30)
+        subprocess.run(["setxkbmap", "pl"], env=self.env, check=True, timeout=PATIENCE)
 
     def is_managed(self):
         """True once the window manager has taken over the windows there are, and lists them."""
         answer = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST"], env=self.env,
-                                text=True, capture_output=True, timeout=30).stdout
+                                text=True, capture_output=True, timeout=PATIENCE).stdout
         return "window id" in answer
 
     def start(self, command, folder=None):
@@ -78,10 +81,10 @@ class Desktop:
 
     def xdotool(self, *arguments):
         done = subprocess.run(["xdotool", *map(str, arguments)], env=self.env, text=True,
-                              capture_output=True, timeout=30)
+                              capture_output=True, timeout=PATIENCE)
         return done.stdout.strip()
 
-    def window(self, title, seconds=30):
+    def window(self, title, seconds=PATIENCE):
         """The visible window whose whole title matches, once it has the keyboard."""
         def active():
             for window in self.shown(title):
@@ -92,7 +95,7 @@ class Desktop:
 
         return wait_for(f'the window "{title}"', active, seconds)
 
-    def answer(self, title, text, seconds=30):
+    def answer(self, title, text, seconds=PATIENCE):
         """Types the answer to a question that stands in a window of its own."""
         window = self.window(title, seconds)
         self.type(text)
@@ -108,10 +111,10 @@ class Desktop:
     def stacking(self):
         """The numbers of all windows, the lowest first."""
         answer = subprocess.run(["xprop", "-root", "_NET_CLIENT_LIST_STACKING"], env=self.env,
-                                text=True, capture_output=True, timeout=30).stdout
+                                text=True, capture_output=True, timeout=PATIENCE).stdout
         return [int(number, 16) for number in answer.rpartition("#")[2].split(",")]
 
-    def gone(self, title, seconds=30):
+    def gone(self, title, seconds=PATIENCE):
         wait_for(f'the window "{title}" to go', lambda: not self.is_shown(title), seconds)
 
     def keys(self, *names):
@@ -137,15 +140,15 @@ class Desktop:
     def dark_share(self, window):
         """The share of dark pixels in what a window shows."""
         picture = subprocess.run(["import", "-window", window, "png:-"], env=self.env,
-                                 capture_output=True, timeout=30).stdout
+                                 capture_output=True, timeout=PATIENCE).stdout
         shown = subprocess.run(["convert", "png:-", "-colorspace", "gray", "-threshold", "50%",
                                 "-format", "%[fx:1-mean]", "info:"], input=picture,
-                               capture_output=True, timeout=30).stdout
+                               capture_output=True, timeout=PATIENCE).stdout
         return float(shown or 0)
 
     def screenshot(self, path):
         try:
             subprocess.run(["import", "-window", "root", path], env=self.env, check=False,
-                           stderr=subprocess.DEVNULL, timeout=30)
+                           stderr=subprocess.DEVNULL, timeout=PATIENCE)
         except (OSError, subprocess.TimeoutExpired):
             pass  # only for the person who looks into a failure

@@ -144,8 +144,10 @@ class Day:
         results.save_emf(self.saved("raport.emf"), LABEL)
         self.pages = self.next_free_page() - FIRST_PAGE
         expect(self.pages == 2, f"the report has {self.pages} pages")
-        pages = [texts_of_emf(read(self.saved(f"raport-strona-{page + 1}-z-{self.pages}.emf")))
-                 for page in range(self.pages)]
+        files = [self.saved(f"raport-strona-{page + 1}-z-{self.pages}.emf") for page in range(self.pages)]
+        for file in files:
+            results.written(file)
+        pages = [texts_of_emf(read(file)) for file in files]
         for number, texts in enumerate(pages, FIRST_PAGE):
             expect(f"Strona {number}" in texts, f"no page number {number} in the metafile")
             expect(self.typed["Nazwa_projektu"] in texts, "no project in the metafile")

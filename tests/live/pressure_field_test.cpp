@@ -109,7 +109,11 @@ std::optional<PictureValues> pressedCase(std::uint64_t number, Double& N) {
 }
 
 TEST(PressureField, TheDrawnPressuresHoldTheLoadAndThePullOfTheAnchors) {
+#ifdef FERNA_SANITIZE
+    constexpr int tasks = 10;
+#else
     constexpr int tasks = 200;
+#endif
     int drawn = 0;
     Double worst = 0;
     for (std::uint64_t number = 1; drawn < tasks; ++number) {

@@ -52,6 +52,24 @@ TEST(LoadCharts, EveryReferenceReadingOfACurveAgreesToTheLastBit) {
     EXPECT_GT(count, 900);
 }
 
+TEST(LoadCharts, APieceOfACurveLeadsToTheCoefficientThatWasRead) {
+    int pieces = 0;
+    for (const auto& vector : reference().at("curves")) {
+        const bool figureB2 = vector.at("rys") == "B2";
+        const Single x = singleOf(vector.at("x"));
+        const auto piece = chartPiece(figureB2 ? 7 : 8, vector.at("krzywa").get<Integer>(), x);
+        const bool isRead = vector.at("ok").get<bool>() && vector.at("y").get<double>() != 0;
+        ASSERT_EQ(piece.has_value(), isRead) << vector.dump();
+        if (!piece)
+            continue;
+        ++pieces;
+        EXPECT_NEAR(piece->y0 + (piece->y1 - piece->y0) * (x - piece->x0) / piece->w,
+                    vector.at("y").get<double>(), 1e-5)
+            << vector.dump();
+    }
+    EXPECT_GT(pieces, 500);
+}
+
 TEST(LoadCharts, EveryReferenceRowOfNeighbouringCurvesAgrees) {
     for (const auto& vector : reference().at("rows")) {
         const ChartRow row = chartRow(vector.at("sprawdzenie"), singleOf(vector.at("p")));

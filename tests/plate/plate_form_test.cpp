@@ -289,4 +289,19 @@ TEST_F(PlateDesk, AWithdrawnCheckIsKnownAsSuchUntilItIsMadeAgain) {
     EXPECT_TRUE(form.withdrawn[0]) << "another grade withdraws all of them";
 }
 
+TEST_F(PlateDesk, EvenTheThinnestResultIsKnownAsWithdrawn) {
+    stan.raport.Spr_blachy(1) = 1;
+    cmdAnulujto(stan, form, 0);
+    EXPECT_TRUE(form.withdrawn[0]);
+}
+
+TEST_F(PlateDesk, ARefusedCheckShowsNoLineOfTheResultBefore) {
+    strip(u"120", u"60", u"50");
+    compute(1);
+    ASSERT_TRUE(lineShown(1));
+    strip(u"0", u"60", u"50");
+    compute(1);
+    EXPECT_FALSE(lineShown(1));
+}
+
 } // namespace

@@ -151,7 +151,7 @@ protected:
 
     /// The next use of the dialog of a new anchor: choose the diameter, type x and y, press Enter.
     void announceAnchor(int fi, const QString& x, const QString& y) {
-        answers.dialog(QStringLiteral("Nowa_Sruba"), [=, this](QWidget& modal) {
+        answers.dialog(QStringLiteral("Nowa_Sruba"), [=](QWidget& modal) {
             fillAnchor(modal, fi, x, y);
             QTest::keyClick(modal.focusWidget(), Qt::Key_Return);
         });
