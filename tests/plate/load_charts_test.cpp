@@ -58,10 +58,11 @@ TEST(LoadCharts, APieceOfACurveLeadsToTheCoefficientThatWasRead) {
         const bool figureB2 = vector.at("rys") == "B2";
         const Single x = singleOf(vector.at("x"));
         const auto piece = chartPiece(figureB2 ? 7 : 8, vector.at("krzywa").get<Integer>(), x);
-        const bool isRead = vector.at("ok").get<bool>() && vector.at("y").get<double>() != 0;
-        ASSERT_EQ(piece.has_value(), isRead) << vector.dump();
-        if (!piece)
+        if (!piece) {
+            EXPECT_TRUE(!vector.at("ok").get<bool>() || vector.at("y") == 0) << vector.dump();
             continue;
+        }
+        EXPECT_TRUE(vector.at("ok").get<bool>()) << vector.dump();
         ++pieces;
         EXPECT_NEAR(piece->y0 + (piece->y1 - piece->y0) * (x - piece->x0) / piece->w,
                     vector.at("y").get<double>(), 1e-5)
