@@ -1,5 +1,5 @@
 # The headers that most sources take are read once for all of them: a build from nothing takes g++ about
-# half the time. The presets of clang leave this out, and so tell which source does not include what it
+# two thirds of the time. The presets of clang leave this out, and so tell which source does not include what it
 # uses.
 option(FERNA_PRECOMPILED "Read the headers of the libraries once for all sources" OFF)
 

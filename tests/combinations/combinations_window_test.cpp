@@ -61,6 +61,14 @@ protected:
         entries->openWith(text);
         waitForWork();
     }
+    /// Takes a table whose rows keep the window busy for a while.
+    void beginLongWork() {
+        QString large;
+        for (int i = 0; i < 200'000; ++i)
+            large += QStringLiteral("KO-%1;300;20;0;1;0\n").arg(i);
+        answers.dialog(QStringLiteral("Wczytanie_kombinacji"), accept);
+        window().readText(large);
+    }
     void waitForWork() {
         ASSERT_TRUE(QTest::qWaitFor([this] { return !window().work().isWorking(); }, 60'000));
     }
@@ -424,11 +432,7 @@ TEST_F(CombinationsWindowTest, EnterInTheFilterGoesToTheTableAndEscEndsTheWorkFi
     QTest::keyClick(filter, Qt::Key_Return);
     EXPECT_EQ(window().focusWidget(), &view());
     EXPECT_TRUE(window().isVisible());
-    QString large;
-    for (int i = 0; i < 200'000; ++i)
-        large += QStringLiteral("KO-%1;300;20;0;1;0\n").arg(i);
-    answers.dialog(QStringLiteral("Wczytanie_kombinacji"), accept);
-    window().readText(large);
+    beginLongWork();
     ASSERT_TRUE(window().work().isWorking());
     QTest::keyClick(&window(), Qt::Key_Escape);
     EXPECT_FALSE(window().work().isReading());
@@ -473,11 +477,7 @@ TEST_F(CombinationsWindowTest, AnswersAnewWhenTheBaseChanges) {
 
 TEST_F(CombinationsWindowTest, PrzerwijLeavesTheTableOfBefore) {
     read(table);
-    QString large;
-    for (int i = 0; i < 200'000; ++i)
-        large += QStringLiteral("KO-%1;300;20;0;1;0\n").arg(i);
-    answers.dialog(QStringLiteral("Wczytanie_kombinacji"), accept);
-    window().readText(large);
+    beginLongWork();
     ASSERT_TRUE(window().work().isWorking());
     QTest::qWait(30);
     ASSERT_TRUE(window().work().isReading());
