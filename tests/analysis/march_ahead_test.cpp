@@ -105,6 +105,51 @@ TEST_P(RowOfErrors, IsNoNumberWhereTheEvaluationFails) {
     EXPECT_TRUE(sameBits(errors[3], fullError(base, 5)));
 }
 
+// A line through a corner of the plate cuts off neither edge there.
+TEST_P(RowOfErrors, HasTheBitsOfFullEvaluationsThroughACornerOfThePlate) {
+    ColumnBase base;
+    base.plate(400, 300).fourAnchors(150, 100, 20);
+    base.loads(100, 60, 40);
+    base.calculate();
+    turn(base, 0.7);
+    const LineAngle line = lineAngle(base.solver);
+    const MarchAhead ahead(base.solver, inputOf(base.stan), GetParam());
+    /// The distance of a line that meets an edge at this coordinate to the last bit.
+    const auto distanceWhere = [&line](Double near, const auto& isThere) {
+        for (Double c = near - 1e-12; c < near + 1e-12; c = std::nextafter(c, 1e9))
+            if (isThere(crossings(line, c)))
+                return c;
+        return std::nan("");
+    };
+    const Double left = distanceWhere((line.b + line.m * line.a) * line.sine,
+                                      [&](const auto& at) { return at.xT == -line.a; });
+    const Double below = distanceWhere((-line.b - line.m * line.a) * line.sine,
+                                       [&](const auto& at) { return at.yR == -line.b; });
+    for (const Double corner : {left, below}) {
+        ASSERT_FALSE(std::isnan(corner));
+        for (const Double other : {corner, corner + 1, corner - 1}) {
+            MarchAhead::Row distances;
+            distances.fill(corner);
+            distances[MarchAhead::shortRow - 1] = other;
+            const MarchAhead::Row errors = ahead.at(distances, MarchAhead::shortRow);
+            for (std::size_t i = 0; i < MarchAhead::shortRow; ++i)
+                EXPECT_TRUE(sameBits(errors[i], fullError(base, distances[i])))
+                    << distances[i] << ": " << errors[i];
+        }
+    }
+}
+
+TEST(Instructions, AreTheWidestThatTheProcessorSaysItHas) {
+    std::ifstream processor("/proc/cpuinfo");
+    std::string line;
+    while (std::getline(processor, line) && line.rfind("flags", 0) != 0) {
+    }
+    if (line.empty())
+        GTEST_SKIP() << "nothing says what the processor can do";
+    const bool wide = (line + ' ').find(" avx2 ") != std::string::npos;
+    EXPECT_EQ(MarchAhead::best(), wide ? Instructions::Avx2 : Instructions::Plain);
+}
+
 INSTANTIATE_TEST_SUITE_P(, RowOfErrors, ::testing::Values(Instructions::Plain, Instructions::Avx2),
                          [](const auto& instance) {
                              return instance.param == Instructions::Plain ? "Plain" : "Avx2";
