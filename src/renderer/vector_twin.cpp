@@ -132,9 +132,19 @@ Twin twinOfFile(const QString& bitmap) {
     if (!QFileInfo(twin).isFile())
         return {};
     try {
+        QByteArray headers;
+        PictureSum sum;
+        const qsizetype size = readFileInParts(bitmap, [&](QByteArrayView part) {
+            if (headers.isEmpty())
+                headers = part.first(qMin(part.size(), bitmapHeaders)).toByteArray();
+            sum.add(part);
+        });
         const QByteArray svg = readFileWhole(twin);
-        const QByteArray bytes = readFileWhole(bitmap);
-        const QSize pixels = isTwinOf(svg, bytes) ? pictureSize(bytes) : QSize();
+        if (!isTwinOf(svg, sum))
+            return {};
+        QSize pixels = bitmapSize(headers, size);
+        if (pixels.isEmpty())
+            pixels = readPicture(bitmap).size();
         return pixels.isEmpty() ? Twin() : Twin{svg, pixels};
     } catch (const RunTimeError&) {
         return {}; // the bitmap may be there

@@ -1,4 +1,5 @@
 // Pictures that have their vectors beside them.
+#include "pages/bitmap_file.h"
 #include "pages/drawing.h"
 #include "pages/emf_format.h"
 #include "pages/emf_writer.h"
@@ -163,10 +164,23 @@ TEST_F(VectorTwin, OfAFileThatIsNoPictureIsNone) {
 }
 
 TEST_F(VectorTwin, OfAnotherBitmapIsNotDrawn) {
-    QByteArray other = folder.read(QStringLiteral("a.bmp"));
-    other.back() = static_cast<char>(~other.back());
-    folder.write(QStringLiteral("a.bmp"), other);
-    EXPECT_TRUE(outlinesOf(twinOfFile(bitmap), place).empty());
+    const QByteArray ours = folder.read(QStringLiteral("a.bmp"));
+    for (const qsizetype byte : {qsizetype{0}, bitmapHeaders, ours.size() / 2, ours.size() - 1}) {
+        QByteArray other = ours;
+        other[byte] = static_cast<char>(~other[byte]);
+        folder.write(QStringLiteral("a.bmp"), other);
+        EXPECT_TRUE(twinOfFile(bitmap).svg.isEmpty()) << byte;
+    }
+    folder.write(QStringLiteral("a.bmp"), ours + '\0');
+    EXPECT_TRUE(twinOfFile(bitmap).svg.isEmpty()) << "a byte more";
+    folder.write(QStringLiteral("a.bmp"), ours);
+    EXPECT_FALSE(twinOfFile(bitmap).svg.isEmpty());
+}
+
+TEST_F(VectorTwin, OfABitmapOfAnotherKindHasItsSize) {
+    ASSERT_TRUE(QImage(30, 20, QImage::Format_Mono).save(bitmap));
+    folder.write(QStringLiteral("a.svg"), twinOf("<svg/>", folder.read(QStringLiteral("a.bmp"))));
+    EXPECT_EQ(twinOfFile(bitmap).pixels, QSize(30, 20));
 }
 
 TEST_F(VectorTwin, ThatIsDamagedLeavesTheBitmap) {

@@ -300,4 +300,25 @@ TEST_F(SavedFile, AFileBeyondItsLimitIsNotReadToTheEnd) {
     EXPECT_EQ(errorNumberOf([&] { readFileWhole(path, 999); }), error::DeviceIO);
 }
 
+TEST_F(SavedFile, ThatIsReadInPartsComesWholeAndInItsOrder) {
+    QByteArray bytes(1'000'000, Qt::Uninitialized);
+    for (qsizetype i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>(i * i / 1000);
+    const QString path = folder.write(name, bytes);
+    QByteArray read;
+    int parts = 0;
+    const qsizetype size = readFileInParts(path, [&](QByteArrayView part) {
+        read += part;
+        ++parts;
+    });
+    EXPECT_EQ(size, bytes.size());
+    EXPECT_TRUE(read == bytes);
+    EXPECT_GT(parts, 1);
+    const auto nothing = [](QByteArrayView) {};
+    EXPECT_EQ(errorNumberOf([&] { readFileInParts(folder.path(QStringLiteral("brak")), nothing); }),
+              error::FileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { readFileInParts(folder.path(QStringLiteral(".")), nothing); }),
+              error::PathAccess);
+}
+
 } // namespace
