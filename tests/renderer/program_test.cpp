@@ -10,7 +10,10 @@
 #include <QFile>
 #include <QImage>
 
+#include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace ferna;
 using ferna::testing::Outcome;
@@ -173,6 +176,25 @@ TEST_F(Renderer, AMissingJobLeavesAReplyToo) {
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_TRUE(run.errors.contains(path("W_KK.txt")));
     EXPECT_EQ(reply(), QStringLiteral(" 0 , 1 "));
+}
+
+TEST_F(Renderer, ARunThatIsCutShortLeavesTheReplyOfAFailure) {
+    const QString pipe = path("strony.png");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const int reader = ::open(QFile::encodeName(pipe).constData(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(reader, 0);
+    sample.line(85, QStringLiteral("jeden"));
+    QProcess run; // waits for ever with its page, as nobody reads it
+    run.start(places::bin("/Wyd_drk"),
+              {QStringLiteral("--dpi"), QStringLiteral("600"), QStringLiteral("--png"), pipe,
+               sample.write(QStringLiteral("-2"), 12)});
+    pollfd page{reader, POLLIN, 0};
+    ASSERT_EQ(::poll(&page, 1, 20000), 1) << "the page is being written";
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
+    run.kill();
+    ASSERT_TRUE(run.waitForFinished());
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
+    ::close(reader);
 }
 
 TEST_F(Renderer, AFileThatIsNoJobGetsNoReplyBesideIt) {

@@ -20,6 +20,7 @@ namespace {
 
 int syncFailure = 0; // what the disk answers; 0: it keeps what it got
 int syncs = 0;
+int folderSyncs = 0;
 bool everyFileHasAName = false;       // as on some file systems
 std::function<int()> lookAtALeftFile; // what the system answers while another program saves
 
@@ -32,6 +33,12 @@ extern "C" int fdatasync(int file) {
         return static_cast<int>(syscall(SYS_fdatasync, file));
     errno = syncFailure;
     return -1;
+}
+
+/// The waiting for a name.
+extern "C" int fsync(int file) {
+    ++folderSyncs;
+    return static_cast<int>(syscall(SYS_fsync, file));
 }
 
 /// The file system of this test program, with files without a name or without such.
@@ -100,9 +107,52 @@ TEST_F(SavedFile, OfTheMomentDoesNotWaitForTheDisk) {
     syncs = 0;
     writeFileWhole(folder.path(name), "a", Lasting::UntilNextUse);
     EXPECT_EQ(syncs, 0);
+    folderSyncs = 0;
     writeFileWhole(folder.path(name), "b");
     EXPECT_EQ(syncs, 1);
+    EXPECT_EQ(folderSyncs, 1) << "its name";
     EXPECT_EQ(folder.read(name), QByteArray("b"));
+}
+
+TEST_F(SavedFile, AheadIsOnTheDiskBeforeItTakesItsName) {
+    const QString path = folder.write(name, "stary");
+    ::chmod(native(name).constData(), 0640);
+    syncs = 0;
+    folderSyncs = 0;
+    FileAhead ahead(path, "nowy");
+    EXPECT_EQ(syncs, 1);
+    EXPECT_EQ(folder.read(name), QByteArray("stary"));
+    ahead.install();
+    EXPECT_EQ(folder.read(name), QByteArray("nowy"));
+    EXPECT_EQ(QFile::permissions(path) & QFile::ReadOther, QFile::Permissions());
+    EXPECT_EQ(syncs, 1);
+    EXPECT_EQ(folderSyncs, 0) << "its name is not waited for";
+    EXPECT_EQ(folder.names(), QStringList(name));
+    syncFailure = EIO;
+    EXPECT_EQ(errorNumberOf([&] { FileAhead(path, "inny"); }), error::DeviceIO);
+}
+
+TEST_F(SavedFile, AheadThatIsNotWantedAnyMoreLeavesNothing) {
+    const QString path = folder.write(name, "stary");
+    for (const bool named : {false, true}) {
+        everyFileHasAName = named;
+        { const FileAhead dropped(path, "nowy"); }
+        EXPECT_EQ(folder.read(name), QByteArray("stary"));
+        EXPECT_EQ(folder.names(), QStringList(name));
+    }
+}
+
+TEST_F(SavedFile, AheadOfAPipeIsWrittenWhenItIsWanted) {
+    ASSERT_EQ(::mkfifo(native(name).constData(), 0600), 0);
+    const int reader = ::open(native(name).constData(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(reader, 0);
+    char read[8] = {};
+    FileAhead ahead(folder.path(name), "nowy");
+    EXPECT_EQ(::read(reader, read, sizeof read), 0);
+    ahead.install();
+    EXPECT_EQ(::read(reader, read, sizeof read), 4);
+    EXPECT_STREQ(read, "nowy");
+    ::close(reader);
 }
 
 TEST_F(SavedFile, KeepsThePermissionsOfTheOldOne) {
