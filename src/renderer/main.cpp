@@ -4,14 +4,14 @@
 #include "protocol/reply.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
+#include "renderer/paper.h"
 #include "renderer/replies.h"
 #include "runtime/run_time_error.h"
 #include "runtime/screen.h"
-#include "windows/application.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QFontInfo>
+#include <QGuiApplication>
 
 #include <cstdio>
 #include <memory>
@@ -34,13 +34,10 @@ void quiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
 
 /// Starts Qt: with widgets on the user's screen, or without either.
 std::unique_ptr<QGuiApplication> startQt(int& argc, char** argv, bool screen) {
-    if (!screen) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        return std::make_unique<QGuiApplication>(argc, argv);
-    }
-    auto application = std::make_unique<QApplication>(argc, argv);
-    dressApplication(*application);
-    return application;
+    if (screen)
+        return paper().startQt(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
 }
 
 QString languageOf(const Call& call) {

@@ -258,6 +258,35 @@ TEST_F(Renderer, AnOutputThatCannotBeWrittenIsNamed) {
     EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
 }
 
+TEST_F(Renderer, WithoutItsModuleDrawsThePictureAndNamesWhatAPdfLacks) {
+    const QString alone = path("Wyd_drk");
+    ASSERT_TRUE(QFile::copy(places::bin("/Wyd_drk"), alone));
+    const QString file = job();
+    EXPECT_EQ(runProgram(alone, {file}).exitCode, 0);
+    EXPECT_TRUE(exists("$a1.emf"));
+    const Outcome run = runProgram(alone, {QStringLiteral("--pdf"), path("raport.pdf"), file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors.count(u'\n'), 1);
+    EXPECT_TRUE(run.errors.contains(QStringLiteral("brak modułu druku i dokumentów PDF ")
+                                    + path("libferna_paper.so")))
+        << run.errors.toStdString();
+    EXPECT_FALSE(exists("raport.pdf"));
+}
+
+TEST_F(Renderer, LoadsNoPrintingForThePictureOnTheScreen) {
+    QProcessEnvironment told = QProcessEnvironment::systemEnvironment();
+    told.insert(QStringLiteral("LD_DEBUG"), QStringLiteral("files"));
+    const auto loads = [&](const QStringList& arguments) {
+        const QString files = runRenderer(arguments, told).errors;
+        EXPECT_TRUE(files.contains(QStringLiteral("libQt6Gui.so")));
+        return files.contains(QStringLiteral("libQt6Widgets.so"))
+               || files.contains(QStringLiteral("libcups.so"));
+    };
+    const QString file = job();
+    EXPECT_FALSE(loads({file}));
+    EXPECT_TRUE(loads({QStringLiteral("--pdf"), path("raport.pdf"), file}));
+}
+
 TEST_F(Renderer, AnUnknownModeIsAFailure) {
     const Outcome run = runRenderer({job(QStringLiteral("7"))});
     EXPECT_EQ(run.exitCode, 1);
