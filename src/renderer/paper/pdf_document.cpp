@@ -1,4 +1,4 @@
-#include "renderer/pdf_document.h"
+#include "renderer/paper/pdf_document.h"
 
 #include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
