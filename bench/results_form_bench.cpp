@@ -1,9 +1,11 @@
-// Aims for a report of two pages: the results form opens in 0.6 s, from the start of its opening to
-// the painted picture, and draws anew in 0.4 s after a click on the status bar. The renderer is the
-// program of this build; it is most of both.
+// What the engineer waits for, for a report of two pages: from the start of the results form's
+// opening to the painted picture, aim 0.6 s, and from a click on the status bar to the picture
+// drawn anew, aim 60 ms. The renderer is the program of this build, started anew each time; it is
+// most of both.
 #include "design/language.h"
 #include "input/plate_drawing.h"
 #include "report/forms/FernaWyn.h"
+#include "report/forms/renderer_wait.h"
 #include "report/forms/report_view.h"
 #include "support/column_base.h"
 
@@ -25,7 +27,8 @@ class ResultsForm {
 public:
     ResultsForm() {
         const QDir programs(QStringLiteral(FERNA_BIN_DIR));
-        for (const QString& name : programs.entryList({QStringLiteral("*.bmp")}))
+        for (const QString& name :
+             programs.entryList({QStringLiteral("*.bmp"), QStringLiteral("*.svg")}))
             QFile::copy(programs.filePath(name), folder_.filePath(name));
         QFile::link(programs.filePath(QStringLiteral("Wyd_drk")),
                     folder_.filePath(QStringLiteral("Wyd_drk")));
@@ -45,7 +48,7 @@ public:
                                            std::make_unique<ResultsSession>(
                                                base_.stan, base_.dialogs, folder_.path(), true,
                                                [] { return QDateTime::currentDateTime(); },
-                                               [this] { return runRenderer(folder_.path()); }),
+                                               [this] { return render(); }),
                                            FernaWyn::Links{});
         form_->open();
         QCoreApplication::processEvents();
@@ -66,6 +69,13 @@ public:
     }
 
 private:
+    /// As the program waits for it.
+    RendererReport render() {
+        RendererWait wait(form_.get());
+        return runRenderer(folder_.path(), {},
+                           [&wait](const RendererState& state) { return wait.goOn(state); });
+    }
+
     ColumnBase base_;
     QTemporaryDir folder_;
     std::unique_ptr<FernaWyn> form_;

@@ -1,10 +1,12 @@
 # What is installed and where, and the Debian package. `cmake --install` puts the same files under any
 # prefix and under the usual folders (CMAKE_INSTALL_BINDIR, ...): the programs know where from their
-# own folder their data and the word-processor module lie.
+# own folder their data and modules lie.
 set(packaging ${CMAKE_SOURCE_DIR}/packaging)
 set(packaged ${CMAKE_BINARY_DIR}/packaging)
 
 install(TARGETS ferna ferna-wsad Wyd_drk RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS ferna_paper LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/ferna
+    PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)
 if(TARGET ferna_writer)
     install(TARGETS ferna_writer LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/ferna
         PERMISSIONS OWNER_READ OWNER_WRITE GROUP_READ WORLD_READ)

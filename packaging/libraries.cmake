@@ -1,8 +1,9 @@
-# Run by cpack on the installed files: the libraries of the programs become dependencies, those of
-# the word-processor module recommendations, since it is loaded only where there is a word processor.
+# Run by cpack on the installed files: the libraries of the programs and of the module for printing
+# become dependencies, those of the word-processor module recommendations, since it is loaded only where
+# there is a word processor.
 set(root "${CPACK_TEMPORARY_INSTALL_DIRECTORY}")
-file(GLOB programs "${root}/usr/bin/*")
-file(GLOB modules "${root}/usr/lib/ferna/*.so")
+file(GLOB programs "${root}/usr/bin/*" "${root}/usr/lib/ferna/libferna_paper.so")
+file(GLOB modules "${root}/usr/lib/ferna/libferna_writer.so")
 if(NOT programs)
     message(FATAL_ERROR "No programs under ${root}")
 endif()

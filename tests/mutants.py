@@ -99,7 +99,8 @@ def write_mutated(target, text):
 
 def configure():
     if not (BUILD / "build.ninja").exists():
-        subprocess.run(["cmake", "--preset", "release", "-DFERNA_BENCH=OFF"], cwd=TREE, check=True,
+        subprocess.run(["cmake", "--preset", "release", "-DFERNA_BENCH=OFF",
+                        "-DCMAKE_UNITY_BUILD=OFF"], cwd=TREE, check=True,
                        stdout=subprocess.DEVNULL)
     commands = json.loads((BUILD / "compile_commands.json").read_text())
     return {entry["file"]: arguments_of(entry["command"]) for entry in commands}

@@ -36,7 +36,7 @@ done
     || fail "the word processor is not recommended"
 
 # Files.
-for file in bin/{ferna,ferna-wsad,Wyd_drk} lib/ferna/libferna_writer.so \
+for file in bin/{ferna,ferna-wsad,Wyd_drk} lib/ferna/libferna_{paper,writer}.so \
     share/ferna/{Ferna.qch,Ferogo2.bmp,rysgb52.bmp,przyklady/slup-hali.json} \
     share/ferna/schemat/{zadanie,wynik,zakres,dobor,nosnosc}.schema.json \
     share/doc/ferna/{en/first-report.html,pl/pierwszy-raport.html,pictures/results.png} \

@@ -6,7 +6,7 @@ build_packages=(
     g++ cmake ninja-build ccache
     python3 cmark-gfm
     qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-documentation-tools libcups2-dev nlohmann-json3-dev
-    libqpdf-dev libzip-dev pkg-config liborcus-dev
+    libqpdf-dev libzip-dev pkg-config liborcus-dev libxxhash-dev
 )
 run_packages=(
     fonts-liberation fonts-dejavu-core libqt6svg6 libqt6help6 libqt6sql6-sqlite

@@ -34,6 +34,8 @@ constexpr std::array phrases{
            "albo libreoffice-writer-nogui",
            "LibreOffice Writer writes the document; the package libreoffice-writer or "
            "libreoffice-writer-nogui has to be installed"},
+    Phrase{"brak modułu druku i dokumentów PDF ",
+           "the module for printing and PDF documents is missing: "},
     Phrase{"brak modułu zapisu dokumentów ", "the module that writes documents is missing: "},
     Phrase{"program zbudowany ze źródeł: trzeba zainstalować pakiet libreoffice-dev i zbudować "
            "program od nowa; program z pakietu: zainstalować pakiet ferna ponownie",

@@ -1,8 +1,8 @@
 #include "desktop/word_processor.h"
 
+#include "runtime/module_file.h"
 #include "runtime/run_time_error.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QLibrary>
@@ -33,16 +33,9 @@ namespace {
 
 } // namespace
 
-QString wordProcessorModule() {
-    const QDir beside(QCoreApplication::applicationDirPath());
-    const QString name = QStringLiteral("libferna_writer.so");
-    const QString installed =
-        QDir::cleanPath(beside.filePath(QStringLiteral(FERNA_MODULE_FOLDER "/") + name));
-    return !beside.exists(name) && QFileInfo::exists(installed) ? installed : beside.filePath(name);
-}
-
 std::unique_ptr<WordProcessor> openWordProcessor(const WordProcessorPlace& place) {
-    const QString module = place.module.isEmpty() ? wordProcessorModule() : place.module;
+    const QString module =
+        place.module.isEmpty() ? moduleFile(QStringLiteral("libferna_writer.so")) : place.module;
     if (!QFileInfo::exists(module))
         noModule(module);
     QLibrary library(module);

@@ -54,9 +54,6 @@ struct WordProcessorPlace {
 /// says what to install.
 std::unique_ptr<WordProcessor> openWordProcessor(const WordProcessorPlace& place = {});
 
-/// The file of the module beside this program, else in the installation's folder of modules.
-QString wordProcessorModule();
-
 /// Error 429 that says what to install, behind `reason`.
 [[noreturn]] void noWordProcessor(const QString& reason);
 

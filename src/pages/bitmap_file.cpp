@@ -14,20 +14,20 @@ namespace ferna {
 namespace {
 
 constexpr qsizetype fileHeader = 14; // bytes
-constexpr qsizetype headers = fileHeader + 40;
+static_assert(bitmapHeaders == fileHeader + 40);
 
-bool isBitmap(const QByteArray& bytes) {
+bool isBitmap(QByteArrayView bytes) {
     return bytes.size() >= 6 && bytes.startsWith("BM");
 }
 
 /// Whole number of the headers at that byte.
 template <typename Whole>
-Whole at(const QByteArray& bytes, qsizetype place) {
-    return qFromLittleEndian<Whole>(bytes.constData() + place);
+Whole at(QByteArrayView bytes, qsizetype place) {
+    return qFromLittleEndian<Whole>(bytes.data() + place);
 }
 
-bool isCutShort(const QByteArray& bytes) {
-    return isBitmap(bytes) && bytes.size() < at<quint32>(bytes, 2);
+bool isCutShort(QByteArrayView bytes, qsizetype size) {
+    return isBitmap(bytes) && size < at<quint32>(bytes, 2);
 }
 
 /// What the headers of a bitmap of 24 bits a pixel tell, its rows from below, not compressed.
@@ -38,19 +38,19 @@ struct PlainBitmap {
     qsizetype stride;
 };
 
-/// Empty for another kind.
-std::optional<PlainBitmap> plainBitmap(const QByteArray& bytes) {
+/// Empty for another kind. `bytes` are the first of `size`.
+std::optional<PlainBitmap> plainBitmap(QByteArrayView bytes, qsizetype size) {
     constexpr qint32 largest = 20'000; // pixels of a side
-    if (!isBitmap(bytes) || bytes.size() < headers || at<quint16>(bytes, 26) != 1
+    if (!isBitmap(bytes) || bytes.size() < bitmapHeaders || at<quint16>(bytes, 26) != 1
         || at<quint16>(bytes, 28) != 24 || at<quint32>(bytes, 30) != 0)
         return std::nullopt;
     const qint32 width = at<qint32>(bytes, 18);
     const qint32 height = at<qint32>(bytes, 22);
     const qsizetype begin = at<quint32>(bytes, 10);
-    if (width < 1 || height < 1 || width > largest || height > largest || begin < headers)
+    if (width < 1 || height < 1 || width > largest || height > largest || begin < bitmapHeaders)
         return std::nullopt;
     const qsizetype stride = (qsizetype{width} * 3 + 3) / 4 * 4;
-    if (bytes.size() - begin < stride * height)
+    if (size - begin < stride * height)
         return std::nullopt;
     return PlainBitmap{width, height, begin, stride};
 }
@@ -83,9 +83,9 @@ QImage opaque(const QImage& image) {
 }
 
 QImage imageOf(const QByteArray& bytes) {
-    if (isCutShort(bytes))
+    if (isCutShort(bytes, bytes.size()))
         return {};
-    if (const std::optional<PlainBitmap> bitmap = plainBitmap(bytes))
+    if (const std::optional<PlainBitmap> bitmap = plainBitmap(bytes, bytes.size()))
         if (const QImage image = imageOf(*bitmap, bytes); !image.isNull())
             return image;
     const QImage image = QImage::fromData(bytes);
@@ -102,11 +102,11 @@ QImage readPicture(const QString& path) {
     }
 }
 
-QSize pictureSize(const QByteArray& bytes) {
-    if (!isCutShort(bytes))
-        if (const std::optional<PlainBitmap> bitmap = plainBitmap(bytes))
+QSize bitmapSize(QByteArrayView headers, qsizetype size) {
+    if (!isCutShort(headers, size))
+        if (const std::optional<PlainBitmap> bitmap = plainBitmap(headers, size))
             return {bitmap->width, bitmap->height};
-    return imageOf(bytes).size();
+    return {};
 }
 
 } // namespace ferna

@@ -12,8 +12,12 @@ namespace ferna {
 /// which only the lower rows would be drawn.
 QImage readPicture(const QString& path);
 
-/// The size in pixels of the picture of a file with these bytes, as `readPicture` would read it;
-/// empty where it would read none. Of a bitmap as this program saves them the headers tell it.
-QSize pictureSize(const QByteArray& bytes);
+/// The bytes that tell the size of a bitmap as this program saves them.
+inline constexpr qsizetype bitmapHeaders = 54;
+
+/// The size in pixels of a bitmap as this program saves them, told by its first bytes,
+/// `bitmapHeaders` at least where the file has so many; `size` is that of the file. Empty where
+/// `readPicture` would read none, or where the file is of another kind.
+QSize bitmapSize(QByteArrayView headers, qsizetype size);
 
 } // namespace ferna

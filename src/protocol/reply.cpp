@@ -20,13 +20,17 @@ QString freeForm(int value) {
 } // namespace
 
 void writeReply(const QString& folder, bool done, int nextPage) {
+    replyAhead(folder, done, nextPage).install();
+}
+
+FileAhead replyAhead(const QString& folder, bool done, int nextPage) {
     // The reader takes a 16-bit number; a page number beyond would stop it.
     constexpr int lowest = std::numeric_limits<Integer>::min();
     constexpr int highest = std::numeric_limits<Integer>::max();
     const int number = qBound(lowest, nextPage, highest);
     TextFileWriter file;
     file.line(freeForm(done ? 1 : 0) + u',' + freeForm(number));
-    file.commit(QDir(folder).filePath(wyd::replyFile));
+    return {QDir(folder).filePath(wyd::replyFile), file.bytes()};
 }
 
 RendererReply readRendererReply(const QString& path) {

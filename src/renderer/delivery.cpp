@@ -5,11 +5,9 @@
 #include "protocol/renderer_files.h"
 #include "protocol/renderer_news.h"
 #include "renderer/news.h"
-#include "renderer/own_window.h"
-#include "renderer/printing.h"
+#include "renderer/paper.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
-#include "windows/save_question.h"
 
 #include <QClipboard>
 #include <QDir>
@@ -42,13 +40,10 @@ void toClipboard(const pages::Report& report) {
 
 void saveAsEmf(const pages::Report& report, const Call& call) {
     const OutputFormat& emf = *outputFormat(QStringLiteral("emf"));
-    SaveSurroundings surroundings;
-    surroundings.files = [&](const QString& name) { return fileNames(report, emf, name); };
-    surroundings.run = runOwnWindow;
-    const std::optional<QString> name =
-        askWhereToSave({QStringLiteral("Zapisz jako EMF"), QStringLiteral("Raport.emf"),
-                        QStringLiteral(".emf"), QStringLiteral("Metapliki (*.emf)|*.emf")},
-                       surroundings);
+    const std::optional<QString> name = paper().askWhereToSave(
+        {QStringLiteral("Zapisz jako EMF"), QStringLiteral("Raport.emf"), QStringLiteral(".emf"),
+         QStringLiteral("Metapliki (*.emf)|*.emf")},
+        [&](const QString& chosen) { return fileNames(report, emf, chosen); });
     if (!name)
         throw RunTimeError(error::Cancelled, QStringLiteral("okno zapisu pliku EMF"));
     writeReport(report, emf, *name, call.dpi);
@@ -82,10 +77,10 @@ void deliver(const pages::Report& report, const Call& call, const Job& job) {
                        Lasting::UntilNextUse);
         break;
     case RenderMode::Print:
-        printOnDefault(report);
+        paper().printDefault(report);
         break;
     case RenderMode::PrintChosen:
-        printOnChosen(report);
+        paper().printChosen(report);
         break;
     case RenderMode::Emf:
         saveAsEmf(report, call);

@@ -16,8 +16,8 @@ inline constexpr double bodyTop = 40;        ///< the body of a following page s
 /// rule of the frame or off the sheet is set in smaller letters.
 std::vector<pages::Page> layOut(Segment frame, std::vector<Segment> body, int firstPage);
 
-/// The command files of a job as read; the twins of their pictures are being looked for. Needs no
-/// Qt that has been started.
+/// The command files of a job as read; the twins of their pictures are being looked for. Needs Qt
+/// to be started, but not its fonts.
 class Commands {
 public:
     /// Errors of `readLines`, 57 where the frame file holds no record at all.

@@ -4,13 +4,14 @@
 #include "protocol/reply.h"
 #include "renderer/delivery.h"
 #include "renderer/layout.h"
+#include "renderer/paper.h"
+#include "renderer/replies.h"
 #include "runtime/run_time_error.h"
 #include "runtime/screen.h"
-#include "windows/application.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QFontInfo>
+#include <QGuiApplication>
 
 #include <cstdio>
 #include <memory>
@@ -33,27 +34,24 @@ void quiet(QtMsgType type, const QMessageLogContext&, const QString& text) {
 
 /// Starts Qt: with widgets on the user's screen, or without either.
 std::unique_ptr<QGuiApplication> startQt(int& argc, char** argv, bool screen) {
-    if (!screen) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        return std::make_unique<QGuiApplication>(argc, argv);
-    }
-    auto application = std::make_unique<QApplication>(argc, argv);
-    dressApplication(*application);
-    return application;
+    if (screen)
+        return paper().startQt(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
 }
 
 QString languageOf(const Call& call) {
     return call.language.isEmpty() ? qEnvironmentVariable(languageVariable) : call.language;
 }
 
-void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage) {
+void run(int& argc, char** argv, const Call& call, const Job& job, Replies& replies) {
     qInstallMessageHandler(quiet);
     const bool screen = needsScreen(call, job);
     if (screen && !hasScreen())
         throw RunTimeError(error::DeviceIO, QStringLiteral("ten tryb zlecenia wymaga ekranu"));
     wyd::Complaints complaints;
-    const Commands commands(job, complaints); // on a thread of theirs, too, while Qt starts
     const std::unique_ptr<QGuiApplication> application = startQt(argc, argv, screen);
+    const Commands commands(job, complaints); // on a thread of theirs, too, while fonts are found
     const QString face = QFontInfo(drawing::fontOf(1)).family();
     if (face != drawing::textFace)
         say(QStringLiteral("brak czcionki %1, zamiast niej %2").arg(drawing::textFace, face));
@@ -63,8 +61,9 @@ void run(int& argc, char** argv, const Call& call, const Job& job, int& nextPage
     report.author = call.author;
     for (const QString& line : complaints.lines())
         say(line);
+    replies.prepareSuccess(job.firstPage + static_cast<int>(report.pages.size()));
     deliver(report, call, job);
-    nextPage = job.firstPage + static_cast<int>(report.pages.size());
+    replies.succeed();
 }
 
 /// Reads the job; where it cannot be read the reply says so. Beside a file that is no job of ours
@@ -96,15 +95,12 @@ int main(int argc, char** argv) {
         say(fault + QStringLiteral(". ") + usage());
         return wyd::BadCall;
     }
-    const QString folder = folderOf(call->jobPath);
     try {
         const Job job = jobOrFailure(*call);
-        int page = job.firstPage;
-        // The reply of a failure comes first: it stands also where the run is cut short.
+        Replies replies(folderOf(call->jobPath));
         if (!keepsLastReply(*call, job))
-            writeReply(folder, false, page);
-        run(argc, argv, *call, job, page);
-        writeReply(folder, true, page);
+            replies.failureFirst(job.firstPage);
+        run(argc, argv, *call, job, replies);
         return wyd::Done;
     } catch (const RunTimeError& failure) {
         if (failure.number() == error::Cancelled)

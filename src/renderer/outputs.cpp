@@ -3,7 +3,8 @@
 #include "pages/drawing.h"
 #include "pages/emf_writer.h"
 #include "pages/page_painter.h"
-#include "renderer/pdf_document.h"
+#include "renderer/paper.h"
+#include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
 
@@ -20,8 +21,6 @@
 namespace ferna::renderer {
 
 namespace {
-
-constexpr double mmPerInch = 25.4;
 
 /// Title of a document: what it is, and of which project.
 QString documentTitle(const pages::Report& report) {
@@ -54,7 +53,7 @@ QByteArray pdf(const pages::Report& report, std::size_t, int) {
         paintPage(painter, page);
     }
     painter.end();
-    return finishedPdf(bytes, report, documentTitle(report), pdfTime());
+    return paper().document(bytes, report, documentTitle(report));
 }
 
 QByteArray svg(const pages::Report& report, std::size_t page, int) {

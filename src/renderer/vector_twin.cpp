@@ -1,6 +1,7 @@
 #include "renderer/vector_twin.h"
 
 #include "pages/bitmap_file.h"
+#include "runtime/lengths.h"
 #include "runtime/picture_twin.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
@@ -94,7 +95,6 @@ public:
 protected:
     int metric(PaintDeviceMetric metric) const override {
         constexpr int dpi = 96;
-        constexpr double mmPerInch = 25.4;
         switch (metric) {
         case PdmWidth:
             return units_.width();
@@ -132,10 +132,23 @@ Twin twinOfFile(const QString& bitmap) {
     if (!QFileInfo(twin).isFile())
         return {};
     try {
+        QByteArray headers;
+        PictureSum sum;
+        const qsizetype size = readFileInParts(bitmap, [&](QByteArrayView part) {
+            if (headers.isEmpty())
+                headers = part.first(qMin(part.size(), bitmapHeaders)).toByteArray();
+            sum.add(part);
+        });
         const QByteArray svg = readFileWhole(twin);
-        const QByteArray bytes = readFileWhole(bitmap);
-        const QSize pixels = isTwinOf(svg, bytes) ? pictureSize(bytes) : QSize();
-        return pixels.isEmpty() ? Twin() : Twin{svg, pixels};
+        if (!isTwinOf(svg, sum))
+            return {};
+        QSize pixels = bitmapSize(headers, size);
+        if (pixels.isEmpty())
+            pixels = readPicture(bitmap).size();
+        const auto sketch = std::make_shared<QSvgRenderer>(svg);
+        sketch->moveToThread(nullptr); // is read here and drawn and dropped elsewhere
+        sketch->setAspectRatioMode(Qt::IgnoreAspectRatio);
+        return pixels.isEmpty() || !sketch->isValid() ? Twin() : Twin{sketch, pixels};
     } catch (const RunTimeError&) {
         return {}; // the bitmap may be there
     }
@@ -143,15 +156,11 @@ Twin twinOfFile(const QString& bitmap) {
 
 std::vector<pages::Outline> outlinesOf(const Twin& twin, const QRectF& rect) {
     constexpr double unitsPerMm = 100; // so that letters are of a size that fonts are made for
-    if (twin.svg.isEmpty())
+    if (twin.sketch == nullptr)
         return {};
-    QSvgRenderer sketch(twin.svg);
-    if (!sketch.isValid())
-        return {};
-    sketch.setAspectRatioMode(Qt::IgnoreAspectRatio);
     OutlineDevice device((rect.size() * unitsPerMm).toSize());
     QPainter painter(&device);
-    sketch.render(&painter, QRectF(QPointF(0, 0), rect.size() * unitsPerMm));
+    twin.sketch->render(&painter, QRectF(QPointF(0, 0), rect.size() * unitsPerMm));
     painter.end();
     std::vector<pages::Outline> outlines = device.take();
     for (pages::Outline& outline : outlines)

@@ -14,6 +14,7 @@
 
 #include <cerrno>
 #include <climits>
+#include <optional>
 #include <utility>
 
 namespace ferna {
@@ -232,7 +233,8 @@ public:
 
     void write(const QByteArray& bytes, Lasting lasting) {
         writeAll(file_.number(), bytes, given_);
-        if (lasting == Lasting::Kept && ::fdatasync(file_.number()) != 0 && !isUnknown(errno))
+        if (lasting != Lasting::UntilNextUse && ::fdatasync(file_.number()) != 0
+            && !isUnknown(errno))
             fail(given_);
     }
 
@@ -305,23 +307,53 @@ private:
 
 } // namespace
 
-void writeFileWhole(const QString& path, const QByteArray& bytes, Lasting lasting) {
-    const QByteArray given = QFile::encodeName(path);
-    const QByteArray target = followed(given);
-    struct stat info {};
-    const bool exists = ::stat(target.constData(), &info) == 0;
-    if (exists && S_ISDIR(info.st_mode))
-        fail(given, EISDIR);
-    if (exists && (!S_ISREG(info.st_mode) || isOfProcesses(folderOf(target)))) {
-        writeThrough(target, info, bytes, given);
-        return;
+/// Bytes on their way to a file: to the disk at once, under their name at the end.
+class FileAhead::Way {
+public:
+    Way(const QString& path, const QByteArray& bytes, Lasting lasting)
+        : given_(QFile::encodeName(path)), target_(followed(given_)), lasting_(lasting) {
+        const bool exists = ::stat(target_.constData(), &info_) == 0;
+        if (exists && S_ISDIR(info_.st_mode))
+            fail(given_, EISDIR);
+        if (exists && (!S_ISREG(info_.st_mode) || isOfProcesses(folderOf(target_)))) {
+            through_ = bytes;
+            return;
+        }
+        constexpr mode_t forEverybody = 0666; // less what the user's mask takes
+        saving_.emplace(target_, given_, forEverybody);
+        saving_->write(bytes, lasting);
+        if (exists)
+            saving_->setPermissions(info_.st_mode & 0777);
     }
-    constexpr mode_t forEverybody = 0666; // less what the user's mask takes
-    Saving saving(target, given, forEverybody);
-    saving.write(bytes, lasting);
-    if (exists)
-        saving.setPermissions(info.st_mode & 0777);
-    saving.install(lasting);
+
+    void install() {
+        if (saving_)
+            saving_->install(lasting_);
+        else
+            writeThrough(target_, info_, through_, given_);
+    }
+
+private:
+    QByteArray given_;
+    QByteArray target_;
+    Lasting lasting_;
+    struct stat info_ {};
+    QByteArray through_; // for what is no plain file
+    std::optional<Saving> saving_;
+};
+
+FileAhead::FileAhead(const QString& path, const QByteArray& bytes)
+    : way_(std::make_unique<Way>(path, bytes, Lasting::Whole)) {}
+FileAhead::FileAhead(FileAhead&&) noexcept = default;
+FileAhead& FileAhead::operator=(FileAhead&&) noexcept = default;
+FileAhead::~FileAhead() = default;
+
+void FileAhead::install() {
+    way_->install();
+}
+
+void writeFileWhole(const QString& path, const QByteArray& bytes, Lasting lasting) {
+    FileAhead::Way(path, bytes, lasting).install();
 }
 
 QString savingName(const QString& path) {

@@ -3,11 +3,14 @@
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
+
 namespace ferna {
 
 /// How long a file has to last.
 enum class Lasting {
     Kept,        ///< on the disk before it takes its name, as what an engineer saves
+    Whole,       ///< the same, but its name is not waited for: a power cut may leave the old file
     UntilNextUse ///< written anew at every use: not worth waiting for the disk
 };
 
@@ -24,6 +27,26 @@ enum class Lasting {
 /// device, a socket, a pipe without a reader, 70 forbidden or a stranger's link, 61 no room, 57
 /// anything else, also bytes that the disk took and did not keep.
 void writeFileWhole(const QString& path, const QByteArray& bytes, Lasting lasting = Lasting::Kept);
+
+/// A file whose bytes go to the disk before they are wanted, on another thread perhaps, as waiting
+/// for the disk takes long. Told to, it takes its name and is `Lasting::Whole`; never told, it
+/// leaves the old file.
+class FileAhead {
+public:
+    /// Errors of `writeFileWhole`.
+    FileAhead(const QString& path, const QByteArray& bytes);
+    FileAhead(FileAhead&&) noexcept;
+    FileAhead& operator=(FileAhead&&) noexcept;
+    ~FileAhead();
+
+    /// To be called once. Errors of `writeFileWhole`.
+    void install();
+
+    class Way;
+
+private:
+    std::unique_ptr<Way> way_;
+};
 
 /// Removes the hidden names of a folder that killed programs have left; those of savings under way
 /// stay.

@@ -37,25 +37,62 @@ QString native(const QString& path) {
     }
 }
 
-/// A file that is open for as long as this lives. Opening a pipe that nobody writes would wait
-/// without end, so nothing waits here.
-class OpenFile {
+/// A plain file that is open for as long as this lives. Opening a pipe that nobody writes would
+/// wait without end, so nothing waits here.
+class PlainFile {
 public:
-    explicit OpenFile(const QString& path)
-        : number_(::open(QFile::encodeName(path).constData(),
-                         O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {}
-    ~OpenFile() {
+    explicit PlainFile(const QString& path)
+        : path_(path), number_(::open(QFile::encodeName(path).constData(),
+                                      O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY)) {
+        struct stat info {};
+        const int reason = number_ < 0 || ::fstat(number_, &info) != 0 ? errno
+                           : S_ISDIR(info.st_mode)                     ? EISDIR
+                                                                       : 0;
+        const bool plain = S_ISREG(info.st_mode);
+        size_ = info.st_size;
+        if (reason == 0 && plain)
+            return;
+        close();
+        if (reason != 0)
+            cannotRead(path, reason);
+        throw RunTimeError(error::PathAccess,
+                           native(path) + QStringLiteral(" (to nie jest zwykły plik)"));
+    }
+    ~PlainFile() { close(); }
+    PlainFile(const PlainFile&) = delete;
+    PlainFile& operator=(const PlainFile&) = delete;
+
+    /// As the system has it; some files of its own have none.
+    qsizetype size() const { return size_; }
+
+    /// The next bytes, so many at most; none at the end.
+    qsizetype read(char* to, qsizetype room) {
+        for (;;) {
+            const ssize_t count = ::read(number_, to, static_cast<std::size_t>(room));
+            if (count >= 0)
+                return count;
+            if (errno != EINTR)
+                cannotRead(path_, errno);
+        }
+    }
+
+private:
+    void close() {
         if (number_ >= 0)
             ::close(number_);
     }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
 
-    int number() const { return number_; }
-
-private:
+    QString path_;
     int number_;
+    qsizetype size_ = 0;
 };
+
+void refuseBeyond(qsizetype most, qsizetype read, const QString& path) {
+    if (read > most)
+        throw RunTimeError(
+            error::DeviceIO,
+            QStringLiteral("%1 (plik ma ponad %2 MB)").arg(native(path)).arg(most / megabyte));
+}
 
 } // namespace
 
@@ -66,37 +103,33 @@ QByteArray readFileWhole(const QString& path, qsizetype most) {
             cannotRead(path, ENOENT);
         return carried.readAll();
     }
-    const OpenFile file(path);
-    struct stat info {};
-    if (file.number() < 0 || ::fstat(file.number(), &info) != 0)
-        cannotRead(path, errno);
-    if (S_ISDIR(info.st_mode))
-        cannotRead(path, EISDIR);
-    if (!S_ISREG(info.st_mode))
-        throw RunTimeError(error::PathAccess,
-                           native(path) + QStringLiteral(" (to nie jest zwykły plik)"));
+    PlainFile file(path);
     constexpr qsizetype block = 65536;
     QByteArray bytes;
     qsizetype read = 0;
-    // Some files of the system's own have no size; one more byte tells the end of the others.
-    bytes.resize(qMin<qsizetype>(qMax<qsizetype>(block, info.st_size + 1), most + 1));
-    for (;;) {
-        const ssize_t count = ::read(file.number(), bytes.data() + read,
-                                     static_cast<std::size_t>(bytes.size() - read));
-        if (count < 0 && errno != EINTR)
-            cannotRead(path, errno);
-        if (count == 0)
-            break;
-        read += qMax<ssize_t>(count, 0);
-        if (read > most)
-            throw RunTimeError(
-                error::DeviceIO,
-                QStringLiteral("%1 (plik ma ponad %2 MB)").arg(native(path)).arg(most / megabyte));
+    // One more byte tells the end of a file that has a size.
+    bytes.resize(qMin(qMax(block, file.size() + 1), most + 1));
+    while (const qsizetype count = file.read(bytes.data() + read, bytes.size() - read)) {
+        read += count;
+        refuseBeyond(most, read, path);
         if (read == bytes.size())
             bytes.resize(qMin(2 * read, most + 1));
     }
     bytes.resize(read);
     return bytes;
+}
+
+qsizetype readFileInParts(const QString& path, const std::function<void(QByteArrayView)>& take) {
+    constexpr qsizetype part = 262144; // stays in the processor's cache
+    PlainFile file(path);
+    QByteArray bytes(part, Qt::Uninitialized);
+    qsizetype read = 0;
+    while (const qsizetype count = file.read(bytes.data(), part)) {
+        read += count;
+        refuseBeyond(largestFile, read, path);
+        take(QByteArrayView(bytes.constData(), count));
+    }
+    return read;
 }
 
 QStringList readLines(const QString& path, TextFrom from) {

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 namespace ferna {
 
 /// Text files of the program: code page 1250, lines ended by carriage return and line feed.
@@ -48,5 +50,9 @@ inline constexpr qsizetype largestTextFile = 32 * megabyte;
 /// The bytes of a plain file. Errors 53, 70, 75 (missing, forbidden, a folder or another thing that
 /// is no plain file), 57 (unreadable, or more than `most` bytes).
 QByteArray readFileWhole(const QString& path, qsizetype most = largestFile);
+
+/// Gives the bytes of a plain file part by part, in their order, so that they are never all in
+/// memory. Their number. Errors as above.
+qsizetype readFileInParts(const QString& path, const std::function<void(QByteArrayView)>& take);
 
 } // namespace ferna

@@ -157,8 +157,8 @@ protected:
         QDir().mkpath(folder);
         const QDir built(places::bin());
         for (const QString& file : built.entryList(
-                 {QStringLiteral("ferna-wsad"), QStringLiteral("Wyd_drk"), QStringLiteral("*.txt"),
-                  QStringLiteral("*.cfg"), QStringLiteral("*.bmp")},
+                 {QStringLiteral("ferna-wsad"), QStringLiteral("Wyd_drk"), QStringLiteral("*.so"),
+                  QStringLiteral("*.txt"), QStringLiteral("*.cfg"), QStringLiteral("*.bmp")},
                  QDir::Files))
             ASSERT_TRUE(QFile::copy(built.filePath(file), folder + u'/' + file))
                 << file.toStdString();

@@ -22,6 +22,11 @@ QImage colourful(int width, int height, QImage::Format format) {
     return image;
 }
 
+/// As the headers alone tell it.
+QSize sizeBy(const QByteArray& file) {
+    return bitmapSize(file.first(qMin(file.size(), bitmapHeaders)), file.size());
+}
+
 TEST(PictureFile, IsThePictureThatTheToolkitReads) {
     const Folder folder;
     for (const int width : {1, 2, 3, 4, 5, 37}) {
@@ -29,7 +34,7 @@ TEST(PictureFile, IsThePictureThatTheToolkitReads) {
         const QImage read = readPicture(folder.path(name));
         EXPECT_EQ(read.format(), QImage::Format_RGB32);
         EXPECT_EQ(read, QImage(folder.path(name)).convertToFormat(QImage::Format_RGB32)) << width;
-        EXPECT_EQ(pictureSize(folder.read(name)), QSize(width, 11));
+        EXPECT_EQ(sizeBy(folder.read(name)), QSize(width, 11));
     }
 }
 
@@ -42,7 +47,7 @@ TEST(PictureFile, OfAnotherKindIsLeftToTheToolkit) {
         made.fill(Qt::gray);
         ASSERT_TRUE(made.save(path));
         EXPECT_EQ(readPicture(path), QImage(path).convertToFormat(QImage::Format_RGB32)) << file;
-        EXPECT_EQ(pictureSize(folder.read(QLatin1String(file))), QSize(9, 5));
+        EXPECT_TRUE(sizeBy(folder.read(QLatin1String(file))).isEmpty()) << "left to readPicture";
     }
     QImage clear(3, 3, QImage::Format_ARGB32);
     clear.fill(Qt::transparent);
@@ -57,7 +62,7 @@ TEST(PictureFile, ThatIsDamagedIsNone) {
     for (qsizetype length = 0; length < whole.size(); ++length) {
         folder.write(name, whole.first(length));
         EXPECT_TRUE(readPicture(folder.path(name)).isNull()) << length;
-        EXPECT_TRUE(pictureSize(whole.first(length)).isEmpty()) << length;
+        EXPECT_TRUE(sizeBy(whole.first(length)).isEmpty()) << length;
     }
     QRandomGenerator dice(11);
     for (int round = 0; round < 2000; ++round) { // of any header it may only be a picture or none
@@ -65,7 +70,9 @@ TEST(PictureFile, ThatIsDamagedIsNone) {
         for (int i = 0; i < 3; ++i)
             damaged[dice.bounded(54)] = static_cast<char>(dice.bounded(256));
         folder.write(name, damaged);
-        EXPECT_EQ(readPicture(folder.path(name)).size(), pictureSize(damaged));
+        const QSize told = sizeBy(damaged);
+        const QSize read = readPicture(folder.path(name)).size();
+        EXPECT_TRUE(told.isEmpty() || told == read) << round;
     }
     ASSERT_EQ(::mkfifo(QFile::encodeName(folder.path(QStringLiteral("f.bmp"))).constData(), 0600),
               0);

@@ -2,7 +2,7 @@
 #include "pages/metafile.h"
 #include "renderer/outputs.h"
 #include "renderer/page_checks.h"
-#include "renderer/printing.h"
+#include "renderer/paper/printing.h"
 #include "renderer/program_run.h"
 #include "renderer/sheet_ink.h"
 #include "runtime/text_file.h"

@@ -1,5 +1,5 @@
 #include "renderer/page_checks.h"
-#include "renderer/printing.h"
+#include "renderer/paper/printing.h"
 #include "renderer/program_run.h"
 #include "renderer/sample_report.h"
 #include "runtime/run_time_error.h"

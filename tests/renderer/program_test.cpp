@@ -10,7 +10,10 @@
 #include <QFile>
 #include <QImage>
 
+#include <fcntl.h>
+#include <poll.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace ferna;
 using ferna::testing::Outcome;
@@ -175,6 +178,25 @@ TEST_F(Renderer, AMissingJobLeavesAReplyToo) {
     EXPECT_EQ(reply(), QStringLiteral(" 0 , 1 "));
 }
 
+TEST_F(Renderer, ARunThatIsCutShortLeavesTheReplyOfAFailure) {
+    const QString pipe = path("strony.png");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    const int reader = ::open(QFile::encodeName(pipe).constData(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(reader, 0);
+    sample.line(85, QStringLiteral("jeden"));
+    QProcess run; // waits for ever with its page, as nobody reads it
+    run.start(places::bin("/Wyd_drk"),
+              {QStringLiteral("--dpi"), QStringLiteral("600"), QStringLiteral("--png"), pipe,
+               sample.write(QStringLiteral("-2"), 12)});
+    pollfd page{reader, POLLIN, 0};
+    ASSERT_EQ(::poll(&page, 1, 20000), 1) << "the page is being written";
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
+    run.kill();
+    ASSERT_TRUE(run.waitForFinished());
+    EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
+    ::close(reader);
+}
+
 TEST_F(Renderer, AFileThatIsNoJobGetsNoReplyBesideIt) {
     for (const char* text : {"notatki\r\n", "", "7, 1.0, 0.5, 1.0, 1\r\na\r\nb\r\n"}) {
         writeFileWhole(path("notatki.txt"), text);
@@ -234,6 +256,35 @@ TEST_F(Renderer, AnOutputThatCannotBeWrittenIsNamed) {
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_TRUE(run.errors.contains(path("brak/raport.pdf"))) << run.errors.toStdString();
     EXPECT_EQ(reply(), QStringLiteral(" 0 , 12 "));
+}
+
+TEST_F(Renderer, WithoutItsModuleDrawsThePictureAndNamesWhatAPdfLacks) {
+    const QString alone = path("Wyd_drk");
+    ASSERT_TRUE(QFile::copy(places::bin("/Wyd_drk"), alone));
+    const QString file = job();
+    EXPECT_EQ(runProgram(alone, {file}).exitCode, 0);
+    EXPECT_TRUE(exists("$a1.emf"));
+    const Outcome run = runProgram(alone, {QStringLiteral("--pdf"), path("raport.pdf"), file});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.errors.count(u'\n'), 1);
+    EXPECT_TRUE(run.errors.contains(QStringLiteral("brak modułu druku i dokumentów PDF ")
+                                    + path("libferna_paper.so")))
+        << run.errors.toStdString();
+    EXPECT_FALSE(exists("raport.pdf"));
+}
+
+TEST_F(Renderer, LoadsNoPrintingForThePictureOnTheScreen) {
+    QProcessEnvironment told = QProcessEnvironment::systemEnvironment();
+    told.insert(QStringLiteral("LD_DEBUG"), QStringLiteral("files"));
+    const auto loads = [&](const QStringList& arguments) {
+        const QString files = runRenderer(arguments, told).errors;
+        EXPECT_TRUE(files.contains(QStringLiteral("libQt6Gui.so")));
+        return files.contains(QStringLiteral("libQt6Widgets.so"))
+               || files.contains(QStringLiteral("libcups.so"));
+    };
+    const QString file = job();
+    EXPECT_FALSE(loads({file}));
+    EXPECT_TRUE(loads({QStringLiteral("--pdf"), path("raport.pdf"), file}));
 }
 
 TEST_F(Renderer, AnUnknownModeIsAFailure) {

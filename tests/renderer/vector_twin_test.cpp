@@ -1,4 +1,5 @@
 // Pictures that have their vectors beside them.
+#include "pages/bitmap_file.h"
 #include "pages/drawing.h"
 #include "pages/emf_format.h"
 #include "pages/emf_writer.h"
@@ -148,25 +149,38 @@ TEST_F(VectorTwin, IsFoundAheadForEachFileThatHasOne) {
     ASSERT_TRUE(QFile::copy(bitmap, alone));
     const Twins twins({bitmap, alone, bitmap, missing});
     for (int times = 0; times < 2; ++times) {
-        EXPECT_EQ(twins.of(bitmap).svg, folder.read(QStringLiteral("a.svg")));
+        EXPECT_NE(twins.of(bitmap).sketch, nullptr);
         EXPECT_EQ(twins.of(bitmap).pixels, QImage(bitmap).size());
-        EXPECT_TRUE(twins.of(alone).svg.isEmpty());
-        EXPECT_TRUE(twins.of(missing).svg.isEmpty());
+        EXPECT_EQ(twins.of(alone).sketch, nullptr);
+        EXPECT_EQ(twins.of(missing).sketch, nullptr);
     }
-    EXPECT_EQ(Twins({}).of(bitmap).svg, twins.of(bitmap).svg) << "not asked for ahead";
+    EXPECT_NE(Twins({}).of(bitmap).sketch, nullptr) << "not asked for ahead";
 }
 
 TEST_F(VectorTwin, OfAFileThatIsNoPictureIsNone) {
     folder.write(QStringLiteral("a.bmp"), "BM no picture");
     folder.write(QStringLiteral("a.svg"), twinOf("<svg/>", "BM no picture"));
-    EXPECT_TRUE(twinOfFile(bitmap).svg.isEmpty());
+    EXPECT_EQ(twinOfFile(bitmap).sketch, nullptr);
 }
 
 TEST_F(VectorTwin, OfAnotherBitmapIsNotDrawn) {
-    QByteArray other = folder.read(QStringLiteral("a.bmp"));
-    other.back() = static_cast<char>(~other.back());
-    folder.write(QStringLiteral("a.bmp"), other);
-    EXPECT_TRUE(outlinesOf(twinOfFile(bitmap), place).empty());
+    const QByteArray ours = folder.read(QStringLiteral("a.bmp"));
+    for (const qsizetype byte : {qsizetype{0}, bitmapHeaders, ours.size() / 2, ours.size() - 1}) {
+        QByteArray other = ours;
+        other[byte] = static_cast<char>(~other[byte]);
+        folder.write(QStringLiteral("a.bmp"), other);
+        EXPECT_EQ(twinOfFile(bitmap).sketch, nullptr) << byte;
+    }
+    folder.write(QStringLiteral("a.bmp"), ours + '\0');
+    EXPECT_EQ(twinOfFile(bitmap).sketch, nullptr) << "a byte more";
+    folder.write(QStringLiteral("a.bmp"), ours);
+    EXPECT_NE(twinOfFile(bitmap).sketch, nullptr);
+}
+
+TEST_F(VectorTwin, OfABitmapOfAnotherKindHasItsSize) {
+    ASSERT_TRUE(QImage(30, 20, QImage::Format_Mono).save(bitmap));
+    folder.write(QStringLiteral("a.svg"), twinOf("<svg/>", folder.read(QStringLiteral("a.bmp"))));
+    EXPECT_EQ(twinOfFile(bitmap).pixels, QSize(30, 20));
 }
 
 TEST_F(VectorTwin, ThatIsDamagedLeavesTheBitmap) {

@@ -20,6 +20,7 @@ namespace {
 
 int syncFailure = 0; // what the disk answers; 0: it keeps what it got
 int syncs = 0;
+int folderSyncs = 0;
 bool everyFileHasAName = false;       // as on some file systems
 std::function<int()> lookAtALeftFile; // what the system answers while another program saves
 
@@ -32,6 +33,12 @@ extern "C" int fdatasync(int file) {
         return static_cast<int>(syscall(SYS_fdatasync, file));
     errno = syncFailure;
     return -1;
+}
+
+/// The waiting for a name.
+extern "C" int fsync(int file) {
+    ++folderSyncs;
+    return static_cast<int>(syscall(SYS_fsync, file));
 }
 
 /// The file system of this test program, with files without a name or without such.
@@ -100,9 +107,52 @@ TEST_F(SavedFile, OfTheMomentDoesNotWaitForTheDisk) {
     syncs = 0;
     writeFileWhole(folder.path(name), "a", Lasting::UntilNextUse);
     EXPECT_EQ(syncs, 0);
+    folderSyncs = 0;
     writeFileWhole(folder.path(name), "b");
     EXPECT_EQ(syncs, 1);
+    EXPECT_EQ(folderSyncs, 1) << "its name";
     EXPECT_EQ(folder.read(name), QByteArray("b"));
+}
+
+TEST_F(SavedFile, AheadIsOnTheDiskBeforeItTakesItsName) {
+    const QString path = folder.write(name, "stary");
+    ::chmod(native(name).constData(), 0640);
+    syncs = 0;
+    folderSyncs = 0;
+    FileAhead ahead(path, "nowy");
+    EXPECT_EQ(syncs, 1);
+    EXPECT_EQ(folder.read(name), QByteArray("stary"));
+    ahead.install();
+    EXPECT_EQ(folder.read(name), QByteArray("nowy"));
+    EXPECT_EQ(QFile::permissions(path) & QFile::ReadOther, QFile::Permissions());
+    EXPECT_EQ(syncs, 1);
+    EXPECT_EQ(folderSyncs, 0) << "its name is not waited for";
+    EXPECT_EQ(folder.names(), QStringList(name));
+    syncFailure = EIO;
+    EXPECT_EQ(errorNumberOf([&] { FileAhead(path, "inny"); }), error::DeviceIO);
+}
+
+TEST_F(SavedFile, AheadThatIsNotWantedAnyMoreLeavesNothing) {
+    const QString path = folder.write(name, "stary");
+    for (const bool named : {false, true}) {
+        everyFileHasAName = named;
+        { const FileAhead dropped(path, "nowy"); }
+        EXPECT_EQ(folder.read(name), QByteArray("stary"));
+        EXPECT_EQ(folder.names(), QStringList(name));
+    }
+}
+
+TEST_F(SavedFile, AheadOfAPipeIsWrittenWhenItIsWanted) {
+    ASSERT_EQ(::mkfifo(native(name).constData(), 0600), 0);
+    const int reader = ::open(native(name).constData(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(reader, 0);
+    char read[8] = {};
+    FileAhead ahead(folder.path(name), "nowy");
+    EXPECT_EQ(::read(reader, read, sizeof read), 0);
+    ahead.install();
+    EXPECT_EQ(::read(reader, read, sizeof read), 4);
+    EXPECT_STREQ(read, "nowy");
+    ::close(reader);
 }
 
 TEST_F(SavedFile, KeepsThePermissionsOfTheOldOne) {
@@ -298,6 +348,27 @@ TEST_F(SavedFile, AFileBeyondItsLimitIsNotReadToTheEnd) {
     const QString path = folder.write(name, QByteArray(1000, 'x'));
     EXPECT_EQ(readFileWhole(path, 1000).size(), 1000);
     EXPECT_EQ(errorNumberOf([&] { readFileWhole(path, 999); }), error::DeviceIO);
+}
+
+TEST_F(SavedFile, ThatIsReadInPartsComesWholeAndInItsOrder) {
+    QByteArray bytes(1'000'000, Qt::Uninitialized);
+    for (qsizetype i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>(i * i / 1000);
+    const QString path = folder.write(name, bytes);
+    QByteArray read;
+    int parts = 0;
+    const qsizetype size = readFileInParts(path, [&](QByteArrayView part) {
+        read += part;
+        ++parts;
+    });
+    EXPECT_EQ(size, bytes.size());
+    EXPECT_TRUE(read == bytes);
+    EXPECT_GT(parts, 1);
+    const auto nothing = [](QByteArrayView) {};
+    EXPECT_EQ(errorNumberOf([&] { readFileInParts(folder.path(QStringLiteral("brak")), nothing); }),
+              error::FileNotFound);
+    EXPECT_EQ(errorNumberOf([&] { readFileInParts(folder.path(QStringLiteral(".")), nothing); }),
+              error::PathAccess);
 }
 
 } // namespace

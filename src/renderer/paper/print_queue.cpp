@@ -1,4 +1,4 @@
-#include "renderer/print_queue.h"
+#include "renderer/paper/print_queue.h"
 
 #ifdef FERNA_CUPS
 #include <cups/cups.h>

@@ -1,11 +1,12 @@
-#include "renderer/printing.h"
+#include "renderer/paper/printing.h"
 
 #include "pages/drawing.h"
 #include "pages/page_painter.h"
 #include "protocol/renderer_news.h"
 #include "renderer/news.h"
-#include "renderer/own_window.h"
-#include "renderer/print_queue.h"
+#include "renderer/paper/own_window.h"
+#include "renderer/paper/print_queue.h"
+#include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
 
 #include <QFileInfo>
@@ -21,8 +22,6 @@
 namespace ferna::renderer {
 
 namespace {
-
-constexpr double mmPerInch = 25.4;
 
 [[noreturn]] void cannotPrint(const QString& detail) {
     throw RunTimeError(error::DeviceIO, detail);

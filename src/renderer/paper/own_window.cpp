@@ -1,4 +1,4 @@
-#include "renderer/own_window.h"
+#include "renderer/paper/own_window.h"
 
 #include "protocol/renderer_news.h"
 #include "renderer/news.h"
