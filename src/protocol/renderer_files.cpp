@@ -14,8 +14,10 @@ QString pathLine(const QString& folder, const QString& name) {
 }
 
 QString pathOfLine(const QString& folder, const QString& line) {
-    const QString path = line.trimmed();
-    return path.isEmpty() ? path : QDir(folder).absoluteFilePath(QDir::fromNativeSeparators(path));
+    const QString path = QDir::fromNativeSeparators(line.trimmed());
+    if (path.startsWith(u':')) // Qt would take it for data inside the program
+        return folder + u'/' + path;
+    return path.isEmpty() ? path : QDir(folder).absoluteFilePath(path);
 }
 
 } // namespace ferna::wyd

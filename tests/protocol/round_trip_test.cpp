@@ -86,6 +86,8 @@ TEST(PathLine, LeadsToTheFileAgain) {
         EXPECT_EQ(wyd::pathOfLine(place, wyd::pathLine(place, wyd::bodyFile)),
                   place + QStringLiteral("/FERNAPr.wyd"));
     EXPECT_EQ(wyd::pathOfLine(folder, QStringLiteral("  ")), QString());
+    EXPECT_EQ(wyd::pathOfLine(folder, QStringLiteral(":a.wyd")),
+              folder + QStringLiteral("/:a.wyd"));
 }
 
 class Commands : public ::testing::Test {
