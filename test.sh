@@ -12,6 +12,7 @@ case ${1:-} in
 esac
 install_missing "${build_packages[@]}" "${run_packages[@]}" "${test_packages[@]}"
 export CTEST_OUTPUT_ON_FAILURE=1
+jobs=$(($(nproc) + 1)) # a test on a screen mostly waits
 
 step "Formatting and scripts"
 tools/lint.sh --quick
@@ -20,12 +21,12 @@ tools/lint.sh --quick
 cmake --preset release -DFERNA_TESTS=ON -DFERNA_BENCH=ON >/dev/null
 build_preset release
 step "Testing build/release"
-ctest --test-dir build/release -j2
+ctest --test-dir build/release -j"$jobs"
 
 build_preset asan
 step "Testing build/asan"
 export LSAN_OPTIONS=suppressions=$PWD/tests/leaks_of_libraries.supp:print_suppressions=0
-ctest --test-dir build/asan -j2 -LE e2e
+ctest --test-dir build/asan -j"$jobs" -LE e2e
 step "All tests passed"
 
 [[ ${1:-} == --long ]] || exit 0
