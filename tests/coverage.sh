@@ -29,5 +29,5 @@ for test in "${tests[@]}"; do
 done
 llvm-cov-14 export "${objects[@]}" -instr-profile=$build/tests.profdata \
     -ignore-filename-regex='/tests/|^/usr/' >$build/branches.json
-python3 tests/coverage/branches.py $build/branches.json tests/coverage/unreached.txt \
+/usr/bin/python3 tests/coverage/branches.py $build/branches.json tests/coverage/unreached.txt \
     analysis plate statics equilibrium notes utilisation

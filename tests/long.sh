@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # What takes its time, behind ./test.sh: a search that takes a hundred thousand tasks, the equilibrium
 # of two million loads, five hundred kills of the keeping of tasks, the thread sanitizer, ten minutes
-# of the soak of tasks, three hundred rounds of the forms, a minute of each fuzzer, five hundred
-# mutants, the pictures of the guide, the package on a fresh Debian 12, and both commands of the
-# README there (as root or by sudo).
+# of the soak of tasks, three hundred rounds of the forms, a minute of each fuzzer, the branches of the
+# rooms that judge a base, five hundred mutants of them, the pictures of the guide, the package on a
+# fresh Debian 12, and both commands of the README there (as root or by sudo).
 set -euo pipefail
 cd "$(dirname "$(readlink -f "$0")")/.."
 source tools/setup.sh
@@ -24,6 +24,7 @@ FERNA_ROUNDS=300 build/release/tests/soak_forms 2>/dev/null
 
 fuzz/run.sh 60
 
+tests/coverage.sh
 tests/mutants.py
 
 python3 tests/e2e/guide_pictures_test.py . build/release/bin

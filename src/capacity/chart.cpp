@@ -105,7 +105,7 @@ int pointAt(const QRectF& place, const Chart& chart, qreal letter, QPointF at) {
     return found;
 }
 
-pages::Picture pictureOf(const Chart& chart) {
+pages::DrawnPicture pictureOf(const Chart& chart) {
     constexpr qreal letter = 2.6 * drawing::unitsPerMm;
     return {titleOf(chart), QSizeF(160, 130), [chart](QPainter& painter, const QRectF& place) {
                 drawChart(painter, place, chart, letter);

@@ -75,6 +75,6 @@ void drawChart(QPainter& painter, const QRectF& place, const Chart& chart, qreal
 int pointAt(const QRectF& place, const Chart& chart, qreal letter, QPointF at);
 
 /// The chart as a file, 160 x 130 mm.
-pages::Picture pictureOf(const Chart& chart);
+pages::DrawnPicture pictureOf(const Chart& chart);
 
 } // namespace ferna

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "runtime/lengths.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -26,7 +28,7 @@ double projectLetters(QStringView name);
 
 /// Millimetres of letter height in points.
 inline constexpr double points(double mm) {
-    return mm * 72 / 25.4;
+    return mm * pointsPerInch / mmPerInch;
 }
 
 /// What is to be said beside a field with such a name as it is typed (Polish); empty where it gets

@@ -1,6 +1,7 @@
 #include "editable/docx_parts.h"
 #include "editable/editable_report.h"
 #include "package/package.h"
+#include "runtime/lengths.h"
 
 #include <cmath>
 
@@ -10,7 +11,7 @@ using namespace package;
 
 namespace {
 
-constexpr double twipsPerMm = 1440 / 25.4;
+constexpr double twipsPerMm = 20 * pointsPerInch / mmPerInch;
 constexpr double emuPerMm = 36000;
 
 QString twips(double mm) {
@@ -40,9 +41,9 @@ const char* styleId(Style style) {
 }
 
 /// Writes the flow of a document.
-class Body {
+class DocxBody {
 public:
-    explicit Body(const Document& document) : document_(document) {}
+    explicit DocxBody(const Document& document) : document_(document) {}
 
     QByteArray content() {
         xml_.element("w:document",
@@ -244,7 +245,7 @@ QByteArray docxFile(const Document& document) {
     std::vector<Part> parts{
         {QStringLiteral("[Content_Types].xml"), docx::contentTypes()},
         {QStringLiteral("_rels/.rels"), docx::packageRelations()},
-        {QStringLiteral("word/document.xml"), Body(document).content()},
+        {QStringLiteral("word/document.xml"), DocxBody(document).content()},
         {QStringLiteral("word/_rels/document.xml.rels"), docx::documentRelations(count)},
         {QStringLiteral("word/styles.xml"), docx::styles(document)},
         {QStringLiteral("word/header1.xml"), docx::header(document)},

@@ -43,9 +43,9 @@ QString pictureName(int number) {
 }
 
 /// Writes the flow of a document.
-class Body {
+class OdtBody {
 public:
-    explicit Body(const Document& document) : document_(document) {}
+    explicit OdtBody(const Document& document) : document_(document) {}
 
     QByteArray content() {
         xml_.element("office:document-content", contentNames, [&] {
@@ -300,7 +300,7 @@ QByteArray odtFile(const Document& document) {
                     {pictureName(static_cast<int>(pictures.size()) + 1), image.png, true});
     std::vector<Part> parts{
         {QStringLiteral("mimetype"), odt::mimeType.toLatin1(), true}, // first, readable as it lies
-        {QStringLiteral("content.xml"), Body(document).content()},
+        {QStringLiteral("content.xml"), OdtBody(document).content()},
         {QStringLiteral("styles.xml"), odt::styles(document)},
         {QStringLiteral("meta.xml"), meta(document)},
         {QStringLiteral("META-INF/manifest.xml"), manifest(static_cast<int>(pictures.size()))},

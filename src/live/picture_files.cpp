@@ -1,5 +1,6 @@
 #include "live/picture_files.h"
 
+#include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
 
 #include <QBuffer>
@@ -16,7 +17,6 @@ namespace ferna::live {
 namespace {
 
 constexpr double unitsPerInch = 96;
-constexpr double mmPerInch = 25.4;
 
 [[noreturn]] void cannotDraw(const char* format) {
     throw RunTimeError(

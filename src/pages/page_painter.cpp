@@ -8,17 +8,17 @@ namespace ferna::pages {
 
 namespace {
 
-QPointF units(QPointF mm) {
+QPointF inUnits(QPointF mm) {
     return (mm + frameCorner) * drawing::unitsPerMm;
 }
 
 void stroke(QPainter& painter, const QLineF& line, double width, Qt::PenCapStyle cap) {
     painter.setPen(QPen(Qt::black, width * drawing::unitsPerMm, Qt::SolidLine, cap));
-    painter.drawLine(units(line.p1()), units(line.p2()));
+    painter.drawLine(inUnits(line.p1()), inUnits(line.p2()));
 }
 
 void paintPicture(QPainter& painter, const Picture& picture) {
-    const QRectF target(units(picture.rect.topLeft()), units(picture.rect.bottomRight()));
+    const QRectF target(inUnits(picture.rect.topLeft()), inUnits(picture.rect.bottomRight()));
     if (picture.outlines.empty()) {
         drawing::drawPicture(painter, target, picture.image);
         return;
@@ -40,7 +40,7 @@ void paintPage(QPainter& painter, const Page& page) {
     for (const Text& text : page.texts) {
         painter.setPen(Qt::black);
         painter.setFont(drawing::fontOf(text.height, text.weight));
-        painter.drawText(units(text.baseline), text.text);
+        painter.drawText(inUnits(text.baseline), text.text);
         if (text.underline)
             stroke(painter, text.underlineRule(), text.underlineWidthMm(), Qt::FlatCap);
     }

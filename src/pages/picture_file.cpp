@@ -1,6 +1,7 @@
 #include "pages/picture_file.h"
 
 #include "pages/drawing.h"
+#include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
 #include "runtime/saved_file.h"
 
@@ -17,14 +18,13 @@ namespace ferna::pages {
 
 namespace {
 
-constexpr double mmPerInch = 25.4;
 constexpr int unitsPerInch = static_cast<int>(mmPerInch * drawing::unitsPerMm);
 
-QSize unitsOf(const Picture& picture) {
+QSize unitsOf(const DrawnPicture& picture) {
     return (picture.size * drawing::unitsPerMm).toSize();
 }
 
-void drawOn(QPaintDevice& device, const Picture& picture, double scale) {
+void drawOn(QPaintDevice& device, const DrawnPicture& picture, double scale) {
     QPainter painter;
     if (!painter.begin(&device))
         throw RunTimeError(error::DeviceIO, QStringLiteral("nie można narysować rysunku"));
@@ -35,7 +35,7 @@ void drawOn(QPaintDevice& device, const Picture& picture, double scale) {
     picture.draw(painter, place);
 }
 
-void png(const Picture& picture, QIODevice& file) {
+void png(const DrawnPicture& picture, QIODevice& file) {
     constexpr double dotsPerMm = 300 / mmPerInch;
     QImage image((picture.size * dotsPerMm).toSize(), QImage::Format_RGB32);
     image.setDotsPerMeterX(static_cast<int>(std::lround(dotsPerMm * 1000)));
@@ -45,7 +45,7 @@ void png(const Picture& picture, QIODevice& file) {
     image.save(&file, "PNG");
 }
 
-void svg(const Picture& picture, QIODevice& file) {
+void svg(const DrawnPicture& picture, QIODevice& file) {
     QSvgGenerator generator;
     generator.setOutputDevice(&file);
     generator.setResolution(unitsPerInch);
@@ -55,7 +55,7 @@ void svg(const Picture& picture, QIODevice& file) {
     drawOn(generator, picture, 1);
 }
 
-void pdf(const Picture& picture, QIODevice& file) {
+void pdf(const DrawnPicture& picture, QIODevice& file) {
     QPdfWriter writer(&file);
     writer.setPageLayout(QPageLayout(QPageSize(picture.size, QPageSize::Millimeter, picture.title),
                                      QPageLayout::Portrait, QMarginsF()));
@@ -67,7 +67,7 @@ void pdf(const Picture& picture, QIODevice& file) {
 
 } // namespace
 
-QByteArray bytesOf(const Picture& picture, const QString& ending) {
+QByteArray bytesOf(const DrawnPicture& picture, const QString& ending) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
@@ -88,7 +88,7 @@ bool isPictureFile(const QString& path) {
     return endings.contains(QFileInfo(path).suffix().toLower());
 }
 
-void savePicture(const Picture& picture, const QString& path) {
+void savePicture(const DrawnPicture& picture, const QString& path) {
     writeFileWhole(path, bytesOf(picture, QFileInfo(path).suffix().toLower()));
 }
 

@@ -32,15 +32,15 @@ constexpr std::array profiles{
     ColumnProfile{"HEB 600", 600, 300, 9.1},
 };
 
-constexpr FragmentNode onFourEdges[] = {{0.5, 0.354}, {0.6, 0.414}, {0.7, 0.466},
-                                        {0.8, 0.506}, {0.9, 0.537}, {1.0, 0.556}};
+constexpr FragmentNode nodesOnFourEdges[] = {{0.5, 0.354}, {0.6, 0.414}, {0.7, 0.466},
+                                             {0.8, 0.506}, {0.9, 0.537}, {1.0, 0.556}};
 
-constexpr FragmentNode onThreeEdges[] = {{0.3, 0.488}, {0.4, 0.595}, {0.5, 0.661}, {0.6, 0.697},
-                                         {0.7, 0.714}, {0.8, 0.72},  {0.9, 0.721}, {1.0, 0.719},
-                                         {1.1, 0.718}, {1.2, 0.714}, {1.5, 0.711}, {2.0, 0.707}};
+constexpr FragmentNode nodesOnThreeEdges[] = {
+    {0.3, 0.488}, {0.4, 0.595}, {0.5, 0.661}, {0.6, 0.697}, {0.7, 0.714}, {0.8, 0.72},
+    {0.9, 0.721}, {1.0, 0.719}, {1.1, 0.718}, {1.2, 0.714}, {1.5, 0.711}, {2.0, 0.707}};
 
-constexpr FragmentNode onTwoEdges[] = {{0.5, 0.795}, {0.6, 0.914}, {0.7, 1.008},
-                                       {0.8, 1.084}, {0.9, 1.139}, {1.0, 1.187}};
+constexpr FragmentNode nodesOnTwoEdges[] = {{0.5, 0.795}, {0.6, 0.914}, {0.7, 1.008},
+                                            {0.8, 1.084}, {0.9, 1.139}, {1.0, 1.187}};
 
 template <typename Rows>
 const auto& row(const Rows& rows, Integer number) {
@@ -83,11 +83,11 @@ const ColumnProfile& columnProfile(Integer Nr_profilu) {
 std::span<const FragmentNode> fragmentNodes(int check) {
     switch (check) {
     case 3:
-        return onFourEdges;
+        return nodesOnFourEdges;
     case 5:
-        return onThreeEdges;
+        return nodesOnThreeEdges;
     case 6:
-        return onTwoEdges;
+        return nodesOnTwoEdges;
     default:
         throw RunTimeError(error::Subscript);
     }

@@ -11,13 +11,14 @@ namespace ferna::renderer {
 
 namespace {
 
-constexpr double tolerance = 0.01;   // mm
-constexpr double widestLineStep = 6; // mm; lines further apart are two paragraphs
-constexpr double lastLines = 2;      // mm above a picture's end where a new paragraph leaves it
+constexpr double touchTolerance = 0.01; // mm
+constexpr double widestLineStep = 6;    // mm; lines further apart are two paragraphs
+constexpr double lastLinesHeight = 2;   // mm above a picture's end where a new paragraph leaves it
 
 bool sideBySide(const QRectF& a, const QRectF& b) {
-    const bool level = qMin(a.bottom(), b.bottom()) - qMax(a.top(), b.top()) > tolerance;
-    const bool apart = a.right() <= b.left() + tolerance || b.right() <= a.left() + tolerance;
+    const bool level = qMin(a.bottom(), b.bottom()) - qMax(a.top(), b.top()) > touchTolerance;
+    const bool apart =
+        a.right() <= b.left() + touchTolerance || b.right() <= a.left() + touchTolerance;
     return level && apart;
 }
 
@@ -108,8 +109,9 @@ private:
         std::optional<std::size_t> found;
         for (std::size_t i = 0; i < segment_.blocks.size(); ++i) {
             const QRectF& rect = segment_.blocks[i].rect;
-            const bool beside = rect.top() <= y + tolerance && y <= rect.bottom() + tolerance;
-            const bool leaves = y > rect.bottom() - lastLines && startsParagraph(index);
+            const bool beside =
+                rect.top() <= y + touchTolerance && y <= rect.bottom() + touchTolerance;
+            const bool leaves = y > rect.bottom() - lastLinesHeight && startsParagraph(index);
             if (beside && !leaves && (!found || rect.top() > segment_.blocks[*found].rect.top()))
                 found = i;
         }

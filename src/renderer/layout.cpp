@@ -3,6 +3,7 @@
 #include "pages/text_measure.h"
 #include "renderer/fitting.h"
 #include "renderer/page_flow.h"
+#include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
 
 #include <QDir>
@@ -11,7 +12,6 @@ namespace ferna::renderer {
 
 namespace {
 
-constexpr double mmPerPoint = 25.4 / 72;
 constexpr double projectLine = 19; // mm, where the frame has the project's name
 
 /// The page-number text with the page's own number.

@@ -4,6 +4,7 @@
 #include "pages/emf_writer.h"
 #include "pages/page_painter.h"
 #include "renderer/paper.h"
+#include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
 
@@ -20,8 +21,6 @@
 namespace ferna::renderer {
 
 namespace {
-
-constexpr double mmPerInch = 25.4;
 
 /// Title of a document: what it is, and of which project.
 QString documentTitle(const pages::Report& report) {

@@ -9,14 +9,14 @@ namespace ferna::renderer {
 
 namespace {
 
-constexpr double tolerance = 0.005; // mm, of sums of decimals
-constexpr double clearance = 1;     // mm between what was pushed apart
+constexpr double sumTolerance = 0.005; // mm, of sums of decimals
+constexpr double clearance = 1;        // mm between what was pushed apart
 
 bool tooLow(const TextLine& line) {
-    return line.y >= noLineFrom - tolerance;
+    return line.y >= noLineFrom - sumTolerance;
 }
 bool tooLow(const Block& block) {
-    return block.rect.bottom() > noPicturePast + tolerance;
+    return block.rect.bottom() > noPicturePast + sumTolerance;
 }
 
 bool breaksRule(const Group& group) {

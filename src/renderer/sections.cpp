@@ -12,10 +12,10 @@ namespace {
 constexpr double level = 0.05;          // mm between a title and the top of its sketch
 constexpr double shifted = 2;           // mm that a sketch may have made room for a wide heading
 constexpr std::size_t linesOfTitle = 5; // that stay with a case's title, the title included
-constexpr std::size_t lastLines = 3;    // of a case that stay together
-constexpr std::size_t fewLines = 2;     // of a paragraph that do not stand alone
-constexpr std::size_t shortRun = 6;     // lines that are not divided at all
-constexpr std::size_t shortRest = 4;    // lines of the report's end that go with their sketch
+constexpr std::size_t linesKeptTogether = 3; // of a case that stay together
+constexpr std::size_t fewLines = 2;          // of a paragraph that do not stand alone
+constexpr std::size_t shortRun = 6;          // lines that are not divided at all
+constexpr std::size_t shortRest = 4;         // lines of the report's end that go with their sketch
 
 QString wordsOf(const Group& group) {
     return group.lines.empty() ? QString() : group.lines.front().words();
@@ -148,7 +148,7 @@ private:
         const std::size_t count = section.groups.size();
         for (std::size_t i = 1; i < count; ++i)
             if (isAnchorLine(section.groups[i]) && linesOf(section.groups, 0, i) >= titleLines
-                && linesOf(section.groups, i, count) >= lastLines)
+                && linesOf(section.groups, i, count) >= linesKeptTogether)
                 section.breaks.insert(i);
         sections_.push_back(std::move(section));
     }

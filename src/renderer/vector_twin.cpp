@@ -1,6 +1,7 @@
 #include "renderer/vector_twin.h"
 
 #include "pages/bitmap_file.h"
+#include "runtime/lengths.h"
 #include "runtime/picture_twin.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
@@ -94,7 +95,6 @@ public:
 protected:
     int metric(PaintDeviceMetric metric) const override {
         constexpr int dpi = 96;
-        constexpr double mmPerInch = 25.4;
         switch (metric) {
         case PdmWidth:
             return units_.width();

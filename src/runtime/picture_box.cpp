@@ -1,5 +1,6 @@
 #include "runtime/picture_box.h"
 
+#include "runtime/lengths.h"
 #include "runtime/picture_twin.h"
 #include "runtime/run_time_error.h"
 #include "runtime/text_file.h"
@@ -15,7 +16,6 @@ namespace ferna {
 namespace {
 
 constexpr qreal printDotsPerInch = 600;
-constexpr qreal millimetresPerInch = 25.4;
 
 QFont pictureFont(int letterHeight, bool bold) {
     QFont font(QStringLiteral("Liberation Sans"));
@@ -135,8 +135,7 @@ QImage PictureBox::image() {
 void PictureBox::saveBitmap(const QString& path, qreal printedWidth) {
     QImage picture = image();
     constexpr qreal pixelsPerInch = 96;
-    const qreal width =
-        printedWidth > 0 ? printedWidth : size_.width() / pixelsPerInch * millimetresPerInch;
+    const qreal width = printedWidth > 0 ? printedWidth : size_.width() / pixelsPerInch * mmPerInch;
     const int dotsPerMetre = qRound(picture.width() / width * 1000);
     picture.setDotsPerMeterX(dotsPerMetre);
     picture.setDotsPerMeterY(dotsPerMetre);
@@ -150,7 +149,7 @@ void PictureBox::saveBitmap(const QString& path, qreal printedWidth) {
 }
 
 qreal printRatio(int widthPixels, qreal millimetres) {
-    return std::ceil(millimetres / millimetresPerInch * printDotsPerInch / widthPixels);
+    return std::ceil(millimetres / mmPerInch * printDotsPerInch / widthPixels);
 }
 
 } // namespace ferna

@@ -9,8 +9,6 @@ namespace ferna::sheet {
 
 namespace {
 
-const QString mm = QStringLiteral("mm");
-
 /// The thickness of base plate and grout as the last line of the anchor's block holds it.
 std::optional<int> combinedThickness(const Stan& stan) {
     const QString& line = stan.raport.Wiersze_kotwy(stan.raport.Liczba_wierszy_kotwy);
@@ -32,10 +30,10 @@ public:
     bool hooked() const { return stan_.raport.Typ_szkicu_kotwy == 1; }
 
     Equations all() {
-        d_number_ = given("d", "d", d_, mm, "anchor.d");
+        d_number_ = given("d", "d", d_, millimetres, "anchor.d");
         addCapacity();
-        g_number_ = given("g", "g", g_, mm, "anchor.g");
-        thread_ = given("Ld", "L_d", row_.Ld, mm, "anchor.thread");
+        g_number_ = given("g", "g", g_, millimetres, "anchor.g");
+        thread_ = given("Ld", "L_d", row_.Ld, millimetres, "anchor.thread");
         if (hooked())
             addHooked();
         else
@@ -68,7 +66,7 @@ private:
                              const char* meaning) {
         const Quantity* const made =
             maker_.computed(0, QStringLiteral("k_") + QString::fromLatin1(name),
-                            QString::fromUtf8(symbol), mm, std::move(formula), places(0));
+                            QString::fromUtf8(symbol), millimetres, std::move(formula), places(0));
         rows_.rows.push_back({made, nullptr, maker_.text()(QString::fromLatin1(meaning))});
         return made;
     }
@@ -105,7 +103,7 @@ private:
             Lk = computed("Lk", "L_k", anchorageOfAreaClause,
                           {k, maker_.at(0, QStringLiteral("k_A"))}, "anchor.anchorage");
         } else {
-            Lk = given("Lk", "L_k", row_.Lk, mm, "anchor.catalogue");
+            Lk = given("Lk", "L_k", row_.Lk, millimetres, "anchor.catalogue");
         }
         const Quantity* const Lo =
             computed("Lo", "L_o", straightPartClause, {Lk, g_number_, thread_}, "anchor.straight");
@@ -114,7 +112,8 @@ private:
 
     void addPlated() {
         constexpr Integer leastWithRib = 48; // mm
-        const Quantity* const base = given("Lp0", "L_p0", row_.Lp0, mm, "anchor.catalogue");
+        const Quantity* const base =
+            given("Lp0", "L_p0", row_.Lp0, millimetres, "anchor.catalogue");
         const Quantity* const factor =
             given("omega", "ω", stan_.materialy.Wsp_dlugosci, {}, "anchor.omega");
         // The nearest whole number.
@@ -124,10 +123,10 @@ private:
                                 {sumOf({formulaOf(anchorageOfBaseClause, std::vector{factor, base}),
                                         number(QStringLiteral("0.5"))})}),
                      "anchor.anchorage");
-        given("a", "a", row_.a, mm, "anchor.plateSide");
-        const Quantity* const t = given("t", "t", row_.t, mm, "anchor.plateThickness");
+        given("a", "a", row_.a, millimetres, "anchor.plateSide");
+        const Quantity* const t = given("t", "t", row_.t, millimetres, "anchor.plateThickness");
         if (d_ >= leastWithRib)
-            given("L1", "L_1", row_.L1, mm, "anchor.rib");
+            given("L1", "L_1", row_.L1, millimetres, "anchor.rib");
         const Quantity* const Lo =
             computed("Lo", "L_o", straightPartClause, {Lp, g_number_, thread_}, "anchor.straight");
         computed("Lc", "L_c",

@@ -6,8 +6,6 @@ namespace ferna::sheet {
 
 namespace {
 
-const QString MPa = QStringLiteral("MPa");
-
 /// Stress, force and share of the strength of one anchor on one side.
 struct Stressed {
     const Quantity* stress;
@@ -22,7 +20,7 @@ const Quantity* stressOf(Maker& maker, const CaseSheet& one, int anchor, Side si
     const QString symbol = symbolOf(QStringLiteral("σ"), i, side);
     if (side == Side::Search) {
         const double told = one.told->sigmaAnchor.at(static_cast<std::size_t>(anchor - 1));
-        return maker.given(c, id, symbol, told, MPa, {.told = fixedSingle(CSng(told), 2)});
+        return maker.given(c, id, symbol, told, megapascals, {.told = fixedSingle(CSng(told), 2)});
     }
     return maker.computed(c, id, symbol, anchorOfPlaneClause,
                           {maker.at(0, QStringLiteral("n")), maker.at(c, QStringLiteral("s0_e")),

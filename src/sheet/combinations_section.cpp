@@ -12,26 +12,27 @@ using combinations::DigestRow;
 using combinations::RowNumber;
 
 /// How a check is called: in identifiers, in symbols, in the texts.
-struct CheckName {
+struct UsedCheckName {
     Check check;
     const char* id;
     const char* text;
 };
-constexpr std::array<CheckName, 4> checkNames{{{Check::Concrete, "b", "summary.concrete"},
-                                               {Check::Tension, "t", "summary.tension"},
-                                               {Check::Shear, "v", "summary.shear"},
-                                               {Check::Interaction, "i", "summary.interaction"}}};
+constexpr std::array<UsedCheckName, 4> usedCheckNames{
+    {{Check::Concrete, "b", "summary.concrete"},
+     {Check::Tension, "t", "summary.tension"},
+     {Check::Shear, "v", "summary.shear"},
+     {Check::Interaction, "i", "summary.interaction"}}};
 
-const CheckName& nameOf(Check check) {
-    return *std::find_if(checkNames.begin(), checkNames.end(),
-                         [check](const CheckName& name) { return name.check == check; });
+const UsedCheckName& nameOf(Check check) {
+    return *std::find_if(usedCheckNames.begin(), usedCheckNames.end(),
+                         [check](const UsedCheckName& name) { return name.check == check; });
 }
 
 QString text(const Maker& maker, const char* key) {
     return maker.text()(QStringLiteral("combinations.") + QLatin1String(key));
 }
 
-QString symbolOfUse(const CheckName& check, const QString& index) {
+QString symbolOfUse(const UsedCheckName& check, const QString& index) {
     return QStringLiteral("η_%1,%2").arg(QLatin1String(check.id), index);
 }
 
@@ -49,7 +50,7 @@ std::vector<Numbers> takenUses(Maker& maker, const Digest& digest) {
         const QString place = QString::number(uses.size() + 1);
         Numbers ofRow;
         for (const Digest::Governing& one : digest.governing) {
-            const CheckName& check = nameOf(one.check);
+            const UsedCheckName& check = nameOf(one.check);
             const double use = combinations::useOf(row.used, one.check);
             ofRow.push_back(std::isfinite(use) ? maker.given(
                                 0, QStringLiteral("k%1_").arg(place) + QLatin1String(check.id),
@@ -66,7 +67,7 @@ std::vector<Numbers> takenUses(Maker& maker, const Digest& digest) {
 const Quantity* envelope(Maker& maker, const Digest::Governing& one, const Numbers& taken) {
     if (!std::isfinite(one.envelope))
         return nullptr;
-    const CheckName& check = nameOf(one.check);
+    const UsedCheckName& check = nameOf(one.check);
     const QString id = QStringLiteral("k_max_") + QLatin1String(check.id);
     const QString symbol = symbolOfUse(check, QStringLiteral("max"));
     const bool isHeld = std::any_of(taken.begin(), taken.end(), [&](const Quantity* use) {

@@ -14,12 +14,10 @@ double typed(const QString& field) {
     }
 }
 
-const QString mm = QStringLiteral("mm");
-
 void makePlate(Maker& maker) {
     const InputFields& fields = maker.entered().fields;
-    maker.given(0, QStringLiteral("L"), QStringLiteral("L"), typed(fields.Text3), mm);
-    maker.given(0, QStringLiteral("B"), QStringLiteral("B"), typed(fields.Text4), mm);
+    maker.given(0, QStringLiteral("L"), QStringLiteral("L"), typed(fields.Text3), millimetres);
+    maker.given(0, QStringLiteral("B"), QStringLiteral("B"), typed(fields.Text4), millimetres);
 }
 
 /// A length along an edge of the plate: how far an anchor's axis is from the nearest one.
@@ -42,11 +40,11 @@ Row anchorRow(Maker& maker, int anchor) {
         return static_cast<Single>(whole / 10.0) == cm ? whole : tenths;
     };
     const Quantity* const x = maker.given(0, QStringLiteral("x_") + i, QStringLiteral("x_") + i,
-                                          place(plate.X_kotwy(anchor)), mm);
+                                          place(plate.X_kotwy(anchor)), millimetres);
     const Quantity* const y = maker.given(0, QStringLiteral("y_") + i, QStringLiteral("y_") + i,
-                                          place(plate.Y_kotwy(anchor)), mm);
+                                          place(plate.Y_kotwy(anchor)), millimetres);
     const Quantity* const d = maker.given(0, QStringLiteral("d_") + i, QStringLiteral("d_") + i,
-                                          plate.Fi_kotwy(anchor), mm);
+                                          plate.Fi_kotwy(anchor), millimetres);
     Row row{cell(i), cell(x), cell(y), cell(d), cell(edgeDistance(maker, i, x, y))};
     if (const auto area = coreArea(plate.Fi_kotwy(anchor)))
         row.push_back(cell(maker.given(0, QStringLiteral("A_") + i, QStringLiteral("A_") + i, *area,

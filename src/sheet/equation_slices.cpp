@@ -14,7 +14,7 @@ const TextStyle resultStyle{.size = points(8.4), .bold = true};
 const TextStyle unitStyle{.size = points(8.4)};
 const TextStyle remarkStyle{.size = points(7.2)};
 constexpr double columnGap = 2.2 * perMm;
-constexpr double rowGap = 0.75 * perMm;
+constexpr double equationGap = 0.75 * perMm;
 
 /// A result with its unit.
 struct Result {
@@ -122,7 +122,7 @@ public:
         const double base = std::max(row.way.ascent, 2.5 * perMm);
         const double line = std::max(letters, base + row.way.descent) + secondLine;
         Slice made;
-        made.before = rowGap;
+        made.before = equationGap;
         made.height = below_ ? line + remark.height() : std::max(line, remark.height());
         made.draw = [*this, row, remark, base, line](QPainter& painter, QPointF at) {
             row.way.draw(painter, at + QPointF(0, base));
@@ -158,7 +158,7 @@ public:
         const TextBlock exact(names.exact, style);
         Slice made;
         made.height = search.height();
-        made.before = rowGap;
+        made.before = equationGap;
         made.withNext = true;
         made.draw = [*this, search, exact](QPainter& painter, QPointF at) {
             const double x = way_ + columnGap;

@@ -7,8 +7,6 @@ namespace ferna::sheet {
 
 namespace {
 
-const QString MPa = QStringLiteral("MPa");
-
 QString concreteNorm(const SheetInput& input) {
     return input.stan.opcje.Nr_normy == 0 || input.stan.opcje.Nr_betonu == 5
                ? QStringLiteral("PN-84/B-03264")
@@ -37,8 +35,8 @@ Integer largestDiameter(const Plyta_i_kotwy& plate) {
 void property(Maker& maker, Equations& rows, const char* id, const QString& symbol, double value,
               const char* meaning, const QString& source) {
     rows.rows.push_back(
-        {maker.given(0, QString::fromLatin1(id), symbol, value, MPa, digits(7), source), nullptr,
-         maker.text()(QString::fromLatin1(meaning))});
+        {maker.given(0, QString::fromLatin1(id), symbol, value, megapascals, digits(7), source),
+         nullptr, maker.text()(QString::fromLatin1(meaning))});
 }
 
 void ratio(Maker& maker, Equations& rows) {

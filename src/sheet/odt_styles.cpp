@@ -35,7 +35,7 @@ constexpr std::array paragraphStyles{
     ParagraphStyle{"Narrow_20_Cell", "Narrow Cell", 7, false, 0, 0, false, 0, nullptr, nullptr},
 };
 
-QString points(double value) {
+QString pt(double value) {
     return decimal(value) + QStringLiteral("pt");
 }
 
@@ -49,7 +49,7 @@ void defaultStyle(Xml& xml, const Sheet& sheet) {
                     {{"fo:orphans", QStringLiteral("2")}, {"fo:widows", QStringLiteral("2")}});
         xml.element("style:text-properties",
                     {{"style:font-name", QStringLiteral("Liberation Sans")},
-                     {"fo:font-size", points(9)},
+                     {"fo:font-size", pt(9)},
                      {"fo:language", sheet.language},
                      {"fo:country",
                       sheet.language == u"en" ? QStringLiteral("GB") : sheet.language.toUpper()}});
@@ -67,20 +67,20 @@ void namedStyle(Xml& xml, const ParagraphStyle& style) {
     if (style.outline != nullptr)
         attributes.push_back({"style:default-outline-level", latin(style.outline)});
     xml.element("style:style", attributes, [&] {
-        package::Xml::Attributes paragraph{{"fo:margin-top", points(style.above)},
-                                           {"fo:margin-bottom", points(style.below)},
-                                           {"fo:margin-left", points(style.indent)}};
+        package::Xml::Attributes paragraph{{"fo:margin-top", pt(style.above)},
+                                           {"fo:margin-bottom", pt(style.below)},
+                                           {"fo:margin-left", pt(style.indent)}};
         if (style.keepsWithNext)
             paragraph.push_back({"fo:keep-with-next", QStringLiteral("always")});
         if (style.barColour != nullptr) {
             paragraph.push_back(
                 {"fo:border-left", QStringLiteral("2pt solid ") + latin(style.barColour)});
-            paragraph.push_back({"fo:padding-left", points(4)});
+            paragraph.push_back({"fo:padding-left", pt(4)});
         }
         xml.element("style:paragraph-properties", paragraph);
         xml.element(
             "style:text-properties",
-            {{"fo:font-size", points(style.size)},
+            {{"fo:font-size", pt(style.size)},
              {"fo:font-weight", style.bold ? QStringLiteral("bold") : QStringLiteral("normal")}});
     });
 }
@@ -88,22 +88,22 @@ void namedStyle(Xml& xml, const ParagraphStyle& style) {
 /// The style of the lines at the head and the foot of a page: what is said at the right stands
 /// behind a tabulator.
 void marginStyle(Xml& xml) {
-    xml.element(
-        "style:style",
-        {{"style:name", QStringLiteral("Margin")},
-         {"style:family", QStringLiteral("paragraph")},
-         {"style:parent-style-name", QStringLiteral("Standard")},
-         {"style:class", QStringLiteral("extra")}},
-        [&] {
-            xml.element("style:paragraph-properties", {}, [&] {
-                xml.element("style:tab-stops", {}, [&] {
-                    xml.element("style:tab-stop", {{"style:position", mm(textWidth)},
-                                                   {"style:type", QStringLiteral("right")}});
+    xml.element("style:style",
+                {{"style:name", QStringLiteral("Margin")},
+                 {"style:family", QStringLiteral("paragraph")},
+                 {"style:parent-style-name", QStringLiteral("Standard")},
+                 {"style:class", QStringLiteral("extra")}},
+                [&] {
+                    xml.element("style:paragraph-properties", {}, [&] {
+                        xml.element("style:tab-stops", {}, [&] {
+                            xml.element("style:tab-stop",
+                                        {{"style:position", mm(textWidth)},
+                                         {"style:type", QStringLiteral("right")}});
+                        });
+                    });
+                    xml.element("style:text-properties",
+                                {{"fo:font-size", pt(7)}, {"fo:color", QStringLiteral("#555555")}});
                 });
-            });
-            xml.element("style:text-properties",
-                        {{"fo:font-size", points(7)}, {"fo:color", QStringLiteral("#555555")}});
-        });
 }
 
 /// Letters within a paragraph.

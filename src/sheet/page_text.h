@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/lengths.h"
 #include "sheet/sheet.h"
 
 #include <QFont>
@@ -16,7 +17,6 @@ namespace ferna::sheet {
 inline constexpr double perMm = 100;
 /// The height of letters of so many points.
 constexpr double points(double count) {
-    constexpr double mmPerPoint = 25.4 / 72;
     return count * mmPerPoint * perMm;
 }
 

@@ -1,5 +1,7 @@
 #include "sheet/pages.h"
 
+#include "runtime/lengths.h"
+
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
@@ -101,7 +103,7 @@ void Pages::draw(QPainter& painter, int page) const {
 }
 
 QImage Pages::image(int page, double dotsPerInch) const {
-    const double scale = dotsPerInch / 25.4 / perMm;
+    const double scale = dotsPerInch / mmPerInch / perMm;
     QImage image((QSizeF(paperWidth, paperHeight) * scale).toSize(), QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -123,7 +125,7 @@ QByteArray Pages::pdf() const {
     writer.setTitle(sheet_.title);
     writer.setCreator(sheet_.program);
     QPainter painter(&writer);
-    constexpr double scale = dotsPerInch / 25.4 / perMm;
+    constexpr double scale = dotsPerInch / mmPerInch / perMm;
     for (int page = 1; page <= count(); ++page) {
         if (page > 1)
             writer.newPage();

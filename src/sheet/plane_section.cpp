@@ -11,9 +11,7 @@ namespace ferna::sheet {
 
 namespace {
 
-const QString mm = QStringLiteral("mm");
-const QString MPa = QStringLiteral("MPa");
-const QString perMm = QStringLiteral("MPa/mm");
+const QString MPaPerMm = QStringLiteral("MPa/mm");
 
 /// The two ends of a neutral line, with its angle.
 void makeLine(Maker& maker, int c, Side side, const equilibrium::Segment& ends,
@@ -24,7 +22,7 @@ void makeLine(Maker& maker, int c, Side side, const equilibrium::Segment& ends,
     for (std::size_t i = 0; i < values.size(); ++i) {
         const QString name = QString::fromLatin1(values[i].first);
         made.push_back(maker.given(c, sided(name, side), symbolOf(name.left(1), name.mid(1), side),
-                                   values[i].second, mm, shown[i]));
+                                   values[i].second, millimetres, shown[i]));
     }
     maker.computed(c, sided(QStringLiteral("phi"), side), symbolOf(QStringLiteral("φ"), {}, side),
                    lineAngleClause, made, places(2));
@@ -42,8 +40,8 @@ void makeToldLine(Maker& maker, const CaseSheet& one) {
              {{{10.0 * static_cast<double>(ends[0]), 10.0 * static_cast<double>(ends[1])},
                {10.0 * static_cast<double>(ends[2]), 10.0 * static_cast<double>(ends[3])}}},
              shown);
-    maker.given(c, QStringLiteral("sigma_b_s"), QStringLiteral("σ_b"), one.told->sigmaConcrete, MPa,
-                {.told = fixedSingle(CSng(one.told->sigmaConcrete), 2)});
+    maker.given(c, QStringLiteral("sigma_b_s"), QStringLiteral("σ_b"), one.told->sigmaConcrete,
+                megapascals, {.told = fixedSingle(CSng(one.told->sigmaConcrete), 2)});
 }
 
 /// The plane through the told line that has the told stress at the pressed corner.
@@ -97,9 +95,9 @@ void makeExactPlane(Maker& maker, const CaseSheet& one) {
         return maker.given(c, QString::fromLatin1(id), QString::fromUtf8(symbol), value, unit,
                            none ? Shown{.told = QStringLiteral("0")} : digits(6));
     };
-    const Quantity* const s0 = coefficient("s0_e", "s*_0", plane.s0, MPa);
-    const Quantity* const sx = coefficient("sx_e", "s*_x", plane.sx, perMm);
-    const Quantity* const sy = coefficient("sy_e", "s*_y", plane.sy, perMm);
+    const Quantity* const s0 = coefficient("s0_e", "s*_0", plane.s0, megapascals);
+    const Quantity* const sx = coefficient("sx_e", "s*_x", plane.sx, MPaPerMm);
+    const Quantity* const sy = coefficient("sy_e", "s*_y", plane.sy, MPaPerMm);
     maker.computed(c, QStringLiteral("sigma_b_e"), QStringLiteral("σ*_b"), largestPressureClause,
                    {s0, sx, sy, maker.at(0, QStringLiteral("L")), maker.at(0, QStringLiteral("B"))},
                    places(2));

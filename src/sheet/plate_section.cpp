@@ -10,21 +10,21 @@ namespace ferna::sheet {
 namespace {
 
 /// A check as its command calls it, and the file of its sketch.
-struct CheckName {
+struct PlateCheckName {
     const char* name;
     const char* sketch;
 };
-constexpr std::array<CheckName, PlateChecks> checkNames{{{"1", "szkic1"},
-                                                         {"2", "szkic2"},
-                                                         {"3.1", "szkic31"},
-                                                         {"4", ""},
-                                                         {"3.2", "szkic32"},
-                                                         {"3.3", "szkic33"},
-                                                         {"5.1", "szkic51"},
-                                                         {"5.2", "szkic52"}}};
+constexpr std::array<PlateCheckName, PlateChecks> plateCheckNames{{{"1", "szkic1"},
+                                                                   {"2", "szkic2"},
+                                                                   {"3.1", "szkic31"},
+                                                                   {"4", ""},
+                                                                   {"3.2", "szkic32"},
+                                                                   {"3.3", "szkic33"},
+                                                                   {"5.1", "szkic51"},
+                                                                   {"5.2", "szkic52"}}};
 
-const CheckName& nameOf(int check) {
-    return checkNames.at(static_cast<std::size_t>(check - 1));
+const PlateCheckName& nameOf(int check) {
+    return plateCheckNames.at(static_cast<std::size_t>(check - 1));
 }
 
 /// One check of the plate: its numbers are told apart by its number in front.
@@ -252,7 +252,7 @@ bool wasEntered(const PlateInputs& in, int check) {
 
 void addCheck(Maker& maker, const notes::PlateFacts& facts, int check) {
     const Texts& text = maker.text();
-    const CheckName& name = nameOf(check);
+    const PlateCheckName& name = nameOf(check);
     maker.heading(3, text(QStringLiteral("plate.check"),
                           {QString::fromLatin1(name.name),
                            text(QStringLiteral("plate.fragment%1").arg(check))}));

@@ -8,6 +8,10 @@
 
 namespace ferna::sheet {
 
+/// Units that stand beside many numbers.
+inline const QString millimetres = QStringLiteral("mm");
+inline const QString megapascals = QStringLiteral("MPa");
+
 /// A number of the sheet: what it is called, what it is and, where it is computed, from what.
 struct Quantity {
     int caseNumber = 0; ///< 1..6; 0 for what belongs to all cases

@@ -9,7 +9,7 @@ namespace ferna::sheet {
 namespace {
 
 constexpr double padding = 0.8 * perMm;
-constexpr double rowGap = 0.32 * perMm;
+constexpr double tableRowGap = 0.32 * perMm;
 
 /// A table on its way onto the page.
 class TableSetter {
@@ -124,10 +124,11 @@ private:
             column += static_cast<std::size_t>(cell.span);
         }
         Slice made;
-        made.height = height + 2 * rowGap;
+        made.height = height + 2 * tableRowGap;
         made.draw = [cells = std::move(cells), height, head](QPainter& painter, QPointF at) {
             for (const Placed& cell : cells)
-                cell.draw(painter, at + QPointF(0, rowGap + (head ? height - cell.height : 0)));
+                cell.draw(painter,
+                          at + QPointF(0, tableRowGap + (head ? height - cell.height : 0)));
         };
         return made;
     }

@@ -237,6 +237,23 @@ TEST(Equilibrium, AValueThatIsNotFiniteIsAnOverflow) {
     EXPECT_EQ(errorNumberOf([&] { Rownowaga_c(line.s, inputOf(line.stan)); }), error::Overflow);
 }
 
+TEST(Equilibrium, AnOffsetOfTheConcreteThatIsNotFiniteIsAnOverflowToo) {
+    Line line(20, 15, Pi / 4, 5);
+    line.stan.obciazenia.Sila_N_kG(1) = 0; // no error, wherever the load stands
+    line.s.Ex = 1.7e308;
+    line.s.Ey = -1.7e308;
+    EXPECT_EQ(errorNumberOf([&] { Rownowaga_c(line.s, inputOf(line.stan)); }), error::Overflow);
+    EXPECT_EQ(line.s.Reszta_c, 0);
+    EXPECT_TRUE(std::isinf(line.s.Os_C));
+}
+
+TEST(Equilibrium, AnErrorAlongTheLineThatIsNotFiniteIsAnOverflow) {
+    Line line(20, 15, 0.8, 5);
+    line.s.Sila_C = 1e300;
+    line.s.Os_C = 1e9;
+    EXPECT_EQ(errorNumberOf([&] { Rownowaga_beta(line.s, inputOf(line.stan)); }), error::Overflow);
+}
+
 TEST(Equilibrium, CountsItsEvaluationsUpToTheLimit) {
     Line line(20, 15, 0.8, 5);
     line.s.Liczba_ocen = evaluationLimit - 1;

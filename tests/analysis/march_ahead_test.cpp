@@ -44,6 +44,15 @@ bool sameBits(Double one, Double other) {
            || std::bit_cast<std::uint64_t>(one) == std::bit_cast<std::uint64_t>(other);
 }
 
+/// The distance, next to this one, of a line whose crossings are there to the last bit.
+template <typename IsThere>
+Double distanceWhere(const LineAngle& line, Double near, IsThere isThere) {
+    for (Double c = near - 1e-12; c < near + 1e-12; c = std::nextafter(c, 1e9))
+        if (isThere(crossings(line, c)))
+            return c;
+    return std::nan("");
+}
+
 class RowOfErrors : public ::testing::TestWithParam<Instructions> {
 protected:
     void SetUp() override {
@@ -103,6 +112,46 @@ TEST_P(RowOfErrors, IsNoNumberWhereTheEvaluationFails) {
     EXPECT_TRUE(std::isnan(errors[1]));
     EXPECT_TRUE(std::isnan(errors[2]) && std::isnan(fullError(base, 1e200)));
     EXPECT_TRUE(sameBits(errors[3], fullError(base, 5)));
+}
+
+// A line through a corner of the plate has another shape than those beside it.
+TEST_P(RowOfErrors, HasTheBitsOfFullEvaluationsThroughACornerOfThePlate) {
+    ColumnBase base;
+    base.plate(400, 300).fourAnchors(150, 100, 20);
+    base.loads(100, 60, 40);
+    base.calculate();
+    for (const Double beta : {0.2, 0.7, 1.3}) {
+        turn(base, beta);
+        const LineAngle line = lineAngle(base.solver);
+        const MarchAhead ahead(base.solver, inputOf(base.stan), GetParam());
+        for (const Double corner :
+             {distanceWhere(line, (line.b + line.m * line.a) * line.sine,
+                            [&](const auto& at) { return at.xT == -line.a; }),
+              distanceWhere(line, (-line.b - line.m * line.a) * line.sine,
+                            [&](const auto& at) { return at.yR == -line.b; })}) {
+            ASSERT_FALSE(std::isnan(corner)) << beta;
+            for (const Double other : {corner, corner + 1, corner - 1}) {
+                MarchAhead::Row distances;
+                distances.fill(corner);
+                distances[MarchAhead::shortRow - 1] = other;
+                const MarchAhead::Row errors = ahead.at(distances, MarchAhead::shortRow);
+                for (std::size_t i = 0; i < MarchAhead::shortRow; ++i)
+                    EXPECT_TRUE(sameBits(errors[i], fullError(base, distances[i])))
+                        << beta << ", " << distances[i] << ": " << errors[i];
+            }
+        }
+    }
+}
+
+TEST(Instructions, AreTheWidestThatTheProcessorSaysItHas) {
+    std::ifstream processor("/proc/cpuinfo");
+    std::string line;
+    while (std::getline(processor, line) && line.rfind("flags", 0) != 0) {
+    }
+    if (line.empty())
+        GTEST_SKIP() << "nothing says what the processor can do";
+    const bool wide = (line + ' ').find(" avx2 ") != std::string::npos;
+    EXPECT_EQ(MarchAhead::best(), wide ? Instructions::Avx2 : Instructions::Plain);
 }
 
 INSTANTIATE_TEST_SUITE_P(, RowOfErrors, ::testing::Values(Instructions::Plain, Instructions::Avx2),

@@ -135,12 +135,37 @@ TEST(SearchOfTheDistance, TheCounterOfStepsWrapsBeforeItOverflows) {
     EXPECT_EQ(wrapping.s.C_linii, fromZero.s.C_linii);
 }
 
+TEST(SearchOfTheDistance, TheCounterIsTenAtTheStepThatWouldBeTheThirtyTwoThousandth) {
+    Middle fromZero(0.1F);
+    Szukaj_c(fromZero.s, inputOf(fromZero.stan));
+    fromZero.s.Drugie_wejscie = 1;
+    Middle wrapping = fromZero;
+    fromZero.s.Kroki_c = 0;
+    Szukaj_c(fromZero.s, inputOf(fromZero.stan));
+    ASSERT_GT(fromZero.s.Kroki_c, 4);
+    wrapping.s.Kroki_c = CInt(32000 - fromZero.s.Kroki_c);
+    Szukaj_c(wrapping.s, inputOf(wrapping.stan));
+    EXPECT_EQ(wrapping.s.Kroki_c, 10);
+}
+
 TEST(SearchOfTheDistance, AnErrorOfExactlyZeroCountsAsMovingAway) {
     Middle m(0); // without a load every error is 0
     m.s.Drugie_wejscie = 1;
     m.s.Liczba_ocen = evaluationLimit - 1000;
     EXPECT_THROW(Szukaj_c(m.s, inputOf(m.stan)), EvaluationLimitReached);
     EXPECT_LT(std::fabs(m.s.Krok_c), 1e-9) << "the step shrinks; towards zero it would stay 1";
+}
+
+TEST(SearchOfTheDistance, ErrorsWhoseProductVanishesDoNotChangeTheSign) {
+    Middle m(0.1F);
+    CaseInput in = inputOf(m.stan);
+    in.N = 1e-200; // kG: the product of two errors is 0
+    m.s.Drugie_wejscie = 1;
+    m.s.Liczba_ocen = evaluationLimit - 1000;
+    EXPECT_THROW(Szukaj_c(m.s, in), EvaluationLimitReached);
+    in.N = 0.1;
+    m.s.Liczba_ocen = evaluationLimit - 1000;
+    EXPECT_NO_THROW(Szukaj_c(m.s, in));
 }
 
 TEST(SearchOfTheDistance, AdmitsAnglesUpToARightOne) {

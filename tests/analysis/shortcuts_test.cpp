@@ -112,6 +112,26 @@ TEST(RoundTripOfASearch, IsNoneWithoutAnEvaluationOrInAnotherState) {
     EXPECT_EQ(s.Liczba_ocen, 200);
 }
 
+TEST(RoundTripOfASearch, ThatBeginsLaterIsSeenFromTheStatesRememberedOnTheWay) {
+    Stan_przypadku s;
+    RoundTrip trip(s);
+    const auto lookBackAt = [&](Double Beta, int evaluations) {
+        s.Beta = Beta;
+        s.Liczba_ocen = evaluations;
+        trip.lookBack();
+        return s.Liczba_ocen;
+    };
+    const auto skipped = [](int from, int round) {
+        return from + (evaluationLimit - from) / round * round;
+    };
+    EXPECT_EQ(lookBackAt(0.1, 10), 10); // the first turn is remembered
+    EXPECT_EQ(lookBackAt(0.2, 20), 20);
+    EXPECT_EQ(lookBackAt(0.1, 35), skipped(35, 25)) << "seen from the first turn";
+    EXPECT_EQ(lookBackAt(0.3, 40), 40); // the second after it is remembered
+    EXPECT_EQ(lookBackAt(0.1, 50), 50) << "which has taken the place of the first";
+    EXPECT_EQ(lookBackAt(0.3, 67), skipped(67, 27));
+}
+
 TEST(RoundTripOfASearch, ThatIsSeenAtTheLimitLeavesTheLastEvaluationAsItIs) {
     Stan_przypadku s;
     s.Liczba_ocen = evaluationLimit - 10;

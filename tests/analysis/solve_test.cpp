@@ -90,6 +90,47 @@ TEST(Solve, ARunTimeErrorIsAnOutcomeThatKeepsWhatTheCaseHadChanged) {
     EXPECT_FALSE(weightless.Sigma_b);
 }
 
+TEST(Solve, HasNoStartWhereTheSignsDoNotMirrorTheMoments) {
+    Prepared one;
+    one.base.fourAnchors(250, 150).loads(50, 60, 20);
+    CaseInput in = one.input();
+    in.signs.y = -1; // the first angle is below 0
+    Carry carry = freshCarry(in);
+    const CaseResult result = solve(in, carry);
+    EXPECT_EQ(result.outcome, CaseOutcome::NoStart);
+    EXPECT_FALSE(result.line);
+    EXPECT_FALSE(result.Sigma_b);
+    EXPECT_TRUE(result.messages.empty());
+    EXPECT_TRUE(carry.mayRaiseMoment) << "no retry";
+}
+
+TEST(Solve, BeginsWithAFineStepUpToAFirstAngleOfExactlyOneDegree) {
+    Prepared one;
+    one.base.fourAnchors(250, 150).loads(50, 60, 1);
+    CaseInput in = one.input();
+    const auto evaluations = [&in](Double oneDegree) {
+        in.degreesPerRadian = 1 / oneDegree;
+        EXPECT_EQ(1 / in.degreesPerRadian, oneDegree);
+        Carry carry = freshCarry(in);
+        Stan_przypadku s;
+        EXPECT_EQ(solve(in, carry, s).outcome, CaseOutcome::Found);
+        return s.Liczba_ocen;
+    };
+    Carry carry = freshCarry(in);
+    ASSERT_EQ(solve(in, carry).outcome, CaseOutcome::Found);
+    const Double first = carry.direction;
+    const auto near = [](Double angle, Double towards) {
+        Double degree = angle; // one that is the reciprocal of its reciprocal
+        do
+            degree = std::nextafter(degree, towards);
+        while (1 / (1 / degree) != degree);
+        return degree;
+    };
+    ASSERT_EQ(1 / (1 / first), first);
+    EXPECT_EQ(evaluations(first), evaluations(near(first, 1)));
+    EXPECT_NE(evaluations(first), evaluations(near(first, 0)));
+}
+
 TEST(Solve, SaysItsMessagesInTheResult) {
     Prepared one;
     one.base.plate(1261, 683).anchor(600, 0, 36).anchor(-600, 0, 36).loads(16.6, 0, -16.1);

@@ -13,6 +13,12 @@ using namespace ferna::testing;
 namespace {
 
 class AnchorSectionOfATask : public ::testing::Test {
+protected:
+    static std::string refusal(const char* text) {
+        return refusalOf([](const TaskDocument& value) { readAnchorTask(value); }, text);
+    }
+
+private:
     WithDecimalSign comma_{u','};
 };
 
@@ -31,15 +37,6 @@ TEST_F(AnchorSectionOfATask, EveryReferenceTaskAgrees) {
         ++count;
     }
     EXPECT_EQ(count, 26);
-}
-
-std::string refusal(const char* text) {
-    try {
-        readAnchorTask(parsed(text));
-    } catch (const TaskError& error) {
-        return error.what();
-    }
-    return "accepted";
 }
 
 TEST_F(AnchorSectionOfATask, WhatCannotBeTypedIsRefusedWithItsPlace) {

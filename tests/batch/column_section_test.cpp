@@ -12,6 +12,12 @@ using namespace ferna::testing;
 namespace {
 
 class ColumnSectionOfATask : public ::testing::Test {
+protected:
+    static std::string refusal(const char* text) {
+        return refusalOf([](const TaskDocument& value) { readColumnTask(value); }, text);
+    }
+
+private:
     WithDecimalSign comma_{u','};
 };
 
@@ -36,15 +42,6 @@ TEST_F(ColumnSectionOfATask, EveryReferenceTaskAgrees) {
         ++count;
     }
     EXPECT_EQ(count, 53);
-}
-
-std::string refusal(const char* text) {
-    try {
-        readColumnTask(parsed(text));
-    } catch (const TaskError& error) {
-        return error.what();
-    }
-    return "accepted";
 }
 
 TEST_F(ColumnSectionOfATask, WhatCannotBeTypedIsRefusedWithItsPlace) {

@@ -1,7 +1,6 @@
 #include "batch/program.h"
 
 using ferna::testing::Program;
-using Json = nlohmann::json;
 
 namespace {
 
@@ -18,11 +17,11 @@ struct Combinations : Program {
                     + more);
     }
 
-    std::vector<Json> lines() const {
-        std::vector<Json> all;
+    std::vector<nlohmann::json> lines() const {
+        std::vector<nlohmann::json> all;
         for (const QByteArray& line : out.split('\n'))
             if (!line.isEmpty())
-                all.push_back(Json::parse(line.toStdString()));
+                all.push_back(nlohmann::json::parse(line.toStdString()));
         return all;
     }
 };
@@ -52,14 +51,14 @@ TEST_F(Combinations, GiveOneLineARowAndASummary) {
 
 TEST_F(Combinations, AreThoseOfTheTasksOwnResult) {
     ASSERT_EQ(answer("300;120;20;5;0\n"), 0);
-    const Json use = lines().front()["Wytezenie"];
-    Json whole = Json::parse(base.toStdString());
+    const nlohmann::json use = lines().front()["Wytezenie"];
+    nlohmann::json whole = nlohmann::json::parse(base.toStdString());
     whole["Przypadki"] = {{{"N", 300}, {"M1", 120}, {"M2", 20}, {"Vx", 5}, {"Vy", 0}}};
     ASSERT_EQ(call({task(QByteArray::fromStdString(whole.dump()))}), 0);
-    const Json result = Json::parse(out.toStdString());
-    const Json exact = result["Rownowaga"][0];
+    const nlohmann::json result = nlohmann::json::parse(out.toStdString());
+    const nlohmann::json exact = result["Rownowaga"][0];
     double tension = 0;
-    for (const Json& stress : exact["Sigma_kotwy"])
+    for (const nlohmann::json& stress : exact["Sigma_kotwy"])
         tension = std::max(tension, -stress.get<double>());
     EXPECT_NEAR(use["beton"],
                 exact["Sigma_b"].get<double>()

@@ -7,7 +7,7 @@ using namespace ferna::batch;
 
 namespace {
 
-std::string written(const QString& text) {
+std::string writtenText(const QString& text) {
     JsonWriter json(JsonWriter::Layout::OneLine);
     json.text(text);
     return json.written();
@@ -27,7 +27,8 @@ TEST(TextInJson, IsThatOfTheLibraryForEveryLetterAtEveryPlace) {
         for (const int place : {0, 1, 15, 16, 17, 40}) {
             const QString text = QString(place, u'a') + one + QString(47 - place, u'~');
             const std::string expected = Json(text.toStdString()).dump();
-            ASSERT_EQ(written(text), expected) << static_cast<unsigned>(letter) << " at " << place;
+            ASSERT_EQ(writtenText(text), expected)
+                << static_cast<unsigned>(letter) << " at " << place;
             ASSERT_EQ(writtenUtf8(text.toStdString()), expected);
         }
     }
@@ -47,9 +48,9 @@ TEST(TextInJson, OfAnyLengthIsWhole) {
 }
 
 TEST(TextInJson, HasAQuestionMarkForHalfACharacter) {
-    EXPECT_EQ(written(QStringLiteral("a") + QChar(0xD83D) + u'b'), "\"a?b\"");
-    EXPECT_EQ(written(QString(QChar(0xD83D))), "\"?\"");
-    EXPECT_EQ(written(QString(QChar(0xDE00)) + QChar(0xD83D)), "\"??\"");
+    EXPECT_EQ(writtenText(QStringLiteral("a") + QChar(0xD83D) + u'b'), "\"a?b\"");
+    EXPECT_EQ(writtenText(QString(QChar(0xD83D))), "\"?\"");
+    EXPECT_EQ(writtenText(QString(QChar(0xDE00)) + QChar(0xD83D)), "\"??\"");
 }
 
 TEST(ValueInJson, IsThatOfTheLibrary) {

@@ -13,7 +13,6 @@
 #include <csignal>
 
 using namespace ferna::testing;
-using Json = nlohmann::json;
 
 namespace {
 
@@ -157,9 +156,9 @@ TEST_F(Outputs, ARefusedPlateCheckIsToldBesideTheReportWithoutIt) {
             "1": {"bs": 0, "ca": 60, "S": 100}, "3": {"l": 121, "b": 95, "sigma": 6.5}}}, "Nazwa)");
     ASSERT_EQ(report("r.txt", text), 0) << err.toStdString();
     EXPECT_TRUE(err.contains("uwaga: Sprawdzenie blachy (1): ")) << err.toStdString();
-    const Json result = Json::parse(out.toStdString());
+    const nlohmann::json result = nlohmann::json::parse(out.toStdString());
     int told = 0;
-    for (const Json& note : result["Uwagi"])
+    for (const nlohmann::json& note : result["Uwagi"])
         if (note["kod"] == "sprawdzenie_odrzucone") {
             ++told;
             EXPECT_EQ(note["sprawdzenie"], 1);
@@ -202,11 +201,11 @@ TEST_F(Outputs, EmfCarriesEveryCharacter) {
 TEST_F(Outputs, TheResultCarriesEveryCharacter) {
     const auto lines = stream(QByteArray(R"({"Nazwa_projektu": "a", "zła & <")") + '\n', {}, 1);
     ASSERT_EQ(lines.size(), 1);
-    EXPECT_TRUE(Json::accept(lines[0].toStdString()));
+    EXPECT_TRUE(nlohmann::json::accept(lines[0].toStdString()));
     const QByteArray user =
         R"("Nr_stali": 7, "Stal": {"Stal_nazwa": "\"\\\u0001\n\t</ż"}, "Kotwy")";
     call({task(QByteArray(good).replace("\"Kotwy\"", user))});
-    EXPECT_TRUE(Json::accept(out.toStdString()));
+    EXPECT_TRUE(nlohmann::json::accept(out.toStdString()));
 }
 
 TEST_F(Outputs, OfSeveralPagesLeaveTheFilesOfAnotherReportAlone) {
@@ -269,7 +268,7 @@ TEST_F(Outputs, AreWrittenThroughWhatIsNoPlainFile) {
     EXPECT_EQ(report("r.txt"), 0) << err.toStdString();
     EXPECT_TRUE(QFileInfo(path("r.pdf")).isSymLink());
     EXPECT_EQ(call({QStringLiteral("--wynik"), QStringLiteral("/dev/stdout"), task(good)}), 0);
-    EXPECT_TRUE(Json::accept(out.toStdString()));
+    EXPECT_TRUE(nlohmann::json::accept(out.toStdString()));
     EXPECT_EQ(call({QStringLiteral("--wynik"), QStringLiteral("/dev/null"), task(good)}), 0);
     struct stat info {};
     ASSERT_EQ(::stat("/dev/null", &info), 0);
@@ -286,7 +285,8 @@ TEST_F(Outputs, APipeAsATaskIsReadWhereSomebodyWritesIt) {
                               "\"$0\" <(sleep 0.3; cat \"$1\")"}) {
         const QByteArray result = outputOf(
             QStringLiteral("bash"), {QStringLiteral("-c"), QLatin1String(shell), program, input});
-        EXPECT_TRUE(Json::parse(result.toStdString(), nullptr, false).contains("Obliczone"))
+        EXPECT_TRUE(
+            nlohmann::json::parse(result.toStdString(), nullptr, false).contains("Obliczone"))
             << shell;
     }
     ASSERT_EQ(::mkfifo(QFile::encodeName(path("f.json")).constData(), 0600), 0);

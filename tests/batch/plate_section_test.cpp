@@ -12,6 +12,12 @@ using namespace ferna::testing;
 namespace {
 
 class PlateSectionOfATask : public ::testing::Test {
+protected:
+    static std::string refusal(const char* text) {
+        return refusalOf([](const TaskDocument& value) { readPlateTask(value); }, text);
+    }
+
+private:
     WithDecimalSign comma_{u','};
 };
 
@@ -31,15 +37,6 @@ TEST_F(PlateSectionOfATask, EveryReferenceTaskAgrees) {
         ++count;
     }
     EXPECT_GT(count, 80);
-}
-
-std::string refusal(const char* text) {
-    try {
-        readPlateTask(parsed(text));
-    } catch (const TaskError& error) {
-        return error.what();
-    }
-    return "accepted";
 }
 
 TEST_F(PlateSectionOfATask, WhatCannotBeTypedIsRefusedWithItsPlace) {

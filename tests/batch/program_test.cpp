@@ -5,20 +5,19 @@
 #include <sys/resource.h>
 
 using namespace ferna::testing;
-using Json = nlohmann::json;
 
 namespace {
 
 TEST_F(Program, ASolvedTaskLeavesWithNothing) {
     EXPECT_EQ(call({task(good)}), 0);
-    EXPECT_TRUE(Json::parse(out.toStdString())["Obliczone"]);
+    EXPECT_TRUE(nlohmann::json::parse(out.toStdString())["Obliczone"]);
 }
 
 TEST_F(Program, ARefusedOrUnsolvedTaskLeavesWithOne) {
     EXPECT_EQ(call({task(QByteArray(good).replace("\"N\": 50", "\"N\": -50"))}), 1);
-    EXPECT_FALSE(Json::parse(out.toStdString())["Obliczone"]);
+    EXPECT_FALSE(nlohmann::json::parse(out.toStdString())["Obliczone"]);
     EXPECT_EQ(call({task(QByteArray(good).replace("\"N\": 50", "\"N\": 1e300"))}), 1);
-    EXPECT_EQ(Json::parse(out.toStdString())["Blad"]["numer"], 6);
+    EXPECT_EQ(nlohmann::json::parse(out.toStdString())["Blad"]["numer"], 6);
 }
 
 TEST_F(Program, AnUnreadableTaskLeavesWithTwoAndOneLineThatNamesFileLineAndKey) {
@@ -46,7 +45,8 @@ TEST_F(Program, TheResultAndTheReportGoIntoTheirFiles) {
                     QStringLiteral(","), task(good)}),
               0);
     EXPECT_EQ(out, QByteArray());
-    EXPECT_TRUE(Json::parse(folder.read(QStringLiteral("w.json")).toStdString())["Obliczone"]);
+    EXPECT_TRUE(
+        nlohmann::json::parse(folder.read(QStringLiteral("w.json")).toStdString())["Obliczone"]);
     const QByteArray text = folder.read(QStringLiteral("r.txt"));
     EXPECT_TRUE(text.contains("\r\nHala \xbf\r\n01/01/26     00:00\r\n")) << text.toStdString();
     EXPECT_TRUE(text.contains(" 50,00 kN"));
@@ -70,12 +70,12 @@ TEST_F(Program, ABadLineOfAStreamBecomesItsResult) {
     const auto lines = stream(input, {}, 1);
     ASSERT_EQ(lines.size(), 8);
     for (const int n : {1, 3, 8}) {
-        const Json result = Json::parse(lines[n - 1].toStdString());
+        const nlohmann::json result = nlohmann::json::parse(lines[n - 1].toStdString());
         EXPECT_TRUE(result["Obliczone"]) << n;
         EXPECT_TRUE(result["Blad"].is_null()) << n;
     }
     for (const int n : {2, 4, 5, 6, 7}) {
-        const Json result = Json::parse(lines[n - 1].toStdString());
+        const nlohmann::json result = nlohmann::json::parse(lines[n - 1].toStdString());
         EXPECT_EQ(result["Blad"]["numer"], 0) << n;
         const std::string why = result["Blad"]["tekst"];
         EXPECT_EQ(why.rfind("line " + std::to_string(n) + ": ", 0), 0U) << why;
@@ -133,35 +133,36 @@ TEST_F(Program, AnswersEveryLineBeforeTheNextIsSent) {
 TEST_F(Program, ALineBeyondItsLimitIsRefusedAndTheNextIsComputed) {
     const auto lines = stream(QByteArray(5'000'000, '[') + '\n' + good, {}, 1);
     ASSERT_EQ(lines.size(), 2);
-    EXPECT_EQ(Json::parse(lines[0].toStdString())["Blad"]["tekst"],
+    EXPECT_EQ(nlohmann::json::parse(lines[0].toStdString())["Blad"]["tekst"],
               "line 1: expected at most 1000000 bytes");
-    EXPECT_TRUE(Json::parse(lines[1].toStdString())["Obliczone"]);
+    EXPECT_TRUE(nlohmann::json::parse(lines[1].toStdString())["Obliczone"]);
 }
 
 TEST_F(Program, ARunTimeErrorNamesKeyCaseAndWhatWasMet) {
     const auto error = [&](const QByteArray& text) {
         EXPECT_EQ(call({task(text)}), 1);
-        return Json::parse(out.toStdString())["Blad"];
+        return nlohmann::json::parse(out.toStdString())["Blad"];
     };
-    const Json load = error(QByteArray(good).replace("\"Vx\": 1", "\"Vx\": 1e300"));
-    EXPECT_EQ(load, Json::parse(R"({"numer": 6, "tekst": "Overflow", "klucz": "Przypadki[0].Vx",
+    const nlohmann::json load = error(QByteArray(good).replace("\"Vx\": 1", "\"Vx\": 1e300"));
+    EXPECT_EQ(load,
+              nlohmann::json::parse(R"({"numer": 6, "tekst": "Overflow", "klucz": "Przypadki[0].Vx",
                                     "przypadek": 1, "szczegol": "\"1E+300\""})"));
-    const Json ratio = error(
+    const nlohmann::json ratio = error(
         QByteArray(good).replace("\"Kotwy\"", R"("Tryb_wsp_n": 1, "Wsp_n_val": 1e99, "Kotwy")"));
     EXPECT_EQ(ratio["klucz"], "Wsp_n_val");
     EXPECT_FALSE(ratio.contains("przypadek"));
-    const Json search = error(
+    const nlohmann::json search = error(
         R"({"Dlug_plyty_mm": 600, "Szer_plyty_mm": 400, "Hsily_wszystkie": 1,
             "Kotwy": [{"x": 250, "y": 150, "fi": 24}, {"x": 250, "y": -150, "fi": 24}],
             "Przypadki": [{"N": 300, "M1": 40, "M2": 0, "Vx": 0, "Vy": 0},
                           {"N": 300, "M1": 40, "M2": 0, "Vx": 120, "Vy": 0}]})");
     EXPECT_EQ(search["numer"], 11);
     EXPECT_EQ(search["przypadek"], 2);
-    const Json column = error(QByteArray(good).replace(
+    const nlohmann::json column = error(QByteArray(good).replace(
         "\"Kotwy\"",
         R"("Slup": [{"kierunek": "pionowe", "rodzaj": "sila", "P": 1e300}], "Kotwy")"));
     EXPECT_EQ(column["klucz"], "Slup[0]");
-    const Json plate =
+    const nlohmann::json plate =
         error(QByteArray(good).replace("\"Kotwy\"", R"("Blacha": {"Nr_stali_blachy": 2,
                         "Sprawdzenia": {"5": {"sigma": 1e99}}}, "Kotwy")"));
     EXPECT_EQ(plate["klucz"], "Blacha.Sprawdzenia.5");

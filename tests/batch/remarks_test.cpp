@@ -9,7 +9,6 @@
 #include <nlohmann/json.hpp>
 
 using ferna::testing::Folder;
-using Json = nlohmann::json;
 
 namespace {
 
@@ -19,7 +18,7 @@ struct Remarks : ::testing::Test {
     QByteArray err;
 
     /// Calls the program for the task and returns its exit code.
-    int call(const Json& task, const QString& from = QStringLiteral("-")) {
+    int call(const nlohmann::json& task, const QString& from = QStringLiteral("-")) {
         const QByteArray text = QByteArray::fromStdString(task.dump());
         QProcess process;
         process.start(places::bin("/ferna-wsad"), {from});
@@ -35,22 +34,23 @@ struct Remarks : ::testing::Test {
     /// True where that line, whole, stands on standard error.
     bool told(const QByteArray& line) const { return err.split('\n').contains(line); }
 
-    Json result() const { return Json::parse(out.toStdString()); }
+    nlohmann::json result() const { return nlohmann::json::parse(out.toStdString()); }
 
-    Json task() const {
-        return Json::parse(
+    nlohmann::json task() const {
+        return nlohmann::json::parse(
             Folder::bytesOf(places::data("/przyklady/slup-hali.json")).toStdString());
     }
 
     /// The first golden task of that name whose expected result has a message with these words.
-    static Json goldenWith(const QString& name, const std::string& words) {
+    static nlohmann::json goldenWith(const QString& name, const std::string& words) {
         const auto linesOf = [&name](const QString& ending) {
             return Folder::bytesOf(places::golden("/") + name + ending).trimmed().split('\n');
         };
         const QList<QByteArray> expected = linesOf(QStringLiteral(".expected.jsonl"));
         for (qsizetype i = 0; i < expected.size(); ++i)
             if (expected[i].toStdString().find(words) != std::string::npos)
-                return Json::parse(linesOf(QStringLiteral(".tasks.jsonl"))[i].toStdString());
+                return nlohmann::json::parse(
+                    linesOf(QStringLiteral(".tasks.jsonl"))[i].toStdString());
         ADD_FAILURE() << "no golden task with " << words;
         return {};
     }
@@ -70,7 +70,7 @@ TEST_F(Remarks, AnApproximateSolutionIsALineAndStillComputed) {
 }
 
 TEST_F(Remarks, ARefusalIsALineWithItsTitle) {
-    Json refused = task();
+    nlohmann::json refused = task();
     refused["Przypadki"][0]["N"] = -5;
     EXPECT_EQ(call(refused), 1);
     EXPECT_TRUE(told("ferna-wsad: /dev/stdin: Schemat nr 1: Program nie wykonuje "
@@ -79,14 +79,14 @@ TEST_F(Remarks, ARefusalIsALineWithItsTitle) {
 }
 
 TEST_F(Remarks, ARunTimeErrorIsALine) {
-    Json stopped = task();
+    nlohmann::json stopped = task();
     stopped["Przypadki"][0]["N"] = 1e300;
     EXPECT_EQ(call(stopped), 1);
     EXPECT_TRUE(err.startsWith("ferna-wsad: /dev/stdin: error 6: ")) << err.toStdString();
 }
 
 TEST_F(Remarks, ARefusedPlateCheckAndAnEmptyPlateSectionAreALineEach) {
-    Json plate = task();
+    nlohmann::json plate = task();
     plate["Blacha"] = {{"Nr_stali_blachy", 2},
                        {"Sprawdzenia", {{"3", {{"l", 100}, {"b", 200}, {"sigma", 5}}}}}};
     EXPECT_EQ(call(plate), 0);
@@ -99,7 +99,7 @@ TEST_F(Remarks, ARefusedPlateCheckAndAnEmptyPlateSectionAreALineEach) {
 }
 
 TEST_F(Remarks, AnAnchorThatIsNotSelectedIsALine) {
-    Json anchor = task();
+    nlohmann::json anchor = task();
     anchor["Kotwa"] = {{"rodzaj", "F"}, {"g", 75}};
     EXPECT_EQ(call(anchor), 0);
     EXPECT_FALSE(err.contains("Kotwa:")) << "it stands in the report";
@@ -117,7 +117,7 @@ TEST_F(Remarks, TheTaskOfADashIsThatOfStandardInput) {
     const QByteArray fromInput = out;
     EXPECT_EQ(call({}, places::data("/przyklady/slup-hali.json")), 0);
     EXPECT_EQ(out, fromInput);
-    EXPECT_EQ(call(Json::parse(R"({"Nr_normy": 7})")), 2);
+    EXPECT_EQ(call(nlohmann::json::parse(R"({"Nr_normy": 7})")), 2);
     EXPECT_TRUE(err.startsWith("ferna-wsad: /dev/stdin, line 1: ")) << err.toStdString();
 }
 

@@ -7,8 +7,6 @@ namespace ferna::testing {
 
 namespace {
 
-using Json = nlohmann::json;
-
 const QByteArray hall =
     R"({"Dlug_plyty_mm": 600, "Szer_plyty_mm": 400, "Nr_normy": 1, "Nr_betonu": 3,)"
     R"("Kotwy": [{"x": -250, "y": -150, "fi": 24}, {"x": 250, "y": 150, "fi": 24},)"
@@ -23,15 +21,15 @@ const QByteArray smallRange =
 /// Answers in place of a result.
 struct ReserveAnswers : Program {
     QString range(const QByteArray& text) { return folder.write(QStringLiteral("r.json"), text); }
-    Json answer() const { return Json::parse(out.toStdString()); }
+    nlohmann::json answer() const { return nlohmann::json::parse(out.toStdString()); }
 };
 
 TEST_F(ReserveAnswers, OfTheCapacityHoldTheLineOfEveryCaseAndBothPlanes) {
     ASSERT_EQ(call({QStringLiteral("--nosnosc"), task(hall)}), 0);
     EXPECT_EQ(err, QByteArray());
-    const Json found = answer();
+    const nlohmann::json found = answer();
     ASSERT_EQ(found["Przypadki"].size(), 2U);
-    for (const Json& one : found["Przypadki"]) {
+    for (const nlohmann::json& one : found["Przypadki"]) {
         EXPECT_EQ(one["Linia"].size(), 360U);
         const double used = std::max({one["Wytezenie"]["beton"].get<double>(),
                                       one["Wytezenie"]["rozciaganie"].get<double>(),
@@ -46,13 +44,13 @@ TEST_F(ReserveAnswers, OfTheCapacityHoldTheLineOfEveryCaseAndBothPlanes) {
 TEST_F(ReserveAnswers, OfTheCapacityIsTheCasesOwnResultWhenItsLoadsAreScaledToTheLine) {
     ASSERT_EQ(call({QStringLiteral("--nosnosc"), task(hall)}), 0);
     const double times = answer()["Przypadki"][0]["zapas_momentow"].get<double>();
-    Json scaled = Json::parse(hall.toStdString());
+    nlohmann::json scaled = nlohmann::json::parse(hall.toStdString());
     scaled["Przypadki"][0]["M1"] = 80 * times;
     scaled["Przypadki"][0]["M2"] = 10 * times;
     ASSERT_EQ(call({task(QByteArray::fromStdString(scaled.dump()))}), 0);
-    const Json told = answer()["Rownowaga"][0];
+    const nlohmann::json told = answer()["Rownowaga"][0];
     double pulled = 0;
-    for (const Json& stress : told["Sigma_kotwy"])
+    for (const nlohmann::json& stress : told["Sigma_kotwy"])
         pulled = std::max(pulled, -stress.get<double>());
     const double pressed = told["Sigma_b"].get<double>();
     EXPECT_NEAR(std::max(pulled / answer()["Materialy"]["Fd_kotwy"].get<double>(),
@@ -62,16 +60,16 @@ TEST_F(ReserveAnswers, OfTheCapacityIsTheCasesOwnResultWhenItsLoadsAreScaledToTh
 
 TEST_F(ReserveAnswers, OfTheSmallestBaseAreConfirmedAndCanBeCalculated) {
     ASSERT_EQ(call({QStringLiteral("--dobierz"), range(smallRange), task(hall)}), 0);
-    const Json found = answer();
+    const nlohmann::json found = answer();
     EXPECT_GT(found["Spelniajace"].get<int>(), 10);
     EXPECT_EQ(found["Nie_sprawdzono"].size(), 5U);
     int confirmed = 0;
     double mass = 0;
-    for (const Json& base : found["Podstawy"]) {
+    for (const nlohmann::json& base : found["Podstawy"]) {
         EXPECT_GE(base["Masa"].get<double>(), mass);
         mass = base["Masa"].get<double>();
         confirmed += base["Potwierdzona"].get<bool>() ? 1 : 0;
-        Json entered = Json::parse(hall.toStdString());
+        nlohmann::json entered = nlohmann::json::parse(hall.toStdString());
         for (const char* key : {"Dlug_plyty_mm", "Szer_plyty_mm", "Kotwy", "Nr_stali"})
             entered[key] = base[key];
         ASSERT_EQ(call({task(QByteArray::fromStdString(entered.dump()))}), 0);
@@ -81,8 +79,9 @@ TEST_F(ReserveAnswers, OfTheSmallestBaseAreConfirmedAndCanBeCalculated) {
 }
 
 TEST_F(ReserveAnswers, CountTheCaseOfTheColumn) {
-    Json withColumn = Json::parse(hall.toStdString());
-    withColumn["Slup"] = Json::parse(R"([{"kierunek": "pionowe", "rodzaj": "sila", "P": 200}])");
+    nlohmann::json withColumn = nlohmann::json::parse(hall.toStdString());
+    withColumn["Slup"] =
+        nlohmann::json::parse(R"([{"kierunek": "pionowe", "rodzaj": "sila", "P": 200}])");
     const QString file = task(QByteArray::fromStdString(withColumn.dump()));
     ASSERT_EQ(call({QStringLiteral("--nosnosc"), file}), 0);
     ASSERT_EQ(answer()["Przypadki"].size(), 3U);
@@ -96,19 +95,19 @@ TEST_F(ReserveAnswers, GoIntoTheFileThatIsNamed) {
     EXPECT_EQ(out, QByteArray());
     QFile file(result);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(Json::parse(file.readAll().toStdString()).contains("N_M1"));
+    EXPECT_TRUE(nlohmann::json::parse(file.readAll().toStdString()).contains("N_M1"));
     const QString own = task(hall);
     EXPECT_EQ(call({QStringLiteral("--nosnosc"), QStringLiteral("--wynik"), own, own}), 2);
 }
 
 TEST_F(ReserveAnswers, AreUnsolvedWhereThereIsNone) {
-    Json thick = Json::parse(hall.toStdString());
+    nlohmann::json thick = nlohmann::json::parse(hall.toStdString());
     thick["Nr_stali"] = 3;
     thick["Kotwy"][0]["fi"] = 42;
     EXPECT_EQ(call({QStringLiteral("--nosnosc"), task(QByteArray::fromStdString(thick.dump()))}),
               1);
     EXPECT_EQ(answer()["Blad"]["numer"], 0);
-    Json pulled = Json::parse(hall.toStdString());
+    nlohmann::json pulled = nlohmann::json::parse(hall.toStdString());
     pulled["Przypadki"][1]["N"] = -20;
     EXPECT_EQ(call({QStringLiteral("--dobierz"), range(smallRange),
                     task(QByteArray::fromStdString(pulled.dump()))}),

@@ -208,7 +208,8 @@ TEST(Chart, WithoutALineSaysWhy) {
 
 TEST(Chart, IsSavedAsPngSvgAndPdf) {
     const QTemporaryDir folder;
-    const pages::Picture picture = pictureOf(chartOf(base(), ChartPlane::M1M2, 300, {}, points));
+    const pages::DrawnPicture picture =
+        pictureOf(chartOf(base(), ChartPlane::M1M2, 300, {}, points));
     const auto saved = [&](const char* ending) {
         const QString path = folder.filePath(QStringLiteral("nosnosc.") + QLatin1String(ending));
         pages::savePicture(picture, path);

@@ -228,6 +228,28 @@ TEST(Equilibrium, TipsAboutTheLineFromACornerToAnAnchorBesideThePlate) {
         EXPECT_NEAR(point.x + point.y, -500, 1e-9);
 }
 
+TEST(Equilibrium, TipsAboutAnAxisAsLongAsTheLastOfTwentyAnchorsReaches) {
+    BaseAndLoad problem{600, 400, 6, {}, {10, -3.1, 0}};
+    for (int i = 0; i < mostAnchors; ++i)
+        problem.anchors.push_back({-400, -130 + 20.0 * i, 353});
+    const Result result = problem.solved();
+    ASSERT_FALSE(result.exists);
+    expectPoint(result.tippingAxis[0], -300, 250);
+    expectPoint(result.tippingAxis[1], -300, -200);
+}
+
+TEST(Equilibrium, StandsOnAnAnchorThatIsTwoMillionthsOfAMillionthInsideTheEdge) {
+    const auto with = [](double inside) { // in half plates
+        return BaseAndLoad{600, 400, 6, {{300 * (1 - inside), 200, 353}}, {100, 30.3, 0}};
+    };
+    const BaseAndLoad holding = with(2.5e-12);
+    const Result result = holding.solved();
+    ASSERT_TRUE(result.exists);
+    EXPECT_LT(result.residual, 1e-10);
+    EXPECT_LT(result.sigmaAnchor[0], 0);
+    EXPECT_FALSE(with(1.5e-12).solved().exists) << "it counts as one that stands on the edge";
+}
+
 TEST(Equilibrium, PressesASliverJustInsideTheEdge) {
     for (const double gap : {1e-3, 1e-6, 1e-9}) { // mm from the edge
         const BaseAndLoad problem{600, 400, 6, {}, {100, 0.1 * (300 - gap), 0}};

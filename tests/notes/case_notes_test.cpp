@@ -91,6 +91,32 @@ TEST(CaseNotes, APressureBelowAHundredthOfAMegapascalDoesNotDeviate) {
     EXPECT_EQ(with(2.41), Marks{"odchylka 1"});
 }
 
+TEST(CaseNotes, AHundredthOfAMegapascalIsAPressure) {
+    const auto with = [](Double pressure) {
+        NotesDesk desk;
+        desk.fourAnchors(250, 150).loads(2.4, 0, 0);
+        EnteredEquilibria equilibria = enteredEquilibria(desk.stan, desk.fields);
+        equilibria.byCase[0]->sigmaConcrete = pressure;
+        desk.record.begin(notes::entered(desk.stan, desk.fields, equilibria));
+        desk.stan.materialy.Fd_kotwy = desk.Fd;
+        desk.stan.materialy.Rb_betonu = desk.Rb;
+        desk.stan.wyniki.outcomes(1) = CaseOutcome::WholePlate;
+        desk.record.caseEnded(desk.stan, 1);
+        return marks(notes::notesOf(desk.record));
+    };
+    EXPECT_EQ(with(0.01), Marks{"odchylka 1"});
+    EXPECT_EQ(with(std::nextafter(0.01, 0)), Marks{});
+}
+
+TEST(CaseNotes, OfAnchorsStressedAlikeTheFirstIsNamed) {
+    NotesDesk desk;
+    desk.anchor(-250, 0).anchor(-250, 0).anchor(250, 0).loads(100, 60, 0);
+    const equilibrium::Result exact = desk.exact(1);
+    ASSERT_LT(exact.sigmaAnchor[0], 0);
+    ASSERT_EQ(exact.sigmaAnchor[0], exact.sigmaAnchor[1]);
+    EXPECT_EQ(notes::exactOf(exact, 3, desk.record).anchor, 1);
+}
+
 TEST(CaseNotes, TheDeviationSaysWhatWasToldWhatIsAndWhatToDo) {
     NotesDesk desk;
     desk.plate(502, 230).fourAnchors(200, 63, 12).loads(12, 11.8, -12.8);

@@ -1,7 +1,6 @@
 // The sheet as an OpenDocument text: its structure, read from the file.
 #include "editable/document_reading.h"
 #include "sheet/odt_writer.h"
-#include "sheet/rich_runs.h"
 #include "sheet/sheet_tasks.h"
 
 #include <QXmlStreamReader>
@@ -12,13 +11,6 @@ namespace ferna::sheet {
 namespace {
 
 using namespace ferna::testing;
-
-QString plainText(const Rich& text) {
-    QString plain;
-    for (const RichRun& run : runsOf(text))
-        plain += run.text;
-    return plain.simplified();
-}
 
 /// Blocks one behind the other, those beside one another too.
 void gather(const Blocks& blocks, std::vector<const Block*>& flat) {

@@ -1,6 +1,5 @@
 // The sheet on paper: how many pages, how soon, and where they end.
 #include "sheet/pages.h"
-#include "sheet/rich_runs.h"
 #include "sheet/sheet_tasks.h"
 #include "support/folder.h"
 
@@ -48,13 +47,6 @@ TEST(SheetPages, SixCasesWithTwentyAnchorsTakeTwelveAtMostAndUnderASecond) {
         for (const int check : {1, 2, 3, 5, 6, 7, 8})
             EXPECT_NE(sheet.byName.count({0, QStringLiteral("p%1_g").arg(check)}), 0U) << check;
     }
-}
-
-QString plainText(const Rich& text) {
-    QString plain;
-    for (const RichRun& run : runsOf(text))
-        plain += run.text;
-    return plain.simplified();
 }
 
 /// The lines of each page as a reader of the PDF finds them.

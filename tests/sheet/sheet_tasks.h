@@ -3,6 +3,7 @@
 #include "batch/sheet_files.h"
 #include "batch/task_run.h"
 #include "sheet/html_writer.h"
+#include "sheet/rich_runs.h"
 #include "support/places.h"
 #include "task/task.h"
 
@@ -55,6 +56,14 @@ inline nlohmann::json large(Integer language) {
                         {"8", {{"b", 120}, {"a", 60}, {"c", 50}, {"S", 60}}}}}};
     task["Kotwa"] = {{"rodzaj", "P"}, {"g", 60}};
     return task;
+}
+
+/// The words of a text without its marks, blanks in a row as one.
+inline QString plainText(const sheet::Rich& text) {
+    QString plain;
+    for (const sheet::RichRun& run : sheet::runsOf(text))
+        plain += run.text;
+    return plain.simplified();
 }
 
 inline batch::ComputedTask computed(const nlohmann::json& task) {

@@ -83,6 +83,11 @@ TEST_F(ColumnLoads, AVerticalForceTurnsAboutBothAxes) {
     EXPECT_EQ(loads.Obc_wart[3](1), -20.0F);
 }
 
+TEST_F(ColumnLoads, AMillimetreOfEccentricityIsAThousandthOfAMetre) {
+    add(0, 0, {QStringLiteral("8000")}, {QStringLiteral("250"), QStringLiteral("-125")});
+    EXPECT_EQ(totals(), totals("8 000,0", "2 000,0", "-1 000,0", " 0,0", " 0,0"));
+}
+
 TEST_F(ColumnLoads, AHorizontalForceActsAtItsHeight) {
     add(1, 0, {QStringLiteral("10")}, {QStringLiteral("3")});
     EXPECT_EQ(totals(), totals(" 0,0", " 30,0", " 0,0", " 10,0", " 0,0"));

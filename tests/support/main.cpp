@@ -11,6 +11,6 @@ int main(int argc, char** argv) {
     ferna::hushMissingRuntimeFolder();
     const ferna::testing::OwnSettings settings;
     const QGuiApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -32,7 +32,7 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     ferna::dressApplication(application);
     QApplication::setQuitOnLastWindowClosed(false);
-    testing::InitGoogleTest(&argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
     if (!pinInterfaceFont()) {
         std::fputs("the face of the interface in tests, DejaVu Sans, is not installed\n", stderr);
         return 1;

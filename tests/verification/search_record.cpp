@@ -2,10 +2,9 @@
 
 #include "command/entered_equilibria.h"
 #include "support/random_tasks.h"
+#include "verification/printed.h"
 
 #include <algorithm>
-#include <cstdarg>
-#include <cstdio>
 
 namespace ferna::testing {
 
@@ -82,15 +81,6 @@ void add(SearchRecord& record, std::uint64_t number) {
     } else {
         ++record.gaveUpRightly;
     }
-}
-
-[[gnu::format(printf, 1, 2)]] std::string printed(const char* pattern, ...) {
-    char text[400];
-    std::va_list values;
-    va_start(values, pattern);
-    std::vsnprintf(text, sizeof text, pattern, values);
-    va_end(values);
-    return text;
 }
 
 std::string line(const char* what, int count, int of) {

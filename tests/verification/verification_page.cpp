@@ -3,25 +3,15 @@
 #include "support/decimal_comma.h"
 #include "support/random_tasks.h"
 #include "support/stored_equilibrium.h"
+#include "verification/printed.h"
 #include "verification/published_examples.h"
 #include "verification/search_record.h"
 
 #include <algorithm>
-#include <cstdarg>
-#include <cstdio>
 
 namespace ferna::testing {
 
 namespace {
-
-[[gnu::format(printf, 1, 2)]] std::string printed(const char* pattern, ...) {
-    char text[400];
-    std::va_list values;
-    va_start(values, pattern);
-    std::vsnprintf(text, sizeof text, pattern, values);
-    va_end(values);
-    return text;
-}
 
 constexpr std::uint64_t recordTasks = 12'000;
 

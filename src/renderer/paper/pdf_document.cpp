@@ -1,5 +1,6 @@
 #include "renderer/paper/pdf_document.h"
 
+#include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
 
 #include <qpdf/Buffer.hh>
@@ -70,7 +71,6 @@ private:
     /// The top of the window some way above the heading's line.
     QPDFObjectHandle placeOf(const pages::Heading& heading, std::size_t page) {
         constexpr double above = 8; // mm
-        constexpr double pointsPerMm = 72 / 25.4;
         const double fromTop = pages::frameCorner.y() + heading.y - above;
         const double y = (pages::sheet.height() - qMax(0.0, fromTop)) * pointsPerMm;
         QPDFObjectHandle place = QPDFObjectHandle::newArray();

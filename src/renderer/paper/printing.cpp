@@ -6,6 +6,7 @@
 #include "renderer/news.h"
 #include "renderer/paper/own_window.h"
 #include "renderer/paper/print_queue.h"
+#include "runtime/lengths.h"
 #include "runtime/run_time_error.h"
 
 #include <QFileInfo>
@@ -21,8 +22,6 @@
 namespace ferna::renderer {
 
 namespace {
-
-constexpr double mmPerInch = 25.4;
 
 [[noreturn]] void cannotPrint(const QString& detail) {
     throw RunTimeError(error::DeviceIO, detail);
