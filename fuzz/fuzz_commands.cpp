@@ -1,6 +1,7 @@
 #include "fuzzing.h"
 #include "pages/emf_writer.h"
 #include "pages/metafile.h"
+#include "protocol/renderer_files.h"
 #include "renderer/layout.h"
 
 #include <QImage>

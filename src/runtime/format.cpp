@@ -133,9 +133,13 @@ std::int64_t nearestWhole(Double magnitude) {
     return magnitude - static_cast<Double>(whole) >= 0.5 ? whole + 1 : whole;
 }
 
-/// The digits of a Single that is no whole number, rounded to those that it has; empty for a tiny
-/// one.
+/// From here on a magnitude is not taken as a whole number of 64 bits. A Double has as many digits.
+constexpr Double tooLarge = 1e15;
+
+/// The digits of a Single, rounded to those that it has; empty for a tiny or a large one.
 std::optional<Decimal> roundedSingle(Double magnitude) {
+    if (magnitude >= tooLarge)
+        return std::nullopt;
     // 24 bits times a power of five up to this one fit into a Double: every product here is exact.
     constexpr int mostPlaces = 12;
     constexpr Double least = 1e6; // has as many digits as a Single
@@ -153,7 +157,6 @@ std::optional<Decimal> roundedSingle(Double magnitude) {
 /// digits than a Double keeps, so it is also the magnitude rounded to these.
 std::optional<Decimal> typedDecimal(Double magnitude) {
     constexpr Double mostScale = 1e6;
-    constexpr Double tooLarge = 1e15; // has more digits
     int places = 0;
     for (Double scale = 10; scale <= mostScale && magnitude * scale < tooLarge; scale *= 10) {
         ++places;
@@ -182,10 +185,9 @@ Decimal decimalOf(Double value, int count, const Quickly& quickly) {
         throw RunTimeError(error::Overflow);
     if (value == 0)
         return {};
-    constexpr Double largestWhole = 1e15; // of exact doubles
     const Double magnitude = std::fabs(value);
     const std::int64_t whole =
-        magnitude < largestWhole ? static_cast<std::int64_t>(magnitude) : std::int64_t{0};
+        magnitude < tooLarge ? static_cast<std::int64_t>(magnitude) : std::int64_t{0};
     Decimal result;
     if (static_cast<Double>(whole) == magnitude)
         result = digitsOfWhole(whole);

@@ -140,11 +140,13 @@ TEST_F(FormatWithComma, ASingleHasItsSevenDigitsHalfAwayFromZero) {
     Dice dice(1);
     const Single halves[] = {1000000.5F, 4194303.5F, 999999.95F, 8388607.5F,
                              0.5F,       1e-6F,      9.9999995F};
+    constexpr int largest = 37; // powers of ten
     for (int i = 0; i < 200'000; ++i) {
         const auto value = static_cast<Single>(
             i < 7           ? halves[i]
             : dice.oneIn(3) ? typed(dice.between(-3000, 3000), dice.whole(1, 4))
-                            : dice.between(-1, 1) * std::pow(10.0, dice.whole(-7, 8)));
+                            : dice.between(-1, 1)
+                                  * std::pow(10.0, dice.whole(-7, dice.oneIn(3) ? largest : 8)));
         if (std::fabs(value) < 1e-9F)
             continue;
         ASSERT_EQ(Format(value, allDigits), roundedByHand(Double{value}, 7)) << value;
@@ -153,11 +155,13 @@ TEST_F(FormatWithComma, ASingleHasItsSevenDigitsHalfAwayFromZero) {
 
 TEST_F(FormatWithComma, ADoubleHasItsFifteenDigitsHalfAwayFromZero) {
     Dice dice(2);
+    constexpr int largest = 300; // powers of ten
     for (int i = 0; i < 200'000; ++i) {
         const Double value =
             dice.oneIn(2)
                 ? typed(dice.between(-1, 1) * std::pow(10.0, dice.whole(-3, 10)), dice.whole(1, 7))
-                : dice.between(-1, 1) * std::pow(10.0, dice.whole(-7, 12));
+                : dice.between(-1, 1)
+                      * std::pow(10.0, dice.whole(-7, dice.oneIn(3) ? largest : 12));
         if (std::fabs(value) < 1e-9)
             continue;
         ASSERT_EQ(Format(value, allDigits), roundedByHand(value, 15)) << value;
