@@ -86,7 +86,7 @@ QImage imageOf(const QByteArray& bytes) {
     if (isCutShort(bytes, bytes.size()))
         return {};
     if (const std::optional<PlainBitmap> bitmap = plainBitmap(bytes, bytes.size()))
-        if (const QImage image = imageOf(*bitmap, bytes); !image.isNull())
+        if (QImage image = imageOf(*bitmap, bytes); !image.isNull())
             return image;
     const QImage image = QImage::fromData(bytes);
     return image.isNull() ? image : opaque(image);

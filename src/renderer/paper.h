@@ -41,6 +41,6 @@ Paper& paper();
 
 /// What the module exports under `paperFactory`; what it gives lives as long as the program.
 using PaperFactory = Paper* (*)();
-inline constexpr const char* paperFactory = "ferna_paper";
+inline constexpr const char* paperFactory = "fernaPaper";
 
 } // namespace ferna::renderer

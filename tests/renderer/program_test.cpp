@@ -1,8 +1,11 @@
+#include "pages/emf_writer.h"
 #include "pages/metafile.h"
+#include "renderer/layout.h"
 #include "renderer/outputs.h"
 #include "renderer/page_checks.h"
 #include "renderer/program_run.h"
 #include "renderer/sample_report.h"
+#include "runtime/picture_box.h"
 #include "runtime/text_file.h"
 
 #include <QDir>
@@ -49,6 +52,26 @@ TEST_F(Renderer, LeavesTheScreenPictureAndTheReply) {
     const Metafile picture = Metafile::fromFile(path("$a1.emf"));
     EXPECT_EQ(picture.sizeMm(), QSizeF(210, 2 * 297));
     EXPECT_EQ(reply(), QStringLiteral(" 1 , 14 "));
+}
+
+TEST_F(Renderer, TheScreenPictureHasTheSameBytesEachTime) {
+    for (const char* name : {"a.bmp", "b.bmp"}) { // their vectors are read beside the fonts
+        PictureBox picture(QSize(200, 100), 6);
+        picture.setScale({0, 0}, {200, 100});
+        picture.circle({100, 50}, 40);
+        picture.text({20, 15}, QStringLiteral("Ø 24"));
+        picture.saveBitmap(path(name), 50);
+        sample.raw(QStringLiteral("5, 110., 85., 50., 25."));
+        sample.raw(path(name));
+    }
+    const QString file = job();
+    wyd::Complaints complaints;
+    const QByteArray drawnHere = pages::emfOfAllPages(renderer::compose(readJob(file), complaints));
+    EXPECT_FALSE(drawnHere.isEmpty());
+    for (int time = 0; time < 8; ++time) {
+        ASSERT_EQ(runRenderer({file}).exitCode, 0);
+        EXPECT_TRUE(readFileWhole(path("$a1.emf")) == drawnHere) << time;
+    }
 }
 
 TEST_F(Renderer, TheReplyOfANegativePageNumberKeepsItsSign) {

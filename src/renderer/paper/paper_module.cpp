@@ -41,7 +41,7 @@ public:
 
 } // namespace ferna::renderer
 
-extern "C" Q_DECL_EXPORT ferna::renderer::Paper* ferna_paper() {
+extern "C" Q_DECL_EXPORT ferna::renderer::Paper* fernaPaper() {
     static ferna::renderer::LoadedPaper paper;
     return &paper;
 }
