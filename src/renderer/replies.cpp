@@ -11,6 +11,11 @@ constexpr std::launch beside = std::launch::async | std::launch::deferred;
 
 } // namespace
 
+Replies::~Replies() {
+    if (failure_.valid())
+        failure_.wait(); // without a thread it is written only now
+}
+
 void Replies::failureFirst(int page) {
     failure_ = std::async(beside, writeReply, folder_, false, page);
 }

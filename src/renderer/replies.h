@@ -14,6 +14,9 @@ class Replies {
 public:
     /// `folder`: of the job.
     explicit Replies(QString folder) : folder_(std::move(folder)) {}
+    Replies(const Replies&) = delete;
+    Replies& operator=(const Replies&) = delete;
+    ~Replies();
 
     /// The reply of a failure comes first: it stands also where the run is cut short.
     void failureFirst(int page);
