@@ -93,7 +93,10 @@ CombinationsWindow::CombinationsWindow(const Stan& stan, Links links, QWidget* p
     settle_.setSingleShot(true);
     constexpr int pause = 200; // ms
     settle_.setInterval(pause);
-    connect(&settle_, &QTimer::timeout, this, [this] { answerAnew(); });
+    connect(&settle_, &QTimer::timeout, this, [this] {
+        if (isVisible()) // a closed window answers when it is opened again
+            answerAnew();
+    });
     showTable();
     fitToScreen(this, QSize(1280, 780));
 }
