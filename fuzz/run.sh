@@ -45,7 +45,7 @@ if [[ ${1:-} == --minimise ]]; then
         # Seeds with a name stay; found inputs are named by what is in them.
         find "fuzz/corpus/$name" -type f -regextype posix-extended -regex '.*/[0-9a-f]{40}' -delete
         # The smallest inputs first, 200 at most: a corpus is a start and not a record.
-        find "$fresh" -type f -printf '%s %f\n' | sort -n | head -200 | while read -r _ file; do
+        find "$fresh" -type f -printf '%s %f\n' | sort -n | sed -n 1,200p | while read -r _ file; do
             cp "$fresh/$file" "fuzz/corpus/$name/"
         done
         rm -rf "$fresh"
