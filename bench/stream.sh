@@ -14,7 +14,8 @@ for count in 10000 100000; do
         tests/golden/solver.tasks.jsonl > "$tasks"
     for threads in 1 2; do
         /usr/bin/time -f '%e %U %M' -o "$figures" \
-            "$program" --linie --watki "$threads" < "$tasks" > /dev/null
+            "$program" --linie --watki "$threads" < "$tasks" > /dev/null \
+            || [ $? -eq 1 ] # some of the tasks have no solution
         tail -n 1 "$figures" | awk -v count="$count" -v threads="$threads" \
             '{ printf "%d tasks, %d thread(s): %.1f s (%.1f s of processor), %.0f tasks/s, peak memory %.1f MB\n",
                       count, threads, $1, $2, count / $1, $3 / 1024 }'
