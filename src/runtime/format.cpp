@@ -30,12 +30,12 @@ public:
     char& back() { return digits_[static_cast<std::size_t>(size_ - 1)]; }
     const char* data() const { return digits_.data(); }
 
-    void push_back(char digit) { digits_[static_cast<std::size_t>(size_++)] = digit; }
-    void pop_back() { --size_; }
+    void append(char digit) { digits_[static_cast<std::size_t>(size_++)] = digit; }
+    void shorten() { --size_; }
     void shorten(int size) { size_ = size; }
     void append(std::string_view more) {
         for (const char digit : more)
-            push_back(digit);
+            append(digit);
     }
     /// True where from that place on there are only zeros.
     bool onlyZerosFrom(int place) const {
@@ -63,7 +63,7 @@ struct Decimal {
 
 void stripTrailingZeros(Digits& digits) {
     while (!digits.empty() && digits.back() == '0')
-        digits.pop_back();
+        digits.shorten();
 }
 
 /// Keeps `kept` digits, half away from zero.
@@ -74,9 +74,9 @@ void keepDigits(Decimal& number, int kept) {
     number.digits.shorten(kept > 0 ? kept : 0);
     if (up) {
         while (!number.digits.empty() && number.digits.back() == '9')
-            number.digits.pop_back();
+            number.digits.shorten();
         if (number.digits.empty()) {
-            number.digits.push_back('1');
+            number.digits.append('1');
             ++number.point;
         } else {
             ++number.digits.back();
@@ -98,7 +98,7 @@ Decimal digitsOf(Double magnitude, int count) {
     int power = 0;
     std::from_chars(text + exponent + 2, end, power);
     Decimal result;
-    result.digits.push_back(text[0]);
+    result.digits.append(text[0]);
     result.digits.append({text + 2, static_cast<std::size_t>(count - 1)});
     result.point = (text[exponent + 1] == '-' ? -power : power) + 1;
     return result;

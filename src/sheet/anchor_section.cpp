@@ -30,9 +30,9 @@ public:
     bool hooked() const { return stan_.raport.Typ_szkicu_kotwy == 1; }
 
     Equations all() {
-        d_number_ = given("d", "d", d_, millimetres, "anchor.d");
+        dNumber_ = given("d", "d", d_, millimetres, "anchor.d");
         addCapacity();
-        g_number_ = given("g", "g", g_, millimetres, "anchor.g");
+        gNumber_ = given("g", "g", g_, millimetres, "anchor.g");
         thread_ = given("Ld", "L_d", row_.Ld, millimetres, "anchor.thread");
         if (hooked())
             addHooked();
@@ -92,10 +92,10 @@ private:
 
     void addHooked() {
         constexpr Integer thin = 20; // mm, below which the bend is narrow
-        computed("D", "D", d_ < thin ? bendOfThinAnchorClause : bendDiameterClause, {d_number_},
+        computed("D", "D", d_ < thin ? bendOfThinAnchorClause : bendDiameterClause, {dNumber_},
                  "anchor.bend");
         const Quantity* const Lh =
-            computed("Lh", "L_h", hookLengthClause, {d_number_}, "anchor.hook");
+            computed("Lh", "L_h", hookLengthClause, {dNumber_}, "anchor.hook");
         const Quantity* Lk = nullptr;
         if (row_.Lk == 0 && row_.Ld != 0) { // taken from the core area
             const Quantity* const k = given("k", "k", stan_.materialy.Mnoznik_dlugosci,
@@ -106,7 +106,7 @@ private:
             Lk = given("Lk", "L_k", row_.Lk, millimetres, "anchor.catalogue");
         }
         const Quantity* const Lo =
-            computed("Lo", "L_o", straightPartClause, {Lk, g_number_, thread_}, "anchor.straight");
+            computed("Lo", "L_o", straightPartClause, {Lk, gNumber_, thread_}, "anchor.straight");
         computed("Lc", "L_c", hookedAnchorLengthClause, {Lo, Lh}, "anchor.whole");
     }
 
@@ -128,7 +128,7 @@ private:
         if (d_ >= leastWithRib)
             given("L1", "L_1", row_.L1, millimetres, "anchor.rib");
         const Quantity* const Lo =
-            computed("Lo", "L_o", straightPartClause, {Lp, g_number_, thread_}, "anchor.straight");
+            computed("Lo", "L_o", straightPartClause, {Lp, gNumber_, thread_}, "anchor.straight");
         computed("Lc", "L_c",
                  d_ >= leastWithRib ? ribbedAnchorLengthClause : plateAnchorLengthClause, {Lo, t},
                  "anchor.whole");
@@ -140,8 +140,8 @@ private:
     Integer d_;
     CatalogueAnchor row_;
     int g_;
-    const Quantity* d_number_ = nullptr;
-    const Quantity* g_number_ = nullptr;
+    const Quantity* dNumber_ = nullptr;
+    const Quantity* gNumber_ = nullptr;
     const Quantity* thread_ = nullptr;
     Equations rows_;
 };

@@ -53,7 +53,7 @@ QFont fontOf(const TextStyle& style) {
     font.setFamilies(
         {style.serif ? QStringLiteral("Liberation Serif") : QStringLiteral("Liberation Sans"),
          QStringLiteral("DejaVu Sans")});
-    font.setPixelSize(static_cast<int>(style.size + 0.5));
+    font.setPixelSize(qRound(style.size));
     font.setBold(style.bold);
     font.setItalic(style.italic);
     font.setHintingPreference(QFont::PreferNoHinting);

@@ -31,7 +31,7 @@ int AnswersModel::rowCount(const QModelIndex& parent) const {
 }
 
 int AnswersModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : columns;
+    return parent.isValid() ? 0 : ColumnTotal;
 }
 
 int AnswersModel::caseOf(RowNumber row) const {
@@ -122,7 +122,7 @@ QVariant AnswersModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant AnswersModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section >= columns)
+    if (orientation != Qt::Horizontal || section >= ColumnTotal)
         return {};
     static const QStringList names{
         QStringLiteral("Wiersz"),     QStringLiteral("Nazwa"),       QStringLiteral("Największe"),

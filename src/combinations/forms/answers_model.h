@@ -25,7 +25,7 @@ public:
         Vx,
         Vy,
         Remark,
-        columns
+        ColumnTotal
     };
     /// The role of the number by which a column is sorted.
     static constexpr int sortRole = Qt::UserRole + 2;
