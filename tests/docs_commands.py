@@ -22,6 +22,7 @@ NOT_RUN = re.compile(r"<!-- not run: (.+) -->$")
 FILE = re.compile(r"(?<![\w$*{/.])[\w./-]*\w\.(?:json|jsonl|csv|txt|rtf|pdf|svg|emf|odt|doc|wyd|py|sh)\b")
 LINK = re.compile(r"\]\(([^)#:\s]+)(#[^)\s]*)?\)")
 SECONDS = 300
+PROGRAMS = "build/release/bin"
 EXERCISES = "build/exercises"  # where the pages let their files go
 # The English pages are read under the bare C locale, the Polish ones under the Polish locale.
 LOCALES = {"docs/en/": "C", "docs/pl/": "pl_PL.UTF-8"}
@@ -69,10 +70,16 @@ def copy_tree(root, programs, work):
     """The files of the tree, and the programs where the pages expect them."""
     copy = os.path.join(work, "ferna")
     shutil.copytree(root, copy, ignore=shutil.ignore_patterns(".git", "build", "__pycache__"))
-    shutil.copytree(programs, os.path.join(copy, "build", "release", "bin"))
+    shutil.copytree(programs, os.path.join(copy, PROGRAMS))
     for command in (["git", "init", "-q"], ["git", "add", "-A"]):
         subprocess.run(command, cwd=copy, check=True)
     return copy
+
+
+def restore(copy):
+    """The copy is again what it was before a page ran in it."""
+    for command in (["git", "clean", "-ffdxq", "-e", "/" + PROGRAMS], ["git", "checkout", "-q", "--", "."]):
+        subprocess.run(command, cwd=copy, check=True)
 
 
 def missing_lines(expected, printed):
@@ -82,13 +89,13 @@ def missing_lines(expected, printed):
             if line.strip() and not any(line.rstrip() == other for other in rest)]
 
 
-def run_page(commands, root, programs, locale):
-    """Runs the blocks of a page in a copy of the tree. What is wrong with them."""
-    with tempfile.TemporaryDirectory(prefix="ferna-docs-") as work:
-        home = os.path.join(work, "home")
-        os.makedirs(home, mode=0o700)
-        copy = copy_tree(root, programs, work)
-        return run_in(copy, home, commands, locale) + litter_in(copy)
+def run_page(commands, copy, locale, locales):
+    """Runs the blocks of a page in the copy, which it leaves as it was. What is wrong with them."""
+    with tempfile.TemporaryDirectory(prefix="ferna-docs-home-") as home:
+        os.chmod(home, 0o700)
+        wrong = run_in(copy, home, commands, locale, locales) + litter_in(copy)
+    restore(copy)
+    return wrong
 
 
 def litter_in(copy):
@@ -105,13 +112,11 @@ def make_locale(name, folder):
         sys.exit(f"localedef makes no {name}")
 
 
-def run_in(copy, home, commands, locale):
+def run_in(copy, home, commands, locale, locales):
     marker = "=== block {}"
     script = "set -euo pipefail\n" + "".join(
         f"echo '{marker.format(start)}'\n{text}\n" for start, text, _ in commands)
-    if locale.startswith("pl"):
-        make_locale(locale, home)
-    environment = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": locale, "LOCPATH": home,
+    environment = {"PATH": os.environ["PATH"], "HOME": home, "LC_ALL": locale, "LOCPATH": locales,
                    "XDG_RUNTIME_DIR": home, "PYTHONDONTWRITEBYTECODE": "1"}
     done = subprocess.run(["bash", "-c", script], cwd=copy, env=environment, encoding="utf-8",
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=SECONDS,
@@ -164,20 +169,31 @@ def read_pages(root):
     return sorted(pages, key=lambda page: page.path)
 
 
+def wrong_of_pages(pages, root, programs):
+    """What is wrong with the pages, and how many blocks were run."""
+    wrong, blocks = [], 0
+    with tempfile.TemporaryDirectory(prefix="ferna-docs-") as work:
+        copy = copy_tree(root, programs, work)
+        for locale in LOCALES.values():
+            if locale != "C":
+                make_locale(locale, work)
+        for page in pages:
+            wrong += [f"{page.path}: {what}" for what in dead_links(page, root)]
+            wrong += [f"{page.path}:{line}: a fence without a language" for line in page.unmarked()]
+            for line, why in page.not_run():
+                print(f"not run: {page.path}:{line}: {why}")
+            commands = list(page.commands())
+            locale = LOCALES.get(page.path[:8], "C.UTF-8")
+            if commands:
+                wrong += [f"{page.path}: {what}" for what in run_page(commands, copy, locale, work)]
+            blocks += len(commands)
+    return wrong, blocks
+
+
 def main():
     root, programs = map(os.path.abspath, sys.argv[1:])
     pages = read_pages(root)
-    wrong, blocks = [], 0
-    for page in pages:
-        wrong += [f"{page.path}: {what}" for what in dead_links(page, root)]
-        wrong += [f"{page.path}:{line}: a fence without a language" for line in page.unmarked()]
-        for line, why in page.not_run():
-            print(f"not run: {page.path}:{line}: {why}")
-        commands = list(page.commands())
-        locale = LOCALES.get(page.path[:8], "C.UTF-8")
-        if commands:
-            wrong += [f"{page.path}: {what}" for what in run_page(commands, root, programs, locale)]
-        blocks += len(commands)
+    wrong, blocks = wrong_of_pages(pages, root, programs)
     wrong += [f"docs/pictures/{name}: no page shows it" for name in unused_pictures(pages, root)]
     print(f"{len(pages)} pages, {blocks} blocks run")
     if not blocks:

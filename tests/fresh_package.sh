@@ -68,7 +68,7 @@ grep -q 'libreoffice-writer' "$work/document.log" \
 
 echo "Starting the program on a screen"
 exec 3<>"$work/display"
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp -noreset >/dev/null 2>&1 &
 screen=$!
 for _ in {1..100}; do
     [[ -s $work/display ]] && break

@@ -42,9 +42,11 @@ class Desktop:
                     "XDG_RUNTIME_DIR": home, "QT_QPA_PLATFORM": "xcb", "FONTCONFIG_FILE": FONTS}
         self.env |= self.environment
         read, write = os.pipe()
+        # A screen that starts anew when its last client goes would take the window manager along that
+        # comes while the first question for it ends.
         self.started.append(subprocess.Popen(
             ["Xvfb", "-displayfd", str(write), "-screen", "0", size, "-nolisten", "tcp",
-             "-r"],
+             "-noreset", "-r"],
             pass_fds=[write], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL))
         os.close(write)
         with os.fdopen(read) as pipe:
@@ -52,8 +54,10 @@ class Desktop:
         if not number:
             raise Failure("Xvfb did not start")
         self.env["DISPLAY"] = ":" + number
-        self.start([self.manager])
-        wait_for("the window manager", self.is_managed)
+        manager = self.start([self.manager])
+        wait_for("the window manager", lambda: self.is_managed() or manager.poll() is not None)
+        if manager.poll() is not None:
+            raise Failure(f"{self.manager} ended with {manager.poll()}")
         # With a Polish keyboard xdotool presses the keys of the Polish letters; without, it would
         # change the keyboard for each of them, and a busy program would read the key of another.
         subprocess.run(["setxkbmap", "pl"], env=self.env, check=True, timeout=PATIENCE)
