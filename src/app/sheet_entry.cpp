@@ -98,7 +98,7 @@ InputFields fieldsOf(const combinations::Digest& digest, InputFields fields) {
 } // namespace
 
 std::optional<QString> askAndSaveSheet(const sheet::SheetInput& input, Dialogs& dialogs) {
-    const std::optional<QString> file = askForFile(dialogs);
+    std::optional<QString> file = askForFile(dialogs);
     if (file)
         write(input, *file);
     return file;
@@ -106,7 +106,7 @@ std::optional<QString> askAndSaveSheet(const sheet::SheetInput& input, Dialogs& 
 
 std::optional<QString> saveSheetOf(const combinations::Digest& digest, const Stan& stan,
                                    const InputFields& entered, Dialogs& dialogs) {
-    const std::optional<QString> file = askForFile(dialogs);
+    std::optional<QString> file = askForFile(dialogs);
     if (!file)
         return std::nullopt;
     const Hourglass hourglass;

@@ -224,6 +224,7 @@ std::vector<QRectF> edgesOf(const Marks& marks) {
 /// Places the labels; what they cover.
 qreal placed(const Marks& marks, std::vector<Words>& all) {
     std::vector<Label> labels;
+    labels.reserve(all.size());
     for (const Words& words : all)
         labels.push_back(words.label);
     const qreal covered =

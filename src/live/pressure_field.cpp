@@ -157,7 +157,7 @@ void drawPixels(QPainter& painter, const PictureValues& values, const Frame& fra
                 continue;
             const qreal part = rows * coverage(pixels.x() + x, plate.left(), plate.right());
             const QRgb colour =
-                table[static_cast<std::size_t>(std::min(pressure / largest, 1.0) * last + 0.5)];
+                table[static_cast<std::size_t>(qRound(std::min(pressure / largest, 1.0) * last))];
             line[x] = (colour & 0xffffffU) | static_cast<QRgb>(std::lround(255 * part)) << 24U;
         }
     }

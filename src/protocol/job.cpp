@@ -41,7 +41,7 @@ RenderMode modeOf(int number, const QString& path) {
 
 QString pathOfNextLine(FieldReader& reader, const QString& jobPath) {
     reader.nextLine();
-    const QString path = wyd::pathOfLine(folderOf(jobPath), reader.rest());
+    QString path = wyd::pathOfLine(folderOf(jobPath), reader.rest());
     if (path.isEmpty())
         throw RunTimeError(error::InputPastEnd, QStringLiteral("%1, wiersz %2: brak ścieżki")
                                                     .arg(QDir::toNativeSeparators(jobPath))

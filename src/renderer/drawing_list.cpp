@@ -222,7 +222,7 @@ QImage RecordInterpreter::image(const QString& file, int line) {
     const auto known = images_.constFind(file);
     if (known != images_.constEnd())
         return *known;
-    const QImage image = readPicture(file);
+    QImage image = readPicture(file);
     if (image.isNull())
         complaints_.add(path_, line,
                         (QFileInfo::exists(file) ? QStringLiteral("nie można wczytać rysunku %1")

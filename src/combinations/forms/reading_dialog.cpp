@@ -46,7 +46,7 @@ QTableWidget* table(const QString& name) {
 
 /// A column as a list names it: its heading, else a letter as in a spreadsheet.
 QString columnText(const combinations::Layout& layout, int column) {
-    const QString heading = layout.headings.value(column).simplified();
+    QString heading = layout.headings.value(column).simplified();
     if (!heading.isEmpty())
         return heading;
     constexpr int letters = 26;

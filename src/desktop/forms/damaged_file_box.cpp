@@ -10,7 +10,7 @@ namespace ferna {
 namespace {
 
 QString offer(const DamagedFile& file) {
-    const QString start =
+    QString start =
         file.isTask ? QStringLiteral("Program może zacząć pracę z ustawieniami początkowymi.")
                     : QStringLiteral("Program może zacząć pracę z dostarczonym katalogiem języka; "
                                      "zadanie w Ferna.cfg pozostaje bez zmian.");

@@ -47,10 +47,10 @@ struct NetworkDevice {
 
 /// The place in the network of a printer with that address; empty for one of another kind.
 std::optional<NetworkDevice> networkDevice(const QByteArray& address) {
-    std::array<char, 32> scheme;
-    std::array<char, 256> user;
-    std::array<char, 256> host;
-    std::array<char, 1024> resource;
+    std::array<char, 32> scheme{};
+    std::array<char, 256> user{};
+    std::array<char, 256> host{};
+    std::array<char, 1024> resource{};
     int port = 0;
     const auto lengthOf = [](const auto& text) { return static_cast<int>(text.size()); };
     if (httpSeparateURI(HTTP_URI_CODING_ALL, address.constData(), scheme.data(), lengthOf(scheme),
