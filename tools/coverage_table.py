@@ -20,6 +20,12 @@ def counts(file):
     )
 
 
+def room_of(path):
+    """The room of a source, or of a header, which rooms find in build/.../rooms/ROOM/."""
+    parts = path.split("/")
+    return parts[parts.index("rooms" if "rooms" in parts else "src") + 1]
+
+
 def row(name, c):
     share = lambda part, whole: f"{100 * part / whole:6.1f} %" if whole else "      -"
     print(f"{name:<22}{c[0]:>6} of {c[1]:>5}{share(c[0], c[1])}   {c[2]:>6} of {c[3]:>5}{share(c[2], c[3])}")
@@ -31,7 +37,7 @@ def main():
         files = json.load(report)["files"]
     total = [0, 0, 0, 0]
     for file in files:
-        folder = file["file"].split("/")[1]
+        folder = room_of(file["file"])
         for i, count in enumerate(counts(file)):
             folders[folder][i] += count
             total[i] += count
@@ -41,7 +47,7 @@ def main():
     row("all", total)
     for wanted in sys.argv[2:]:
         for file in files:
-            if not file["file"].startswith(f"src/{wanted}/"):
+            if room_of(file["file"]) != wanted:
                 continue
             for line in file["lines"]:
                 missed = [b for b in line["branches"] if b["count"] == 0]
