@@ -108,8 +108,10 @@ double toNearest(const std::vector<equilibrium::Point>& places, std::size_t plac
 std::vector<equilibrium::Point> anchorPlaces(const DesignRange& range, int length, int width,
                                              int layout, Integer diameter) {
     const int edge = edgeDistance(range, diameter);
-    const double x = length / 2 - edge; // whole millimetres, as the form takes them
-    const double y = width / 2 - edge;
+    const int halfLength = length / 2; // whole millimetres, as the form takes them
+    const int halfWidth = width / 2;
+    const double x = halfLength - edge;
+    const double y = halfWidth - edge;
     if (!(x > 0 && y > 0) || length < range.columnLength || width < range.columnWidth)
         return {};
     std::vector<equilibrium::Point> places{{x, y}, {-x, y}, {x, -y}, {-x, -y}};

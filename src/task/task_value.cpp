@@ -60,6 +60,8 @@ public:
         document_.letters.reserve(length); // a letter is never longer than what stood for it
     }
 
+    // The library names its events.
+    // NOLINTBEGIN(readability-identifier-naming)
     bool null() {
         keep(TaskValue::Kind::Null);
         return true;
@@ -101,6 +103,7 @@ public:
         const std::size_t behindTheId = what.find("] ");
         throw noJson(behindTheId == std::string::npos ? what : what.substr(behindTheId + 2));
     }
+    // NOLINTEND(readability-identifier-naming)
 
 private:
     struct Level {
