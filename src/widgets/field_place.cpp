@@ -41,14 +41,10 @@ std::pair<QTabWidget*, QWidget*> tabOf(const QWidget* field) {
 } // namespace
 
 QLineEdit* fieldOf(const QWidget* form, const TypedValue& value) {
-    const QWidget* window = form;
-    while (window != nullptr) {
-        window = window->window();
-        if (const auto* const fields = dynamic_cast<const ValueFields*>(window))
+    for (const QWidget* at = form; at != nullptr; at = at->window()->parentWidget())
+        if (const auto* const fields = dynamic_cast<const ValueFields*>(at->window()))
             if (QLineEdit* const field = fields->fieldOf(value))
                 return field;
-        window = window->parentWidget();
-    }
     return nullptr;
 }
 
